@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# Each folder of src/ is seen through an include folder of its own that holds nothing but it, so a layer finds the
+# headers of the layers it links and of no other: an include against the arrows does not compile.
+
+add_library(zelvia_options INTERFACE)
+target_compile_options(zelvia_options INTERFACE
+  -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror)
+if(ZELVIA_SANITIZE)
+  target_compile_options(zelvia_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(zelvia_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZELVIA_COVERAGE)
+  target_compile_options(zelvia_options INTERFACE --coverage -O0)
+  target_link_options(zelvia_options INTERFACE --coverage)
+endif()
+
+set(ZELVIA_QT_STRICT
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_KEYWORDS QT_NO_JAVA_STYLE_ITERATORS QT_STRICT_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# zelvia_layer(name FOLDER folder SOURCES files LINKS targets [QT])
+#   A library of one box of the house. Without QT it is plain standard C++: Qt is not even on its include path.
+function(zelvia_layer name)
+  cmake_parse_arguments(LAYER "QT" "FOLDER" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${LAYER_SOURCES})
+  set(view ${CMAKE_BINARY_DIR}/layers/${LAYER_FOLDER})
+  file(MAKE_DIRECTORY ${view})
+  file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${LAYER_FOLDER} ${view}/${LAYER_FOLDER} SYMBOLIC)
+  target_include_directories(${name} PUBLIC ${view})
+  target_link_libraries(${name} PUBLIC ${LAYER_LINKS} PRIVATE zelvia_options)
+  if(LAYER_QT)
+    target_compile_definitions(${name} PRIVATE ${ZELVIA_QT_STRICT})
+  else()
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+  endif()
+  zelvia_headers_compile_alone(${name} ${LAYER_SOURCES})
+endfunction()
+
+# Compiles a source for each header that includes nothing but that header.
+function(zelvia_headers_compile_alone layer)
+  set(checks)
+  foreach(file ${ARGN})
+    if(file MATCHES "\\.h$")
+      get_filename_component(absolute ${file} ABSOLUTE)
+      file(RELATIVE_PATH header ${CMAKE_SOURCE_DIR}/src ${absolute})
+      string(MAKE_C_IDENTIFIER ${header} id)
+      set(check ${CMAKE_BINARY_DIR}/headers/${id}.cpp)
+      file(CONFIGURE OUTPUT ${check} CONTENT "#include \"${header}\" // IWYU pragma: keep\n")
+      list(APPEND checks ${check})
+    endif()
+  endforeach()
+  if(checks AND ZELVIA_TESTS)
+    add_library(${layer}_headers OBJECT ${checks})
+    set_target_properties(${layer}_headers PROPERTIES AUTOMOC OFF)
+    target_link_libraries(${layer}_headers PRIVATE ${layer} zelvia_options)
+    target_compile_definitions(${layer}_headers PRIVATE $<TARGET_PROPERTY:${layer},COMPILE_DEFINITIONS>)
+  endif()
+endfunction()

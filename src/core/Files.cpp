@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Files.h"
+
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+namespace zelvia
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+Text& ProgramFolderState()
+{
+    static Text folder;
+    return folder;
+}
+
+fs::path FromSystem(TextView path)
+{
+    std::string utf8 = ToUtf8(path);
+    std::replace(utf8.begin(), utf8.end(), '\\', '/');
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+std::string Utf8Of(const fs::path& path)
+{
+    const std::u8string utf8 = path.u8string();
+    return {utf8.begin(), utf8.end()};
+}
+
+bool Exists(const fs::path& path)
+{
+    std::error_code ignored;
+    return fs::exists(fs::symlink_status(path, ignored));
+}
+
+/// The single entry of `folder` that is `name` but for case; `name` itself when there is none or more than one.
+fs::path EntryIgnoringCase(const fs::path& folder, const fs::path& name)
+{
+    const Text wanted = FromUtf8(Utf8Of(name));
+    fs::path found = name;
+    int matches = 0;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+        if (SameText(FromUtf8(Utf8Of(entry->path().filename())), wanted)) {
+            found = entry->path().filename();
+            ++matches;
+        }
+    }
+    return matches == 1 ? found : name;
+}
+
+fs::path ResolveCase(const fs::path& path)
+{
+    if (Exists(path) || !path.has_relative_path()) {
+        return path;
+    }
+    const fs::path folder = ResolveCase(path.parent_path());
+    return folder / EntryIgnoringCase(folder, path.filename());
+}
+
+[[noreturn]] void RaiseForMissing(const fs::path& path, OpenMode mode)
+{
+    std::error_code ignored;
+    const bool folderExists = fs::is_directory(path.parent_path(), ignored);
+    throw ErroreRunTime(folderExists && mode == OpenMode::Input ? Errore::FileNonTrovato : Errore::PercorsoNonTrovato);
+}
+
+} // namespace
+
+const Text& ProgramFolder()
+{
+    return ProgramFolderState();
+}
+
+void SetProgramFolder(TextView folder)
+{
+    ProgramFolderState() = folder;
+}
+
+fs::path NativePath(TextView path)
+{
+    const fs::path native = FromSystem(path);
+    if (path.empty() || native.parent_path() == native.root_path()) {
+        throw ErroreRunTime(Errore::PercorsoNonTrovato);
+    }
+    return ResolveCase(native);
+}
+
+Text SystemPath(std::string_view native)
+{
+    Text path = FromUtf8(native);
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
+int ErrorOfErrno(int errnoValue)
+{
+    switch (errnoValue) {
+    case ENOENT:
+    case ENOTDIR: return Errore::PercorsoNonTrovato;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case EEXIST: return Errore::AccessoPercorso;
+    case ETXTBSY:
+    case EBUSY:
+    case EAGAIN: return Errore::AutorizzazioneNegata;
+    case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+    case EFBIG: return Errore::DiscoPieno;
+    case EMFILE:
+    case ENFILE: return Errore::TroppiFile;
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ: return Errore::NomeFileNonValido;
+    default: return Errore::Periferica;
+    }
+}
+
+FileHandle OpenFile(TextView path, OpenMode mode)
+{
+    const fs::path native = NativePath(path);
+    std::error_code ignored;
+    const fs::file_status status = fs::status(native, ignored);
+    if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_character_file(status)) {
+        throw ErroreRunTime(Errore::AccessoPercorso);
+    }
+    errno = 0;
+    FileHandle file(std::fopen(native.c_str(), mode == OpenMode::Input ? "rb" : "wb"));
+    if (!file) {
+        const int reason = errno;
+        if (reason == ENOENT) {
+            RaiseForMissing(native, mode);
+        }
+        throw ErroreRunTime(ErrorOfErrno(reason));
+    }
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return file;
+}
+
+Text FindFolder(TextView path)
+{
+    std::error_code ignored;
+    if (path.empty() || !fs::is_directory(ResolveCase(FromSystem(path)), ignored)) {
+        return {};
+    }
+    return Mid(path, InStrRev(path, "\\") + 1);
+}
+
+std::vector<Text> FilesIn(TextView folder)
+{
+    std::vector<Text> names;
+    if (folder.empty()) {
+        return names;
+    }
+    std::error_code failed;
+    for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        std::error_code ignored;
+        const std::string name = Utf8Of(entry->path().filename());
+        if (!name.starts_with('.') && entry->is_regular_file(ignored)) {
+            names.push_back(FromUtf8(name));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+void MakeFolder(TextView path)
+{
+    const fs::path native = NativePath(path);
+    std::error_code failed;
+    if (!fs::create_directory(native, failed)) {
+        throw ErroreRunTime(failed ? ErrorOfErrno(failed.value()) : Errore::AccessoPercorso);
+    }
+}
+
+} // namespace zelvia

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+namespace zelvia
+{
+
+/// The program's folder in backslash form, without a backslash at its end.
+const Text& ProgramFolder();
+void SetProgramFolder(TextView folder);
+
+/// A path of the system, in backslash form, as the machine takes it. A name that is absent falls back to the single
+/// entry of its folder that differs from it only in case. Raises error 76 for the empty path and for a name right
+/// under the root, which is what a path becomes whose folder is unknown.
+std::filesystem::path NativePath(TextView path);
+
+/// A path of the machine (UTF-8) in backslash form.
+Text SystemPath(std::string_view native);
+
+enum class OpenMode { Input, Output };
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
+/// Opens a file whole, unbuffered; Output creates or empties it at once. Raises error 53 for a missing file at Input,
+/// 76 for a missing folder, 75 for no permission or for a folder, and the others of ErrorOfErrno.
+FileHandle OpenFile(TextView path, OpenMode mode);
+
+/// The error number of a failed call of the system on a file: 52, 57, 61, 67, 70, 75 or 76.
+int ErrorOfErrno(int errnoValue);
+
+/// The name of the folder at `path` if there is one, else the empty text.
+Text FindFolder(TextView path);
+
+/// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent.
+std::vector<Text> FilesIn(TextView folder);
+
+/// Raises error 75 when the folder exists or can't be made, 76 when its parent is missing.
+void MakeFolder(TextView path);
+
+} // namespace zelvia

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+#include "core/Date.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace zelvia
+{
+
+/// One day of the diary. The order of the fields is the order of the diary file.
+struct RecordGiorno {
+    i16 NumGiorno;
+    CalendarDate Data;
+    Text Percorso;
+    Text Lunghezza; ///< A class such as "Medio", not a distance.
+    i16 Km;
+    i16 Metri; ///< Metres beyond the whole kilometres, 0..999 as the page enters them.
+    Text Modo;
+    Text Fondo;
+    Text Tipo; ///< "Gara", whatever its case, marks a race; any other text that isn't empty a training day.
+    i16 OraInizio;
+    i16 MinutiInizio;
+    i16 SecondiInizio;
+    i16 OraFine;
+    i16 MinutiFine;
+    i16 SecondiFine;
+    Text TempoImpiegato;                ///< As shown: hours:minutes:seconds, or empty.
+    Text MediaKm;                       ///< As shown: minutes:seconds per kilometre, or empty.
+    BoundedArray<Text, 0, 100> ListaKm; ///< Place 100 is shown and committed but is not in the file.
+    Text Stagione;
+    Text TempoAtm;
+    Text Temperatura;
+    i32 Corridori = 1; ///< A blank day was run alone.
+    i16 Peso;          ///< 0 means not entered.
+    i16 Ripetizioni;
+    i16 RipetizioniDistanza; ///< Metres.
+    i16 RipetizioniQuante;   ///< Minutes of each repetition.
+    i16 RipetizioniTempi;    ///< Seconds of each repetition.
+    BoundedArray<Text, 0, 10>
+        Note; ///< 3..10 are the lines of the page; 1 and 2 only pass through; 0 is not in the file.
+
+    friend bool operator==(const RecordGiorno&, const RecordGiorno&) = default;
+};
+
+/// Hands the 136 values of a day to `visit`, in the order of the diary file.
+template <typename Giorno, typename Visitor>
+void VisitDiaryValues(Giorno& giorno, Visitor&& visit)
+{
+    visit(giorno.NumGiorno);
+    visit(giorno.Data);
+    visit(giorno.Percorso);
+    visit(giorno.Lunghezza);
+    visit(giorno.Km);
+    visit(giorno.Metri);
+    visit(giorno.Modo);
+    visit(giorno.Fondo);
+    visit(giorno.Tipo);
+    visit(giorno.OraInizio);
+    visit(giorno.MinutiInizio);
+    visit(giorno.SecondiInizio);
+    visit(giorno.OraFine);
+    visit(giorno.MinutiFine);
+    visit(giorno.SecondiFine);
+    visit(giorno.TempoImpiegato);
+    visit(giorno.MediaKm);
+    for (int i = 0; i <= 99; ++i) {
+        visit(giorno.ListaKm[i]);
+    }
+    visit(giorno.Stagione);
+    visit(giorno.TempoAtm);
+    visit(giorno.Temperatura);
+    visit(giorno.Corridori);
+    visit(giorno.Peso);
+    visit(giorno.Ripetizioni);
+    visit(giorno.RipetizioniDistanza);
+    visit(giorno.RipetizioniQuante);
+    visit(giorno.RipetizioniTempi);
+    for (int i = 1; i <= 10; ++i) {
+        visit(giorno.Note[i]);
+    }
+}
+
+} // namespace zelvia

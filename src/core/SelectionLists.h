@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace zelvia
+{
+
+/// The eight selection lists of the day page; the value is the list's number while it is open.
+enum class ListaScelta { Percorso = 1, Lunghezza, Modo, Fondo, Tipo, Stagione, TempoAtm, Temperatura };
+
+inline constexpr std::array<ListaScelta, 8> kTutteLeListe = {
+    ListaScelta::Percorso, ListaScelta::Lunghezza, ListaScelta::Modo,     ListaScelta::Fondo,
+    ListaScelta::Tipo,     ListaScelta::Stagione,  ListaScelta::TempoAtm, ListaScelta::Temperatura};
+
+/// The lists that have a file, in the order in which they are saved and loaded.
+inline constexpr std::array<ListaScelta, 7> kListeSuFile = {
+    ListaScelta::Percorso, ListaScelta::Lunghezza, ListaScelta::Modo,       ListaScelta::Fondo,
+    ListaScelta::Tipo,     ListaScelta::TempoAtm,  ListaScelta::Temperatura};
+
+/// The field's name, which is also the base name of its list file.
+TextView NomeLista(ListaScelta lista);
+
+/// The entries that a list starts with.
+std::span<const TextView> VociIniziali(ListaScelta lista);
+
+/// Full path of a list's file in the folder of the open diary.
+Text FileLista(ListaScelta lista);
+
+/// Writes the entries to `path`, a line each. Raises what ValueWriter raises.
+void ScriviLista(TextView path, const std::vector<Text>& voci);
+
+/// Reads the entries of `path` to its end, whatever they are. `svuota` runs once the file is open, `aggiungi` for each
+/// entry. Raises what ValueReader raises.
+void LeggiLista(TextView path, const std::function<void()>& svuota, const std::function<void(const Text&)>& aggiungi);
+
+} // namespace zelvia

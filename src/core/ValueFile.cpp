@@ -1,0 +1,283 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/ValueFile.h"
+
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+
+namespace zelvia
+{
+namespace
+{
+
+// A year's diary of the usual size is read in one piece.
+constexpr std::size_t kChunk = 1 << 18;
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+bool EndsPlainValue(char c)
+{
+    return c == ',' || c == '\n' || c == '\r';
+}
+
+TextView TrimBlanks(TextView text)
+{
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+/// A number that is no plain run of digits: a fraction, an exponent, a sign in front.
+double ParseNumber(TextView text)
+{
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    const bool startsLikeNumber =
+        !text.empty() && (text[0] == '-' || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
+    const bool named = text.find_first_not_of("+-.0123456789eE") != TextView::npos;
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (startsLikeNumber && !named && result.ec == std::errc::result_out_of_range) {
+        throw ErroreRunTime(Errore::Overflow);
+    }
+    if (!startsLikeNumber || named || result.ec != std::errc() || result.ptr != text.data() + text.size()) {
+        throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    }
+    return value;
+}
+
+int DateDigits(TextView text)
+{
+    int value = -1;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ptr != text.data() + text.size() || value < 0) {
+        throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    }
+    return value;
+}
+
+} // namespace
+
+ValueWriter::ValueWriter(TextView path) : file_(OpenFile(path, OpenMode::Output)) {}
+
+void ValueWriter::Append(const char* bytes, std::size_t count)
+{
+    while (count > buffer_.size() - used_) {
+        const std::size_t part = buffer_.size() - used_;
+        std::memcpy(buffer_.data() + used_, bytes, part);
+        used_ += part;
+        bytes += part;
+        count -= part;
+        Flush();
+    }
+    std::memcpy(buffer_.data() + used_, bytes, count);
+    used_ += count;
+}
+
+void ValueWriter::Flush()
+{
+    errno = 0;
+    const std::size_t written = std::fwrite(buffer_.data(), 1, used_, file_.get());
+    const bool complete = written == used_;
+    used_ = 0;
+    if (!complete) {
+        throw ErroreRunTime(ErrorOfErrno(errno));
+    }
+}
+
+void ValueWriter::Write(TextView text)
+{
+    constexpr std::size_t frame = 4;
+    if (text.size() + frame > buffer_.size() - used_) {
+        Append("\"", 1);
+        Append(text.data(), text.size());
+        Append("\"\r\n", 3);
+        return;
+    }
+    char* out = buffer_.data() + used_;
+    *out++ = '"';
+    if (!text.empty()) {
+        std::memcpy(out, text.data(), text.size());
+        out += text.size();
+    }
+    std::memcpy(out, "\"\r\n", 3);
+    used_ += text.size() + frame;
+}
+
+void ValueWriter::WriteDigits(int number)
+{
+    std::array<char, 16> line{};
+    char* end = std::to_chars(line.data(), line.data() + line.size(), number).ptr;
+    *end++ = '\r';
+    *end++ = '\n';
+    Append(line.data(), static_cast<std::size_t>(end - line.data()));
+}
+
+void ValueWriter::Write(CalendarDate date)
+{
+    const Text line = Format(date, "#yyyy-mm-dd#\r\n");
+    Append(line.data(), line.size());
+}
+
+void ValueWriter::Close()
+{
+    Flush();
+    errno = 0;
+    if (std::fclose(file_.release()) != 0) {
+        throw ErroreRunTime(ErrorOfErrno(errno));
+    }
+}
+
+ValueReader::ValueReader(TextView path) : file_(OpenFile(path, OpenMode::Input)) {}
+
+bool ValueReader::More()
+{
+    if (exhausted_) {
+        return false;
+    }
+    buffer_.erase(0, position_);
+    position_ = 0;
+    const std::size_t kept = buffer_.size();
+    const std::size_t wanted = std::max(kChunk, kept);
+    buffer_.resize(kept + wanted);
+    errno = 0;
+    const std::size_t got = std::fread(buffer_.data() + kept, 1, wanted, file_.get());
+    buffer_.resize(kept + got);
+    if (got < wanted) {
+        exhausted_ = true;
+        if (std::ferror(file_.get()) != 0) {
+            throw ErroreRunTime(ErrorOfErrno(errno));
+        }
+    }
+    return got > 0;
+}
+
+bool ValueReader::AtEnd()
+{
+    return position_ == buffer_.size() && !More();
+}
+
+void ValueReader::SkipBlanks()
+{
+    while (!AtEnd() && IsBlank(buffer_[position_])) {
+        ++position_;
+    }
+}
+
+/// Takes the comma or line end that stands here, if one does.
+void ValueReader::SkipSeparator()
+{
+    if (AtEnd() || !EndsPlainValue(buffer_[position_])) {
+        return;
+    }
+    const char separator = buffer_[position_++];
+    if (separator == '\r' && !AtEnd() && buffer_[position_] == '\n') {
+        ++position_;
+    }
+}
+
+ValueReader::Value ValueReader::NextQuoted()
+{
+    std::size_t searched = position_ + 1;
+    std::size_t close = 0;
+    while ((close = buffer_.find('"', searched)) == std::string::npos) {
+        const std::size_t length = buffer_.size() - position_;
+        if (!More()) {
+            position_ = buffer_.size();
+            throw ErroreRunTime(Errore::FineFile);
+        }
+        searched = position_ + length;
+    }
+    const TextView bytes(buffer_.data() + position_ + 1, close - position_ - 1);
+    position_ = close + 1;
+    return {bytes, true};
+}
+
+ValueReader::Value ValueReader::NextPlain()
+{
+    std::size_t searched = position_;
+    std::size_t end = 0;
+    while ((end = buffer_.find_first_of(",\r\n", searched)) == std::string::npos) {
+        const std::size_t length = buffer_.size() - position_;
+        if (!More()) {
+            end = buffer_.size();
+            break;
+        }
+        searched = position_ + length;
+    }
+    const TextView bytes(buffer_.data() + position_, end - position_);
+    position_ = end;
+    return {TrimBlanks(bytes), false};
+}
+
+ValueReader::Value ValueReader::Next()
+{
+    SkipBlanks();
+    if (AtEnd()) {
+        throw ErroreRunTime(Errore::FineFile);
+    }
+    return buffer_[position_] == '"' ? NextQuoted() : NextPlain();
+}
+
+void ValueReader::Input(Text& text)
+{
+    const Value value = Next();
+    text.assign(value.bytes);
+    if (value.quoted) {
+        SkipBlanks();
+    }
+    SkipSeparator();
+}
+
+TextView ValueReader::NextNumber()
+{
+    const Value value = Next();
+    if (value.quoted) {
+        throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    }
+    return value.bytes;
+}
+
+template <typename Integer>
+void ValueReader::InputInteger(Integer& number)
+{
+    const TextView bytes = NextNumber();
+    int whole = 0;
+    const auto result = std::from_chars(bytes.data(), bytes.data() + bytes.size(), whole);
+    const bool plain = result.ec == std::errc() && result.ptr == bytes.data() + bytes.size();
+    number = plain ? Integer(whole) : RoundTo<Integer>(ParseNumber(bytes));
+    SkipSeparator();
+}
+
+void ValueReader::Input(i16& number)
+{
+    InputInteger(number);
+}
+
+void ValueReader::Input(i32& number)
+{
+    InputInteger(number);
+}
+
+void ValueReader::Input(CalendarDate& date)
+{
+    constexpr std::size_t length = 12; // #yyyy-mm-dd#
+    const TextView bytes = NextNumber();
+    if (bytes.size() != length || bytes.front() != '#' || bytes.back() != '#' || bytes[5] != '-' || bytes[8] != '-') {
+        throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    }
+    date = CalendarDate(DateDigits(bytes.substr(1, 4)), static_cast<unsigned>(DateDigits(bytes.substr(6, 2))),
+                        static_cast<unsigned>(DateDigits(bytes.substr(9, 2))));
+    SkipSeparator();
+}
+
+} // namespace zelvia

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Workspace.h"
+
+#include "core/Conversions.h"
+#include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "core/ValueFile.h"
+
+namespace zelvia
+{
+
+Text ReadPointer(TextView path)
+{
+    ValueReader file(path);
+    Text value;
+    file.Input(value);
+    return value;
+}
+
+void WritePointer(TextView path, TextView value)
+{
+    ValueWriter file(path);
+    file.Write(value);
+    file.Close();
+}
+
+Text NomeSenzaCartella(TextView path)
+{
+    const auto slash = InStrRev(path, "\\");
+    return slash == 0 ? Text() : NomeSenzaEstensione(Mid(path, slash + 1));
+}
+
+Text NomeSenzaEstensione(TextView path)
+{
+    const auto dot = InStrRev(path, ".");
+    return dot == 0 ? Text() : Left(path, dot - 1);
+}
+
+namespace Module1
+{
+
+Text CAPTIONDIR(TextView path)
+{
+    Text folder;
+    Trap("CAPTIONDIR - ERRORE : ", [&] {
+        const auto word = InStr(path, kDiaryFolder);
+        if (word == 0) {
+            folder = NomeSenzaEstensione(path);
+            return;
+        }
+        // The word and the backslash behind it.
+        const auto name = word + Len(kDiaryFolder) + 1;
+        folder = Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
+    });
+    return folder;
+}
+
+i16 CAPTIONPATH(TextView a, TextView b)
+{
+    i16 result = 0;
+    Trap("CAPTIONPATH - ERRORE : ", [&] {
+        const auto prefix = [](TextView path) { return Left(path, InStr(path, kDiaryFolder) + Len(kDiaryFolder) - 1); };
+        result = TextCompare(prefix(b), prefix(a));
+    });
+    return result;
+}
+
+namespace
+{
+
+Text TablePointer()
+{
+    return CartellaDiario + "\\nometab";
+}
+
+} // namespace
+
+void SalvaNomeTabella()
+{
+    Trap(kBareTitle, [] { WritePointer(TablePointer(), NomeTabellaAttiva); });
+}
+
+void CaricaNomeTabella()
+{
+    TrapWith([] { NomeTabellaAttiva = ReadPointer(TablePointer()); },
+             [](const ErroreRunTime& error) {
+                 if (error.Number() != Errore::FileNonTrovato) {
+                     ReportError(kBareTitle, error);
+                 }
+             });
+}
+
+} // namespace Module1
+} // namespace zelvia

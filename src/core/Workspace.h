@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace zelvia
+{
+
+/// The folder beside the program in which all diaries lie.
+inline constexpr TextView kDiaryFolder = "ZelviaFile";
+
+/// A pointer file holds one text value.
+Text ReadPointer(TextView path);
+void WritePointer(TextView path, TextView value);
+
+/// The name of a path without folder and extension; "" when it has no backslash or no dot behind the last one.
+Text NomeSenzaCartella(TextView path);
+
+/// A path up to its last dot, "" when it has none.
+Text NomeSenzaEstensione(TextView path);
+
+namespace Module1
+{
+
+/// The folder that belongs to a diary: C:\X\prova for C:\X\ZelviaFile\prova.zlv. The name ends at the first dot of the
+/// whole path; one that stands in a folder ahead of it is reported as error 5, and the result is empty.
+Text CAPTIONDIR(TextView path);
+
+/// 0 when both paths lie under the same "ZelviaFile" folder, else not 0.
+i16 CAPTIONPATH(TextView a, TextView b);
+
+/// Writes NomeTabellaAttiva to the `nometab` of CartellaDiario.
+void SalvaNomeTabella();
+
+/// Reads it back; a missing file is silent and leaves NomeTabellaAttiva as it is.
+void CaricaNomeTabella();
+
+} // namespace Module1
+} // namespace zelvia
