@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/CMouse.h"
+#include "core/Date.h"
+#include "core/Module1.h"
+#include "core/SelectionLists.h"
+#include "daywindow/FrmInfo.h"
+#include "daywindow/PageControls.h"
+#include "toolkit/CommonDialog.h"
+#include "toolkit/Form.h"
+#include "toolkit/Timer.h"
+
+class QMenu;
+class QMenuBar;
+
+namespace zelvia
+{
+
+/// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
+/// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
+class frmMain : public Form, public PageControls
+{
+    Q_OBJECT
+
+public:
+    frmMain();
+
+    /// The start of the program. False when another instance is running: the run is then to end without a word.
+    bool FormLoad();
+
+    Control& FocusSink() override { return *pctGiornoAnno; }
+
+    // State that other windows read. DataMinima..DataMassima is the range of the page.
+    CalendarDate DataMinima;
+    CalendarDate DataMassima;
+    i16 GiornoMese = 1;
+    i16 MeseCorrente = 1;
+    i16 AnnoCorrente = 1;
+    i16 UltimoPeso; ///< Last weight above 0 up to the day shown, kilograms.
+    i32 KmAnno;     ///< Kilometres of the year up to the day shown.
+    i16 GiorniCorseAnno;
+    i16 GareAnno;
+    Text NomeFile;     ///< Full path of the open diary.
+    Text NomeBaseFile; ///< Its name without folder and extension.
+    Text EsitoDir;
+    int NuovoAnnullato = 0; ///< 1 once the dialog of a new file was cancelled; nothing clears it.
+    i16 NoteAperte;
+    i16 ListaAperta;
+
+    CommonDialog dlgCommonDialog;
+
+    // Dates.
+    /// Brings everything that depends on DataCorrente up to date.
+    void Data();
+    void upGiorno_DownClick() { MoveDate(*upGiorno, "d", -1); }
+    void upGiorno_UpClick() { MoveDate(*upGiorno, "d", 1); }
+    void upMese_DownClick() { MoveDate(*upMese, "m", -1); }
+    void upMese_UpClick() { MoveDate(*upMese, "m", 1); }
+    void lblData_Click();
+    void tmrFocus_Timer();
+
+    // The day on the page and in its record.
+    void VisualizzaGiorno();
+    void AzzeraCampi();
+    void AssegnaCampi();
+    /// 1 when the controls differ from the record of GiornoCorrente, else 0.
+    void ControllaSave(i16& esito);
+    /// Counts the year up to the day shown, from the records.
+    void DatiAnno();
+
+    // Panels of the right page.
+    void AzzeraDatiTabella();
+    void NessunaTabella();
+    void TabAllenamentiVisibili() { ShowTablePanel(true); }
+    void TabAllenamentiNonVisibili() { ShowTablePanel(false); }
+    void MostraRiquadriGara() { ShowRacePanel(true); }
+    void NascondiRiquadriGara() { ShowRacePanel(false); }
+
+    // Files.
+    void CaricaNomeFile();
+    /// The counterpart of CaricaNomeFile: writes NomeFile to the pointer file of the program's folder.
+    void SalvaNomeFile();
+    void NomeFleListe();
+    void mnuFileOpen_Click();
+    void mnuFileNuovo_Click();
+    void mnuFileSave_Click();
+    void mnuFileSaveAs_Click();
+    void mnuFileExit_Click();
+    /// Asks to save what changed; `annullato` becomes 1 when the user cancels.
+    void ChiediSalvataggio(i16& annullato);
+    void NuovoFile(const Text& percorso);
+    void SalvaFileNuovo(const Text& percorso);
+
+    // Selection lists.
+    void InizializzaListe();
+    void SalvaListaPercorso() { SalvaLista(ListaScelta::Percorso); }
+    void SalvaListaLunghezza() { SalvaLista(ListaScelta::Lunghezza); }
+    void SalvaListaModo() { SalvaLista(ListaScelta::Modo); }
+    void SalvaListaFondo() { SalvaLista(ListaScelta::Fondo); }
+    void SalvaListaTipo() { SalvaLista(ListaScelta::Tipo); }
+    void SalvaListaTempoAtm() { SalvaLista(ListaScelta::TempoAtm); }
+    void SalvaListaTemperatura() { SalvaLista(ListaScelta::Temperatura); }
+    void CaricaListaPercorso() { CaricaLista(ListaScelta::Percorso); }
+    void CaricaListaLunghezza() { CaricaLista(ListaScelta::Lunghezza); }
+    void CaricaListaModo() { CaricaLista(ListaScelta::Modo); }
+    void CaricaListaFondo() { CaricaLista(ListaScelta::Fondo); }
+    void CaricaListaTipo() { CaricaLista(ListaScelta::Tipo); }
+    void CaricaListaTempoAtm() { CaricaLista(ListaScelta::TempoAtm); }
+    void CaricaListaTeperatura() { CaricaLista(ListaScelta::Temperatura); }
+
+    // Options and help.
+    void mnuAzzeraGiorno_Click();
+    void mnuListaPrecedente_Click();
+    void mnuListaIniziale_Click();
+    void mnuHelpContents_Click();
+    void mnuHelpSearchForHelpOn_Click();
+    void mnuHelpAbout_Click();
+
+    /// The dispatcher of a button bar: runs the menu handler that goes with a button's key; any other key does nothing.
+    void DispatchCommand(TextView key);
+
+    /// Gives the fifteen captions of the fields the hand, or their default pointer back.
+    void CursoreMano();
+    void CursoreNormale();
+
+    Timer* tmrFocus;
+    QMenu* mnuCancelladallaLista;
+    Text FileGuida; ///< The program's help file.
+
+protected:
+    void OnUnload() override;
+
+private:
+    struct KeptState;
+
+    void BuildMenus(QMenuBar& bar);
+    void ConnectControls();
+    void ConnectSpins();
+
+    // Start.
+    void ResetState();
+    void SetUpFolder();
+    /// Writes the full set into CartellaDiario when it holds no file.
+    void WriteFirstSet();
+    void LoadCompanions();
+
+    // Dates.
+    void SetToday();
+    void MoveDate(const UpDown& spin, TextView interval, int step);
+
+    // Day.
+    void ShowTextField(ListaScelta lista, TextView valore);
+    void ShowNote(int riga, TextView valore);
+    void BlankTextFields(const RecordGiorno& giorno);
+    bool TextsDiffer(const RecordGiorno& giorno);
+    bool NumbersDiffer(const RecordGiorno& giorno) const;
+    void CommitTexts(RecordGiorno& giorno, std::initializer_list<ListaScelta> liste);
+
+    void ShowDistance(i32 metri);
+
+    // Panels.
+    void ShowTablePanel(bool visible);
+    void ShowRacePanel(bool visible);
+    void ShowActiveTable();
+
+    // Files.
+    KeptState KeepAndReset();
+    void PutBack(const KeptState& kept);
+    void PrepareDialog(TextView title, TextView filter, int flags);
+    /// Raises error 32755 after the refusal's box when `scelto` lies in another folder than `diario`; the dialog then
+    /// holds `diario` again and `riprova` is set.
+    void ApplyFolderRule(const Text& diario, const Text& scelto, TextView rifiuto, bool& riprova);
+    /// Writes the lists, the routes and the calendar.
+    void SaveCompanions();
+    /// Reads the diary named by NomeFile with its companions and shows it.
+    void ReadOpenedDiary();
+
+    void SalvaLista(ListaScelta lista);
+    void CaricaLista(ListaScelta lista);
+    void CaricaListe();
+    void SalvaListe();
+
+    void ShowHelp(int comando);
+
+    FormSlot<frmInfo> info_;
+};
+
+} // namespace zelvia

@@ -1,0 +1,344 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Open, New, Save and Save As.
+#include "calendar/CalendarModel.h"
+#include "core/DiaryFile.h"
+#include "core/Files.h"
+#include "core/RunTimeError.h"
+#include "core/Workspace.h"
+#include "daywindow/FrmMain.h"
+#include "routes/RouteModel.h"
+
+#include <optional>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+constexpr TextView kOpenFilter = "File Zelvia (*. zlv)|*.zlv|";
+constexpr TextView kSaveFilter = "File Zelvia (*.zlv)|*.zlv|";
+constexpr int kOpenFlags = DialogFlags::FileMustExist | DialogFlags::NoChangeDir | DialogFlags::HideReadOnly;
+constexpr int kSaveFlags = DialogFlags::OverwritePrompt | DialogFlags::NoChangeDir | DialogFlags::HideReadOnly;
+constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   ";
+constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
+
+/// Points CartellaDiario somewhere else for as long as it lives.
+class OtherFolder
+{
+public:
+    explicit OtherFolder(Text folder) : kept_(std::exchange(CartellaDiario, std::move(folder))) {}
+    ~OtherFolder() { CartellaDiario = kept_; }
+    OtherFolder(const OtherFolder&) = delete;
+    OtherFolder& operator=(const OtherFolder&) = delete;
+
+private:
+    Text kept_;
+};
+
+} // namespace
+
+/// What a cancelled Open or New puts back.
+struct frmMain::KeptState {
+    i16 flagTabellaSalvata;
+    Text nomeTabellaAperta;
+    i16 ultimoPeso;
+    i32 kmAnno;
+    i16 giorniCorseAnno;
+    i16 gareAnno;
+    i16 noteAperte;
+    i16 listaAperta;
+    i16 fileModificato;
+    i16 giornoCorrente;
+    i16 giornoMese;
+    i16 meseCorrente;
+    i16 annoCorrente;
+    Text nomeFile;
+    Text nomeBaseFile;
+    Text nomeTabellaAttiva;
+    Text percorsoCorrente;
+    Text esitoDir;
+    Text cartellaDiario;
+    i16 indiceTabella;
+};
+
+/// Keeps the state and resets it as at start; UltimoPeso and KmAnno stay.
+frmMain::KeptState frmMain::KeepAndReset()
+{
+    return {std::exchange(FlagTabellaSalvata, 0),
+            std::exchange(NomeTabellaAperta, {}),
+            UltimoPeso,
+            KmAnno,
+            std::exchange(GiorniCorseAnno, 0),
+            std::exchange(GareAnno, 0),
+            std::exchange(NoteAperte, 0),
+            std::exchange(ListaAperta, 0),
+            std::exchange(FileModificato, 0),
+            std::exchange(GiornoCorrente, 0),
+            std::exchange(GiornoMese, 1),
+            std::exchange(MeseCorrente, 1),
+            std::exchange(AnnoCorrente, 1),
+            std::exchange(NomeFile, {}),
+            std::exchange(NomeBaseFile, {}),
+            std::exchange(NomeTabellaAttiva, {}),
+            std::exchange(PercorsoCorrente, {}),
+            std::exchange(EsitoDir, {}),
+            std::exchange(CartellaDiario, {}),
+            std::exchange(IndiceTabella, 0)};
+}
+
+void frmMain::PutBack(const KeptState& kept)
+{
+    FlagTabellaSalvata = kept.flagTabellaSalvata;
+    NomeTabellaAperta = kept.nomeTabellaAperta;
+    UltimoPeso = kept.ultimoPeso;
+    KmAnno = kept.kmAnno;
+    GiorniCorseAnno = kept.giorniCorseAnno;
+    GareAnno = kept.gareAnno;
+    NoteAperte = kept.noteAperte;
+    ListaAperta = kept.listaAperta;
+    FileModificato = kept.fileModificato;
+    GiornoCorrente = kept.giornoCorrente;
+    GiornoMese = kept.giornoMese;
+    MeseCorrente = kept.meseCorrente;
+    AnnoCorrente = kept.annoCorrente;
+    NomeFile = kept.nomeFile;
+    NomeBaseFile = kept.nomeBaseFile;
+    NomeTabellaAttiva = kept.nomeTabellaAttiva;
+    PercorsoCorrente = kept.percorsoCorrente;
+    EsitoDir = kept.esitoDir;
+    CartellaDiario = kept.cartellaDiario;
+    IndiceTabella = kept.indiceTabella;
+}
+
+void frmMain::PrepareDialog(TextView title, TextView filter, int flags)
+{
+    dlgCommonDialog.CancelError = true;
+    dlgCommonDialog.Flags = flags;
+    dlgCommonDialog.InitDir = ProgramFolder() + "\\" + Text(kDiaryFolder);
+    dlgCommonDialog.Filter = filter;
+    dlgCommonDialog.DialogTitle = title;
+}
+
+void frmMain::ApplyFolderRule(const Text& diario, const Text& scelto, TextView rifiuto, bool& riprova)
+{
+    if (CAPTIONPATH(diario, scelto) == 0) {
+        return;
+    }
+    dlgCommonDialog.FileName = diario;
+    MsgBox(rifiuto, MsgButtons::OK, MsgIcon::Critical);
+    riprova = true;
+    throw ErroreRunTime(Errore::Annullato);
+}
+
+void frmMain::SaveCompanions()
+{
+    SalvaListe();
+    SalvaPercorsi();
+    ScriviCalendario();
+}
+
+void frmMain::ChiediSalvataggio(i16& annullato)
+{
+    annullato = 0;
+    AssegnaCampi();
+    if (FileModificato != 1) {
+        return;
+    }
+    switch (MsgBox("IL FILE NON E' STATO SALVATO, SALVARE IL FILE ?             ", MsgButtons::YesNoCancel,
+                   MsgIcon::Information)) {
+    case MsgAnswer::Yes: mnuFileSave_Click(); break;
+    case MsgAnswer::No: FileModificato = 0; break;
+    default: annullato = 1; break;
+    }
+}
+
+void frmMain::mnuFileSave_Click()
+{
+    CMouse puntatore;
+    bool riprova = false;
+    TrapWith(
+        [&] {
+            AssegnaCampi();
+            PrepareDialog("Salva con nome", kSaveFilter, kSaveFlags);
+            if (dlgCommonDialog.FileName.empty()) {
+                dlgCommonDialog.ShowSave();
+            }
+            const Text scelto = dlgCommonDialog.FileName;
+            ApplyFolderRule(NomeFile, scelto, kRefusedSave, riprova);
+            puntatore.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(scelto);
+            FileModificato = 0;
+            SaveCompanions();
+        },
+        [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError("mnuFileSave - ERRORE : ", error);
+            } else if (riprova) {
+                mnuFileSave_Click();
+            }
+        });
+}
+
+void frmMain::mnuFileSaveAs_Click()
+{
+    CMouse puntatore;
+    bool riprova = false;
+    TrapWith(
+        [&] {
+            AssegnaCampi();
+            PrepareDialog("Salva con nome", kSaveFilter, kSaveFlags);
+            dlgCommonDialog.ShowSave();
+            const Text scelto = dlgCommonDialog.FileName;
+            ApplyFolderRule(NomeFile, scelto, kRefusedSave, riprova);
+            puntatore.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(scelto);
+            FileModificato = 0;
+            const OtherFolder copia(CAPTIONDIR(scelto));
+            if (FilesIn(CartellaDiario).empty()) {
+                if (FindFolder(CartellaDiario).empty()) {
+                    MakeFolder(CartellaDiario);
+                }
+                SalvaNomeTabella();
+            }
+            SaveCompanions();
+        },
+        [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError("mnuFileSaveAs - ERRORE : ", error);
+            } else if (riprova) {
+                mnuFileSaveAs_Click();
+            }
+        });
+}
+
+void frmMain::mnuFileOpen_Click()
+{
+    std::optional<KeptState> kept;
+    bool riprova = false;
+    TrapWith(
+        [&] {
+            i16 annullato;
+            ChiediSalvataggio(annullato);
+            if (annullato == 1) {
+                return;
+            }
+            kept = KeepAndReset();
+            PrepareDialog("Apri", kOpenFilter, kOpenFlags);
+            dlgCommonDialog.ShowOpen();
+            const Text scelto = dlgCommonDialog.FileName;
+            ApplyFolderRule(kept->nomeFile, scelto, kRefusedOpen, riprova);
+            NomeFile = scelto;
+            ReadOpenedDiary();
+        },
+        [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError("mnuFileOpen - ERRORE : ", error);
+                return;
+            }
+            if (kept) {
+                PutBack(*kept);
+            }
+            if (riprova) {
+                mnuFileOpen_Click();
+            }
+        });
+}
+
+void frmMain::ReadOpenedDiary()
+{
+    CaricaDiario(NomeFile);
+    AzzeraPercorsi();
+    AzzeraCalendario();
+    SetToday();
+    Data();
+    CartellaDiario = CAPTIONDIR(NomeFile);
+    WriteFirstSet();
+    VisualizzaGiorno();
+    DatiAnno();
+    NomeFleListe();
+    lblNomeFile->SetCaption(NomeBaseFile);
+    NessunaTabella();
+    CaricaNomeTabella();
+    lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
+    if (!NomeTabellaAttiva.empty()) {
+        ShowActiveTable();
+    }
+    CaricaListe();
+    CaricaPercorsi();
+    AzzeraCalendario();
+    LeggiCalendario();
+}
+
+void frmMain::mnuFileNuovo_Click()
+{
+    Trap("mnuFileNuovo - ERRORE : ", [this] {
+        i16 annullato;
+        ChiediSalvataggio(annullato);
+        if (annullato == 1) {
+            return;
+        }
+        const Text fileName = dlgCommonDialog.FileName;
+        const KeptState kept = KeepAndReset();
+        DataMinima = CalendarDate(2001, 1, 1);
+        DataMassima = CalendarDate(2099, 12, 31);
+        NuovoFile(kept.nomeFile);
+        if (NuovoAnnullato == 1) {
+            PutBack(kept);
+            dlgCommonDialog.FileName = fileName;
+            return;
+        }
+        AzzeraPercorsi();
+        AzzeraCalendario();
+        SetToday();
+        Data();
+        NessunaTabella();
+        lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
+        InizializzaListe();
+        AzzeraCampi();
+        VisualizzaGiorno();
+        DatiAnno();
+    });
+}
+
+void frmMain::NuovoFile(const Text& percorso)
+{
+    SalvaFileNuovo(percorso);
+}
+
+void frmMain::SalvaFileNuovo(const Text& percorso)
+{
+    bool riprova = false;
+    TrapWith(
+        [&] {
+            PrepareDialog("Nuovo file", kSaveFilter, kSaveFlags);
+            dlgCommonDialog.FileName.clear();
+            dlgCommonDialog.ShowSave();
+            const Text scelto = dlgCommonDialog.FileName;
+            ApplyFolderRule(percorso, scelto, kRefusedSave, riprova);
+            NomeFile = scelto;
+            AzzeraAnno();
+            setCursor(Qt::WaitCursor);
+            FileModificato = 0;
+            NomeFleListe();
+            lblNomeFile->SetCaption(NomeBaseFile);
+            CartellaDiario = CAPTIONDIR(NomeFile);
+            EsitoDir = FindFolder(CartellaDiario);
+            unsetCursor();
+        },
+        [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError("SalvaFileNuovo - ERRORE : ", error);
+                return;
+            }
+            NuovoAnnullato = 1;
+            if (riprova) {
+                SalvaFileNuovo(percorso);
+            }
+        });
+}
+
+} // namespace zelvia

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The menus, the dispatcher of commands, help and the window about the program.
+#include "core/RunTimeError.h"
+#include "daywindow/FrmMain.h"
+#include "toolkit/Help.h"
+#include "toolkit/Menu.h"
+#include "toolkit/QtText.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace zelvia
+{
+
+void frmMain::BuildMenus(QMenuBar& bar)
+{
+    AddMenu(bar, "mnuFile", "&File",
+            {{"mnuFileOpen", "&Apri", [this] { mnuFileOpen_Click(); }},
+             {"mnuFileBar0", {}, {}},
+             {"mnuFileNuovo", "&Nuovo", [this] { mnuFileNuovo_Click(); }},
+             {"mnuFileBar2", {}, {}},
+             {"mnuFileSave", "&Salva", [this] { mnuFileSave_Click(); }},
+             {"mnuFileSaveAs", "Sal&va con nome", [this] { mnuFileSaveAs_Click(); }},
+             {"mnuFileBar3", {}, {}},
+             {"mnuFilePrint", "S&tampa", {}},
+             {"mnuFileBar4", {}, {}},
+             {"mnuFileExit", "&Esci", [this] { mnuFileExit_Click(); }}});
+    AddMenu(bar, "mnuOpzioni", "&Opzioni",
+            {{"mnuNote", "&Note", {}},
+             {"mnuAzzeraGiorno", "Az&zera Giorno", [this] { mnuAzzeraGiorno_Click(); }},
+             {"mnuListaPrecedente", "Ripristina &Lista Precedente", [this] { mnuListaPrecedente_Click(); }},
+             {"mnuListaIniziale", "Ripristina Lista &Iniziale", [this] { mnuListaIniziale_Click(); }}});
+    AddMenu(bar, "mnuTabelle", "&Tabelle", {{"mnuAllenamenti", "&Allenamenti", {}}, {"mnuGare", "&Gare", {}}});
+    AddMenu(bar, "mnuStatistiche", "&Statistiche",
+            {{"mnuMedie", "&Medie", {}},
+             {"mnuStatBar", {}, {}},
+             {"mnuPercorso", "Perc&orso", {}},
+             {"mnuLunghezza", "&Lunghezza", {}},
+             {"mnuKm", "&Km", {}},
+             {"mnuAndatura", "&Andatura", {}},
+             {"mnuFondo", "Terre&no", {}},
+             {"mnuTipo", "&Tipo", {}},
+             {"mnuStagione", "Sta&gione", {}},
+             {"mnuMeteo", "&Meteo", {}},
+             {"mnuTemperatura", "T&emperatura", {}},
+             {"mnuCorridori", "&Corridori", {}},
+             {"mnuPeso", "Pe&so", {}},
+             {"mnuRipetizioni", "&Ripetizioni", {}}});
+    AddMenu(bar, "mnuHelp", "&?",
+            {{"mnuHelpContents", "&Sommario", [this] { mnuHelpContents_Click(); }, QKeySequence(Qt::Key_F1)},
+             {"mnuHelpSearchForHelpOn", "&Cerca argomento", [this] { mnuHelpSearchForHelpOn_Click(); }},
+             {"mnuHelpBar0", {}, {}},
+             {"mnuHelpAbout", "&Informazioni su", [this] { mnuHelpAbout_Click(); }}});
+
+    mnuCancelladallaLista->setObjectName(QStringLiteral("mnuCancelladallaLista"));
+    mnuCancelladallaLista->setTitle(QStringLiteral("&Cancella dalla Lista"));
+    FillMenu(*mnuCancelladallaLista,
+             {{"mnuCancella", "&Cancella", {}},
+              {"mnuListaWOrdinata", "&Tempi", {}},
+              {"mnuDescrizionePercorso", "&Descrizione", {}}},
+             MenuKind::PopUp);
+}
+
+void frmMain::DispatchCommand(TextView key)
+{
+    // The commands that are carried out by a window of their own join the table with it.
+    static constexpr std::pair<TextView, void (frmMain::*)()> handlers[] = {
+        {"Open", &frmMain::mnuFileOpen_Click},
+        {"Nuovo", &frmMain::mnuFileNuovo_Click},
+        {"Save", &frmMain::mnuFileSave_Click},
+        {"Help", &frmMain::mnuHelpContents_Click},
+        {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
+        {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
+        {"ListaIniziale", &frmMain::mnuListaIniziale_Click},
+    };
+    for (const auto& [name, handler] : handlers) {
+        if (name == key) {
+            (this->*handler)();
+        }
+    }
+}
+
+void frmMain::mnuHelpContents_Click()
+{
+    ShowHelp(HelpCommand::Contents);
+}
+
+void frmMain::mnuHelpSearchForHelpOn_Click()
+{
+    ShowHelp(HelpCommand::Search);
+}
+
+void frmMain::ShowHelp(int comando)
+{
+    if (FileGuida.empty()) {
+        MsgBox("Impossibile visualizzare il Sommario della Guida. Nessun file della Guida associato al progetto.",
+               MsgButtons::OK, MsgIcon::Information, FromQString(windowTitle()));
+        return;
+    }
+    TrapWith([&] { WinHelp(FileGuida, comando); },
+             [](const ErroreRunTime& error) { MsgBox(error.Description(), MsgButtons::OK); });
+}
+
+void frmMain::mnuHelpAbout_Click()
+{
+    Trap("mnuHelpAbout - ERRORE : ", [this] {
+        frmInfo& info = info_.Load();
+        info.show();
+        info.raise();
+        info.activateWindow();
+    });
+}
+
+} // namespace zelvia

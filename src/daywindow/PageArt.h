@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+#include "toolkit/Picture.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QPixmap>
+#include <QWidget>
+
+class QPainter;
+
+namespace zelvia
+{
+
+/// The inks and papers of the printed diary.
+namespace Ink
+{
+inline constexpr QColor Paper{251, 246, 231};
+inline constexpr QColor PaperShade{236, 226, 200};
+inline constexpr QColor Slip{255, 253, 244};
+inline constexpr QColor Rule{214, 200, 168};
+inline constexpr QColor Print{92, 70, 46};
+inline constexpr QColor PrintDark{58, 42, 28};
+inline constexpr QColor Accent{158, 44, 32};
+inline constexpr QColor Pen{26, 58, 140};
+inline constexpr QColor Desk{92, 68, 48};
+} // namespace Ink
+
+/// The palette of everything that lies on the paper, whatever the desktop's own colours.
+QPalette PagePalette();
+
+QFont PrintFont(int pixels, bool bold = false);
+QFont PenFont(int pixels);
+
+/// A caption in print, for the pictures that carry one.
+Picture::Drawing CaptionDrawing(TextView caption, bool heading = false);
+
+// The pictograms of the counters.
+void DrawCalendarLeaf(QPainter& painter, const QRectF& area);
+void DrawShoe(QPainter& painter, const QRectF& area);
+void DrawMilestone(QPainter& painter, const QRectF& area);
+void DrawCup(QPainter& painter, const QRectF& area);
+
+/// The open diary on its desk: paper, rules, binding and the printed words that are no control. Drawn once for each
+/// scale of the screen.
+class PaperSheet : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PaperSheet(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap cache_;
+};
+
+} // namespace zelvia

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Files.h"
+#include "daywindow/FrmMain.h"
+#include "toolkit/Application.h"
+
+int main(int argc, char* argv[])
+{
+    zelvia::Application application(argc, argv);
+    zelvia::SetProgramFolder(zelvia::SystemPath(QCoreApplication::applicationDirPath().toStdString()));
+    auto* page = new zelvia::frmMain;
+    if (!page->FormLoad()) {
+        return 0;
+    }
+    page->show();
+    return QCoreApplication::exec();
+}

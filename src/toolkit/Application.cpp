@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/Application.h"
+
+#include "core/CMouse.h"
+#include "core/Files.h"
+#include "core/MessageBox.h"
+#include "core/RunTimeError.h"
+#include "toolkit/FocusController.h"
+#include "toolkit/QtText.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QTranslator>
+
+#include <array>
+#include <cstdio>
+
+namespace zelvia
+{
+namespace
+{
+
+QMessageBox::StandardButtons QtButtons(MsgButtons buttons)
+{
+    switch (buttons) {
+    case MsgButtons::OKCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case MsgButtons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default: return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon QtIcon(MsgIcon icon)
+{
+    switch (icon) {
+    case MsgIcon::Critical: return QMessageBox::Critical;
+    case MsgIcon::Exclamation: return QMessageBox::Warning;
+    case MsgIcon::Information: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+MsgAnswer ShowMessageBox(const MsgRequest& request)
+{
+    FocusController::Instance().ShowDeferred();
+    QMessageBox box(QtIcon(request.icon),
+                    request.title.empty() ? QApplication::applicationDisplayName() : ToQString(request.title),
+                    QString(), QtButtons(request.buttons), QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQString(request.text));
+    switch (box.exec()) {
+    case QMessageBox::Yes: return MsgAnswer::Yes;
+    case QMessageBox::No: return MsgAnswer::No;
+    case QMessageBox::Cancel: return MsgAnswer::Cancel;
+    default: return MsgAnswer::OK;
+    }
+}
+
+void ShowScreenPointer(i16 pointer)
+{
+    while (QApplication::overrideCursor() != nullptr) {
+        QApplication::restoreOverrideCursor();
+    }
+    if (pointer == MousePointer::Hourglass) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+}
+
+void InstallItalian(QApplication& application)
+{
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QLatin1String("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
+}
+
+} // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationName(QLatin1String("zelvia"));
+    setApplicationDisplayName(QLatin1String("Zelvia"));
+    setStyle(QLatin1String("Fusion"));
+    InstallItalian(*this);
+    FocusController::Instance();
+    SetMsgBoxHandler(ShowMessageBox);
+    SetScreenMousePointerHandler(ShowScreenPointer);
+}
+
+Application::~Application()
+{
+    SetScreenMousePointerHandler({});
+    SetMsgBoxHandler({});
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    return FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
+}
+
+QFont PageFont(TextView family, int pixels)
+{
+    QStringList families{ToQString(family)};
+    if (family == "Times New Roman") {
+        families << QLatin1String("Liberation Serif") << QLatin1String("Nimbus Roman") << QLatin1String("serif");
+    } else {
+        // In these the degree sign is as wide as a digit.
+        families << QLatin1String("Liberation Mono") << QLatin1String("DejaVu Sans Mono") << QLatin1String("monospace");
+    }
+    QFont font;
+    font.setFamilies(families);
+    font.setPixelSize(pixels);
+    return font;
+}
+
+QCursor LoadCursor(TextView path)
+{
+    // The header: reserved 0, type 2, count; then of the first picture its size, colours and, from byte 10, its hot
+    // spot.
+    constexpr std::size_t headerSize = 14;
+    std::array<unsigned char, headerSize> header{};
+    const FileHandle file = OpenFile(path, OpenMode::Input);
+    const bool complete = std::fread(header.data(), 1, header.size(), file.get()) == header.size();
+    QImageReader reader(QString::fromStdString(NativePath(path).string()), "cur");
+    const QImage image = complete && header[2] == 2 ? reader.read() : QImage();
+    if (image.isNull()) {
+        throw ErroreRunTime(Errore::ImmagineNonValida);
+    }
+    return QCursor(QPixmap::fromImage(image), header[10] + 256 * header[11], header[12] + 256 * header[13]);
+}
+
+bool TakeInstanceLock()
+{
+    static QLockFile lock(QString::fromStdString(ToUtf8(ProgramFolder())).replace(QLatin1Char('\\'), QLatin1Char('/')) +
+                          QLatin1String("/.zelvia.lock"));
+    lock.setStaleLockTime(0);
+    return lock.tryLock() || lock.error() != QLockFile::LockFailedError;
+}
+
+} // namespace zelvia

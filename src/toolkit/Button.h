@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+#include "toolkit/Control.h"
+
+#include <QPushButton>
+
+namespace zelvia
+{
+
+/// A push button; Enter presses it as Space does. No button of a window is its default.
+class Button : public QPushButton, public Control
+{
+    Q_OBJECT
+
+public:
+    Button(QWidget* parent, const QString& name, TextView caption);
+
+    std::function<void()> Click;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace zelvia

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "toolkit/Control.h"
+
+#include <QEvent>
+#include <QObject>
+
+#include <deque>
+#include <vector>
+
+namespace zelvia
+{
+
+/// Tells the controls of all windows who lost the focus and who got it.
+///
+/// A change is first finished and then told, LostFocus of the old control before GotFocus of the new one, in order and
+/// never nested: changes made by a handler wait for their turn. Another application's window, a menu, a message box and
+/// a file dialog take no focus in this sense. What the two handlers of one change hide and show reaches the screen at
+/// its end, so a list that its box's closing hides and its own GotFocus shows again keeps the press that chose a row.
+class FocusController : public QObject
+{
+    Q_OBJECT
+
+public:
+    static FocusController& Instance();
+
+    /// The control that was last told to have the focus, or null.
+    Control* Current() const { return current_; }
+
+    void SetFocus(Control& control);
+
+    /// Closes the field that is open, as leaving it for another one does, and tells it at once. Nothing is asked.
+    void LeaveField();
+
+    /// Tells what waits to be told, unless a routine runs.
+    void Flush();
+
+    /// Has Flush run by the event loop, if anything waits.
+    void Schedule();
+
+    /// Runs the Validate of the control that has the focus, for a move to `target`. True when the focus must stay.
+    bool Refuses(const Control* target);
+
+    /// True when the control's visibility will be brought to the screen at the end of the change being told.
+    bool DeferVisibility(Control& control);
+
+    /// Brings deferred visibilities to the screen now, because a box is about to open.
+    void ShowDeferred();
+
+    void Forget(Control& control);
+
+    /// Sees each event before its receiver; true when it was eaten.
+    bool FilterInput(QObject* receiver, QEvent* event);
+
+private:
+    FocusController();
+    void OnFocusChanged(QWidget* old, QWidget* now);
+    void Enqueue(Control* control);
+    void Tell(Control* next);
+    bool FilterPress(QWidget* widget, QEvent* event);
+
+    Control* current_ = nullptr;
+    std::deque<Control*> waiting_;
+    std::vector<Control*> deferred_;
+    bool telling_ = false;
+    bool deferring_ = false;
+    bool validating_ = false;
+    bool scheduled_ = false;
+};
+
+} // namespace zelvia

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/Form.h"
+
+#include "toolkit/Events.h"
+#include "toolkit/Picture.h"
+
+#include <QCloseEvent>
+
+namespace zelvia
+{
+
+Form::Form(const QString& name) : sink_(new Picture(this, QString()))
+{
+    setObjectName(name);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    sink_->Widget().setGeometry(0, 0, 1, 1);
+}
+
+Form::~Form() = default;
+
+Control& Form::FocusSink()
+{
+    return *sink_;
+}
+
+Form* Form::Of(QWidget* widget)
+{
+    return widget == nullptr ? nullptr : qobject_cast<Form*>(widget->window());
+}
+
+void Form::showEvent(QShowEvent* event)
+{
+    if (focusWidget() == nullptr) {
+        FocusSink().Widget().setFocus(Qt::OtherFocusReason);
+    }
+    QWidget::showEvent(event);
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+    bool refused = false;
+    Fire([&] { refused = QueryUnload(); });
+    if (refused) {
+        event->ignore();
+        return;
+    }
+    if (!unloaded_) {
+        unloaded_ = true;
+        Fire([this] { OnUnload(); });
+        deleteLater();
+    }
+    event->accept();
+}
+
+} // namespace zelvia

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "toolkit/Control.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+namespace zelvia
+{
+
+/// A window of the program. It is created hidden; closing it asks QueryUnload, which may refuse, and then runs Unload
+/// once and releases the window.
+class Form : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Form(const QString& name);
+    ~Form() override;
+
+    /// The control that takes the focus when none should have it.
+    virtual Control& FocusSink();
+
+    /// Ends the window as its close box does. False when it refused.
+    bool Unload() { return close(); }
+
+    /// The window that `widget` lies in, or null when that is no window of the program.
+    static Form* Of(QWidget* widget);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+    /// True refuses to close.
+    virtual bool QueryUnload() { return false; }
+    virtual void OnUnload() {}
+
+private:
+    Control* sink_;
+    bool unloaded_ = false;
+};
+
+/// The place of a window that is created when first opened and released when it closes.
+template <typename Window>
+class FormSlot
+{
+public:
+    template <typename... Arguments>
+    Window& Load(Arguments&&... arguments)
+    {
+        if (form_.isNull()) {
+            form_ = new Window(std::forward<Arguments>(arguments)...);
+        }
+        return *form_;
+    }
+
+    bool Loaded() const { return !form_.isNull(); }
+
+    void Unload()
+    {
+        if (Loaded()) {
+            form_->Unload();
+        }
+    }
+
+private:
+    QPointer<Window> form_;
+};
+
+} // namespace zelvia

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/Label.h"
+
+#include "toolkit/Events.h"
+#include "toolkit/QtText.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace zelvia
+{
+
+Label::Label(QWidget* parent, const QString& name) : QLabel(parent), Control(this)
+{
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+Text Label::Caption() const
+{
+    return FromQString(text());
+}
+
+void Label::SetCaption(TextView caption)
+{
+    setText(ToQString(caption));
+}
+
+void Label::OnClick(std::function<void()> click)
+{
+    click_ = std::move(click);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void Label::mousePressEvent(QMouseEvent* event)
+{
+    pressed_ = event->button() == Qt::LeftButton;
+    event->accept();
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (pressed_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        pressed_ = false;
+        Fire(click_);
+    }
+    event->accept();
+}
+
+void Label::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (click_ && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)) {
+        Fire(click_);
+        return;
+    }
+    QLabel::keyPressEvent(event);
+}
+
+void Label::paintEvent(QPaintEvent* event)
+{
+    if (click_ && (hasFocus() || underMouse())) {
+        QPainter painter(this);
+        QColor tint = palette().color(QPalette::Highlight);
+        tint.setAlpha(hasFocus() ? 60 : 28);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(tint);
+        painter.drawRoundedRect(rect(), 3, 3);
+    }
+    QLabel::paintEvent(event);
+}
+
+} // namespace zelvia

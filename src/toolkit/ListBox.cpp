@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/ListBox.h"
+
+#include "toolkit/Events.h"
+#include "toolkit/QtText.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace zelvia
+{
+
+ListBox::ListBox(QWidget* parent, const QString& name) : QListWidget(parent), Control(this)
+{
+    setObjectName(name);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setUniformItemSizes(true);
+}
+
+Text ListBox::List(int index) const
+{
+    const QListWidgetItem* entry = item(index);
+    return entry == nullptr ? Text() : FromQString(entry->text());
+}
+
+std::vector<Text> ListBox::Items() const
+{
+    std::vector<Text> items;
+    items.reserve(static_cast<std::size_t>(count()));
+    for (int i = 0; i < count(); ++i) {
+        items.push_back(List(i));
+    }
+    return items;
+}
+
+void ListBox::AddItem(TextView text)
+{
+    addItem(ToQString(text));
+}
+
+void ListBox::RemoveItem(int index)
+{
+    // The entry that follows must not come up as the selected one.
+    delete takeItem(index);
+    SetListIndex(-1);
+}
+
+int ListBox::ListIndex() const
+{
+    const QList<QListWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : row(selected.first());
+}
+
+void ListBox::SetListIndex(int index)
+{
+    setCurrentRow(index, index < 0 ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
+}
+
+void ListBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton) {
+        QListWidget::mouseReleaseEvent(event);
+        if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr) {
+            Fire(Click);
+        }
+    }
+    Fire([&] {
+        if (MouseUp) {
+            MouseUp(event->button(), event->globalPosition().toPoint());
+        }
+    });
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr) {
+        Fire(DblClick);
+    }
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    const int keyAscii = key == Qt::Key_Return || key == Qt::Key_Enter ? 13 : key == Qt::Key_Escape ? 27 : 0;
+    if (keyAscii != 0) {
+        Fire([&] {
+            if (KeyPress) {
+                KeyPress(keyAscii);
+            }
+        });
+        return;
+    }
+    const int before = ListIndex();
+    QListWidget::keyPressEvent(event);
+    if (ListIndex() != before) {
+        Fire(Click);
+    }
+}
+
+void ListBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    event->accept();
+}
+
+} // namespace zelvia

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <QAction>
+#include <QKeySequence>
+
+#include <functional>
+#include <span>
+#include <vector>
+
+class QMenu;
+class QMenuBar;
+
+namespace zelvia
+{
+
+/// An entry of a menu; one without a caption is a separator.
+struct MenuEntry {
+    const char* name;
+    TextView caption;
+    std::function<void()> click;
+    QKeySequence shortcut = {};
+};
+
+enum class MenuKind {
+    Bar,  ///< A command first closes the field that is open.
+    PopUp ///< A command leaves everything open.
+};
+
+/// Fills `menu` with the entries in their order. An entry without a handler is there and does nothing.
+void FillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, MenuKind kind);
+
+/// Adds a menu of that name and caption to the bar.
+QMenu& AddMenu(QMenuBar& bar, const char* name, TextView caption, const std::vector<MenuEntry>& entries);
+
+} // namespace zelvia

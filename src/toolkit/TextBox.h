@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+#include "toolkit/Control.h"
+
+#include <QLineEdit>
+
+namespace zelvia
+{
+
+/// A single-line edit box. What is typed outside the character set is refused, what is pasted outside it becomes "?".
+/// The length limits typing and pasting, not what the program sets.
+class TextBox : public QLineEdit, public Control
+{
+    Q_OBJECT
+
+public:
+    /// `limit` is the longest text that can be typed, 0 for none.
+    TextBox(QWidget* parent, const QString& name, int limit = 0);
+
+    Text Content() const;
+    void SetContent(TextView text);
+    int Limit() const { return limit_; }
+
+    /// Sees each character before it is entered, Enter as 13, Escape as 27 and Backspace as 8; setting it to 0 throws
+    /// the key away.
+    std::function<void(int& keyAscii)> KeyPress;
+    std::function<void()> Click;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    bool Passes(int keyAscii);
+    bool TypeCharacters(const QString& characters);
+    void Paste(const QString& pasted);
+    int Room() const;
+
+    int limit_;
+    bool pressed_ = false;
+};
+
+} // namespace zelvia

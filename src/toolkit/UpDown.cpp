@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/UpDown.h"
+
+#include "toolkit/Events.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QTimerEvent>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace zelvia
+{
+namespace
+{
+
+// Milliseconds until a held arrow repeats, and between its repeats.
+constexpr int kRepeatDelay = 400;
+constexpr int kRepeatInterval = 60;
+
+} // namespace
+
+UpDown::UpDown(QWidget* parent, const QString& name) : QWidget(parent), Control(this)
+{
+    setObjectName(name);
+    setFocusPolicy(Qt::NoFocus);
+    setMouseTracking(true);
+    resize(kWidth, kHeight);
+}
+
+void UpDown::SetRange(int minimum, int maximum, int increment)
+{
+    minimum_ = minimum;
+    maximum_ = maximum;
+    increment_ = increment;
+}
+
+void UpDown::SetValue(i32 value)
+{
+    if (value != value_) {
+        value_ = value;
+        Fire(Change);
+    }
+}
+
+UpDown::Half UpDown::HalfAt(const QPointF& position) const
+{
+    if (!rect().contains(position.toPoint())) {
+        return Half::None;
+    }
+    return position.y() < height() / 2.0 ? Half::Upper : Half::Lower;
+}
+
+void UpDown::Step(Half half)
+{
+    const int value = value_.value();
+    if (half == Half::Upper) {
+        Fire(UpClick);
+        if (value < maximum_) {
+            SetValue(std::max(std::min(value + increment_, maximum_), minimum_));
+        }
+    } else if (half == Half::Lower) {
+        Fire(DownClick);
+        if (value > minimum_) {
+            SetValue(std::max(std::min(value - increment_, maximum_), minimum_));
+        }
+    }
+}
+
+void UpDown::StopRepeat()
+{
+    repeat_.stop();
+    repeating_ = false;
+    held_ = Half::None;
+    update();
+}
+
+void UpDown::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        held_ = HalfAt(event->position());
+        repeating_ = false;
+        repeat_.start(kRepeatDelay, this);
+        update();
+        Step(held_);
+        // A box that the step opened has taken the release.
+        if ((QGuiApplication::mouseButtons() & Qt::LeftButton) == 0) {
+            StopRepeat();
+        }
+    }
+}
+
+void UpDown::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    StopRepeat();
+}
+
+void UpDown::mouseMoveEvent(QMouseEvent* event)
+{
+    hovered_ = HalfAt(event->position());
+    update();
+}
+
+void UpDown::leaveEvent(QEvent* /*event*/)
+{
+    hovered_ = Half::None;
+    update();
+}
+
+void UpDown::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != repeat_.timerId()) {
+        return;
+    }
+    if (Routine::Running() || QGuiApplication::modalWindow() != nullptr) {
+        StopRepeat();
+        return;
+    }
+    if (!repeating_) {
+        repeating_ = true;
+        repeat_.start(kRepeatInterval, this);
+    }
+    if (held_ == hovered_ || hovered_ == Half::None) {
+        Step(held_);
+    }
+}
+
+void UpDown::hideEvent(QHideEvent* /*event*/)
+{
+    StopRepeat();
+}
+
+void UpDown::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus() && event->angleDelta().y() != 0) {
+        Step(event->angleDelta().y() > 0 ? Half::Upper : Half::Lower);
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void UpDown::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Up) {
+        Step(Half::Upper);
+    } else if (event->key() == Qt::Key_Down) {
+        Step(Half::Lower);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void UpDown::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QColor ink = palette().color(QPalette::WindowText);
+    painter.setPen(QPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid), 1));
+    painter.setBrush(palette().color(QPalette::Button));
+    painter.drawRoundedRect(frame, 3, 3);
+
+    const qreal middle = frame.center().y();
+    for (const Half half : {Half::Upper, Half::Lower}) {
+        const bool upper = half == Half::Upper;
+        const QRectF area(frame.left(), upper ? frame.top() : middle, frame.width(), frame.height() / 2);
+        if (half == held_ || half == hovered_) {
+            QColor tint = palette().color(QPalette::Highlight);
+            tint.setAlpha(half == held_ ? 110 : 50);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(tint);
+            painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 2, 2);
+        }
+        const QPointF centre = area.center();
+        const qreal rise = upper ? -2.2 : 2.2;
+        QPainterPath arrow;
+        arrow.moveTo(centre.x() - 4, centre.y() - rise);
+        arrow.lineTo(centre.x(), centre.y() + rise);
+        arrow.lineTo(centre.x() + 4, centre.y() - rise);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(arrow);
+    }
+}
+
+} // namespace zelvia

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Numbers.h"
+#include "toolkit/Control.h"
+
+#include <QBasicTimer>
+#include <QWidget>
+
+namespace zelvia
+{
+
+/// A spin control of two arrows: the upper half steps up, the lower half down, and again while held. It takes the focus
+/// by program only; wheel and arrow keys work while it has it. At its limit a step does nothing, there is no
+/// wrap-around. A value set by program is kept as it is, even beyond the limits.
+class UpDown : public QWidget, public Control
+{
+    Q_OBJECT
+    Q_PROPERTY(int value READ GetValue WRITE SetNumber)
+    Q_PROPERTY(int minimum READ Minimum)
+    Q_PROPERTY(int maximum READ Maximum)
+    Q_PROPERTY(int increment READ Increment)
+
+public:
+    UpDown(QWidget* parent, const QString& name);
+
+    void SetRange(int minimum, int maximum, int increment);
+    int Minimum() const { return minimum_; }
+    int Maximum() const { return maximum_; }
+    int Increment() const { return increment_; }
+
+    i32 Value() const { return value_; }
+    void SetValue(i32 value);
+
+    /// The value is another one than before, by hand or by program.
+    std::function<void()> Change;
+
+    /// A step by hand, whatever the value does.
+    std::function<void()> UpClick;
+    std::function<void()> DownClick;
+
+    static constexpr int kWidth = 20;
+    static constexpr int kHeight = 26;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    enum class Half { None, Upper, Lower };
+
+    int GetValue() const { return value_.value(); }
+    void SetNumber(int value) { SetValue(value); }
+    Half HalfAt(const QPointF& position) const;
+    void Step(Half half);
+    void StopRepeat();
+
+    i32 value_ = 0;
+    int minimum_ = 0;
+    int maximum_ = 10;
+    int increment_ = 1;
+    Half held_ = Half::None;
+    Half hovered_ = Half::None;
+    QBasicTimer repeat_;
+    bool repeating_ = false;
+};
+
+} // namespace zelvia
