@@ -8,9 +8,18 @@
 #include "core/SelectionLists.h"
 #include "daywindow/FrmInfo.h"
 #include "daywindow/PageControls.h"
+#include "daywindow/TimeAndPace.h"
+#include "routes/FrmDesPercorso.h"
+#include "routes/RoutePage.h"
+#include "statistics/ListaOrdinata.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
 #include "toolkit/Timer.h"
+
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <vector>
 
 class QMenu;
 class QMenuBar;
@@ -18,14 +27,18 @@ class QMenuBar;
 namespace zelvia
 {
 
+class CampoLista;
+class GruppoSpin;
+
 /// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
 /// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
-class frmMain : public Form, public PageControls
+class frmMain : public Form, public PageControls, public RoutePage
 {
     Q_OBJECT
 
 public:
     frmMain();
+    ~frmMain() override;
 
     /// The start of the program. False when another instance is running: the run is then to end without a word.
     bool FormLoad();
@@ -47,7 +60,8 @@ public:
     Text EsitoDir;
     int NuovoAnnullato = 0; ///< 1 once the dialog of a new file was cancelled; nothing clears it.
     i16 NoteAperte;
-    i16 ListaAperta;
+    i16 ListaAperta;   ///< Number of the list that last took the focus, 9 for the splits; 0 when none is open.
+    i16 LunghezzaNota; ///< Length of the note being typed.
 
     CommonDialog dlgCommonDialog;
 
@@ -110,6 +124,50 @@ public:
     void CaricaListaTempoAtm() { CaricaLista(ListaScelta::TempoAtm); }
     void CaricaListaTeperatura() { CaricaLista(ListaScelta::Temperatura); }
 
+    void ImmisPercorso() { Immis(ListaScelta::Percorso); }
+    void ImmisLunghezza() { Immis(ListaScelta::Lunghezza); }
+    void ImmisModo() { Immis(ListaScelta::Modo); }
+    void ImmisFondo() { Immis(ListaScelta::Fondo); }
+    void ImmisTipo() { Immis(ListaScelta::Tipo); }
+    void ImmisStagione() { Immis(ListaScelta::Stagione); }
+    void ImmisTempoAtm() { Immis(ListaScelta::TempoAtm); }
+    void ImmisTemperatura() { Immis(ListaScelta::Temperatura); }
+    /// Adds the box's trimmed text to the list if it is new there; 1 when the list held it already, else 0.
+    i16 AggiungiLista(TextBox& txt, ListBox& lst);
+    /// Fills in what is known of a route from the last day of the year that holds it.
+    void CopyLastRun(const Text& percorso);
+    /// Shows or hides the two entries of the pop-up that belong to the route.
+    void ShowRouteEntries(bool visible);
+    void mnuCancella_Click();
+    void mnuListaWOrdinata_Click();
+    void mnuDescrizionePercorso_Click();
+
+    // Routes.
+    /// Reserves a description for the text of the route's edit box, and opens it.
+    void SalvaNomePercorso();
+    /// The place of PercorsoCorrente among the descriptions, 0 when it has none.
+    i16 NumeroPercorso();
+    void SetDistance(i32 km, i32 metri) override;
+
+    // Time and pace.
+    /// 0 when nothing can be computed, 1 for time and average, 2 for the time only.
+    i16 ControlloTempiKm();
+    void TempoImpiegato();
+    void tempo();
+    void MediaKm(i32 ore, i32 minuti, i32 secondi);
+    /// Opens the sorted list of a route's times, the day on show as one of its lines.
+    void ListavOrdinata(const Text& percorso);
+    /// The same from the stored days only.
+    void ListavOrdinataDue(const Text& percorso);
+    void lstListaOrdinata_LostFocus();
+
+    // Notes and splits.
+    void lblNote_Click(int riga);
+    void txtNote_Click(int riga);
+    void txtNote_KeyPress(int riga, int keyAscii);
+    void mnuNote_Click();
+    void cmdListaKM_Click();
+
     // Options and help.
     void mnuAzzeraGiorno_Click();
     void mnuListaPrecedente_Click();
@@ -138,6 +196,10 @@ private:
     void BuildMenus(QMenuBar& bar);
     void ConnectControls();
     void ConnectSpins();
+    void ConnectLists();
+    void ConnectGroups();
+    void ConnectSplits();
+    void ConnectNotes();
 
     // Start.
     void ResetState();
@@ -184,7 +246,24 @@ private:
 
     void ShowHelp(int comando);
 
+    // Entry.
+    void Immis(ListaScelta lista);
+    void RemoveSelected(ListaScelta lista);
+    Orario StartTime() const;
+    Orario EndTime() const;
+    Orario ShowTimeTaken();
+    void BeginOrderedList();
+    void AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun);
+    void AddRunsOf(const Text& percorso, i16 ultimo);
+    void FillOrderedList(bool posizione);
+    void ShowRoute(const Text& nome);
+
+    BoundedArray<std::unique_ptr<CampoLista>, 1, 8> campiLista_;
+    std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
+    GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.
+    std::optional<ListaOrdinata> ListaTempi; ///< Alive while the sorted list is open.
     FormSlot<frmInfo> info_;
+    FormSlot<frmDesPercorso> desPercorso_;
 };
 
 } // namespace zelvia

@@ -60,6 +60,13 @@ void frmMain::ConnectControls()
     upMese->DownClick = [this] { upMese_DownClick(); };
     upMese->UpClick = [this] { upMese_UpClick(); };
     tmrFocus->Tick = [this] { tmrFocus_Timer(); };
+    lstListaOrdinata->LostFocus = [this] { lstListaOrdinata_LostFocus(); };
+    lstListaOrdinata->KeyPress = [this](int keyAscii) {
+        constexpr int escape = 27;
+        if (keyAscii == escape) {
+            lstListaOrdinata_LostFocus();
+        }
+    };
 }
 
 void frmMain::ConnectSpins()

@@ -6,7 +6,9 @@
 #include "core/DiaryFile.h"
 #include "core/Files.h"
 #include "core/Workspace.h"
+#include "daywindow/CampoLista.h"
 #include "daywindow/FrmMain.h"
+#include "daywindow/GruppoSpin.h"
 #include "daywindow/PageArt.h"
 #include "routes/RouteModel.h"
 #include "tables/TableModel.h"
@@ -49,7 +51,13 @@ frmMain::frmMain()
     BuildMenus(*bar);
     ConnectControls();
     ConnectSpins();
+    ConnectLists();
+    ConnectGroups();
+    ConnectSplits();
+    ConnectNotes();
 }
+
+frmMain::~frmMain() = default;
 
 bool frmMain::FormLoad()
 {
@@ -91,7 +99,7 @@ void frmMain::ResetState()
     NomeBaseFile.clear();
     EsitoDir.clear();
     NuovoAnnullato = 0;
-    NoteAperte = ListaAperta = 0;
+    NoteAperte = ListaAperta = LunghezzaNota = 0;
 }
 
 void frmMain::CaricaNomeFile()
@@ -170,6 +178,7 @@ void frmMain::mnuFileExit_Click()
 
 void frmMain::OnUnload()
 {
+    desPercorso_.Unload();
     info_.Unload();
 }
 

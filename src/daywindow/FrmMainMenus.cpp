@@ -27,7 +27,7 @@ void frmMain::BuildMenus(QMenuBar& bar)
              {"mnuFileBar4", {}, {}},
              {"mnuFileExit", "&Esci", [this] { mnuFileExit_Click(); }}});
     AddMenu(bar, "mnuOpzioni", "&Opzioni",
-            {{"mnuNote", "&Note", {}},
+            {{"mnuNote", "&Note", [this] { mnuNote_Click(); }},
              {"mnuAzzeraGiorno", "Az&zera Giorno", [this] { mnuAzzeraGiorno_Click(); }},
              {"mnuListaPrecedente", "Ripristina &Lista Precedente", [this] { mnuListaPrecedente_Click(); }},
              {"mnuListaIniziale", "Ripristina Lista &Iniziale", [this] { mnuListaIniziale_Click(); }}});
@@ -56,9 +56,9 @@ void frmMain::BuildMenus(QMenuBar& bar)
     mnuCancelladallaLista->setObjectName(QStringLiteral("mnuCancelladallaLista"));
     mnuCancelladallaLista->setTitle(QStringLiteral("&Cancella dalla Lista"));
     FillMenu(*mnuCancelladallaLista,
-             {{"mnuCancella", "&Cancella", {}},
-              {"mnuListaWOrdinata", "&Tempi", {}},
-              {"mnuDescrizionePercorso", "&Descrizione", {}}},
+             {{"mnuCancella", "&Cancella", [this] { mnuCancella_Click(); }},
+              {"mnuListaWOrdinata", "&Tempi", [this] { mnuListaWOrdinata_Click(); }},
+              {"mnuDescrizionePercorso", "&Descrizione", [this] { mnuDescrizionePercorso_Click(); }}},
              MenuKind::PopUp);
 }
 
@@ -70,6 +70,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Nuovo", &frmMain::mnuFileNuovo_Click},
         {"Save", &frmMain::mnuFileSave_Click},
         {"Help", &frmMain::mnuHelpContents_Click},
+        {"Note", &frmMain::mnuNote_Click},
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},

@@ -145,25 +145,6 @@ void ScaleTo(QPainter& painter, const QRectF& area)
 
 } // namespace
 
-QPalette PagePalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Window, Ink::Paper);
-    palette.setColor(QPalette::WindowText, Ink::Print);
-    palette.setColor(QPalette::Base, Ink::Slip);
-    palette.setColor(QPalette::AlternateBase, Ink::Paper);
-    palette.setColor(QPalette::Text, Ink::Pen);
-    palette.setColor(QPalette::Button, Ink::PaperShade);
-    palette.setColor(QPalette::ButtonText, Ink::PrintDark);
-    palette.setColor(QPalette::Mid, Ink::Rule.darker(120));
-    palette.setColor(QPalette::Highlight, Ink::Pen);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, Ink::Slip);
-    palette.setColor(QPalette::ToolTipText, Ink::PrintDark);
-    palette.setColor(QPalette::PlaceholderText, Ink::Rule);
-    return palette;
-}
-
 QFont PrintFont(int pixels, bool bold)
 {
     QFont font = PageFont("Times New Roman", pixels);

@@ -10,7 +10,7 @@
 namespace zelvia
 {
 
-Form::Form(const QString& name) : sink_(new Picture(this, QString()))
+Form::Form(const QString& name, QWidget* owner) : QWidget(owner, Qt::Window), sink_(new Picture(this, QString()))
 {
     setObjectName(name);
     setAttribute(Qt::WA_DeleteOnClose, false);

@@ -19,7 +19,8 @@ class Form : public QWidget
     Q_OBJECT
 
 public:
-    explicit Form(const QString& name);
+    /// A window with an owner stands over it and goes with it.
+    explicit Form(const QString& name, QWidget* owner = nullptr);
     ~Form() override;
 
     /// The control that takes the focus when none should have it.

@@ -29,11 +29,11 @@ void Label::SetCaption(TextView caption)
     setText(ToQString(caption));
 }
 
-void Label::OnClick(std::function<void()> click)
+void Label::OnClick(std::function<void()> click, KeyReach reach)
 {
     click_ = std::move(click);
-    setFocusPolicy(Qt::TabFocus);
-    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(reach == KeyReach::Reachable ? Qt::TabFocus : Qt::NoFocus);
+    setAttribute(Qt::WA_Hover, reach == KeyReach::Reachable);
 }
 
 void Label::mousePressEvent(QMouseEvent* event)
@@ -63,7 +63,7 @@ void Label::keyPressEvent(QKeyEvent* event)
 
 void Label::paintEvent(QPaintEvent* event)
 {
-    if (click_ && (hasFocus() || underMouse())) {
+    if (click_ && (hasFocus() || (testAttribute(Qt::WA_Hover) && underMouse()))) {
         QPainter painter(this);
         QColor tint = palette().color(QPalette::Highlight);
         tint.setAlpha(hasFocus() ? 60 : 28);

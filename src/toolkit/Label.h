@@ -10,6 +10,9 @@
 namespace zelvia
 {
 
+/// Whether the keyboard reaches what a click does.
+enum class KeyReach { Reachable, MouseOnly };
+
 /// A text on the page. It takes no focus from the mouse; one that acts when clicked can be reached with Tab and acts
 /// on Enter and Space too.
 class Label : public QLabel, public Control
@@ -22,12 +25,8 @@ public:
     Text Caption() const;
     void SetCaption(TextView caption);
 
-    /// Gives the label a click, and with it its place among the keys.
-    void OnClick(std::function<void()> click);
-
-    /// The label's own pointer: MousePointer::Default or MousePointer::Custom with the cursor given.
-    void SetPointer(const QCursor& cursor) { setCursor(cursor); }
-    void SetDefaultPointer() { unsetCursor(); }
+    /// Gives the label a click and, unless another control does the same for the keyboard, a place in the order of Tab.
+    void OnClick(std::function<void()> click, KeyReach reach = KeyReach::Reachable);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

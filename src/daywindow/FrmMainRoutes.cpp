@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The routes' descriptions as the page sees them.
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "daywindow/FrmMain.h"
+#include "routes/RouteModel.h"
+#include "routes/RouteTotals.h"
+#include "toolkit/QtText.h"
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+void frmMain::SalvaNomePercorso()
+{
+    Trap("SalvaNomePercorso - ERRORE : ", [this] {
+        const Text nome = Campo(ListaScelta::Percorso).txt->Content();
+        if (nome.empty() || PostoPercorso(nome).value_or(0) > 0) {
+            return;
+        }
+        const i16 libero = PrimoPostoLibero();
+        if (libero == 0) {
+            MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+            return;
+        }
+        NomiPercorso[libero] = nome;
+        ShowRoute(nome);
+    });
+}
+
+i16 frmMain::NumeroPercorso()
+{
+    i16 numero = 0;
+    Trap("NumeroPercorso - ERRORE : ", [&] { numero = PostoPercorso(PercorsoCorrente).value_or(0); });
+    return numero;
+}
+
+void frmMain::mnuDescrizionePercorso_Click()
+{
+    Trap("mnuDescrizionePercorso - ERRORE : ", [this] {
+        const ListBox& lst = *Campo(ListaScelta::Percorso).lst;
+        ShowRoute(lst.List(lst.ListIndex()));
+    });
+}
+
+void frmMain::ShowRoute(const Text& nome)
+{
+    frmDesPercorso& window = desPercorso_.Load(this, *this);
+    window.show();
+    window.setWindowTitle(ToQString("Percorso : " + nome));
+}
+
+void frmMain::SetDistance(i32 km, i32 metri)
+{
+    upKM->SetValue(km);
+    upMetri->SetValue(metri);
+}
+
+} // namespace zelvia

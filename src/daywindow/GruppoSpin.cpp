@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "daywindow/GruppoSpin.h"
+
+#include "core/RunTimeError.h"
+#include "daywindow/FrmMain.h"
+
+namespace zelvia
+{
+
+GruppoSpin::GruppoSpin(frmMain& page, Dati dati) : page_(page), dati_(std::move(dati))
+{
+    for (const Valore& valore : dati_.valori) {
+        valore.label->OnClick([this, &valore] {
+            Trap(valore.titolo + " - ERRORE : ", [&] {
+                if (valore.prova->Visible()) {
+                    page_.FocusSink().SetFocus();
+                } else {
+                    Apri(valore.apertura);
+                }
+            });
+        });
+    }
+    dati_.didascalia->OnClick(
+        [this] { Trap(dati_.titoloDidascalia + " - ERRORE : ", [this] { page_.FocusSink().SetFocus(); }); },
+        KeyReach::MouseOnly);
+    dati_.fuoco->LostFocus = [this] { Chiudi(); };
+}
+
+void GruppoSpin::Mostra(bool visible)
+{
+    for (Control* control : dati_.controlli) {
+        control->SetVisible(visible);
+    }
+}
+
+void GruppoSpin::Apri(const Text& apertura)
+{
+    Trap(apertura + " - ERRORE : ", [this] {
+        Mostra(true);
+        dati_.fuoco->SetFocus();
+        if (dati_.aperto) {
+            dati_.aperto();
+        }
+        page_.CursoreMano();
+    });
+}
+
+void GruppoSpin::Chiudi()
+{
+    Mostra(false);
+    if (dati_.chiuso) {
+        dati_.chiuso();
+    }
+    page_.CursoreNormale();
+}
+
+} // namespace zelvia

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+#include <optional>
+
+namespace zelvia
+{
+
+/// A time of day or a time taken; the hours of a time taken can be negative.
+struct Orario {
+    i32 ore;
+    i32 minuti;
+    i32 secondi;
+};
+
+/// What can be computed from the fields of a day.
+enum class Calcolo { Niente = 0, TempoEMedia = 1, SoloTempo = 2 };
+
+struct EsitoTempi {
+    Calcolo calcolo;
+    bool azzera; ///< Time and average of the day are to be blanked.
+    Text avviso; ///< A warning to be shown, or empty.
+};
+
+/// Decides what can be computed. The end time counts as given when any part of it is 1 or more; the start time plays no
+/// part. A warning does not change the result.
+EsitoTempi ControllaTempi(bool distanza, const Orario& inizio, const Orario& fine);
+
+/// `fine` less `inizio` within one day, with borrows; past midnight the hours come out negative.
+Orario TempoTrascorso(const Orario& inizio, const Orario& fine);
+
+/// Hours as plain digits, minutes and seconds with two.
+Text TestoTempo(const Orario& tempo);
+
+/// The average per kilometre from the caption of a distance such as 10,500 and a time taken, through the single
+/// precision of its steps; nothing when it is over 60 minutes. Raises error 13 for a caption that is no number, 6 or 11
+/// when the time or the distance is 0.
+std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo);
+
+} // namespace zelvia

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+#include "toolkit/Form.h"
+#include "toolkit/Label.h"
+#include "toolkit/TextBox.h"
+
+namespace zelvia
+{
+
+class RoutePage;
+
+/// The window that describes the stretches of one route, the one named by PercorsoCorrente. Closing it stores them and
+/// hands their total to the day page as its distance.
+class frmDesPercorso : public Form
+{
+    Q_OBJECT
+
+public:
+    /// Loads the route; the window stands over the page's window and blocks it while it is open.
+    frmDesPercorso(QWidget* owner, RoutePage& page);
+
+    void VisualizzaListaPercorso();
+    void CalcolaDistanza();
+    void AssegnaArray();
+    void AzzeraVideo();
+
+    Control& FocusSink() override { return *txtTratto[1]; }
+
+    BoundedArray<TextBox*, 1, 20> txtTratto;
+    BoundedArray<TextBox*, 1, 20> txtKm;
+    BoundedArray<TextBox*, 1, 20> txtMetri;
+    TextBox* txtDistanzaKm;
+    TextBox* txtDistanzaMetri;
+
+    i32 TotaleKm;
+    i32 TotaleMetri;
+    i32 RestoMetri;
+
+protected:
+    void OnUnload() override;
+
+private:
+    void BuildGrid();
+    void ConnectRow(int riga);
+    TextBox* MakeBox(const QString& name, int limit, const QRect& place, const QString& spoken);
+    void MakeLabel(const QString& name, TextView caption, const QRect& place);
+
+    RoutePage& page_;
+};
+
+} // namespace zelvia

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+#include "core/Date.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace zelvia
+{
+
+/// A list box that takes a classification, a line an entry.
+class CasellaTempi
+{
+public:
+    virtual ~CasellaTempi() = default;
+    virtual void AggiungiRiga(TextView riga) = 0;
+    /// From 0 on; -1 selects nothing.
+    virtual void Seleziona(int indice) = 0;
+};
+
+/// A list view that takes a classification, four columns an entry.
+class VistaTempi
+{
+public:
+    virtual ~VistaTempi() = default;
+    virtual void AggiungiRiga(TextView posizione, TextView tempo, TextView media, TextView data) = 0;
+};
+
+/// A list of up to 366 runs that is filled a day at a time, sorted by time taken and written out as a classification.
+/// A new one is made for each showing: CreaLista; for each run LOgiorno, LOtempo, LOmedia, LOdata, Trasforma and
+/// Incrementa; then Ordina and the writing.
+class ListaOrdinata
+{
+public:
+    void CreaLista();
+
+    // The entry being assembled.
+    void LOgiorno(i16 giorno) { GiornoCella = giorno; }
+    void LOtempo(TextView tempo) { TempoCella = tempo; }
+    void LOmedia(TextView media) { MediaCella = media; }
+    void LOdata(CalendarDate data) { DataCella = data; }
+
+    /// Takes the time of the entry apart. Hours and minutes without a colon of their own keep those of the entry
+    /// before; only the seconds are always set.
+    void Trasforma();
+
+    /// Adds the entry. Raises error 9 beyond 366 entries.
+    void Incrementa();
+
+    /// Sorts by time; of equal times the entry added last comes first, and one of 0:00:00 or of more than 99 hours is
+    /// dropped.
+    void Ordina();
+
+    void NuovaLista(VistaTempi* vista) { VistaLista = vista; }
+    void RiempiLista();
+    void NuovaListalst(CasellaTempi* casella) { CasellaLista = casella; }
+    void RiempiListalst();
+
+    /// Selects the row of the day assembled last, or none.
+    void Posizione();
+
+private:
+    static constexpr int kCapacity = 366;
+    template <typename T>
+    using Voci = BoundedArray<T, 0, kCapacity>;
+
+    int SmallestPlace() const;
+    void Clear(int posto);
+    Text TempoDi(int posto) const;
+
+    i16 GiornoCella;
+    Text TempoCella;
+    i16 OreCella;
+    i16 MinutiCella;
+    i16 SecondiCella;
+    Text MediaCella;
+    CalendarDate DataCella;
+    i16 NumeroVoci;
+    Voci<i16> VociGiorno; ///< 0 marks a free place.
+    Voci<i16> VociOre;
+    Voci<i16> VociMinuti;
+    Voci<i16> VociSecondi;
+    Voci<Text> VociMedia;
+    Voci<CalendarDate> VociData;
+    VistaTempi* VistaLista = nullptr;
+    CasellaTempi* CasellaLista = nullptr;
+};
+
+} // namespace zelvia
