@@ -55,7 +55,7 @@ inline std::string LineOf(TextView text)
 
 inline std::string LineOf(CalendarDate date)
 {
-    char line[16];
+    char line[32];
     std::snprintf(line, sizeof line, "#%04d-%02d-%02d#", int{date.Year().value()}, int{date.Month().value()},
                   int{date.Day().value()});
     return line;
