@@ -18,7 +18,15 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// Digits, at most one ".", a sign in front: what from_chars reads without its exponents and special names.
+/// True for a number of one or more, however many digits it has.
+bool HasWholePart(TextView digits)
+{
+    const TextView whole = digits.substr(0, digits.find('.'));
+    return whole.find_first_of("123456789") != TextView::npos;
+}
+
+/// Digits, at most one ".", a sign in front: what from_chars reads without its exponents and special names. A number
+/// too small for the type is 0.
 template <typename Float>
 Float ParsePlain(TextView digits)
 {
@@ -27,7 +35,7 @@ Float ParsePlain(TextView digits)
     }
     Float value = 0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
-    if (result.ec == std::errc::result_out_of_range) {
+    if (result.ec == std::errc::result_out_of_range && HasWholePart(digits)) {
         throw ErroreRunTime(Errore::Overflow);
     }
     return value;
@@ -60,9 +68,10 @@ Text LocaleDigits(TextView text)
     return digits;
 }
 
-/// Shortest decimal of at most `significant` digits, "." as point.
+/// Shortest decimal of at most `significant` digits, "." as point; a zero has no sign.
 Text Decimal(double number, int significant)
 {
+    number += 0.0; // Makes the negative zero a plain one.
     std::array<char, 512> buffer{};
     const auto general = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                        std::chars_format::scientific, significant - 1);

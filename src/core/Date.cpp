@@ -33,8 +33,8 @@ int DatePart(TextView text, std::size_t minDigits, std::size_t maxDigits)
 {
     int value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ptr != text.data() + text.size() || result.ec != std::errc() || value < 0 || text.size() < minDigits ||
-        text.size() > maxDigits) {
+    if (result.ptr != text.data() + text.size() || result.ec != std::errc() || text.starts_with('-') ||
+        text.size() < minDigits || text.size() > maxDigits) {
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }
     return value;

@@ -38,11 +38,12 @@ TextView TrimBlanks(TextView text)
 /// A number that is no plain run of digits: a fraction, an exponent, a sign in front.
 double ParseNumber(TextView text)
 {
-    if (text.starts_with('+')) {
+    const bool plus = text.starts_with('+');
+    if (plus) {
         text.remove_prefix(1);
     }
     const bool startsLikeNumber =
-        !text.empty() && (text[0] == '-' || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
+        !text.empty() && ((text[0] == '-' && !plus) || text[0] == '.' || (text[0] >= '0' && text[0] <= '9'));
     const bool named = text.find_first_not_of("+-.0123456789eE") != TextView::npos;
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
