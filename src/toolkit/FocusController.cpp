@@ -117,7 +117,7 @@ void FocusController::Tell(Control* next)
 
 void FocusController::SetFocus(Control& control)
 {
-    if (!control.Visible() || Refuses(&control)) {
+    if (!control.Visible() || !control.Widget().isEnabled() || Refuses(&control)) {
         return;
     }
     control.Widget().setFocus(Qt::OtherFocusReason);
@@ -186,6 +186,11 @@ bool FocusController::FilterInput(QObject* receiver, QEvent* event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         return receiver->isWidgetType() && FilterPress(static_cast<QWidget*>(receiver), event);
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+        // The press of this click may have moved the focus, and its handler must find that told.
+        Flush();
+        return false;
     case QEvent::KeyPress: {
         if (!receiver->isWidgetType()) {
             return false;

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/OtherProgram.h"
+
+#include "support/Hand.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <string_view>
+
+namespace
+{
+
+constexpr const char* kOption = "--other-program";
+
+} // namespace
+
+OtherProgram::OtherProgram(QWidget& window) : window_(window)
+{
+    if (hand::OnX11()) {
+        process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption)});
+        QVERIFY(process_.waitForStarted());
+    } else {
+        // There is no other application offscreen; this is what the platform reports when one comes to the front.
+        QApplication::setActiveWindow(nullptr);
+    }
+    QTRY_VERIFY(!window_.isActiveWindow());
+    QTRY_VERIFY(QApplication::focusWidget() == nullptr);
+}
+
+OtherProgram::~OtherProgram()
+{
+    if (process_.state() != QProcess::NotRunning) {
+        process_.kill();
+        process_.waitForFinished();
+    }
+}
+
+void OtherProgram::ChangeBack()
+{
+    if (hand::OnX11()) {
+        hand::Raw({QStringLiteral("keydown"), QStringLiteral("alt"), QStringLiteral("key"), QStringLiteral("Tab"),
+                   QStringLiteral("keyup"), QStringLiteral("alt")});
+    } else {
+        QApplication::setActiveWindow(&window_);
+    }
+    QTRY_VERIFY(window_.isActiveWindow());
+    QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+}
+
+bool OtherProgram::RanInstead(int argc, char* argv[])
+{
+    if (argc < 2 || std::string_view(argv[1]) != kOption) {
+        return false;
+    }
+    QApplication application(argc, argv);
+    QWidget window;
+    window.resize(200, 100);
+    window.show();
+    QCoreApplication::exec();
+    return true;
+}

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <QWidget>
+
+/// Another application in front of the window under test, for as long as the object lives. Under a window manager it
+/// is a process of its own that the user changes to and from with Alt+Tab.
+class OtherProgram
+{
+public:
+    /// Brings the other program to the front.
+    explicit OtherProgram(QWidget& window);
+    ~OtherProgram();
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+
+    /// Changes back to the window under test.
+    void ChangeBack();
+
+    /// The main function of the other program; to be asked first by the main function of the test. True when it ran.
+    static bool RanInstead(int argc, char* argv[]);
+
+private:
+    QWidget& window_;
+    QProcess process_;
+};
