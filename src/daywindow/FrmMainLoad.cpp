@@ -53,7 +53,7 @@ frmMain::frmMain()
 
 bool frmMain::FormLoad()
 {
-    if (!TakeInstanceLock()) {
+    if (!Application::Instance().TakeInstanceLock()) {
         return false;
     }
     const Routine routine;
