@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/BoxScript.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -49,6 +51,10 @@ void BoxScript::Look()
     LookLater();
     QWidget* window = QApplication::activeModalWidget();
     if (window == nullptr || !window->isVisible() || window == inHand_) {
+        return;
+    }
+    if (!window->isActiveWindow()) {
+        window->activateWindow();
         return;
     }
     const QPointer<QWidget> outer = std::exchange(inHand_, window);
@@ -122,7 +128,13 @@ void BoxScript::Answer(QFileDialog& dialog, const ExpectedDialog& expected)
         QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
         return;
     }
-    name->setText(expected.choose);
+    // Typed, since only typing gives up the file that the dialog has selected by itself.
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, expected.choose);
+    if (name->completer() != nullptr) {
+        name->completer()->popup()->hide();
+    }
     QAbstractButton* accept =
         buttons->button(expected.mode == QFileDialog::AcceptOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save);
     if (accept == nullptr || !accept->isEnabled()) {
