@@ -61,7 +61,7 @@ frmMain::~frmMain() = default;
 
 bool frmMain::FormLoad()
 {
-    if (!TakeInstanceLock()) {
+    if (!Application::Instance().TakeInstanceLock()) {
         return false;
     }
     const Routine routine;

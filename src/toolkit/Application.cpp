@@ -13,7 +13,6 @@
 #include <QImageReader>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QTranslator>
@@ -99,6 +98,15 @@ Application::~Application()
     SetMsgBoxHandler({});
 }
 
+bool Application::TakeInstanceLock()
+{
+    ReleaseInstanceLock();
+    QString path = ToQString(ProgramFolder() + "\\.zelvia.lock");
+    lock_ = std::make_unique<QLockFile>(path.replace(QLatin1Char('\\'), QLatin1Char('/')));
+    lock_->setStaleLockTime(0);
+    return lock_->tryLock() || lock_->error() != QLockFile::LockFailedError;
+}
+
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     return FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
@@ -133,14 +141,6 @@ QCursor LoadCursor(TextView path)
         throw ErroreRunTime(Errore::ImmagineNonValida);
     }
     return QCursor(QPixmap::fromImage(image), header[10] + 256 * header[11], header[12] + 256 * header[13]);
-}
-
-bool TakeInstanceLock()
-{
-    static QLockFile lock(QString::fromStdString(ToUtf8(ProgramFolder())).replace(QLatin1Char('\\'), QLatin1Char('/')) +
-                          QLatin1String("/.zelvia.lock"));
-    lock.setStaleLockTime(0);
-    return lock.tryLock() || lock.error() != QLockFile::LockFailedError;
 }
 
 } // namespace zelvia

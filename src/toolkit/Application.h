@@ -7,6 +7,9 @@
 #include <QApplication>
 #include <QCursor>
 #include <QFont>
+#include <QLockFile>
+
+#include <memory>
 
 namespace zelvia
 {
@@ -21,7 +24,17 @@ public:
     Application(int& argc, char** argv);
     ~Application() override;
 
+    static Application& Instance() { return *static_cast<Application*>(QCoreApplication::instance()); }
+
+    /// Takes the lock of the program's folder for the life of the application, giving up one taken before. False when
+    /// another run holds it; a folder that can't be written counts as free.
+    bool TakeInstanceLock();
+    void ReleaseInstanceLock() { lock_.reset(); }
+
     bool notify(QObject* receiver, QEvent* event) override;
+
+private:
+    std::unique_ptr<QLockFile> lock_;
 };
 
 /// A font by its name, with its metric kin as fallback; the size in logical pixels.
@@ -30,9 +43,5 @@ QFont PageFont(TextView family, int pixels);
 /// Reads a Windows cursor file with its hot spot. Raises error 53 or the like when it can't be opened, 481 when it
 /// holds no picture.
 QCursor LoadCursor(TextView path);
-
-/// Takes the lock of the program's folder for the life of the process. False when another run holds it; a folder that
-/// can't be written counts as free.
-bool TakeInstanceLock();
 
 } // namespace zelvia

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/BoxScript.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <utility>
+
+namespace zelvia::test
+{
+namespace
+{
+
+constexpr int kLookEvery = 5;
+
+QString Shown(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString Described(const QWidget& window)
+{
+    const auto* box = qobject_cast<const QMessageBox*>(&window);
+    return box != nullptr ? QStringLiteral("box ") + Shown(box->text())
+                          : QStringLiteral("window ") + Shown(window.windowTitle());
+}
+
+} // namespace
+
+BoxScript::BoxScript()
+{
+    LookLater();
+}
+
+void BoxScript::LookLater()
+{
+    QTimer::singleShot(kLookEvery, this, &BoxScript::Look);
+}
+
+void BoxScript::Look()
+{
+    // The next look is asked for first: an answer may bring up the next box before it returns.
+    LookLater();
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr || !window->isVisible() || window == inHand_) {
+        return;
+    }
+    if (!window->isActiveWindow()) {
+        window->activateWindow();
+        return;
+    }
+    const QPointer<QWidget> outer = std::exchange(inHand_, window);
+    Meet(*window);
+    inHand_ = outer;
+}
+
+void BoxScript::Meet(QWidget& window)
+{
+    auto* box = qobject_cast<QMessageBox*>(&window);
+    auto* dialog = qobject_cast<QFileDialog*>(&window);
+    const bool fits =
+        !steps_.empty() &&
+        (box != nullptr ? std::holds_alternative<ExpectedBox>(steps_.front().what)
+                        : dialog != nullptr && std::holds_alternative<ExpectedDialog>(steps_.front().what));
+    if (!fits) {
+        Note(QStringLiteral("not expected: ") + Described(window));
+        window.close();
+        return;
+    }
+    const Step step = std::move(steps_.front());
+    steps_.pop_front();
+    if (step.look) {
+        step.look();
+    }
+    if (box != nullptr) {
+        Answer(*box, std::get<ExpectedBox>(step.what));
+    } else {
+        Answer(*dialog, std::get<ExpectedDialog>(step.what));
+    }
+}
+
+void BoxScript::Answer(QMessageBox& box, const ExpectedBox& expected)
+{
+    const auto compare = [&](bool same, const QString& what) {
+        if (!same) {
+            Note(what + QStringLiteral(" of box ") + Shown(box.text()) + QStringLiteral(", expected ") +
+                 Shown(expected.text));
+        }
+    };
+    compare(box.text() == expected.text, QStringLiteral("text"));
+    compare(box.icon() == expected.icon, QStringLiteral("icon"));
+    compare(box.standardButtons() == expected.buttons, QStringLiteral("buttons"));
+    compare(box.windowTitle() == expected.title, QStringLiteral("title"));
+    QAbstractButton* button = box.button(expected.press);
+    compare(button != nullptr, QStringLiteral("missing button"));
+    if (button != nullptr) {
+        QTest::mouseClick(button, Qt::LeftButton);
+    } else {
+        box.close();
+    }
+}
+
+void BoxScript::Answer(QFileDialog& dialog, const ExpectedDialog& expected)
+{
+    const auto compare = [&](const QString& got, const QString& wanted, const char* what) {
+        if (got != wanted) {
+            Note(QLatin1String(what) + QStringLiteral(" of a dialog: ") + Shown(got) + QStringLiteral(", expected ") +
+                 Shown(wanted));
+        }
+    };
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* filters = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    compare(dialog.windowTitle(), expected.title, "title");
+    compare(filters->count() == 1 ? filters->currentText() : QStringLiteral("several"), expected.filter, "filter");
+    compare(dialog.directory().path(), expected.directory, "directory");
+    compare(QString::number(dialog.acceptMode()), QString::number(expected.mode), "mode");
+    compare(name->text(), expected.preset, "preset name");
+    if (expected.choose.isNull()) {
+        QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+        return;
+    }
+    // Typed, since only typing gives up the file that the dialog has selected by itself.
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, expected.choose);
+    if (name->completer() != nullptr) {
+        name->completer()->popup()->hide();
+    }
+    QAbstractButton* accept =
+        buttons->button(expected.mode == QFileDialog::AcceptOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save);
+    if (accept == nullptr || !accept->isEnabled()) {
+        Note(QStringLiteral("the dialog does not accept ") + Shown(expected.choose));
+        dialog.reject();
+        return;
+    }
+    QTest::mouseClick(accept, Qt::LeftButton);
+}
+
+QString BoxScript::Problems() const
+{
+    QStringList all = problems_;
+    for (const Step& step : steps_) {
+        const auto* box = std::get_if<ExpectedBox>(&step.what);
+        all << QStringLiteral("did not come: ") +
+                   Shown(box != nullptr ? box->text : std::get<ExpectedDialog>(step.what).title);
+    }
+    return all.join(QLatin1Char('\n'));
+}
+
+ExpectedBox Report(const QString& text)
+{
+    return {text};
+}
+
+} // namespace zelvia::test

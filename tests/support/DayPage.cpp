@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/DayPage.h"
+
+#include "core/Files.h"
+#include "tables/TableModel.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QWindow>
+
+namespace zelvia::test
+{
+
+DayPage::DayPage(CalendarDate today)
+{
+    SetProgramFolder(folder.System());
+    SetClock([today] { return today; });
+}
+
+DayPage::~DayPage()
+{
+    delete page_;
+    Module1::AzzeraAnno();
+    Module1::AzzeraStato();
+    Module1::AzzeraTabella();
+    Application::Instance().ReleaseInstanceLock();
+    SetClock({});
+    SetProgramFolder({});
+}
+
+void DayPage::Start()
+{
+    page_ = new frmMain;
+    QVERIFY(page_->FormLoad());
+    page_->show();
+    page_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowExposed(page_));
+    QVERIFY(QTest::qWaitForWindowActive(page_));
+}
+
+void DayPage::ClickAt(QWidget& widget, QPoint place) const
+{
+    QWidget& window = *widget.window();
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&window, place));
+}
+
+void DayPage::Click(QWidget& widget) const
+{
+    ClickAt(widget, widget.rect().center());
+}
+
+void DayPage::Up(UpDown& spin) const
+{
+    spin.SetVisible(true);
+    ClickAt(spin, {spin.width() / 2, spin.height() / 4});
+}
+
+void DayPage::Down(UpDown& spin) const
+{
+    spin.SetVisible(true);
+    ClickAt(spin, {spin.width() / 2, spin.height() - spin.height() / 4});
+}
+
+void DayPage::Menu(const char* menu, Qt::Key entry) const
+{
+    auto* bar = page_->findChild<QMenuBar*>();
+    auto* opened = page_->findChild<QMenu*>(QLatin1String(menu));
+    QVERIFY2(opened != nullptr, menu);
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(opened->menuAction()).center());
+    QTRY_VERIFY(opened->isVisible());
+    QTest::keyClick(opened, entry);
+}
+
+QString DayPage::Caption(const char* name) const
+{
+    const auto* object = page_->findChild<QObject*>(QLatin1String(name));
+    return object != nullptr ? object->property("text").toString() : QStringLiteral("nothing has this name");
+}
+
+void DayPage::GoTo(int slot) const
+{
+    while (Module1::GiornoCorrente < slot) {
+        Up(*page_->upGiorno);
+    }
+    while (Module1::GiornoCorrente > slot) {
+        Down(*page_->upGiorno);
+    }
+}
+
+ExpectedDialog DayPage::OpenDialog(const QString& preset, const QString& choose) const
+{
+    return {QStringLiteral("Apri"),
+            QStringLiteral("File Zelvia (*. zlv)"),
+            QFileDialog::AcceptOpen,
+            folder.Native(QStringLiteral("ZelviaFile")),
+            preset,
+            choose};
+}
+
+ExpectedDialog DayPage::SaveDialog(const QString& preset, const QString& choose) const
+{
+    return {QStringLiteral("Salva con nome"),
+            QStringLiteral("File Zelvia (*.zlv)"),
+            QFileDialog::AcceptSave,
+            folder.Native(QStringLiteral("ZelviaFile")),
+            preset,
+            choose};
+}
+
+ExpectedDialog DayPage::NewDialog(const QString& choose) const
+{
+    ExpectedDialog dialog = SaveDialog({}, choose);
+    dialog.title = QStringLiteral("Nuovo file");
+    return dialog;
+}
+
+ExpectedBox DayPage::OverwriteQuestion(const QString& title, const QString& name,
+                                       QMessageBox::StandardButton press) const
+{
+    const QString question =
+        QCoreApplication::translate("QFileDialog", "%1 already exists.\nDo you want to replace it?").arg(name);
+    return {question, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No, press, title};
+}
+
+void ExpectSaveReports(BoxScript& script)
+{
+    for (const char* list : {"Percorso", "Lunghezza", "Modo", "Fondo", "Tipo", "TempoAtm", "Temperatura"}) {
+        script.Expect(
+            Report(QStringLiteral("SalvaLista%1 - ERRORE : 76 Cartella non trovata").arg(QLatin1String(list))));
+    }
+    script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
+    script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
+}
+
+} // namespace zelvia::test

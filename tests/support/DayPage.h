@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Date.h"
+#include "core/Module1.h"
+#include "daywindow/FrmMain.h"
+#include "support/BoxScript.h"
+#include "support/ProgramFolderCopy.h"
+#include "toolkit/Application.h"
+#include "toolkit/QtText.h"
+
+#include <QPointer>
+#include <QTest>
+
+#include <memory>
+
+namespace zelvia::test
+{
+
+/// The main window of a test on a program folder of its own, worked by real keys and clicks. The folder is there from
+/// the first, the window from Start() on.
+class DayPage
+{
+public:
+    explicit DayPage(CalendarDate today = CalendarDate(2026, 5, 20));
+    ~DayPage();
+    DayPage(const DayPage&) = delete;
+    DayPage& operator=(const DayPage&) = delete;
+
+    const ProgramFolderCopy folder;
+    BoxScript script;
+
+    /// Loads the window and shows it.
+    void Start();
+    frmMain& Page() const { return *page_; }
+    frmMain* operator->() const { return page_; }
+    bool Gone() const { return page_.isNull(); }
+
+    /// A click in the middle of a widget.
+    void Click(QWidget& widget) const;
+    /// A click on an arrow of a spin control; one that is hidden is shown first.
+    void Up(UpDown& spin) const;
+    void Down(UpDown& spin) const;
+    /// Opens a menu of the bar with the mouse and presses the key of an entry.
+    void Menu(const char* menu, Qt::Key entry) const;
+
+    /// What a label, a menu entry or a window of that name shows.
+    QString Caption(const char* name) const;
+    /// The record of the day shown.
+    static RecordGiorno& Day() { return Module1::Giorni[Module1::GiornoCorrente]; }
+    /// Moves to a slot by clicks on the arrows of the day.
+    void GoTo(int slot) const;
+
+    // Dialogs as the commands show them; `choose` none cancels.
+    ExpectedDialog OpenDialog(const QString& preset, const QString& choose = {}) const;
+    ExpectedDialog SaveDialog(const QString& preset, const QString& choose = {}) const;
+    ExpectedDialog NewDialog(const QString& choose = {}) const;
+    /// Qt's own question before a file is replaced.
+    ExpectedBox OverwriteQuestion(const QString& title, const QString& name, QMessageBox::StandardButton press) const;
+
+private:
+    void ClickAt(QWidget& widget, QPoint place) const;
+
+    QPointer<frmMain> page_;
+};
+
+/// The reports of a missing folder, one for each file that a save writes into it, in the order of the files.
+void ExpectSaveReports(BoxScript& script);
+
+} // namespace zelvia::test
+
+/// The main function of a test program of the day page.
+#define DAY_PAGE_TEST_MAIN(Test)                                                                                       \
+    int main(int argc, char* argv[])                                                                                   \
+    {                                                                                                                  \
+        zelvia::Application application(argc, argv);                                                                   \
+        zelvia::Application::setQuitOnLastWindowClosed(false);                                                         \
+        Test test;                                                                                                     \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
