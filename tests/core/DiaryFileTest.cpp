@@ -10,8 +10,10 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdint>
+#include <cstdio>
 #include <limits>
 #include <random>
 #include <sys/resource.h>
