@@ -129,8 +129,8 @@ const LabelRow kRace[] = {
 };
 
 const SpinRow kDateSpins[] = {
-    {&P::upGiorno, "upGiorno", 0, 31, 1, 0, QRect(500, 39, 24, 30), "giorno"},
-    {&P::upMese, "upMese", 0, 12, 1, 0, QRect(530, 39, 24, 30), "mese"},
+    {&P::upGiorno, "upGiorno", 0, 31, 1, 0, QRect(500, 40, 24, 32), "giorno"},
+    {&P::upMese, "upMese", 0, 12, 1, 0, QRect(542, 40, 24, 32), "mese"},
 };
 
 const SpinRow kSpins[] = {
@@ -286,15 +286,17 @@ void MakeDateFrame(QWidget* page)
     const struct {
         const char* name;
         QRect place;
+        QColor ink;
     } bars[] = {
-        {"chkBordoSup", {48, 28, 528, 2}},     {"chkBordoSup2", {48, 32, 528, 1}},
-        {"chkBordoInf", {48, 78, 528, 2}},     {"chkBarraGiorno1", {48, 40, 1, 32}},
-        {"chkBarraGiorno2", {494, 40, 1, 32}}, {"chkBarraGiorno3", {527, 40, 1, 32}},
-        {"chkBarraGiorno4", {560, 40, 1, 32}},
+        {"chkBordoSup", {48, 28, 528, 2}, Ink::Accent},   {"chkBordoSup2", {48, 32, 528, 1}, Ink::Accent},
+        {"chkBordoInf", {48, 78, 528, 2}, Ink::Accent},   {"chkBarraGiorno1", {48, 33, 1, 45}, Ink::Rule},
+        {"chkBarraGiorno2", {491, 33, 1, 45}, Ink::Rule}, {"chkBarraGiorno3", {533, 33, 1, 45}, Ink::Rule},
+        {"chkBarraGiorno4", {575, 33, 1, 45}, Ink::Rule},
     };
     for (const auto& bar : bars) {
-        auto* rule = new Picture(page, QLatin1String(bar.name),
-                                 [](QPainter& painter, const QRectF& area) { painter.fillRect(area, Ink::Accent); });
+        auto* rule = new Picture(page, QLatin1String(bar.name), [ink = bar.ink](QPainter& painter, const QRectF& area) {
+            painter.fillRect(area, ink);
+        });
         rule->setGeometry(bar.place);
     }
 }

@@ -13,7 +13,7 @@ inline constexpr QRect kLeftPage{24, 12, 576, 624};
 inline constexpr QRect kRightPage{600, 12, 576, 624};
 
 // Left page: the head, then one row a field.
-inline constexpr QRect kDate{48, 30, 440, 44};
+inline constexpr QRect kDate{49, 34, 440, 43};
 inline constexpr int kCaptionLeft = 56;
 inline constexpr int kCaptionWidth = 108;
 inline constexpr int kValueLeft = 168;
