@@ -177,6 +177,21 @@ std::vector<Text> FilesIn(TextView folder)
     return names;
 }
 
+void DeleteFile(TextView path)
+{
+    const fs::path native = NativePath(path);
+    std::error_code failed;
+    if (fs::is_directory(native, failed)) {
+        throw ErroreRunTime(Errore::AccessoPercorso);
+    }
+    if (!fs::remove(native, failed)) {
+        if (!failed || failed.value() == ENOENT) {
+            RaiseForMissing(native, OpenMode::Input);
+        }
+        throw ErroreRunTime(ErrorOfErrno(failed.value()));
+    }
+}
+
 void MakeFolder(TextView path)
 {
     const fs::path native = NativePath(path);

@@ -44,6 +44,9 @@ Text FindFolder(TextView path);
 /// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent.
 std::vector<Text> FilesIn(TextView folder);
 
+/// Deletes a file. Raises error 53 when it is absent, 75 for a folder or without permission.
+void DeleteFile(TextView path);
+
 /// Raises error 75 when the folder exists or can't be made, 76 when its parent is missing.
 void MakeFolder(TextView path);
 

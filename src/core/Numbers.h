@@ -79,6 +79,16 @@ Target RoundTo(double value)
     return Target(static_cast<std::int64_t>(rounded));
 }
 
+/// A quotient of floats; raises error 6 for 0 by 0, 11 for anything else by 0.
+template <std::floating_point Float>
+Float Quotient(Float dividend, Float divisor)
+{
+    if (divisor == 0) {
+        throw ErroreRunTime(dividend == 0 ? Errore::Overflow : Errore::DivisionePerZero);
+    }
+    return dividend / divisor;
+}
+
 /// Drops the fraction towards zero.
 inline double Fix(double value)
 {

@@ -12,6 +12,8 @@
 #include "routes/FrmDesPercorso.h"
 #include "routes/RoutePage.h"
 #include "statistics/ListaOrdinata.h"
+#include "tables/TablePage.h"
+#include "tables/TableWindows.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
 #include "toolkit/Timer.h"
@@ -32,7 +34,7 @@ class GruppoSpin;
 
 /// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
 /// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
-class frmMain : public Form, public PageControls, public RoutePage
+class frmMain : public Form, public PageControls, public RoutePage, public TablePage
 {
     Q_OBJECT
 
@@ -85,6 +87,8 @@ public:
     void DatiAnno();
 
     // Panels of the right page.
+    /// Walks the active table up to the day shown and shows the row reached.
+    void AssegnaTabella();
     void AzzeraDatiTabella();
     void NessunaTabella();
     void TabAllenamentiVisibili() { ShowTablePanel(true); }
@@ -149,6 +153,10 @@ public:
     i16 NumeroPercorso();
     void SetDistance(i32 km, i32 metri) override;
 
+    // Training tables.
+    void SetActiveTableName(TextView nome) override { lblTabNomeFile->SetCaption(nome); }
+    void RequestTableReading() override { lblTimerTab->SetCaption("1"); }
+
     // Time and pace.
     /// 0 when nothing can be computed, 1 for time and average, 2 for the time only.
     i16 ControlloTempiKm();
@@ -172,6 +180,7 @@ public:
     void mnuAzzeraGiorno_Click();
     void mnuListaPrecedente_Click();
     void mnuListaIniziale_Click();
+    void mnuAllenamenti_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
@@ -226,6 +235,8 @@ private:
     void ShowTablePanel(bool visible);
     void ShowRacePanel(bool visible);
     void ShowActiveTable();
+    void ShowTableRow(i16 riga);
+    void EndTable();
 
     // Files.
     KeptState KeepAndReset();
@@ -262,6 +273,7 @@ private:
     std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
     GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.
     std::optional<ListaOrdinata> ListaTempi; ///< Alive while the sorted list is open.
+    TableWindows tables_;
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
 };

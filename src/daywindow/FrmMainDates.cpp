@@ -24,6 +24,9 @@ void frmMain::Data()
         lblNumGiornoAnno->SetCaption(PlainText(GiornoCorrente));
         AzzeraDatiTabella();
         NascondiRiquadriGara();
+        if (!NomeTabellaAttiva.empty()) {
+            AssegnaTabella();
+        }
     });
 }
 

@@ -7,6 +7,7 @@
 #include "core/Workspace.h"
 #include "daywindow/FrmMain.h"
 #include "tables/TableModel.h"
+#include "tables/TableWalk.h"
 #include "toolkit/Application.h"
 
 #include <array>
@@ -149,6 +150,44 @@ void frmMain::ShowActiveTable()
 {
     lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
     LeggiTabella(NomeTabellaAttiva);
+    AssegnaTabella();
+}
+
+void frmMain::AssegnaTabella()
+{
+    Trap("AssegnaTabella - ERRORE : ", [this] {
+        const EsitoCammino esito = CamminaTabella();
+        if (esito.stato == EsitoCammino::Stato::Finita) {
+            EndTable();
+        } else if (esito.stato == EsitoCammino::Stato::InCorso) {
+            ShowTableRow(esito.riga);
+        }
+    });
+}
+
+/// Switches the used-up table off.
+void frmMain::EndTable()
+{
+    MsgBox("  FINE ALLENAMENTI  -  LA TABELLA :  " + NomeSenzaCartella(NomeTabellaAttiva) +
+               " -  VIENE DISATTIVATA      ",
+           MsgButtons::OK, MsgIcon::Information);
+    NomeTabellaAttiva.clear();
+    lblTabNomeFile->SetCaption("");
+    AzzeraDatiTabella();
+    SalvaNomeTabella();
+}
+
+void frmMain::ShowTableRow(i16 riga)
+{
+    const RigaPiano row = RigaDellaTabella(riga);
+    const auto digits = [](i16 number) { return PlainText(number); };
+    lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metri));
+    lblTempoTab->SetCaption(digits(row.ore) + ":" + digits(row.minuti) + ":" + digits(row.secondi));
+    lblMediaTab->SetCaption(digits(row.mediaMinuti) + ":" + digits(row.mediaSecondi));
+    lblAndaturaTab->SetCaption(row.andatura);
+    lblFondoTab->SetCaption(row.fondo);
+    lblRipetizioniTab->SetCaption(digits(row.ripetVolte) + " x " + digits(row.ripetDistanza) + "  @  " +
+                                  digits(row.ripetQuante) + ":" + digits(row.ripetTempi));
 }
 
 void frmMain::ShowTablePanel(bool visible)

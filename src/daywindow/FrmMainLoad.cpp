@@ -36,7 +36,7 @@ constexpr int kTickMilliseconds = 500;
 
 frmMain::frmMain()
     : Form(QStringLiteral("frmMain")), tmrFocus(new Timer(this, QStringLiteral("tmrFocus"), kTickMilliseconds)),
-      mnuCancelladallaLista(new QMenu(this))
+      mnuCancelladallaLista(new QMenu(this)), tables_(*this)
 {
     setWindowTitle(QStringLiteral("Zelvia"));
     auto* bar = new QMenuBar(this);
@@ -178,6 +178,8 @@ void frmMain::mnuFileExit_Click()
 
 void frmMain::OnUnload()
 {
+    tables_.UnloadEditor();
+    tables_.UnloadList();
     desPercorso_.Unload();
     info_.Unload();
 }

@@ -31,7 +31,8 @@ void frmMain::BuildMenus(QMenuBar& bar)
              {"mnuAzzeraGiorno", "Az&zera Giorno", [this] { mnuAzzeraGiorno_Click(); }},
              {"mnuListaPrecedente", "Ripristina &Lista Precedente", [this] { mnuListaPrecedente_Click(); }},
              {"mnuListaIniziale", "Ripristina Lista &Iniziale", [this] { mnuListaIniziale_Click(); }}});
-    AddMenu(bar, "mnuTabelle", "&Tabelle", {{"mnuAllenamenti", "&Allenamenti", {}}, {"mnuGare", "&Gare", {}}});
+    AddMenu(bar, "mnuTabelle", "&Tabelle",
+            {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }}, {"mnuGare", "&Gare", {}}});
     AddMenu(bar, "mnuStatistiche", "&Statistiche",
             {{"mnuMedie", "&Medie", {}},
              {"mnuStatBar", {}, {}},
@@ -71,6 +72,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Save", &frmMain::mnuFileSave_Click},
         {"Help", &frmMain::mnuHelpContents_Click},
         {"Note", &frmMain::mnuNote_Click},
+        {"Allenamenti", &frmMain::mnuAllenamenti_Click},
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},
@@ -80,6 +82,16 @@ void frmMain::DispatchCommand(TextView key)
             (this->*handler)();
         }
     }
+}
+
+void frmMain::mnuAllenamenti_Click()
+{
+    Trap("mnuAllenamenti - ERRORE : ", [this] {
+        frmTabAllenamenti& list = tables_.List();
+        list.show();
+        list.raise();
+        list.activateWindow();
+    });
 }
 
 void frmMain::mnuHelpContents_Click()

@@ -38,16 +38,6 @@ i32 SecondsOf(const Orario& tempo)
     return tempo.ore == 0 && tempo.minuti == 0 && tempo.secondi > 0 ? tempo.secondi : i32(0);
 }
 
-/// A quotient as the language of the diary computes it: 0 by 0 is an overflow, anything else by 0 a division by zero.
-template <typename Float>
-Float Quotient(Float dividend, Float divisor)
-{
-    if (divisor == 0) {
-        throw ErroreRunTime(dividend == 0 ? Errore::Overflow : Errore::DivisionePerZero);
-    }
-    return dividend / divisor;
-}
-
 } // namespace
 
 EsitoTempi ControllaTempi(bool distanza, const Orario& inizio, const Orario& fine)

@@ -48,6 +48,11 @@ void Label::mouseReleaseEvent(QMouseEvent* event)
         pressed_ = false;
         Fire(click_);
     }
+    Fire([&] {
+        if (MouseUp) {
+            MouseUp(event->button(), event->globalPosition().toPoint());
+        }
+    });
     event->accept();
 }
 

@@ -28,6 +28,9 @@ public:
     /// Gives the label a click and, unless another control does the same for the keyboard, a place in the order of Tab.
     void OnClick(std::function<void()> click, KeyReach reach = KeyReach::Reachable);
 
+    /// A button was released over the label.
+    std::function<void(Qt::MouseButton button, const QPoint& globalPosition)> MouseUp;
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

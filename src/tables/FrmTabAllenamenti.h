@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+#include "toolkit/Button.h"
+#include "toolkit/Form.h"
+#include "toolkit/ListBox.h"
+
+namespace zelvia
+{
+
+class TableWindows;
+
+/// The list of the training tables in the diary's folder: opens, creates and deletes them.
+class frmTabAllenamenti : public Form
+{
+    Q_OBJECT
+
+public:
+    explicit frmTabAllenamenti(TableWindows& windows);
+
+    Control& FocusSink() override { return *flbListaTabelle; }
+
+    void cmdOK_Click();
+    void cmdNuovaTab_Click();
+    void cmdCancellaTab_Click();
+
+    /// Reads the folder again.
+    void RefreshList();
+    /// Selects the first entry that is the active table, case ignored; with none the selection stays.
+    void SelectActive();
+
+    ListBox* flbListaTabelle;
+    Button* cmdOK;
+    Button* cmdNuovaTab;
+    Button* cmdCancellaTab;
+    Button* cmdEsci;
+
+private:
+    Text Selected() const;
+    void ShowEditor();
+
+    TableWindows& windows_;
+};
+
+} // namespace zelvia

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tables/FrmAllenamento.h"
+#include "tables/FrmTabAllenamenti.h"
+#include "toolkit/Form.h"
+
+namespace zelvia
+{
+
+class TablePage;
+
+/// The two windows of the training tables, which open and refresh each other.
+class TableWindows
+{
+public:
+    explicit TableWindows(TablePage& page) : page_(page) {}
+
+    TablePage& Page() { return page_; }
+    frmTabAllenamenti& List() { return list_.Load(*this); }
+    frmAllenamento& Editor() { return editor_.Load(*this); }
+    void UnloadEditor() { editor_.Unload(); }
+    void UnloadList() { list_.Unload(); }
+
+private:
+    TablePage& page_;
+    FormSlot<frmTabAllenamenti> list_;
+    FormSlot<frmAllenamento> editor_;
+};
+
+} // namespace zelvia
