@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A day between its record and the controls: what is shown, what is stored, what counts as a change.
 #include "support/DayPage.h"
+#include "support/DiaryBytes.h"
 
 #include <vector>
 
@@ -212,14 +213,18 @@ void CommitTest::visitsStampTheDateOnly()
 
 void CommitTest::notesWithoutAControlSurvive()
 {
+    const QString file = QStringLiteral("ZelviaFile/prova.zlv");
+    DiaryBytes expected(SampleFile(file));
+    expected.SetLine(kSlot, DiaryBytes::Notes, "\"prima\"");
+    expected.SetLine(kSlot, DiaryBytes::Notes + 1, "\"seconda\"");
     DayPage page(CalendarDate(2026, 3, 1));
+    page.folder.Write(file, expected.Bytes());
     page.Start();
-    Module1::Giorni[kSlot].Note[1] = "prima";
-    Module1::Giorni[kSlot].Note[2] = "seconda";
-    page->upKM->SetValue(17);
     ShowAgain(page, kSlot);
-    QCOMPARE(Module1::Giorni[kSlot].Note[1], Text("prima"));
-    QCOMPARE(Module1::Giorni[kSlot].Note[2], Text("seconda"));
+    page.Menu("mnuFile", Qt::Key_S);
+    expected.Visit(kSlot, QDate(2026, 3, 1));
+    expected.Visit(kSlot + 1, QDate(2026, 3, 2));
+    QVERIFY(page.folder.Read(file) == expected.Bytes());
     VERIFY_SCRIPT(page.script);
 }
 

@@ -110,7 +110,6 @@ private Q_SLOTS:
     void spinLimits();
     void captionsOfTheNewWindow_data();
     void captionsOfTheNewWindow();
-    void visibleAtRest_data();
     void visibleAtRest();
     void dateHasItsFaceAndTips();
     void textBoxesHoldTheirLength_data();
@@ -178,52 +177,39 @@ void ControlsTest::captionsOfTheNewWindow()
     QCOMPARE(label->property("text").toString(), caption);
 }
 
-void ControlsTest::visibleAtRest_data()
-{
-    QTest::addColumn<bool>("visible");
-    const auto add = [](const char* prefix, const char* name, bool visible) {
-        QTest::newRow(qPrintable(QLatin1String(prefix) + QLatin1String(name))) << visible;
-    };
-    for (const char* field : kFields) {
-        add("lbl", field, true);
-        add("lblImmis", field, true);
-        add("txt", field, false);
-        add("lst", field, false);
-    }
-    for (const char* line : {"3", "4", "5", "6", "7", "8", "9", "10"}) {
-        add("lblNote", line, true);
-        add("txtNote", line, false);
-    }
-    for (const char* name :
-         {"lblKm", "lblOraInizio", "lblOraFine", "lblCorridori", "lblPeso", "lblTempoKm", "lblRipetizioni"}) {
-        add("", name, true);
-    }
-    for (const char* name : kAlwaysShown) {
-        add("", name, true);
-    }
-    for (const char* name : kPlanPanel) {
-        add("", name, true);
-    }
-    for (const char* name : kRacePanel) {
-        add("", name, false);
-    }
-    for (const char* name : kHiddenAtRest) {
-        add("", name, false);
-    }
-    for (const SpinRow& spin : kSpins) {
-        add("", spin.name, false);
-    }
-}
-
 void ControlsTest::visibleAtRest()
 {
-    QFETCH(bool, visible);
     DayPage page; // a day without a race
     page.Start();
     VERIFY_SCRIPT(page.script);
-    const QWidget* control = Named(page.Page(), QLatin1String(QTest::currentDataTag()));
-    QVERIFY(control != nullptr);
-    QCOMPARE(control->isVisible(), visible);
+    const auto check = [&](const QString& name, bool visible) {
+        const QWidget* control = Named(page.Page(), name);
+        QVERIFY2(control != nullptr, qPrintable(name));
+        QVERIFY2(control->isVisible() == visible, qPrintable(name));
+    };
+    const auto checkAll = [&](const auto& names, bool visible) {
+        for (const char* name : names) {
+            check(QLatin1String(name), visible);
+        }
+    };
+    for (const char* field : kFields) {
+        check(QLatin1String("lbl") + QLatin1String(field), true);
+        check(QLatin1String("lblImmis") + QLatin1String(field), true);
+        check(QLatin1String("txt") + QLatin1String(field), false);
+        check(QLatin1String("lst") + QLatin1String(field), false);
+    }
+    for (int line = 3; line <= 10; ++line) {
+        check(QStringLiteral("lblNote%1").arg(line), true);
+        check(QStringLiteral("txtNote%1").arg(line), false);
+    }
+    checkAll(kHandLabels, true);
+    checkAll(kAlwaysShown, true);
+    checkAll(kPlanPanel, true);
+    checkAll(kRacePanel, false);
+    checkAll(kHiddenAtRest, false);
+    for (const SpinRow& spin : kSpins) {
+        check(QLatin1String(spin.name), false);
+    }
 }
 
 void ControlsTest::dateHasItsFaceAndTips()
