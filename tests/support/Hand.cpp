@@ -140,6 +140,8 @@ QPoint Middle(const QWidget& widget)
 
 void Raw(const QStringList& words)
 {
+    // A window that has just closed must not be in the way.
+    QGuiApplication::sync();
     QProcess xdotool;
     xdotool.start(QStringLiteral("xdotool"), words);
     QVERIFY2(xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0,
