@@ -7,6 +7,7 @@ set -euo pipefail
 source_folder=$(dirname "$(readlink -f "$0")")
 . "$source_folder/packaging/packages.sh"
 . "$source_folder/packaging/folder-check.sh"
+. "$source_folder/packaging/sample-year.sh"
 
 usage() {
   cat <<'TEXT'
@@ -43,18 +44,6 @@ demo_folder() {
     return 2
   fi
   echo "$folder"
-}
-
-# Copies the sample year into a folder that has no diary yet, the diary last: an interrupted copy is taken up again. A
-# file that is there stays as it is.
-lay_sample_year() {
-  local file
-  [ ! -e "$1/ZelviaFile/prova.zlv" ] || return 0
-  mkdir -p -- "$1/prova"
-  for file in "$source_folder"/share/demo/prova/*; do
-    [ -e "$1/prova/${file##*/}" ] || cp -- "$file" "$1/prova/"
-  done
-  cp -- "$source_folder/share/demo/ZelviaFile/prova.zlv" "$1/ZelviaFile/"
 }
 
 demo=

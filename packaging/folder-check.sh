@@ -6,7 +6,7 @@
 # "." in it, and keeps paths as Windows-1252 between double quotes, with backslashes. A folder that upsets one of these
 # rules would lose the user's data on the first save, so it is refused before anything is laid there.
 
-# folder_resolve FOLDER: sets `folder_path` to its absolute path without symbolic links. Fails on links in a circle.
+# folder_resolve FOLDER: sets `folder_path` to its absolute path without symbolic links. Links in a circle stay in it.
 folder_resolve() {
   IFS= read -r -d '' folder_path < <(realpath -mz -- "$1" 2>/dev/null)
 }
@@ -34,6 +34,11 @@ folder_obstacle() {
     return
   fi
   while [ ! -e "$place" ]; do
+    if [ -L "$place" ]; then
+      # The path has been resolved: a link that is left leads back to itself.
+      echo "i collegamenti del percorso girano in tondo."
+      return
+    fi
     place=$(dirname -- "$place")
   done
   if [ ! -d "$place" ]; then
@@ -53,11 +58,9 @@ folder_check() {
   if [ -z "$1" ]; then
     obstacle="il nome della cartella è vuoto."
     folder_path=
-  elif folder_resolve "$1"; then
-    obstacle=$(folder_obstacle "$folder_path")
   else
-    obstacle="i collegamenti del percorso girano in tondo."
-    folder_path=$1
+    folder_resolve "$1"
+    obstacle=$(folder_obstacle "$folder_path")
   fi
   [ -n "$obstacle" ] || return 0
   echo "Zelvia non può stare in «$folder_path»: $obstacle" >&2

@@ -36,7 +36,7 @@ ended() { ! running; }
 
 page=
 page_up() {
-  page=$(xdotool search --onlyvisible --all --class '^zelvia$' --name '^Zelvia$' 2>/dev/null | head -n 1) || true
+  page=$(xdotool search --onlyvisible --class '^zelvia$' 2>/dev/null | head -n 1) || true
   [ -n "$page" ] || ended
 }
 
