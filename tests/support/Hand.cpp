@@ -80,6 +80,18 @@ void Do(const QStringList& words, QEvent::Type awaited, int count = 1)
     }
 }
 
+/// Runs xdotool and returns what it wrote.
+QByteArray Output(const QStringList& words)
+{
+    // A window that has just closed must not be in the way.
+    QGuiApplication::sync();
+    QProcess xdotool;
+    xdotool.start(QStringLiteral("xdotool"), words);
+    const bool done = xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0;
+    QTest::qVerify(done, "xdotool", qPrintable(words.join(QLatin1Char(' '))), __FILE__, __LINE__);
+    return xdotool.readAllStandardOutput();
+}
+
 QStringList PointAt(QWidget& widget, QPoint position)
 {
     const QPoint inWindow = widget.mapTo(widget.window(), position);
@@ -140,12 +152,12 @@ QPoint Middle(const QWidget& widget)
 
 void Raw(const QStringList& words)
 {
-    // A window that has just closed must not be in the way.
-    QGuiApplication::sync();
-    QProcess xdotool;
-    xdotool.start(QStringLiteral("xdotool"), words);
-    QVERIFY2(xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0,
-             qPrintable(QLatin1String("xdotool ") + words.join(QLatin1Char(' '))));
+    Output(words);
+}
+
+WId ManagersActiveWindow()
+{
+    return Output({QStringLiteral("getactivewindow")}).trimmed().toULongLong();
 }
 
 void MoveTo(QWidget& widget, QPoint position)

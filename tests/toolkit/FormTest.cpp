@@ -127,6 +127,7 @@ void FormTest::TheCloseBoxUnloads()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     if (hand::OnX11()) {
+        QTRY_COMPARE(hand::ManagersActiveWindow(), form.winId());
         hand::Raw({QStringLiteral("key"), QStringLiteral("alt+F4")});
     } else {
         form.windowHandle()->close();
