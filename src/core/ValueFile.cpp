@@ -229,8 +229,28 @@ ValueReader::Value ValueReader::Next()
     return buffer_[position_] == '"' ? NextQuoted() : NextPlain();
 }
 
+/// Takes the value that nearly every line of a diary is: a text in quotes and CR LF, all of it in the buffer. False
+/// when something else stands here, and nothing is taken then.
+bool ValueReader::InputQuotedLine(Text& text)
+{
+    const TextView rest = TextView(buffer_).substr(position_);
+    if (!rest.starts_with('"')) {
+        return false;
+    }
+    const std::size_t close = rest.find('"', 1);
+    if (close == TextView::npos || !rest.substr(close + 1).starts_with("\r\n")) {
+        return false;
+    }
+    text.assign(rest.data() + 1, close - 1);
+    position_ += close + 3;
+    return true;
+}
+
 void ValueReader::Input(Text& text)
 {
+    if (InputQuotedLine(text)) {
+        return;
+    }
     const Value value = Next();
     text.assign(value.bytes);
     if (value.quoted) {

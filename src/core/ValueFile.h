@@ -69,6 +69,7 @@ private:
         bool quoted;
     };
 
+    bool InputQuotedLine(Text& text);
     Value Next();
     Value NextQuoted();
     Value NextPlain();

@@ -281,14 +281,17 @@ void frmMain::mnuFileNuovo_Click()
         if (annullato == 1) {
             return;
         }
-        const Text fileName = dlgCommonDialog.FileName;
         const KeptState kept = KeepAndReset();
         DataMinima = CalendarDate(2001, 1, 1);
         DataMassima = CalendarDate(2099, 12, 31);
         NuovoFile(kept.nomeFile);
         if (NuovoAnnullato == 1) {
             PutBack(kept);
-            dlgCommonDialog.FileName = fileName;
+            // A cancelled dialog leaves no name, and the next save asks for one. A name that was chosen in vain gives
+            // way to the old diary, over which the next save then writes.
+            if (!dlgCommonDialog.FileName.empty()) {
+                dlgCommonDialog.FileName = NomeFile;
+            }
             return;
         }
         AzzeraPercorsi();

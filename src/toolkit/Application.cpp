@@ -6,6 +6,7 @@
 #include "core/Files.h"
 #include "core/MessageBox.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
 #include "toolkit/QtText.h"
 
@@ -46,10 +47,10 @@ QMessageBox::Icon QtIcon(MsgIcon icon)
 
 MsgAnswer ShowMessageBox(const MsgRequest& request)
 {
-    FocusController::Instance().ShowDeferred();
+    const BoxUp up;
     QMessageBox box(QtIcon(request.icon),
                     request.title.empty() ? QApplication::applicationDisplayName() : ToQString(request.title),
-                    QString(), QtButtons(request.buttons), QApplication::activeWindow());
+                    QString(), QtButtons(request.buttons), up.Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(request.text));
     switch (box.exec()) {

@@ -5,10 +5,9 @@
 #include "core/Conversions.h"
 #include "core/Files.h"
 #include "core/RunTimeError.h"
-#include "toolkit/FocusController.h"
+#include "toolkit/Events.h"
 #include "toolkit/QtText.h"
 
-#include <QApplication>
 #include <QFileDialog>
 
 namespace zelvia
@@ -50,8 +49,8 @@ Text ChosenPath(const QString& native)
 
 std::optional<Text> ShowDialog(const CommonDialog& settings, FileDialogMode mode)
 {
-    FocusController::Instance().ShowDeferred();
-    QFileDialog dialog(QApplication::activeWindow());
+    const BoxUp up;
+    QFileDialog dialog(up.Owner());
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setWindowTitle(ToQString(settings.DialogTitle));

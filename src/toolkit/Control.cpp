@@ -3,7 +3,6 @@
 #include "toolkit/Control.h"
 
 #include "toolkit/FocusController.h"
-#include "toolkit/Form.h"
 
 namespace zelvia
 {
@@ -25,10 +24,8 @@ void Control::SetVisible(bool visible)
 
 void Control::ApplyVisible()
 {
-    if (!visible_ && widget_->hasFocus()) {
-        if (Form* form = Form::Of(widget_)) {
-            form->FocusSink().Widget().setFocus(Qt::OtherFocusReason);
-        }
+    if (!visible_) {
+        FocusController::Instance().LeaveHidden(*this);
     }
     widget_->setVisible(visible_);
     if (visible_) {

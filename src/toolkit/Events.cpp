@@ -5,6 +5,8 @@
 #include "core/RunTimeError.h"
 #include "toolkit/FocusController.h"
 
+#include <QApplication>
+
 namespace zelvia
 {
 namespace
@@ -29,6 +31,18 @@ Routine::~Routine()
 bool Routine::Running()
 {
     return depth > 0;
+}
+
+BoxUp::BoxUp() : owner_(QApplication::activeWindow())
+{
+    FocusController::Instance().ShowDeferred();
+}
+
+BoxUp::~BoxUp()
+{
+    if (!owner_.isNull() && owner_->isVisible() && !owner_->isActiveWindow()) {
+        owner_->activateWindow();
+    }
 }
 
 void Fire(const std::function<void()>& handler)

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
+
 #include <functional>
 
 namespace zelvia
@@ -18,6 +21,24 @@ public:
     Routine& operator=(const Routine&) = delete;
 
     static bool Running();
+};
+
+/// Alive while a message box or a dialog of the program's own is up. What a change of focus has hidden so far is
+/// hidden, and afterwards the window that was active is so again.
+class BoxUp
+{
+public:
+    BoxUp();
+    ~BoxUp();
+    BoxUp(const BoxUp&) = delete;
+    BoxUp& operator=(const BoxUp&) = delete;
+
+    /// The window that the box belongs to, or null.
+    QWidget* Owner() const { return owner_; }
+
+private:
+    Routine routine_;
+    QPointer<QWidget> owner_;
 };
 
 /// Runs the handler of an event, if there is one. An error that no trap of its own took is reported under the bare

@@ -34,6 +34,27 @@ Control* FocusTarget(QWidget* widget)
     return control != nullptr ? control : &form->FocusSink();
 }
 
+Control* SinkOf(const Control& control)
+{
+    Form* form = Form::Of(&control.Widget());
+    return form == nullptr ? nullptr : &form->FocusSink();
+}
+
+/// True for the keys that move the focus on.
+bool Moves(const QKeyEvent& event)
+{
+    const bool tab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    return tab && (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+}
+
+/// True when the control has the focus of its window, be that the active one or not.
+bool HoldsFocus(const Control& control)
+{
+    const QWidget& widget = control.Widget();
+    const QWidget* focused = widget.window()->focusWidget();
+    return focused != nullptr && (focused == &widget || widget.isAncestorOf(focused));
+}
+
 } // namespace
 
 FocusController& FocusController::Instance()
@@ -49,15 +70,15 @@ FocusController::FocusController()
 
 void FocusController::OnFocusChanged(QWidget* /*old*/, QWidget* now)
 {
-    if (Control* target = FocusTarget(now)) {
+    Control* target = FocusTarget(now);
+    if (target != nullptr && (displaced_ == nullptr || target != SinkOf(*displaced_))) {
         Enqueue(target);
     }
 }
 
 void FocusController::Enqueue(Control* control)
 {
-    const Control* last = waiting_.empty() ? current_ : waiting_.back();
-    if (control != last) {
+    if (control != Focused()) {
         waiting_.push_back(control);
         Schedule();
     }
@@ -105,14 +126,37 @@ void FocusController::Tell(Control* next)
     }
     deferring_ = false;
     ShowDeferred();
-    // A box that came up meanwhile may have hidden, for its time, the control that now shows again.
-    if (waiting_.empty() && current_ != nullptr && current_->Visible()) {
-        QWidget& widget = current_->Widget();
-        if (widget.window()->isActiveWindow() && !widget.hasFocus() &&
-            !widget.isAncestorOf(QApplication::focusWidget())) {
-            widget.setFocus(Qt::OtherFocusReason);
-        }
+    Settle();
+}
+
+/// A box that came up while a change was told may have hidden, for its time, the control that has the focus.
+void FocusController::Settle()
+{
+    const Control* displaced = std::exchange(displaced_, nullptr);
+    if (current_ == nullptr || !waiting_.empty()) {
+        return;
     }
+    if (current_->Visible()) {
+        if (!HoldsFocus(*current_)) {
+            current_->Widget().setFocus(Qt::OtherFocusReason);
+        }
+    } else if (displaced == current_) {
+        Enqueue(SinkOf(*current_));
+    }
+}
+
+void FocusController::LeaveHidden(Control& control)
+{
+    Control* sink = SinkOf(control);
+    if (sink == nullptr || sink == &control || !HoldsFocus(control)) {
+        return;
+    }
+    if (deferring_ && &control == current_) {
+        displaced_ = &control;
+    } else {
+        Enqueue(sink);
+    }
+    sink->Widget().setFocus(Qt::OtherFocusReason);
 }
 
 void FocusController::SetFocus(Control& control)
@@ -126,28 +170,26 @@ void FocusController::SetFocus(Control& control)
 
 void FocusController::LeaveField()
 {
-    if (current_ == nullptr && waiting_.empty()) {
-        return;
-    }
-    Control* focused = waiting_.empty() ? current_ : waiting_.back();
-    if (Form* form = Form::Of(&focused->Widget())) {
-        form->FocusSink().Widget().setFocus(Qt::OtherFocusReason);
-        Enqueue(&form->FocusSink());
+    Control* focused = Focused();
+    if (Control* sink = focused == nullptr ? nullptr : SinkOf(*focused)) {
+        sink->Widget().setFocus(Qt::OtherFocusReason);
+        Enqueue(sink);
     }
     Flush();
 }
 
 bool FocusController::Refuses(const Control* target)
 {
-    if (validating_ || current_ == nullptr || current_ == target || !current_->Validate || !current_->Visible()) {
+    const Control* focused = Focused();
+    if (validating_ || focused == nullptr || focused == target || !focused->Validate || !focused->Visible()) {
         return false;
     }
-    if (target != nullptr && target->Widget().window() != current_->Widget().window()) {
+    if (target != nullptr && target->Widget().window() != focused->Widget().window()) {
         return false;
     }
     validating_ = true;
     bool refused = false;
-    Fire([&] { refused = current_->Validate(); });
+    Fire([&] { refused = focused->Validate(); });
     validating_ = false;
     return refused;
 }
@@ -162,8 +204,9 @@ bool FocusController::DeferVisibility(Control& control)
 
 void FocusController::ShowDeferred()
 {
-    // One that shows first: hiding the last visible control of a window would make it flicker.
-    const std::vector<Control*> controls = std::exchange(deferred_, {});
+    // What shows comes first: it may have been given the focus, which then does not pass through the sink.
+    std::vector<Control*> controls = std::exchange(deferred_, {});
+    std::stable_partition(controls.begin(), controls.end(), [](const Control* control) { return control->Visible(); });
     for (Control* control : controls) {
         if (control->Visible() != control->Widget().isVisibleTo(control->Widget().parentWidget())) {
             control->ApplyVisible();
@@ -175,6 +218,9 @@ void FocusController::Forget(Control& control)
 {
     if (current_ == &control) {
         current_ = nullptr;
+    }
+    if (displaced_ == &control) {
+        displaced_ = nullptr;
     }
     std::erase(waiting_, &control);
     std::erase(deferred_, &control);
@@ -196,10 +242,8 @@ bool FocusController::FilterInput(QObject* receiver, QEvent* event)
             return false;
         }
         Flush();
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        const bool moves = key == Qt::Key_Tab || key == Qt::Key_Backtab;
-        return moves && current_ != nullptr && ControlOf(static_cast<QWidget*>(receiver)) == current_ &&
-               Refuses(nullptr);
+        return Moves(*static_cast<QKeyEvent*>(event)) && current_ != nullptr &&
+               ControlOf(static_cast<QWidget*>(receiver)) == current_ && Refuses(nullptr);
     }
     default: return false;
     }
@@ -213,7 +257,8 @@ bool FocusController::FilterPress(QWidget* widget, QEvent* event)
         // A right press neither selects nor takes the focus; the list acts when the button is released.
         return true;
     }
-    const bool takesFocus = target != nullptr && (target->Widget().focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus;
+    const bool takesFocus = target != nullptr && target->Widget().isEnabled() &&
+                            (target->Widget().focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus;
     return takesFocus && Refuses(target);
 }
 

@@ -49,6 +49,9 @@ public:
     /// Brings deferred visibilities to the screen now, because a box is about to open.
     void ShowDeferred();
 
+    /// Sends the focus of a control that is about to be hidden to the sink of its window.
+    void LeaveHidden(Control& control);
+
     void Forget(Control& control);
 
     /// Sees each event before its receiver; true when it was eaten.
@@ -58,12 +61,15 @@ private:
     FocusController();
     void OnFocusChanged(QWidget* old, QWidget* now);
     void Enqueue(Control* control);
+    Control* Focused() const { return waiting_.empty() ? current_ : waiting_.back(); }
+    void Settle();
     void Tell(Control* next);
     bool FilterPress(QWidget* widget, QEvent* event);
 
     Control* current_ = nullptr;
     std::deque<Control*> waiting_;
     std::vector<Control*> deferred_;
+    Control* displaced_ = nullptr; ///< Hidden for the time of a box while the change that gave it the focus is told.
     bool telling_ = false;
     bool deferring_ = false;
     bool validating_ = false;

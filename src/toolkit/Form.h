@@ -29,6 +29,9 @@ public:
     /// Ends the window as its close box does. False when it refused.
     bool Unload() { return close(); }
 
+    /// True from its unloading on; it is released a moment later.
+    bool Unloaded() const { return unloaded_; }
+
     /// The window that `widget` lies in, or null when that is no window of the program.
     static Form* Of(QWidget* widget);
 
@@ -53,13 +56,13 @@ public:
     template <typename... Arguments>
     Window& Load(Arguments&&... arguments)
     {
-        if (form_.isNull()) {
+        if (!Loaded()) {
             form_ = new Window(std::forward<Arguments>(arguments)...);
         }
         return *form_;
     }
 
-    bool Loaded() const { return !form_.isNull(); }
+    bool Loaded() const { return !form_.isNull() && !form_->Unloaded(); }
 
     void Unload()
     {

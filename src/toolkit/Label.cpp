@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace zelvia
 {
 
@@ -44,8 +46,8 @@ void Label::mousePressEvent(QMouseEvent* event)
 
 void Label::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (pressed_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        pressed_ = false;
+    if (event->button() == Qt::LeftButton && std::exchange(pressed_, false) &&
+        rect().contains(event->position().toPoint())) {
         Fire(click_);
     }
     Fire([&] {

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <utility>
+
 namespace zelvia
 {
 
@@ -60,11 +62,19 @@ void ListBox::SetListIndex(int index)
     setCurrentRow(index, index < 0 ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
 }
 
+void ListBox::mousePressEvent(QMouseEvent* event)
+{
+    pressed_ = event->button() == Qt::LeftButton;
+    QListWidget::mousePressEvent(event);
+}
+
 void ListBox::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::RightButton) {
         QListWidget::mouseReleaseEvent(event);
-        if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr) {
+        // The second release of a double click is none of its own.
+        if (event->button() == Qt::LeftButton && std::exchange(pressed_, false) &&
+            itemAt(event->position().toPoint()) != nullptr) {
             Fire(Click);
         }
     }

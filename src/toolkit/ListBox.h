@@ -40,10 +40,14 @@ public:
     std::function<void(Qt::MouseButton button, const QPoint& globalPosition)> MouseUp;
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    bool pressed_ = false;
 };
 
 } // namespace zelvia

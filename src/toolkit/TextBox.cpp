@@ -7,16 +7,14 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 
 #include <algorithm>
 #include <limits>
-#include <memory>
+#include <utility>
 
 namespace zelvia
 {
@@ -39,9 +37,10 @@ int ControlKey(int key)
     }
 }
 
-bool IsPrintable(const QString& text)
+/// True for the codes of keys that enter no character: control characters, those of the second block too.
+bool IsControl(char32_t character)
 {
-    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); });
+    return character < ' ' || (character >= 0x7F && character < 0xA0);
 }
 
 } // namespace
@@ -83,18 +82,18 @@ bool TextBox::Passes(int keyAscii)
     return keyAscii != 0;
 }
 
-/// Enters characters one by one as the keys they stand for; false when nothing of them was for the box.
+/// Enters characters one by one as the keys they stand for, but for those outside the set. False when there is none, or
+/// none that a key enters.
 bool TextBox::TypeCharacters(const QString& characters)
 {
-    if (!IsPrintable(characters)) {
+    const QList<uint> codePoints = characters.toUcs4();
+    if (codePoints.isEmpty() || IsControl(codePoints.first())) {
         return false;
     }
-    if (!IsInCharacterSet(characters)) {
-        return true;
-    }
-    for (const QChar character : characters) {
-        if (Passes(ByteOf(character.unicode())) && Room() > 0) {
-            insert(QString(character));
+    for (const char32_t codePoint : codePoints) {
+        const int byte = IsControl(codePoint) ? -1 : ByteOf(codePoint);
+        if (byte >= 0 && Passes(byte) && Room() > 0) {
+            insert(QString(QChar(static_cast<char16_t>(codePoint))));
         }
     }
     return true;
@@ -103,7 +102,7 @@ bool TextBox::TypeCharacters(const QString& characters)
 void TextBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Paste)) {
-        Paste(QApplication::clipboard()->text());
+        paste();
         return;
     }
     const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0 &&
@@ -162,22 +161,15 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     QLineEdit::mouseReleaseEvent(event);
-    if (pressed_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        pressed_ = false;
+    if (event->button() == Qt::LeftButton && std::exchange(pressed_, false) &&
+        rect().contains(event->position().toPoint())) {
         Fire(Click);
     }
 }
 
-void TextBox::contextMenuEvent(QContextMenuEvent* event)
+void TextBox::paste()
 {
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    for (QAction* action : menu->actions()) {
-        if (action->objectName() == QLatin1String("edit-paste")) {
-            action->disconnect();
-            connect(action, &QAction::triggered, this, [this] { Paste(QApplication::clipboard()->text()); });
-        }
-    }
-    menu->exec(event->globalPos());
+    Paste(QApplication::clipboard()->text());
 }
 
 void TextBox::dropEvent(QDropEvent* event)

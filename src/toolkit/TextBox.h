@@ -29,12 +29,15 @@ public:
     std::function<void(int& keyAscii)> KeyPress;
     std::function<void()> Click;
 
+public Q_SLOTS:
+    /// Takes the place of the base's: the context menu pastes by the rules of this box.
+    void paste();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:

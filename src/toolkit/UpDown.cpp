@@ -4,7 +4,6 @@
 
 #include "toolkit/Events.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,6 +12,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zelvia
 {
@@ -22,6 +22,9 @@ namespace
 // Milliseconds until a held arrow repeats, and between its repeats.
 constexpr int kRepeatDelay = 400;
 constexpr int kRepeatInterval = 60;
+
+// What one notch of a common wheel turns, in eighths of a degree.
+constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
 
 } // namespace
 
@@ -77,21 +80,28 @@ void UpDown::StopRepeat()
     repeat_.stop();
     repeating_ = false;
     held_ = Half::None;
+    window()->removeEventFilter(this);
     update();
+}
+
+bool UpDown::eventFilter(QObject* watched, QEvent* event)
+{
+    // A box that a step opened takes the release.
+    if (event->type() == QEvent::WindowBlocked) {
+        StopRepeat();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void UpDown::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        held_ = HalfAt(event->position());
+        held_ = hovered_ = HalfAt(event->position());
         repeating_ = false;
         repeat_.start(kRepeatDelay, this);
+        window()->installEventFilter(this);
         update();
         Step(held_);
-        // A box that the step opened has taken the release.
-        if ((QGuiApplication::mouseButtons() & Qt::LeftButton) == 0) {
-            StopRepeat();
-        }
     }
 }
 
@@ -117,15 +127,14 @@ void UpDown::timerEvent(QTimerEvent* event)
     if (event->timerId() != repeat_.timerId()) {
         return;
     }
-    if (Routine::Running() || QGuiApplication::modalWindow() != nullptr) {
-        StopRepeat();
+    if (Routine::Running()) {
         return;
     }
     if (!repeating_) {
         repeating_ = true;
         repeat_.start(kRepeatInterval, this);
     }
-    if (held_ == hovered_ || hovered_ == Half::None) {
+    if (held_ == hovered_) {
         Step(held_);
     }
 }
@@ -137,11 +146,14 @@ void UpDown::hideEvent(QHideEvent* /*event*/)
 
 void UpDown::wheelEvent(QWheelEvent* event)
 {
-    if (hasFocus() && event->angleDelta().y() != 0) {
-        Step(event->angleDelta().y() > 0 ? Half::Upper : Half::Lower);
-        event->accept();
-    } else {
+    if (!hasFocus()) {
         event->ignore();
+        return;
+    }
+    event->accept();
+    // A fine wheel turns one notch in many events.
+    for (turned_ += event->angleDelta().y(); std::abs(turned_) >= kNotch; turned_ -= turned_ > 0 ? kNotch : -kNotch) {
+        Step(turned_ > 0 ? Half::Upper : Half::Lower);
     }
 }
 

@@ -53,6 +53,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     enum class Half { None, Upper, Lower };
@@ -71,6 +72,7 @@ private:
     Half hovered_ = Half::None;
     QBasicTimer repeat_;
     bool repeating_ = false;
+    int turned_ = 0; ///< Of the wheel, beyond the last whole notch.
 };
 
 } // namespace zelvia

@@ -4,6 +4,7 @@
 #include "core/CMouse.h"
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
+#include "support/FileBoxes.h"
 
 namespace zelvia::test
 {
@@ -14,23 +15,6 @@ const QString kDiary = QStringLiteral("ZelviaFile/prova.zlv");
 const QString kPreset = QStringLiteral("prova.zlv");
 const QString kSaveTitle = QStringLiteral("Salva con nome");
 constexpr int kSlot = 60; // 1 March of a common year, a day of sixteen kilometres and some splits
-
-const QString kLists[] = {QStringLiteral("Percorso"),   QStringLiteral("Lunghezza"), QStringLiteral("Modo"),
-                          QStringLiteral("Fondo"),      QStringLiteral("Tipo"),      QStringLiteral("TempoAtm"),
-                          QStringLiteral("Temperatura")};
-
-ExpectedBox Refusal()
-{
-    return {QStringLiteral(" IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   "), QMessageBox::Critical};
-}
-
-QStringList FullSet()
-{
-    return {QStringLiteral("CalendarioGare"),  QStringLiteral("Fondo.lsx"),    QStringLiteral("ListePercorso"),
-            QStringLiteral("Lunghezza.lsx"),   QStringLiteral("Modo.lsx"),     QStringLiteral("Percorso.lsx"),
-            QStringLiteral("Temperatura.lsx"), QStringLiteral("TempoAtm.lsx"), QStringLiteral("Tipo.lsx"),
-            QStringLiteral("nometab")};
-}
 
 /// The sample with the day shown committed and its kilometres changed.
 DiaryBytes SampleWithKm(const QByteArray& km)
@@ -44,7 +28,7 @@ DiaryBytes SampleWithKm(const QByteArray& km)
 /// Everything that a companion's writing can meet, told apart by its number: lists and routes 75, calendar 76.
 void BlockCompanions(const DayPage& page, const QString& folder)
 {
-    for (const QString& list : kLists) {
+    for (const QString& list : ListNames()) {
         page.folder.Block(folder + QLatin1Char('/') + list + QStringLiteral(".lsx"));
     }
     page.folder.Block(folder + QStringLiteral("/ListePercorso"));
@@ -53,12 +37,9 @@ void BlockCompanions(const DayPage& page, const QString& folder)
 
 void ExpectBlockedCompanions(BoxScript& script)
 {
-    const QString denied = QStringLiteral("75 Errore di accesso al file o alla cartella");
-    for (const QString& list : kLists) {
-        script.Expect(Report(QStringLiteral("SalvaLista%1 - ERRORE : ").arg(list) + denied));
-    }
-    script.Expect(Report(QStringLiteral("ERRORE : ") + denied));
-    script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
+    ExpectListsNotSaved(script, kDenied);
+    script.Expect(BareReport(kDenied));
+    script.Expect(BareReport(kNoFolder));
 }
 
 bool HourglassShown()
@@ -115,7 +96,7 @@ void SaveTest::saveWritesInOrderAndGoesOnAfterErrors()
     page.folder.Dangle(kDiary);
     BlockCompanions(page, QStringLiteral("prova"));
     Module1::FileModificato = 1;
-    page.script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
+    page.script.Expect(BareReport(kNoFolder));
     ExpectBlockedCompanions(page.script);
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
@@ -130,7 +111,7 @@ void SaveTest::hourglassWhileSaving()
     page.folder.Block(QStringLiteral("prova/CalendarioGare"));
     bool atDiary = false;
     bool atCalendar = false;
-    const ExpectedBox report = Report(QStringLiteral("ERRORE : 75 Errore di accesso al file o alla cartella"));
+    const ExpectedBox report = BareReport(kDenied);
     page.script.Expect(report);
     page.script.Meanwhile([&] { atDiary = HourglassShown(); });
     page.script.Expect(report);
@@ -238,7 +219,7 @@ void SaveTest::saveAsOtherFolder()
     page.folder.MakeFolder(QStringLiteral("altrove"));
     Module1::FileModificato = 1;
     page.script.Expect(page.SaveDialog(kPreset, page.folder.Native(QStringLiteral("altrove/copia.zlv"))));
-    page.script.Expect(Refusal());
+    page.script.Expect(SaveRefusal());
     page.script.Expect(page.SaveDialog(kPreset, cancels ? QString() : QStringLiteral("copia")));
     page.Menu("mnuFile", Qt::Key_V);
     VERIFY_SCRIPT(page.script);
@@ -284,7 +265,7 @@ void SaveTest::saveAsWritesInOrder()
     QVERIFY(QFile::link(page.folder.Native(QStringLiteral("missing/file")),
                         page.folder.Native(QStringLiteral("ZelviaFile/copia.zlv"))));
     page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("copia")));
-    page.script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
+    page.script.Expect(BareReport(kNoFolder));
     page.script.Expect(Report(QStringLiteral("ERRORE : 61 Disco pieno")));
     ExpectBlockedCompanions(page.script);
     page.Menu("mnuFile", Qt::Key_V);

@@ -28,7 +28,7 @@ void BoxAnswer::Answer()
     if (look_) {
         look_(*box);
     }
-    if (!box.isNull()) {
+    if (!box.isNull() && box->isVisible()) {
         QAbstractButton* pressed = box->button(button_);
         if (pressed == nullptr) {
             pressed = box->buttons().constFirst();

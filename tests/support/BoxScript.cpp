@@ -137,8 +137,11 @@ void BoxScript::Answer(QFileDialog& dialog, const ExpectedDialog& expected)
     }
     QAbstractButton* accept =
         buttons->button(expected.mode == QFileDialog::AcceptOpen ? QDialogButtonBox::Open : QDialogButtonBox::Save);
-    if (accept == nullptr || !accept->isEnabled()) {
-        Note(QStringLiteral("the dialog does not accept ") + Shown(expected.choose));
+    const bool takesIt = accept != nullptr && accept->isEnabled();
+    if (takesIt != expected.takesIt) {
+        Note(QStringLiteral("the dialog takes, or does not take, ") + Shown(expected.choose));
+    }
+    if (!takesIt || !expected.takesIt) {
         dialog.reject();
         return;
     }

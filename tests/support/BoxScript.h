@@ -32,6 +32,7 @@ struct ExpectedDialog {
     QString directory;
     QString preset; ///< The name that it comes up with.
     QString choose;
+    bool takesIt = true; ///< False when the name can't be accepted; the dialog is then cancelled.
 };
 
 /// Answers the boxes and dialogs of the program, the real ones on the screen, in the order in which a test expects

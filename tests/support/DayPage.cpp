@@ -123,14 +123,4 @@ ExpectedBox DayPage::OverwriteQuestion(const QString& title, const QString& name
     return {question, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No, press, title};
 }
 
-void ExpectSaveReports(BoxScript& script)
-{
-    for (const char* list : {"Percorso", "Lunghezza", "Modo", "Fondo", "Tipo", "TempoAtm", "Temperatura"}) {
-        script.Expect(
-            Report(QStringLiteral("SalvaLista%1 - ERRORE : 76 Cartella non trovata").arg(QLatin1String(list))));
-    }
-    script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
-    script.Expect(Report(QStringLiteral("ERRORE : 76 Cartella non trovata")));
-}
-
 } // namespace zelvia::test

@@ -65,9 +65,6 @@ private:
     QPointer<frmMain> page_;
 };
 
-/// The reports of a missing folder, one for each file that a save writes into it, in the order of the files.
-void ExpectSaveReports(BoxScript& script);
-
 } // namespace zelvia::test
 
 /// The main function of a test program of the day page.

@@ -33,7 +33,7 @@ DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 
 # A manager without the user's own settings, told to run this once it manages the display.
-HOME=$folder XDG_CONFIG_HOME=$folder openbox --sm-disable --startup "touch $folder/managed" 2>"$folder/manager.log" &
+HOME=$folder XDG_CONFIG_HOME=$folder openbox --sm-disable --startup "touch $folder/managed" >"$folder/manager.log" 2>&1 &
 manager=$!
 await test -e "$folder/managed"
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QTest>
 
+#include <iostream>
 #include <string_view>
 
 namespace
@@ -20,7 +21,9 @@ OtherProgram::OtherProgram(QWidget& window) : window_(window)
 {
     if (hand::OnX11()) {
         process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption)});
-        QVERIFY(process_.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(process_.canReadLine(), 20000);
+        const WId other = process_.readLine().trimmed().toULongLong();
+        QTRY_COMPARE(hand::ManagersActiveWindow(), other);
     } else {
         // There is no other application offscreen; this is what the platform reports when one comes to the front.
         QApplication::setActiveWindow(nullptr);
@@ -40,8 +43,14 @@ OtherProgram::~OtherProgram()
 void OtherProgram::ChangeBack()
 {
     if (hand::OnX11()) {
-        hand::Raw({QStringLiteral("keydown"), QStringLiteral("alt"), QStringLiteral("key"), QStringLiteral("Tab"),
-                   QStringLiteral("keyup"), QStringLiteral("alt")});
+        // A manager that is still busy with the other window misses the keys; a user presses them again.
+        constexpr int attempts = 5;
+        constexpr int patience = 2000;
+        for (int i = 0; i < attempts && !window_.isActiveWindow(); ++i) {
+            hand::Raw({QStringLiteral("keydown"), QStringLiteral("alt"), QStringLiteral("key"), QStringLiteral("Tab"),
+                       QStringLiteral("keyup"), QStringLiteral("alt")});
+            (void)QTest::qWaitFor([this] { return window_.isActiveWindow(); }, patience);
+        }
     } else {
         QApplication::setActiveWindow(&window_);
     }
@@ -58,6 +67,7 @@ bool OtherProgram::RanInstead(int argc, char* argv[])
     QWidget window;
     window.resize(200, 100);
     window.show();
+    std::cout << window.winId() << std::endl;
     QCoreApplication::exec();
     return true;
 }

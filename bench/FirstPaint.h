@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QObject>
+#include <QWidget>
+
+#include <chrono>
+#include <cstdio>
+
+namespace zelvia::bench
+{
+
+/// Ends the program once a window has been painted for the first time, and prints the moment on the steady clock in
+/// nanoseconds, which all processes share, then the number of controls given and the window's width and height.
+class FirstPaint : public QObject
+{
+public:
+    FirstPaint(QWidget& window, int controls) : window_(window), controls_(controls)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            // The window comes first in the pass that paints it with all it holds; what is queued runs behind that.
+            window_.removeEventFilter(this);
+            QMetaObject::invokeMethod(
+                this, [this] { Report(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    void Report()
+    {
+        using std::chrono::nanoseconds;
+        const auto now = std::chrono::steady_clock::now().time_since_epoch();
+        std::printf("%lld %d %d %d\n", static_cast<long long>(std::chrono::duration_cast<nanoseconds>(now).count()),
+                    controls_, window_.width(), window_.height());
+        QCoreApplication::quit();
+    }
+
+    QWidget& window_;
+    int controls_;
+};
+
+} // namespace zelvia::bench

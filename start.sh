@@ -1,0 +1,99 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Builds Zelvia, lays its program folder and opens the diary: start.sh [--demo] [FOLDER]
+set -euo pipefail
+
+source_folder=$(dirname "$(readlink -f "$0")")
+. "$source_folder/packaging/packages.sh"
+. "$source_folder/packaging/folder-check.sh"
+. "$source_folder/packaging/sample-year.sh"
+
+usage() {
+  cat <<'TEXT'
+Uso: ./start.sh [--demo] [CARTELLA]
+
+Compila Zelvia, lo installa nella CARTELLA (di solito Zelvia, nella cartella
+personale) e apre il diario. I dati che ci sono già non vengono toccati.
+
+  --demo    apre un diario di prova con un anno già scritto, in una cartella
+            sua se non è indicata la CARTELLA
+  --help    mostra questo testo
+
+Senza uno schermo il diario si apre su uno schermo virtuale: la fotografia della
+pagina resta nel file zelvia-pagina.png della cartella corrente.
+TEXT
+}
+
+refuse() {
+  echo "$1" >&2
+  usage >&2
+  exit 2
+}
+
+# The demo's own folder: in the build folder, unless the program cannot live at that place.
+demo_folder() {
+  local folder
+  if folder_check "$source_folder/build/demo" 2>/dev/null; then
+    echo "$source_folder/build/demo"
+    return
+  fi
+  folder=/tmp/zelvia-demo-$(id -u)
+  if [ -e "$folder" ] && [ ! -O "$folder" ]; then
+    echo "«$folder» è di un altro utente: indicare una CARTELLA." >&2
+    return 2
+  fi
+  echo "$folder"
+}
+
+demo=
+folder=
+folder_given=
+options=yes
+for argument in "$@"; do
+  if [ -n "$options" ] && [[ $argument = -* ]]; then
+    case $argument in
+      --) options= ;;
+      --demo) demo=yes ;;
+      --help) usage && exit 0 ;;
+      *) refuse "Opzione sconosciuta: $argument" ;;
+    esac
+  else
+    [ -z "$folder_given" ] || refuse "Si può indicare una sola CARTELLA."
+    folder=$argument
+    folder_given=yes
+  fi
+done
+if [ -z "$folder_given" ]; then
+  if [ -n "$demo" ]; then
+    folder=$(demo_folder)
+  elif [ -n "${HOME:-}" ]; then
+    folder=$HOME/Zelvia
+  else
+    refuse "La cartella personale non è nota (HOME): indicare una CARTELLA."
+  fi
+fi
+folder_make "$folder"
+folder=$folder_path
+
+screen=
+[ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || screen=yes
+sections=(run build)
+[ -n "$screen" ] || sections+=(display)
+packages_install "${sections[@]}"
+
+echo "Compilazione di Zelvia..."
+(
+  cd "$source_folder"
+  cmake --preset release
+  cmake --build --preset release
+)
+cmake --install "$source_folder/build/release" --prefix "$folder"
+[ -z "$demo" ] || lay_sample_year "$folder"
+
+echo "Apertura del diario in $folder"
+if [ -n "$screen" ]; then
+  exec "$folder/zelvia"
+fi
+exec "$source_folder/tests/support/with-x11.sh" "$source_folder/packaging/page-picture.sh" \
+  "$folder" "$PWD/zelvia-pagina.png"

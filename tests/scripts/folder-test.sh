@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Which folders start.sh refuses, how it says so, and that it leaves nothing behind.
+. "$(dirname "$0")/check.sh"
+. "$source_folder/packaging/folder-check.sh"
+
+mkdir "$work/con.punto" "$work/vuota"
+touch "$work/un file"
+ln -s con.punto "$work/collegata"
+ln -s vuota "$work/alla.vuota"
+ln -s circolo-b "$work/circolo-a"
+ln -s circolo-a "$work/circolo-b"
+cd "$work"
+
+# The folder, then a piece of the reason.
+refused=(
+  "/" "è la radice del disco"
+  "//" "è la radice del disco"
+  "/tmp/.." "è la radice del disco"
+  "" "il nome della cartella è vuoto"
+  "$work/Zelvia.2" "c'è un punto"
+  "$work/con.punto/Zelvia" "c'è un punto"
+  "con.punto/Zelvia" "c'è un punto"
+  "collegata" "c'è un punto"
+  "collegata/Zelvia" "c'è un punto"
+  "$work/ZelviaFile" "«ZelviaFile»"
+  "$work/VecchiaZelviaFile2/Zelvia" "«ZelviaFile»"
+  "$work/barra\\rovesciata" "barra rovesciata"
+  "$work/detta \"Zelvia\"" "virgolette"
+  "$work/due
+righe" "carattere di controllo"
+  "$work/corsa→" "Windows-1252"
+  "$work/Бег" "Windows-1252"
+  "$work/"$'\xff' "Windows-1252"
+  "$work/un file" "non è una cartella"
+  "$work/un file/Zelvia" "non è una cartella"
+  "circolo-a" "girano in tondo"
+  "/proc/sys/zelvia" "la cartella non si può creare"
+)
+before=$(find "$work" | sort)
+for ((i = 0; i < ${#refused[@]}; i += 2)); do
+  run "$source_folder/start.sh" -- "${refused[i]}"
+  expect "«${refused[i]}»: exit status" "$status" 2
+  expect "«${refused[i]}»: output" "$output" ""
+  case $errors in
+    "Zelvia non può stare in «"*"»: "*"${refused[i + 1]}"*) ;;
+    *) expect "«${refused[i]}»: reason" "$errors" "${refused[i + 1]}" ;;
+  esac
+done
+touch "$work/errors"
+expect "a refusal leaves nothing behind" "$(find "$work" | grep -vx "$work/errors" | sort)" "$before"
+
+# The folder, then the path that it stands for.
+accepted=(
+  "$work/Zelvia" "$work/Zelvia"
+  "Zelvia" "$work/Zelvia"
+  "vuota/../Zelvia/" "$work/Zelvia"
+  "alla.vuota/Zelvia" "$work/vuota/Zelvia"
+  "$work/Più corsa €" "$work/Più corsa €"
+  "-trattino" "$work/-trattino"
+  "$work/zelviafile" "$work/zelviafile"
+)
+for ((i = 0; i < ${#accepted[@]}; i += 2)); do
+  for locale in C C.UTF-8; do
+    LC_ALL=$locale run folder_check "${accepted[i]}"
+    expect "«${accepted[i]}»: exit status" "$status$errors" 0
+    LC_ALL=$locale folder_check "${accepted[i]}"
+    expect "«${accepted[i]}»: path" "$folder_path" "${accepted[i + 1]}"
+  done
+done
+expect "a check makes nothing" "$(find "$work" | grep -vx "$work/errors" | sort)" "$before"
+
+folder_make "$work/nuova/Zelvia"
+expect "a folder that is made is empty" "$(find "$work/nuova")" "$work/nuova"$'\n'"$work/nuova/Zelvia"
+
+# The options, then the exit status and the first words.
+run "$source_folder/start.sh" --prova
+expect "an unknown option" "$status ${errors%%$'\n'*}" "2 Opzione sconosciuta: --prova"
+run "$source_folder/start.sh" "$work/a" "$work/b"
+expect "two folders" "$status ${errors%%$'\n'*}" "2 Si può indicare una sola CARTELLA."
+run env -u HOME "$source_folder/start.sh"
+expect "no home" "$status ${errors%%$'\n'*}" "2 La cartella personale non è nota (HOME): indicare una CARTELLA."
+run env HOME="$work/con.punto" "$source_folder/start.sh"
+expect "a home with a dot" "$status ${errors%%:*}" "2 Zelvia non può stare in «$work/con.punto/Zelvia»"
+run "$source_folder/start.sh" --help
+expect "help" "$status ${output%%$'\n'*}" "0 Uso: ./start.sh [--demo] [CARTELLA]"
+verdict

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "support/BoxScript.h"
+
+#include <QStringList>
+
+namespace zelvia::test
+{
+
+/// The files of a diary's folder as a first use lays them down, sorted.
+QStringList FullSet();
+
+/// The seven lists that have a file, in the order in which they are written and read.
+QStringList ListNames();
+
+/// Error numbers with their descriptions, as they stand in a report.
+inline const QString kNotFound = QStringLiteral("53 File non trovato");
+inline const QString kDenied = QStringLiteral("75 Errore di accesso al file o alla cartella");
+inline const QString kNoFolder = QStringLiteral("76 Cartella non trovata");
+
+/// The bare report of a shared routine.
+ExpectedBox BareReport(const QString& error);
+/// The reports of the seven lists.
+void ExpectListsNotSaved(BoxScript& script, const QString& error);
+void ExpectListsNotLoaded(BoxScript& script, const QString& error);
+/// The route reader's own form.
+ExpectedBox RoutesNotLoaded(const QString& description);
+
+ExpectedBox SaveQuestion(QMessageBox::StandardButton press);
+ExpectedBox SaveRefusal();
+ExpectedBox OpenRefusal();
+
+} // namespace zelvia::test
