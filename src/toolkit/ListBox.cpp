@@ -106,7 +106,12 @@ void ListBox::keyPressEvent(QKeyEvent* event)
         return;
     }
     const int before = ListIndex();
-    QListWidget::keyPressEvent(event);
+    if (before < 0 && count() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up)) {
+        // The base class has its cursor on the first entry already, and would pass over it.
+        SetListIndex(0);
+    } else {
+        QListWidget::keyPressEvent(event);
+    }
     if (ListIndex() != before) {
         Fire(Click);
     }
