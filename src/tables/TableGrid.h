@@ -116,8 +116,8 @@ struct DateBoxData {
 };
 
 inline constexpr std::array<DateBoxData, 3> kDateBoxes = {
-    {{"txtGiornoInizio", 2, 31, "MAX 31 GIORNI                 ", kPanelLeft + 12, 36, "data di inizio, giorno"},
-     {"txtMeseInizio", 2, 12, "MAX 12 MESI                   ", kPanelLeft + 62, 36, "data di inizio, mese"},
-     {"txtAnnoInizio", 4, 2099, "MAX ANNO 2099                 ", kPanelLeft + 112, 52, "data di inizio, anno"}}};
+    {{"txtGiornoInizio", 2, 31, "MAX 31 GIORNI                 ", kPanelLeft + 8, 32, "data di inizio, giorno"},
+     {"txtMeseInizio", 2, 12, "MAX 12 MESI                   ", kPanelLeft + 56, 34, "data di inizio, mese"},
+     {"txtAnnoInizio", 4, 2099, "MAX ANNO 2099                 ", kPanelLeft + 108, 52, "data di inizio, anno"}}};
 
 } // namespace zelvia::TableGrid
