@@ -8,6 +8,7 @@
 
 #include <QMenu>
 #include <QTimer>
+#include <QWindow>
 
 namespace zelvia::test
 {
@@ -106,8 +107,13 @@ void EntryPage::TypeOver(TextBox& box, const QString& text) const
     QTRY_VERIFY(box.hasFocus());
     box.selectAll();
     hand::Key(Qt::Key_Backspace);
-    if (!text.isEmpty()) {
-        hand::Type(text);
+    for (const QChar character : text) {
+        if (character.unicode() < 128) {
+            hand::Type(QString(character));
+        } else {
+            // The display's keyboard has no key for it.
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(character), Qt::NoModifier);
+        }
     }
 }
 
@@ -123,6 +129,7 @@ QByteArrayList EntryPage::PopUp(ListBox& list, Qt::Key key) const
     if (!QTest::qWaitFor([&] { return answer.Done() && QApplication::activePopupWidget() == nullptr; })) {
         return {"no pop-up"};
     }
+    TakeFront();
     return answer.Shown();
 }
 
@@ -160,11 +167,17 @@ void EntryPage::CloseRouteWindow() const
     QVERIFY(QTest::qWaitForWindowActive(window));
     window->close();
     QTRY_VERIFY(window.isNull());
+    TakeFront();
+}
+
+void EntryPage::TakeFront() const
+{
     if (!hand::OnX11()) {
         // There is no manager that would do it.
         Page().activateWindow();
     }
     QTRY_VERIFY(Page().isActiveWindow());
+    QTRY_VERIFY(QGuiApplication::focusWindow() == Page().windowHandle());
 }
 
 QByteArray RouteFileOf(const QByteArrayList& names)

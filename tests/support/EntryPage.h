@@ -53,6 +53,8 @@ public:
     frmDesPercorso* RouteWindow() const;
     /// Waits for that window and closes it.
     void CloseRouteWindow() const;
+    /// Waits until the page is in front again, after a window or a pop-up over it has gone.
+    void TakeFront() const;
 };
 
 /// The file of the descriptions, written line by line: the names take the first places, each with a first stretch
