@@ -26,6 +26,9 @@ namespace zelvia
 namespace
 {
 
+// The title of the boxes. It is not made Qt's display name, which would follow the caption of every window.
+constexpr TextView kProgramName = "Zelvia";
+
 QMessageBox::StandardButtons QtButtons(MsgButtons buttons)
 {
     switch (buttons) {
@@ -48,8 +51,7 @@ QMessageBox::Icon QtIcon(MsgIcon icon)
 MsgAnswer ShowMessageBox(const MsgRequest& request)
 {
     const BoxUp up;
-    QMessageBox box(QtIcon(request.icon),
-                    request.title.empty() ? QApplication::applicationDisplayName() : ToQString(request.title),
+    QMessageBox box(QtIcon(request.icon), ToQString(request.title.empty() ? kProgramName : TextView(request.title)),
                     QString(), QtButtons(request.buttons), up.Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(request.text));
@@ -85,7 +87,6 @@ void InstallItalian(QApplication& application)
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
-    setApplicationDisplayName(QLatin1String("Zelvia"));
     setStyle(QLatin1String("Fusion"));
     InstallItalian(*this);
     FocusController::Instance();
