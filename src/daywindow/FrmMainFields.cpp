@@ -8,6 +8,7 @@
 #include "daywindow/FrmMain.h"
 #include "tables/TableModel.h"
 #include "toolkit/Application.h"
+#include "toolkit/SpinKeys.h"
 
 #include <array>
 
@@ -55,6 +56,7 @@ Text ClockText(const UpDown& first, std::initializer_list<const UpDown*> rest)
 void frmMain::ConnectControls()
 {
     lblData->OnClick([this] { lblData_Click(); });
+    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] { FocusSink().SetFocus(); });
     upGiorno->DownClick = [this] { upGiorno_DownClick(); };
     upGiorno->UpClick = [this] { upGiorno_UpClick(); };
     upMese->DownClick = [this] { upMese_DownClick(); };
