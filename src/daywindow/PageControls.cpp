@@ -342,6 +342,8 @@ void MakeSplits(PageControls& controls, QWidget* page)
     controls.lstListaKM = new ListBox(page, QStringLiteral("lstListaKM"));
     DressInput(*controls.lstListaKM, kListaKM);
     controls.lstListaKM->setAccessibleName(QStringLiteral("Tempi parziali"));
+    // It hands the focus on to its button at once, so Shift+Tab could not get past it.
+    controls.lstListaKM->setFocusPolicy(Qt::ClickFocus);
     controls.lstListaKM->SetVisible(false);
     controls.cmdListaKM = new Button(page, QStringLiteral("cmdListaKM"), "Immetti nella lista");
     controls.cmdListaKM->setGeometry(kImmetti);

@@ -122,14 +122,16 @@ QPoint EntryPage::RowAt(ListBox& list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
-QByteArrayList EntryPage::PopUp(ListBox& list, Qt::Key key) const
+QByteArrayList EntryPage::PopUp(ListBox& list, Qt::Key key, bool comesBack) const
 {
     const PopUpAnswer answer(key);
     hand::Click(*list.viewport(), RowAt(list, 0), Qt::RightButton);
     if (!QTest::qWaitFor([&] { return answer.Done() && QApplication::activePopupWidget() == nullptr; })) {
         return {"no pop-up"};
     }
-    TakeFront();
+    if (comesBack) {
+        TakeFront();
+    }
     return answer.Shown();
 }
 
