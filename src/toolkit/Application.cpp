@@ -8,6 +8,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
+#include "toolkit/PageStyle.h"
 #include "toolkit/QtText.h"
 
 #include <QFile>
@@ -86,7 +87,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
     setApplicationDisplayName(QLatin1String("Zelvia"));
-    setStyle(QLatin1String("Fusion"));
+    setStyle(new PageStyle);
     InstallItalian(*this);
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);
