@@ -126,6 +126,8 @@ QFont PageFont(TextView family, int pixels)
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(pixels);
+    // Each of these holds every character a diary can: no list of other fonts need be made for those it lacks.
+    font.setStyleStrategy(QFont::NoFontMerging);
     return font;
 }
 
