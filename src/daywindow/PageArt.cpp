@@ -113,10 +113,10 @@ void DrawLeavesUnderneath(QPainter& painter)
 {
     const QRect both = kLeftPage.united(kRightPage);
     QList<QRect> shadow;
-    for (int depth = 8; depth > 0; --depth) {
+    for (int depth = 8; depth > 0; depth -= 2) {
         shadow << both.adjusted(-depth, -depth + 3, depth, depth + 2);
     }
-    DrawShadow(painter, both, shadow, 8, QColor(0, 0, 0, 12));
+    DrawShadow(painter, both, shadow, 8, QColor(0, 0, 0, 23));
 
     constexpr int radius = 5;
     const std::pair<int, QColor> leaves[] = {{5, Ink::PaperShade}, {3, Ink::Paper}, {2, Ink::PaperShade}};
@@ -129,10 +129,16 @@ void DrawLeavesUnderneath(QPainter& painter)
     }
 }
 
-/// The fold of the binding: shades of the paper from the middle out to both sides.
+/// The fold of the binding: shades of the paper from the middle out to both sides. Drawn once for a few lines, which
+/// are then repeated down the page.
 void DrawFold(QPainter& painter)
 {
     constexpr int reach = 46;
+    constexpr int lines = 24;
+    const qreal scale = painter.device()->devicePixelRatioF();
+    QPixmap piece((QSizeF(2 * reach, lines) * scale).toSize());
+    piece.setDevicePixelRatio(scale);
+    QPainter fold(&piece);
     const QColor shade(90, 60, 30);
     const QColor valley = Mixed(Ink::Paper, QColor(60, 38, 18), 110 / 255.0);
     const struct {
@@ -145,9 +151,12 @@ void DrawFold(QPainter& painter)
             const double part = (x + 0.5) / reach;
             const QColor paper = part < inner ? Mixed(valley, page.border, part / inner)
                                               : Mixed(page.border, Ink::Paper, (part - inner) / (1 - inner));
-            const int left = page.side < 0 ? kRightPage.left() - 1 - x : kRightPage.left() + x;
-            painter.fillRect(left, kRightPage.top(), 1, kRightPage.height(), paper);
+            fold.fillRect(page.side < 0 ? reach - 1 - x : reach + x, 0, 1, lines, paper);
         }
+    }
+    static_assert(kRightPage.height() % lines == 0);
+    for (int top = kRightPage.top(); top <= kRightPage.bottom(); top += lines) {
+        painter.drawPixmap(kRightPage.left() - reach, top, piece);
     }
 }
 
