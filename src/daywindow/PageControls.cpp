@@ -201,7 +201,7 @@ void ApplyStyle(Label& label, Style style)
         label.setPalette(palette);
     };
     switch (style) {
-    case Style::Caption: label.setFont(PrintFont(15)); break;
+    case Style::Caption: break; // As the page itself.
     case Style::Value:
     case Style::Note:
     case Style::SlipValue:
@@ -209,14 +209,14 @@ void ApplyStyle(Label& label, Style style)
         ink(Ink::Pen);
         break;
     case Style::Date:
-        label.setFont(PrintFont(25, true));
+        label.setFont(PrintFont(24, true));
         ink(Ink::PrintDark);
         break;
     case Style::Counter:
-        label.setFont(PrintFont(20, true));
+        label.setFont(PrintFont(24, true));
         ink(Ink::PrintDark);
         break;
-    case Style::FileName: label.setFont(PrintFont(13, true)); break;
+    case Style::FileName: label.setFont(PrintFont(16, true)); break;
     case Style::SlipHeading:
         label.setFont(PrintFont(16, true));
         ink(Ink::PrintDark);

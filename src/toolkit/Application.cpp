@@ -8,6 +8,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
+#include "toolkit/PageStyle.h"
 #include "toolkit/QtText.h"
 
 #include <QFile>
@@ -87,7 +88,7 @@ void InstallItalian(QApplication& application)
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
-    setStyle(QLatin1String("Fusion"));
+    setStyle(new PageStyle);
     InstallItalian(*this);
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);
@@ -126,6 +127,8 @@ QFont PageFont(TextView family, int pixels)
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(pixels);
+    // Each of these holds every character a diary can: no list of other fonts need be made for those it lacks.
+    font.setStyleStrategy(QFont::NoFontMerging);
     return font;
 }
 
