@@ -252,16 +252,27 @@ void ScaleTo(QPainter& painter, const QRectF& area)
 
 } // namespace
 
+// The face that is there as a rule comes first: a search through the others costs time at the start.
+constexpr TextView kPrintFace = "Liberation Serif";
+
 QFont PrintFont(int pixels, bool bold)
 {
-    QFont font = PageFont("Times New Roman", pixels);
+    QFont font = PageFont(kPrintFace, pixels);
     font.setBold(bold);
+    return font;
+}
+
+QFont DateFont()
+{
+    constexpr int pixels = 24;
+    QFont font = PageFont("Times New Roman", pixels);
+    font.setBold(true);
     return font;
 }
 
 QFont PenFont(int pixels)
 {
-    QFont font = PageFont("Times New Roman", pixels);
+    QFont font = PageFont(kPrintFace, pixels);
     font.setItalic(true);
     return font;
 }

@@ -209,11 +209,8 @@ void ApplyStyle(Label& label, Style style)
         ink(Ink::Pen);
         break;
     case Style::Date:
-        label.setFont(PrintFont(24, true));
-        ink(Ink::PrintDark);
-        break;
     case Style::Counter:
-        label.setFont(PrintFont(24, true));
+        label.setFont(DateFont());
         ink(Ink::PrintDark);
         break;
     case Style::FileName: label.setFont(PrintFont(16, true)); break;

@@ -118,8 +118,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
 QFont PageFont(TextView family, int pixels)
 {
     QStringList families{ToQString(family)};
-    if (family == "Times New Roman") {
-        families << QLatin1String("Liberation Serif") << QLatin1String("Nimbus Roman") << QLatin1String("serif");
+    if (family == "Times New Roman" || family == "Liberation Serif") {
+        families << QLatin1String("Liberation Serif") << QLatin1String("Times New Roman")
+                 << QLatin1String("Nimbus Roman") << QLatin1String("serif");
+        families.removeDuplicates();
     } else {
         // In these the degree sign is as wide as a digit.
         families << QLatin1String("Liberation Mono") << QLatin1String("DejaVu Sans Mono") << QLatin1String("monospace");
