@@ -44,12 +44,23 @@ QMessageBox::Icon QtIcon(MsgIcon icon)
     }
 }
 
+/// The window that a box stands over: the active one or, while the display has none because another box has just
+/// closed, the one that holds the focus.
+QWidget* BoxOwner()
+{
+    if (QWidget* active = QApplication::activeWindow()) {
+        return active;
+    }
+    const Control* focused = FocusController::Instance().Current();
+    return focused != nullptr && focused->Widget().isVisible() ? focused->Widget().window() : nullptr;
+}
+
 MsgAnswer ShowMessageBox(const MsgRequest& request)
 {
     FocusController::Instance().ShowDeferred();
     QMessageBox box(QtIcon(request.icon),
                     request.title.empty() ? QApplication::applicationDisplayName() : ToQString(request.title),
-                    QString(), QtButtons(request.buttons), QApplication::activeWindow());
+                    QString(), QtButtons(request.buttons), BoxOwner());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(request.text));
     switch (box.exec()) {
