@@ -205,7 +205,11 @@ void TimesTest::warnings()
     QList<bool> shown;
     for (const QString& text : boxes) {
         page.script.Expect(text == kDivision ? Report(text) : Warning(text));
-        page.script.Meanwhile([&] { shown << AnyShown(SpinsOf(page, End)); });
+        page.script.Meanwhile([&] {
+            shown << AnyShown(SpinsOf(page, End));
+            // The second box too stands over the page, though the display has no active window right after the first.
+            QVERIFY(QApplication::activeModalWidget()->parentWidget() == &page.Page());
+        });
     }
     page.Open(*page->lblImmisOraFine);
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("upOraFine"));

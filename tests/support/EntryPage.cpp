@@ -7,6 +7,7 @@
 #include "toolkit/FocusController.h"
 
 #include <QMenu>
+#include <QProcess>
 #include <QTimer>
 #include <QWindow>
 
@@ -16,6 +17,15 @@ namespace
 {
 
 constexpr int kSeason = 6;
+
+/// The number of the window that the manager of the display holds for the active one.
+QByteArray ActiveOnDisplay()
+{
+    QProcess xdotool;
+    xdotool.start(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+    xdotool.waitForFinished();
+    return xdotool.readAllStandardOutput().trimmed();
+}
 
 /// Waits for a pop-up, notes what it shows and presses a key in it.
 class PopUpAnswer : public QObject
@@ -180,6 +190,10 @@ void EntryPage::TakeFront() const
     }
     QTRY_VERIFY(Page().isActiveWindow());
     QTRY_VERIFY(QGuiApplication::focusWindow() == Page().windowHandle());
+    if (hand::OnX11()) {
+        // The manager hears of it later than the window, and until then it may take a click for itself.
+        QTRY_COMPARE(ActiveOnDisplay(), QByteArray::number(Page().winId()));
+    }
 }
 
 QByteArray RouteFileOf(const QByteArrayList& names)
