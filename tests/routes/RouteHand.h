@@ -22,10 +22,10 @@ inline void EnterRoute(const EntryPage& page, const QString& name)
 /// Waits for the window of a description.
 inline frmDesPercorso& Opened(const EntryPage& page)
 {
-    if (!QTest::qWaitFor([&] { return page.RouteWindow() != nullptr; }) ||
-        !QTest::qWaitForWindowActive(page.RouteWindow())) {
+    if (!QTest::qWaitFor([&] { return page.RouteWindow() != nullptr; })) {
         qFatal("no window of a route");
     }
+    EntryPage::AwaitFront(*page.RouteWindow());
     return *page.RouteWindow();
 }
 

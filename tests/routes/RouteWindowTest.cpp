@@ -151,7 +151,7 @@ void RouteWindowTest::closingStoresAndSetsTheDistance()
     page->upMetro->SetValue(4);
     EnterRoute(page, QStringLiteral("Delta"));
     frmDesPercorso& window = Opened(page);
-    hand::Type(QStringLiteral("dal ponte"));
+    TypeInto(*window.txtTratto[1], QStringLiteral("dal ponte"));
     TypeInto(*window.txtKm[1], QStringLiteral("9"));
     TypeInto(*window.txtMetri[1], QStringLiteral("700"));
     TypeInto(*window.txtTratto[20], QStringLiteral("ritorno"));

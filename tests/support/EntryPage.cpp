@@ -188,11 +188,16 @@ void EntryPage::TakeFront() const
         // There is no manager that would do it.
         Page().activateWindow();
     }
-    QTRY_VERIFY(Page().isActiveWindow());
-    QTRY_VERIFY(QGuiApplication::focusWindow() == Page().windowHandle());
+    AwaitFront(Page());
+}
+
+void EntryPage::AwaitFront(const QWidget& window)
+{
+    QTRY_VERIFY(window.isActiveWindow());
+    QTRY_VERIFY(QGuiApplication::focusWindow() == window.windowHandle());
     if (hand::OnX11()) {
         // The manager hears of it later than the window, and until then it may take a click for itself.
-        QTRY_COMPARE(ActiveOnDisplay(), QByteArray::number(Page().winId()));
+        QTRY_COMPARE(ActiveOnDisplay(), QByteArray::number(window.winId()));
     }
 }
 

@@ -56,6 +56,8 @@ public:
     void CloseRouteWindow() const;
     /// Waits until the page is in front again, after a window or a pop-up over it has gone.
     void TakeFront() const;
+    /// Waits until a window has the keyboard, for the program and for the display's manager.
+    static void AwaitFront(const QWidget& window);
 };
 
 /// The file of the descriptions, written line by line: the names take the first places, each with a first stretch
