@@ -60,6 +60,7 @@ void CampoLista::Connect()
 void CampoLista::Apri()
 {
     Trap(Title("Immis", nome_), [this] {
+        page_.FollowInTabOrder(*controlli_.lst);
         controlli_.txt->SetVisible(true);
         controlli_.lst->SetVisible(true);
         controlli_.txt->SetFocus();

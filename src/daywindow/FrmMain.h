@@ -138,6 +138,8 @@ public:
     void ImmisTemperatura() { Immis(ListaScelta::Temperatura); }
     /// Adds the box's trimmed text to the list if it is new there; 1 when the list held it already, else 0.
     i16 AggiungiLista(TextBox& txt, ListBox& lst);
+    /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
+    void FollowInTabOrder(QWidget& field);
     /// Fills in what is known of a route from the last day of the year that holds it.
     void CopyLastRun(const Text& percorso);
     /// Shows or hides the two entries of the pop-up that belong to the route.

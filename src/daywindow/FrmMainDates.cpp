@@ -63,6 +63,7 @@ void frmMain::MoveDate(const UpDown& spin, TextView interval, int step)
 void frmMain::lblData_Click()
 {
     Trap("lblData - ERRORE : ", [this] {
+        FollowInTabOrder(*lblData);
         upGiorno->SetVisible(true);
         upMese->SetVisible(true);
         upGiorno->SetFocus();

@@ -38,6 +38,15 @@ Text TwoDigits(const UpDown& spin)
 
 } // namespace
 
+void frmMain::FollowInTabOrder(QWidget& field)
+{
+    QWidget& sink = FocusSink().Widget();
+    // Qt leaves alone what Tab does not stop at.
+    sink.setFocusPolicy(Qt::TabFocus);
+    QWidget::setTabOrder(&field, &sink);
+    sink.setFocusPolicy(Qt::NoFocus);
+}
+
 void frmMain::ConnectLists()
 {
     for (const ListaScelta lista : kTutteLeListe) {
@@ -286,6 +295,7 @@ void frmMain::lblNote_Click(int riga)
 {
     Trap(NoteName("lbl", riga), [&] {
         note[riga].txt->SetContent(note[riga].lbl->Caption());
+        FollowInTabOrder(*note[riga].txt);
         note[riga].txt->SetVisible(true);
         note[riga].txt->SetFocus();
         LunghezzaNota = 0;

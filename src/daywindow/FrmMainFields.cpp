@@ -9,6 +9,7 @@
 #include "tables/TableModel.h"
 #include "tables/TableWalk.h"
 #include "toolkit/Application.h"
+#include "toolkit/SpinKeys.h"
 
 #include <array>
 
@@ -56,6 +57,7 @@ Text ClockText(const UpDown& first, std::initializer_list<const UpDown*> rest)
 void frmMain::ConnectControls()
 {
     lblData->OnClick([this] { lblData_Click(); });
+    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] { FocusSink().SetFocus(); });
     upGiorno->DownClick = [this] { upGiorno_DownClick(); };
     upGiorno->UpClick = [this] { upGiorno_UpClick(); };
     upMese->DownClick = [this] { upMese_DownClick(); };

@@ -4,6 +4,9 @@
 
 #include "core/RunTimeError.h"
 #include "daywindow/FrmMain.h"
+#include "toolkit/SpinKeys.h"
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -16,6 +19,7 @@ GruppoSpin::GruppoSpin(frmMain& page, Dati dati) : page_(page), dati_(std::move(
                 if (valore.prova->Visible()) {
                     page_.FocusSink().SetFocus();
                 } else {
+                    page_.FollowInTabOrder(*valore.label);
                     Apri(valore.apertura);
                 }
             });
@@ -25,6 +29,21 @@ GruppoSpin::GruppoSpin(frmMain& page, Dati dati) : page_(page), dati_(std::move(
         [this] { Trap(dati_.titoloDidascalia + " - ERRORE : ", [this] { page_.FocusSink().SetFocus(); }); },
         KeyReach::MouseOnly);
     dati_.fuoco->LostFocus = [this] { Chiudi(); };
+    ConnectKeys();
+}
+
+void GruppoSpin::ConnectKeys()
+{
+    std::vector<UpDown*> spins;
+    for (Control* control : dati_.controlli) {
+        if (auto* spin = dynamic_cast<UpDown*>(control)) {
+            spins.push_back(spin);
+        }
+    }
+    std::sort(spins.begin(), spins.end(), [](const UpDown* a, const UpDown* b) { return a->x() < b->x(); });
+    const auto* first = dynamic_cast<UpDown*>(dati_.fuoco);
+    new SpinKeys(dati_.fuoco->Widget(), spins, first != nullptr ? *first : *spins.front(),
+                 [this] { page_.FocusSink().SetFocus(); });
 }
 
 void GruppoSpin::Mostra(bool visible)

@@ -46,6 +46,7 @@ public:
 private:
     void Apri(const Text& apertura);
     void Chiudi();
+    void ConnectKeys();
 
     frmMain& page_;
     Dati dati_;

@@ -17,57 +17,161 @@ namespace
 
 using namespace PageLayout;
 
+// Everything large is filled in upright rectangles, and only corners are smoothed: the painter deals the lines of a
+// large smoothed, shaded or translucent area to threads, which costs the first paint more than the lines themselves.
+
+/// The most lines of a translucent area that are filled without threads.
+constexpr int kLines = 60;
+
+constexpr int kCorner = 12; ///< What lies further than this from a corner of a sheet or its shadow has straight edges.
+
+QColor Mixed(const QColor& from, const QColor& to, double part)
+{
+    const auto mix = [part](int first, int last) { return qRound(first + (last - first) * part); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
+/// A sheet of paper with rounded corners.
+void FillSheet(QPainter& painter, const QRect& sheet, int radius, const QColor& paper)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(paper);
+    QRect edge(sheet.left(), sheet.top(), sheet.width(), 2 * radius);
+    painter.drawRoundedRect(edge, radius, radius);
+    edge.moveBottom(sheet.bottom());
+    painter.drawRoundedRect(edge, radius, radius);
+    painter.fillRect(sheet.adjusted(0, radius, 0, -radius), paper);
+}
+
+/// A hairline with rounded corners just inside `frame`.
+void DrawFrame(QPainter& painter, const QRect& frame, int radius, const QColor& ink)
+{
+    const QRect across = frame.adjusted(radius, 0, -radius, 0);
+    const QRect upright = frame.adjusted(0, radius, 0, -radius);
+    painter.fillRect(across.left(), frame.top(), across.width(), 1, ink);
+    painter.fillRect(across.left(), frame.bottom(), across.width(), 1, ink);
+    painter.fillRect(frame.left(), upright.top(), 1, upright.height(), ink);
+    painter.fillRect(frame.right(), upright.top(), 1, upright.height(), ink);
+
+    painter.setPen(QPen(ink, 1));
+    painter.setBrush(Qt::NoBrush);
+    const qreal size = 2.0 * radius;
+    const qreal right = frame.right() + 0.5 - size;
+    const qreal bottom = frame.bottom() + 0.5 - size;
+    constexpr int quarter = 90 * 16;
+    painter.drawArc(QRectF(frame.left() + 0.5, frame.top() + 0.5, size, size), quarter, quarter);
+    painter.drawArc(QRectF(right, frame.top() + 0.5, size, size), 0, quarter);
+    painter.drawArc(QRectF(frame.left() + 0.5, bottom, size, size), 2 * quarter, quarter);
+    painter.drawArc(QRectF(right, bottom, size, size), 3 * quarter, quarter);
+}
+
+/// The soft shadow of a sheet in layers that lie over each other, given from the widest on.
+void DrawShadow(QPainter& painter, const QRect& sheet, const QList<QRect>& layers, int radius, const QColor& shade)
+{
+    const QRect& widest = layers.first();
+    const int sidesTop = sheet.top() + kCorner;
+    const int sidesEnd = sheet.bottom() + 1 - kCorner;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shade);
+    const QRect ends[] = {{widest.left(), widest.top(), widest.width(), sidesTop - widest.top()},
+                          {widest.left(), sidesEnd, widest.width(), widest.bottom() + 1 - sidesEnd}};
+    for (const QRect& end : ends) {
+        painter.setClipRect(end);
+        for (const QRect& layer : layers) {
+            painter.drawRoundedRect(layer, radius, radius);
+        }
+    }
+    painter.setClipping(false);
+    for (const QRect& layer : layers) {
+        for (int top = sidesTop; top < sidesEnd; top += kLines) {
+            const int height = qMin(kLines, sidesEnd - top);
+            painter.fillRect(layer.left(), top, sheet.left() - layer.left(), height, shade);
+            painter.fillRect(sheet.right() + 1, top, layer.right() - sheet.right(), height, shade);
+        }
+    }
+}
+
+/// The wood darkens from the top on; where the diary hides it, it is left out.
 void DrawDesk(QPainter& painter)
 {
-    QLinearGradient wood(kDesk.topLeft(), kDesk.bottomLeft());
-    wood.setColorAt(0, Ink::Desk.lighter(116));
-    wood.setColorAt(1, Ink::Desk.darker(116));
-    painter.fillRect(kDesk, wood);
-    painter.setPen(Qt::NoPen);
-    for (int depth = 8; depth > 0; --depth) {
-        painter.setBrush(QColor(0, 0, 0, 12));
-        painter.drawRoundedRect(kLeftPage.united(kRightPage).adjusted(-depth, -depth + 3, depth, depth + 2), 8, 8);
+    constexpr int band = 24;
+    const QRect hidden = kLeftPage.united(kRightPage).adjusted(kCorner, kCorner, -kCorner, -kCorner);
+    const QColor light = Ink::Desk.lighter(116);
+    const QColor dark = Ink::Desk.darker(116);
+    for (int top = 0; top < kDesk.height(); top += band) {
+        const QColor wood = Mixed(light, dark, (top + band / 2.0) / kDesk.height());
+        if (top >= hidden.top() && top + band - 1 <= hidden.bottom()) {
+            painter.fillRect(0, top, hidden.left(), band, wood);
+            painter.fillRect(hidden.right() + 1, top, kDesk.right() - hidden.right(), band, wood);
+        } else {
+            painter.fillRect(0, top, kDesk.width(), band, wood);
+        }
     }
 }
 
 void DrawLeavesUnderneath(QPainter& painter)
 {
-    const QRectF both = QRectF(kLeftPage.united(kRightPage));
-    painter.setPen(Qt::NoPen);
-    for (int leaf = 3; leaf > 0; --leaf) {
-        painter.setBrush(leaf % 2 == 0 ? Ink::Paper : Ink::PaperShade);
-        painter.drawRoundedRect(both.adjusted(-leaf * 1.5, 0, leaf * 1.5, leaf * 1.5), 5, 5);
+    const QRect both = kLeftPage.united(kRightPage);
+    QList<QRect> shadow;
+    for (int depth = 8; depth > 0; depth -= 2) {
+        shadow << both.adjusted(-depth, -depth + 3, depth, depth + 2);
+    }
+    DrawShadow(painter, both, shadow, 8, QColor(0, 0, 0, 23));
+
+    constexpr int radius = 5;
+    const std::pair<int, QColor> leaves[] = {{5, Ink::PaperShade}, {3, Ink::Paper}, {2, Ink::PaperShade}};
+    for (const auto& [out, paper] : leaves) {
+        const QRect leaf = both.adjusted(-out, 0, out, out);
+        FillSheet(painter, {leaf.left(), both.top(), leaf.width(), 2 * radius}, radius, paper);
+        FillSheet(painter, {leaf.left(), leaf.bottom() + 1 - 2 * radius, leaf.width(), 2 * radius}, radius, paper);
+        painter.fillRect(leaf.left(), both.top() + radius, out, both.height() - radius, paper);
+        painter.fillRect(both.right() + 1, both.top() + radius, out, both.height() - radius, paper);
+    }
+}
+
+/// The fold of the binding: shades of the paper from the middle out to both sides. Drawn once for a few lines, which
+/// are then repeated down the page.
+void DrawFold(QPainter& painter)
+{
+    constexpr int reach = 46;
+    constexpr int lines = 24;
+    const qreal scale = painter.device()->devicePixelRatioF();
+    QPixmap piece((QSizeF(2 * reach, lines) * scale).toSize());
+    piece.setDevicePixelRatio(scale);
+    QPainter fold(&piece);
+    const QColor shade(90, 60, 30);
+    const QColor valley = Mixed(Ink::Paper, QColor(60, 38, 18), 110 / 255.0);
+    const struct {
+        int side;      ///< -1 for the left page.
+        QColor border; ///< Of the steep inner part, a sixth of all.
+    } pages[] = {{-1, Mixed(Ink::Paper, shade, 34 / 255.0)}, {1, Mixed(Ink::Paper, shade, 30 / 255.0)}};
+    for (const auto& page : pages) {
+        for (int x = 0; x < reach; ++x) {
+            constexpr double inner = 0.16;
+            const double part = (x + 0.5) / reach;
+            const QColor paper = part < inner ? Mixed(valley, page.border, part / inner)
+                                              : Mixed(page.border, Ink::Paper, (part - inner) / (1 - inner));
+            fold.fillRect(page.side < 0 ? reach - 1 - x : reach + x, 0, 1, lines, paper);
+        }
+    }
+    static_assert(kRightPage.height() % lines == 0);
+    for (int top = kRightPage.top(); top <= kRightPage.bottom(); top += lines) {
+        painter.drawPixmap(kRightPage.left() - reach, top, piece);
     }
 }
 
 void DrawPaper(QPainter& painter)
 {
-    const QRectF both = QRectF(kLeftPage.united(kRightPage));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Ink::Paper);
-    painter.drawRoundedRect(both, 4, 4);
-
-    // The fold of the binding.
-    const qreal spine = kRightPage.left();
-    constexpr qreal reach = 46;
-    QLinearGradient fold(spine - reach, 0, spine + reach, 0);
-    fold.setColorAt(0, QColor(90, 60, 30, 0));
-    fold.setColorAt(0.42, QColor(90, 60, 30, 34));
-    fold.setColorAt(0.5, QColor(60, 38, 18, 110));
-    fold.setColorAt(0.58, QColor(90, 60, 30, 30));
-    fold.setColorAt(1, QColor(90, 60, 30, 0));
-    painter.fillRect(QRectF(spine - reach, both.top(), 2 * reach, both.height()), fold);
-
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Ink::Rule.darker(108), 1));
-    painter.drawRoundedRect(QRectF(kLeftPage).adjusted(12.5, 10.5, -15.5, -10.5), 3, 3);
-    painter.drawRoundedRect(QRectF(kRightPage).adjusted(15.5, 10.5, -12.5, -10.5), 3, 3);
+    FillSheet(painter, kLeftPage.united(kRightPage), 4, Ink::Paper);
+    DrawFold(painter);
+    const QColor ink = Ink::Rule.darker(108);
+    DrawFrame(painter, kLeftPage.adjusted(12, 10, -15, -10), 3, ink);
+    DrawFrame(painter, kRightPage.adjusted(15, 10, -12, -10), 3, ink);
 }
 
 void DrawRule(QPainter& painter, int left, int right, int y)
 {
-    painter.setPen(QPen(Ink::Rule, 1));
-    painter.drawLine(QPointF(left, y + 0.5), QPointF(right, y + 0.5));
+    painter.fillRect(left, y, right - left, 1, Ink::Rule);
 }
 
 void DrawWord(QPainter& painter, const QRect& place, TextView word, const QFont& font, const QColor& ink,
@@ -88,27 +192,24 @@ void DrawFields(QPainter& painter)
     DrawWord(painter, Caption(Media), "Media", print, Ink::Print);
     DrawWord(painter, kPer, "x", print, Ink::Print, Qt::AlignCenter);
     DrawWord(painter, kIn, "@", print, Ink::Print, Qt::AlignCenter);
-    DrawWord(painter, kFileCaption, "Diario", PrintFont(13), Ink::Print);
+    DrawWord(painter, kFileCaption, "Diario", print, Ink::Print);
 }
 
 void DrawSlip(QPainter& painter)
 {
-    painter.setPen(Qt::NoPen);
+    QList<QRect> shadow;
     for (int depth = 4; depth > 0; --depth) {
-        painter.setBrush(QColor(60, 38, 18, 14));
-        painter.drawRoundedRect(QRectF(kSlip).adjusted(-1, 1, depth, depth + 1), 4, 4);
+        shadow << kSlip.adjusted(-1, 1, depth, depth + 1);
     }
-    painter.setBrush(Ink::Slip);
-    painter.setPen(QPen(Ink::Rule.darker(112), 1));
-    painter.drawRoundedRect(QRectF(kSlip).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    painter.setPen(QPen(Ink::Accent, 1.4));
-    const qreal y = kSlipTop + 31;
-    painter.drawLine(QPointF(kSlip.left() + 16, y), QPointF(kSlip.right() - 16, y));
+    DrawShadow(painter, kSlip, shadow, 4, QColor(60, 38, 18, 14));
+    FillSheet(painter, kSlip, 3, Ink::Slip);
+    DrawFrame(painter, kSlip, 3, Ink::Rule.darker(112));
+    painter.fillRect(kSlip.left() + 16, kSlipTop + 30, kSlip.width() - 33, 2, Mixed(Ink::Slip, Ink::Accent, 0.7));
 }
 
 void DrawNotes(QPainter& painter)
 {
-    DrawWord(painter, kNotesHead, "Note", PrintFont(17, true), Ink::Accent);
+    DrawWord(painter, kNotesHead, "Note", PrintFont(16, true), Ink::Accent);
     for (int line = 3; line <= 10; ++line) {
         DrawRule(painter, 636, 1144, Note(line).bottom() + 2);
     }
@@ -117,7 +218,7 @@ void DrawNotes(QPainter& painter)
 void DrawFoot(QPainter& painter)
 {
     DrawRule(painter, 636, 1144, kCountersTop - 8);
-    const QFont small = PrintFont(12);
+    const QFont small = PrintFont(13);
     constexpr std::array<TextView, 4> captions = {"Giorno dell'anno", "Allenamenti", "Km percorsi", "Gare"};
     for (int i = 0; i < 4; ++i) {
         DrawWord(painter, CounterCaption(i), captions[static_cast<std::size_t>(i)], small, Ink::Print);
@@ -127,12 +228,8 @@ void DrawFoot(QPainter& painter)
 void DrawSheet(QPainter& painter)
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    // The paper hides what lies under it, but for its rounded corners: filling all of it a dozen times over would be
-    // half the time of the first paint.
-    painter.setClipRegion(QRegion(kDesk) - kLeftPage.united(kRightPage).adjusted(6, 6, -6, -6));
     DrawDesk(painter);
     DrawLeavesUnderneath(painter);
-    painter.setClipping(false);
     DrawPaper(painter);
     DrawFields(painter);
     DrawSlip(painter);
@@ -155,16 +252,27 @@ void ScaleTo(QPainter& painter, const QRectF& area)
 
 } // namespace
 
+// The face that is there as a rule comes first: a search through the others costs time at the start.
+constexpr TextView kPrintFace = "Liberation Serif";
+
 QFont PrintFont(int pixels, bool bold)
 {
-    QFont font = PageFont("Times New Roman", pixels);
+    QFont font = PageFont(kPrintFace, pixels);
     font.setBold(bold);
+    return font;
+}
+
+QFont DateFont()
+{
+    constexpr int pixels = 24;
+    QFont font = PageFont("Times New Roman", pixels);
+    font.setBold(true);
     return font;
 }
 
 QFont PenFont(int pixels)
 {
-    QFont font = PageFont("Times New Roman", pixels);
+    QFont font = PageFont(kPrintFace, pixels);
     font.setItalic(true);
     return font;
 }
@@ -229,9 +337,12 @@ void DrawMilestone(QPainter& painter, const QRectF& area)
     painter.setBrush(QColor(255, 255, 255, 120));
     painter.drawPath(stone);
     painter.drawLine(QPointF(5, 35), QPointF(35, 35));
-    painter.setFont(PrintFont(11, true));
+    // The headings' font, made smaller by the painter: a size of its own would be one more font to load.
+    painter.translate(20, 20);
+    painter.scale(0.7, 0.7);
+    painter.setFont(PrintFont(16, true));
     painter.setPen(Ink::Accent);
-    painter.drawText(QRectF(10, 12, 20, 16), Qt::AlignCenter, QStringLiteral("km"));
+    painter.drawText(QRectF(-15, -12, 30, 24), Qt::AlignCenter, QStringLiteral("km"));
 }
 
 void DrawCup(QPainter& painter, const QRectF& area)
@@ -257,6 +368,7 @@ PaperSheet::PaperSheet(QWidget* parent) : QWidget(parent)
     setFixedSize(kDesk.size());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setPalette(PagePalette());
+    setFont(PrintFont(15));
 }
 
 void PaperSheet::paintEvent(QPaintEvent* event)

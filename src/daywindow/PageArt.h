@@ -17,6 +17,8 @@ namespace zelvia
 
 QFont PrintFont(int pixels, bool bold = false);
 QFont PenFont(int pixels);
+/// The large face of the date, and of the counters' numbers.
+QFont DateFont();
 
 /// A caption in print, for the pictures that carry one.
 Picture::Drawing CaptionDrawing(TextView caption, bool heading = false);

@@ -201,7 +201,7 @@ void ApplyStyle(Label& label, Style style)
         label.setPalette(palette);
     };
     switch (style) {
-    case Style::Caption: label.setFont(PrintFont(15)); break;
+    case Style::Caption: break; // As the page itself.
     case Style::Value:
     case Style::Note:
     case Style::SlipValue:
@@ -209,14 +209,11 @@ void ApplyStyle(Label& label, Style style)
         ink(Ink::Pen);
         break;
     case Style::Date:
-        label.setFont(PrintFont(25, true));
-        ink(Ink::PrintDark);
-        break;
     case Style::Counter:
-        label.setFont(PrintFont(20, true));
+        label.setFont(DateFont());
         ink(Ink::PrintDark);
         break;
-    case Style::FileName: label.setFont(PrintFont(13, true)); break;
+    case Style::FileName: label.setFont(PrintFont(16, true)); break;
     case Style::SlipHeading:
         label.setFont(PrintFont(16, true));
         ink(Ink::PrintDark);
@@ -342,6 +339,8 @@ void MakeSplits(PageControls& controls, QWidget* page)
     controls.lstListaKM = new ListBox(page, QStringLiteral("lstListaKM"));
     DressInput(*controls.lstListaKM, kListaKM);
     controls.lstListaKM->setAccessibleName(QStringLiteral("Tempi parziali"));
+    // It hands the focus on to its button at once, so Shift+Tab could not get past it.
+    controls.lstListaKM->setFocusPolicy(Qt::ClickFocus);
     controls.lstListaKM->SetVisible(false);
     controls.cmdListaKM = new Button(page, QStringLiteral("cmdListaKM"), "Immetti nella lista");
     controls.cmdListaKM->setGeometry(kImmetti);

@@ -182,10 +182,13 @@ void frmDesPercorso::CalcolaDistanza()
         for (int j = 1; j <= kRows; ++j) {
             km[static_cast<std::size_t>(j - 1)] = Parsed(*txtKm[j]);
             metri[static_cast<std::size_t>(j - 1)] = Parsed(*txtMetri[j]);
+            TotaleMetri += metri[static_cast<std::size_t>(j - 1)];
         }
         const LunghezzaPercorso totale = SommaTratti(km, metri);
         TotaleKm = totale.km;
-        RestoMetri = totale.metri;
+        if (TotaleMetri >= 1000) {
+            RestoMetri = totale.metri;
+        }
         txtDistanzaKm->SetContent(PlainText(totale.km));
         txtDistanzaMetri->SetContent(PlainText(totale.metri));
     });

@@ -35,9 +35,9 @@ public:
     TextBox* txtDistanzaKm;
     TextBox* txtDistanzaMetri;
 
-    i32 TotaleKm;
-    i32 TotaleMetri;
-    i32 RestoMetri;
+    i32 TotaleKm;    ///< With the whole kilometres of the metres.
+    i32 TotaleMetri; ///< As they stand in the boxes.
+    i32 RestoMetri;  ///< What the whole kilometres leave of 1000 metres or more, else 0.
 
 protected:
     void OnUnload() override;

@@ -8,6 +8,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
+#include "toolkit/PageStyle.h"
 #include "toolkit/QtText.h"
 
 #include <QFile>
@@ -25,6 +26,9 @@ namespace zelvia
 {
 namespace
 {
+
+// The title of the boxes. It is not made Qt's display name, which would follow the caption of every window.
+constexpr TextView kProgramName = "Zelvia";
 
 QMessageBox::StandardButtons QtButtons(MsgButtons buttons)
 {
@@ -48,8 +52,7 @@ QMessageBox::Icon QtIcon(MsgIcon icon)
 MsgAnswer ShowMessageBox(const MsgRequest& request)
 {
     const BoxUp up;
-    QMessageBox box(QtIcon(request.icon),
-                    request.title.empty() ? QApplication::applicationDisplayName() : ToQString(request.title),
+    QMessageBox box(QtIcon(request.icon), ToQString(request.title.empty() ? kProgramName : TextView(request.title)),
                     QString(), QtButtons(request.buttons), up.Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(request.text));
@@ -85,8 +88,7 @@ void InstallItalian(QApplication& application)
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
-    setApplicationDisplayName(QLatin1String("Zelvia"));
-    setStyle(QLatin1String("Fusion"));
+    setStyle(new PageStyle);
     InstallItalian(*this);
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);
@@ -116,8 +118,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
 QFont PageFont(TextView family, int pixels)
 {
     QStringList families{ToQString(family)};
-    if (family == "Times New Roman") {
-        families << QLatin1String("Liberation Serif") << QLatin1String("Nimbus Roman") << QLatin1String("serif");
+    if (family == "Times New Roman" || family == "Liberation Serif") {
+        families << QLatin1String("Liberation Serif") << QLatin1String("Times New Roman")
+                 << QLatin1String("Nimbus Roman") << QLatin1String("serif");
+        families.removeDuplicates();
     } else {
         // In these the degree sign is as wide as a digit.
         families << QLatin1String("Liberation Mono") << QLatin1String("DejaVu Sans Mono") << QLatin1String("monospace");
@@ -125,6 +129,8 @@ QFont PageFont(TextView family, int pixels)
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(pixels);
+    // Each of these holds every character a diary can: no list of other fonts need be made for those it lacks.
+    font.setStyleStrategy(QFont::NoFontMerging);
     return font;
 }
 

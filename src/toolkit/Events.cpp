@@ -14,6 +14,17 @@ namespace
 
 int depth = 0;
 
+/// The window that a box stands over: the active one or, while the display has none because another box has just
+/// closed, the one that holds the focus.
+QWidget* BoxOwner()
+{
+    if (QWidget* active = QApplication::activeWindow()) {
+        return active;
+    }
+    const Control* focused = FocusController::Instance().Current();
+    return focused != nullptr && focused->Widget().isVisible() ? focused->Widget().window() : nullptr;
+}
+
 } // namespace
 
 Routine::Routine()
@@ -33,7 +44,7 @@ bool Routine::Running()
     return depth > 0;
 }
 
-BoxUp::BoxUp() : owner_(QApplication::activeWindow())
+BoxUp::BoxUp() : owner_(BoxOwner())
 {
     FocusController::Instance().ShowDeferred();
 }

@@ -147,8 +147,9 @@ void FocusController::Settle()
 
 void FocusController::LeaveHidden(Control& control)
 {
-    Control* sink = SinkOf(control);
-    if (sink == nullptr || sink == &control || !HoldsFocus(control)) {
+    // A window that is being built has no sink yet, and no focus to leave.
+    Control* sink = HoldsFocus(control) ? SinkOf(control) : nullptr;
+    if (sink == nullptr || sink == &control) {
         return;
     }
     if (deferring_ && &control == current_) {

@@ -119,6 +119,15 @@ void ListBox::keyPressEvent(QKeyEvent* event)
 
 void ListBox::contextMenuEvent(QContextMenuEvent* event)
 {
+    // The mouse's own comes with the release; the keyboard's stands for it.
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        Fire([&] {
+            if (MouseUp) {
+                const QRect entry = visualItemRect(currentItem()) & viewport()->rect();
+                MouseUp(Qt::RightButton, viewport()->mapToGlobal(entry.center()));
+            }
+        });
+    }
     event->accept();
 }
 

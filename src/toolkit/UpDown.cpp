@@ -75,6 +75,26 @@ void UpDown::Step(Half half)
     }
 }
 
+void UpDown::StepUp(int times)
+{
+    for (int i = 0; i < times; ++i) {
+        Step(Half::Upper);
+    }
+}
+
+void UpDown::StepDown(int times)
+{
+    for (int i = 0; i < times; ++i) {
+        Step(Half::Lower);
+    }
+}
+
+void UpDown::SetMarked(bool marked)
+{
+    marked_ = marked;
+    update();
+}
+
 void UpDown::StopRepeat()
 {
     repeat_.stop();
@@ -174,7 +194,8 @@ void UpDown::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     const QColor ink = palette().color(QPalette::WindowText);
-    painter.setPen(QPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid), 1));
+    painter.setPen(
+        QPen(marked_.value_or(hasFocus()) ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid), 1));
     painter.setBrush(palette().color(QPalette::Button));
     painter.drawRoundedRect(frame, 3, 3);
 

@@ -8,6 +8,8 @@
 #include <QBasicTimer>
 #include <QWidget>
 
+#include <optional>
+
 namespace zelvia
 {
 
@@ -29,6 +31,13 @@ public:
     int Minimum() const { return minimum_; }
     int Maximum() const { return maximum_; }
     int Increment() const { return increment_; }
+
+    /// Steps as a press of the arrow does, `times` times.
+    void StepUp(int times);
+    void StepDown(int times);
+
+    /// In a group whose keys go to one of several, whether they go to this one; of itself a spin shows its focus.
+    void SetMarked(bool marked);
 
     i32 Value() const { return value_; }
     void SetValue(i32 value);
@@ -72,6 +81,7 @@ private:
     Half hovered_ = Half::None;
     QBasicTimer repeat_;
     bool repeating_ = false;
+    std::optional<bool> marked_;
     int turned_ = 0; ///< Of the wheel, beyond the last whole notch.
 };
 

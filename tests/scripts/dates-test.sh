@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The program starts and ends on any date of the machine: dates-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
-build=$1
+build=$(readlink -f "$1")
 . "$source_folder/tests/scripts/program.sh"
 
 # faketime is loaded ahead of the sanitizer; timers go by the clock that it leaves alone.

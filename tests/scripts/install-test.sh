@@ -4,7 +4,7 @@
 # What the installation lays down, and that it leaves a diary alone: install-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
 . "$source_folder/packaging/sample-year.sh"
-build=$1
+build=$(readlink -f "$1")
 folder=$work/Zelvia
 
 install_here() { cmake --install "$build" --prefix "$1" >/dev/null; }

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # One program a folder: instance-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
-build=$1
+build=$(readlink -f "$1")
 . "$source_folder/tests/scripts/program.sh"
 
 start

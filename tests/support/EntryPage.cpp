@@ -7,7 +7,9 @@
 #include "toolkit/FocusController.h"
 
 #include <QMenu>
+#include <QProcess>
 #include <QTimer>
+#include <QWindow>
 
 namespace zelvia::test
 {
@@ -15,6 +17,15 @@ namespace
 {
 
 constexpr int kSeason = 6;
+
+/// The number of the window that the manager of the display holds for the active one.
+QByteArray ActiveOnDisplay()
+{
+    QProcess xdotool;
+    xdotool.start(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+    xdotool.waitForFinished();
+    return xdotool.readAllStandardOutput().trimmed();
+}
 
 /// Waits for a pop-up, notes what it shows and presses a key in it.
 class PopUpAnswer : public QObject
@@ -106,8 +117,13 @@ void EntryPage::TypeOver(TextBox& box, const QString& text) const
     QTRY_VERIFY(box.hasFocus());
     box.selectAll();
     hand::Key(Qt::Key_Backspace);
-    if (!text.isEmpty()) {
-        hand::Type(text);
+    for (const QChar character : text) {
+        if (character.unicode() < 128) {
+            hand::Type(QString(character));
+        } else {
+            // The display's keyboard has no key for it.
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(character), Qt::NoModifier);
+        }
     }
 }
 
@@ -116,12 +132,15 @@ QPoint EntryPage::RowAt(ListBox& list, int row)
     return list.visualItemRect(list.item(row)).center();
 }
 
-QByteArrayList EntryPage::PopUp(ListBox& list, Qt::Key key) const
+QByteArrayList EntryPage::PopUp(ListBox& list, Qt::Key key, bool comesBack) const
 {
     const PopUpAnswer answer(key);
     hand::Click(*list.viewport(), RowAt(list, 0), Qt::RightButton);
     if (!QTest::qWaitFor([&] { return answer.Done() && QApplication::activePopupWidget() == nullptr; })) {
         return {"no pop-up"};
+    }
+    if (comesBack) {
+        TakeFront();
     }
     return answer.Shown();
 }
@@ -160,11 +179,26 @@ void EntryPage::CloseRouteWindow() const
     QVERIFY(QTest::qWaitForWindowActive(window));
     window->close();
     QTRY_VERIFY(window.isNull());
+    TakeFront();
+}
+
+void EntryPage::TakeFront() const
+{
     if (!hand::OnX11()) {
         // There is no manager that would do it.
         Page().activateWindow();
     }
-    QTRY_VERIFY(Page().isActiveWindow());
+    AwaitFront(Page());
+}
+
+void EntryPage::AwaitFront(const QWidget& window)
+{
+    QTRY_VERIFY(window.isActiveWindow());
+    QTRY_VERIFY(QGuiApplication::focusWindow() == window.windowHandle());
+    if (hand::OnX11()) {
+        // The manager hears of it later than the window, and until then it may take a click for itself.
+        QTRY_COMPARE(ActiveOnDisplay(), QByteArray::number(window.winId()));
+    }
 }
 
 QByteArray RouteFileOf(const QByteArrayList& names)

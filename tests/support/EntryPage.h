@@ -41,8 +41,9 @@ public:
     /// A point of a row of a list, in the coordinates of its viewport.
     static QPoint RowAt(ListBox& list, int row);
     void ClickRow(ListBox& list, int row) const { hand::Click(*list.viewport(), RowAt(list, row)); }
-    /// A right click over a list; presses `key` in the pop-up that comes up. The names of the entries it shows.
-    QByteArrayList PopUp(ListBox& list, Qt::Key key) const;
+    /// A right click over a list; presses `key` in the pop-up that comes up, and waits for the page to be in front
+    /// again unless the entry opens a window. The names of the entries it shows.
+    QByteArrayList PopUp(ListBox& list, Qt::Key key, bool comesBack = true) const;
 
     /// The name of the control that has the focus.
     static QByteArray Focused();
@@ -53,6 +54,10 @@ public:
     frmDesPercorso* RouteWindow() const;
     /// Waits for that window and closes it.
     void CloseRouteWindow() const;
+    /// Waits until the page is in front again, after a window or a pop-up over it has gone.
+    void TakeFront() const;
+    /// Waits until a window has the keyboard, for the program and for the display's manager.
+    static void AwaitFront(const QWidget& window);
 };
 
 /// The file of the descriptions, written line by line: the names take the first places, each with a first stretch

@@ -23,7 +23,7 @@ constexpr const char* kOption = "--run-in";
 int RunIn(const char* folder)
 {
     SetProgramFolder(SystemPath(folder));
-    std::cout << (TakeInstanceLock() ? "taken" : "held") << std::endl;
+    std::cout << (Application::Instance().TakeInstanceLock() ? "taken" : "held") << std::endl;
     std::string line;
     std::getline(std::cin, line);
     return 0;

@@ -164,10 +164,10 @@ void PointerTest::AGarbledCursorFileIs481()
 void PointerTest::ALabelsPointerIsItsOwn()
 {
     SampleForm form;
-    form.lblFermo->SetPointer(Qt::PointingHandCursor);
+    form.lblFermo->setCursor(Qt::PointingHandCursor);
     QCOMPARE(form.lblFermo->cursor().shape(), Qt::PointingHandCursor);
     QCOMPARE(form.lblVai->cursor().shape(), Qt::ArrowCursor);
-    form.lblFermo->SetDefaultPointer();
+    form.lblFermo->unsetCursor();
     QCOMPARE(form.lblFermo->cursor().shape(), Qt::ArrowCursor);
     QVERIFY(QApplication::overrideCursor() == nullptr);
 }

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sorted list of a route's times on the page.
+#include "core/Conversions.h"
+#include "support/EntryPage.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+
+namespace zelvia::test
+{
+namespace
+{
+
+void PutRun(int slot, TextView route, TextView time, TextView pace)
+{
+    RecordGiorno& day = Module1::Giorni[slot];
+    day.Percorso = Text(route);
+    day.TempoImpiegato = Text(time);
+    day.MediaKm = Text(pace);
+}
+
+QStringList Lines(const EntryPage& page)
+{
+    QStringList lines;
+    for (int i = 0; i < page->lstListaOrdinata->count(); ++i) {
+        lines << page->lstListaOrdinata->item(i)->text();
+    }
+    return lines;
+}
+
+bool Shown(const EntryPage& page)
+{
+    return page->lstListaOrdinata->isVisible() &&
+           std::all_of(page->cmdLO.begin(), page->cmdLO.end(), [](const Button* head) { return head->isVisible(); });
+}
+
+bool Hidden(const EntryPage& page)
+{
+    return !page->lstListaOrdinata->isVisible() &&
+           std::none_of(page->cmdLO.begin(), page->cmdLO.end(), [](const Button* head) { return head->isVisible(); });
+}
+
+/// A run of 50 minutes on the day on show, whose distance is then opened and left.
+void RunToday(const EntryPage& page, TextView route)
+{
+    page.Field(1).lblImmis->SetCaption(route);
+    page->upKM->SetValue(10);
+    page->upMinutiFine->SetValue(50);
+    page.Open(*page->lblImmisMetri);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upMetri"));
+    page.Open(*page->lblImmisMetri);
+    QTRY_VERIFY(Shown(page));
+}
+
+} // namespace
+
+class OrderedListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void earlierRunsAndTheOneOnShow();
+    void theRunOnShowIsThePages();
+    void aRunWithoutTimeIsNotListed();
+    void escapeHidesIt();
+    void leavingHidesIt();
+    void itComesUpAnew();
+    void theCommandListsTheStoredRuns();
+    void columnsLineUp();
+};
+
+void OrderedListTest::earlierRunsAndTheOneOnShow()
+{
+    EntryPage page;
+    page.Start();
+    QVERIFY(Hidden(page));
+    PutRun(20, "Alfa", "1:02:03", "6:12");
+    PutRun(10, "Alfa", "0:50:00", "5:00");
+    PutRun(139, "Alfa", "0:49:59", "4:59");
+    PutRun(30, "alfa", "0:10:00", "1:00");  // here the case counts
+    PutRun(40, "Beta", "0:20:00", "2:00");  // another route
+    PutRun(50, "Alfa ", "0:20:00", "2:00"); // and so do blanks
+    PutRun(141, "Alfa", "0:30:00", "3:00"); // a later day
+    PutRun(25, "Alfa", "2:00:00", "12:30");
+    RunToday(page, "Alfa");
+    // Of equal times the later run comes first.
+    const QStringList expected = {
+        QStringLiteral("   1°   0:49:59   4:59   19/05/2026"), QStringLiteral("   2°   0:50:00   5:00   20/05/2026"),
+        QStringLiteral("   3°   0:50:00   5:00   10/01/2026"), QStringLiteral("   4°   1:02:03   6:12   20/01/2026"),
+        QStringLiteral("   5°   2:00:00  12:30   25/01/2026")};
+    QCOMPARE(Lines(page), expected);
+    QCOMPARE(page->lstListaOrdinata->ListIndex(), 1);
+    QCOMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    QCOMPARE(page->cmdLO[0]->text(), QStringLiteral("posizione"));
+    QCOMPARE(page->cmdLO[1]->text(), QStringLiteral("tempo"));
+    QCOMPARE(page->cmdLO[2]->text(), QStringLiteral("media"));
+    QCOMPARE(page->cmdLO[3]->text(), QStringLiteral("data"));
+    QCOMPARE(page->cmdLO[0]->objectName(), QStringLiteral("cmdLO1"));
+    QCOMPARE(page->lstListaOrdinata->toolTip(), QStringLiteral("Lista Tempi"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::theRunOnShowIsThePages()
+{
+    // The record of the day on show holds another time: the page's counts, and only once.
+    EntryPage page;
+    page.Start();
+    PutRun(140, "Alfa", "0:11:11", "1:11");
+    RunToday(page, "Alfa");
+    QCOMPARE(Lines(page), QStringList{QStringLiteral("   1°   0:50:00   5:00   20/05/2026")});
+    QCOMPARE(page->lstListaOrdinata->ListIndex(), 0);
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::aRunWithoutTimeIsNotListed()
+{
+    EntryPage page;
+    page.Start();
+    PutRun(10, "Alfa", "0:50:00", "5:00");
+    page.Field(1).lblImmis->SetCaption("Alfa");
+    page->upKM->SetValue(10);
+    page->upOraInizio->SetValue(9);
+    page->upOraFine->SetValue(9);
+    page.script.Expect(Warning(QStringLiteral("L'ORA FINE E' UGUALE ALL'ORA INIZIO        ")));
+    page.script.Expect(Report(QStringLiteral("MediaKm - ERRORE : 11 Divisione per zero")));
+    page.Open(*page->lblImmisMetri);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upMetri"));
+    page.Open(*page->lblImmisMetri);
+    QTRY_VERIFY(Shown(page));
+    QCOMPARE(Lines(page), QStringList{QStringLiteral("   1°   0:50:00   5:00   10/01/2026")});
+    QCOMPARE(page->lstListaOrdinata->ListIndex(), -1);
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::escapeHidesIt()
+{
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    page.ClickRow(*page->lstListaOrdinata, 0);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("lstListaOrdinata"));
+    hand::Key(Qt::Key_Return);
+    QVERIFY(Shown(page));
+    hand::Key(Qt::Key_Escape);
+    QTRY_VERIFY(Hidden(page));
+    QCOMPARE(Lines(page), QStringList());
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::leavingHidesIt()
+{
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    // The heads have no action and take no focus.
+    page.ClickRow(*page->lstListaOrdinata, 0);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("lstListaOrdinata"));
+    for (Button* head : page->cmdLO) {
+        hand::Click(*head);
+    }
+    QVERIFY(Shown(page));
+    page.Open(5);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtTipo"));
+    QTRY_VERIFY(Hidden(page));
+    QCOMPARE(Lines(page), QStringList());
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::itComesUpAnew()
+{
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    RunToday(page, "Alfa");
+    QCOMPARE(Lines(page).size(), 1);
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::theCommandListsTheStoredRuns()
+{
+    EntryPage page;
+    page.Start();
+    PutRun(10, "Beta", "0:50:00", "5:00");
+    PutRun(140, "Beta", "0:40:00", "4:00");
+    PutRun(141, "Beta", "0:30:00", "3:00");
+    page->lblOutTempoImpiegato->SetCaption("0:20:00");
+    page.Open(1);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtPercorso"));
+    page.ClickRow(*page.Field(1).lst, 1);
+    QTRY_COMPARE(page.Field(1).lst->ListIndex(), 1);
+    page.PopUp(*page.Field(1).lst, Qt::Key_T);
+    QTRY_VERIFY(Shown(page));
+    QCOMPARE(Lines(page), QStringList({QStringLiteral("   1°   0:40:00   4:00   20/05/2026"),
+                                       QStringLiteral("   2°   0:50:00   5:00   10/01/2026")}));
+    QCOMPARE(page->lstListaOrdinata->ListIndex(), -1);
+    QVERIFY(page.IsOpen(1));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::columnsLineUp()
+{
+    EntryPage page;
+    page.Start();
+    for (int slot = 1; slot <= 120; ++slot) {
+        PutRun(slot, "Alfa", "0:" + Format(i32(slot % 60), "00") + ":30", slot % 2 == 0 ? "5:00" : "12:30");
+    }
+    RunToday(page, "Alfa");
+    const QStringList lines = Lines(page);
+    QCOMPARE(lines.size(), 121);
+    QVERIFY(lines[0].startsWith(QStringLiteral("   1°   ")));
+    QVERIFY(lines[9].startsWith(QStringLiteral("  10°   ")));
+    QVERIFY(lines[99].startsWith(QStringLiteral(" 100°   ")));
+    QVERIFY(QFontInfo(page->lstListaOrdinata->font()).fixedPitch());
+    QCOMPARE(page->lstListaOrdinata->font().families().constFirst(), QStringLiteral("Courier"));
+    const QFontMetricsF metrics(page->lstListaOrdinata->font());
+    QCOMPARE(metrics.horizontalAdvance(QStringLiteral("°")), metrics.horizontalAdvance(QStringLiteral("0")));
+    for (const QString& line : lines) {
+        QCOMPARE(line.size(), lines[0].size());
+        QCOMPARE(metrics.horizontalAdvance(line), metrics.horizontalAdvance(lines[0]));
+    }
+    VERIFY_SCRIPT(page.script);
+}
+
+} // namespace zelvia::test
+
+DAY_PAGE_TEST_MAIN(zelvia::test::OrderedListTest)
+#include "OrderedListTest.moc"

@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The window of a route's description: when it opens, what it shows and what its closing stores.
+#include "routes/RouteHand.h"
+#include "routes/RouteModel.h"
+
+namespace zelvia::test
+{
+namespace
+{
+
+ExpectedBox TooMany()
+{
+    return {QStringLiteral(" DESCRIZIONE MAX PER 200 PERCORSI "), QMessageBox::Critical};
+}
+
+QString Name(const char* array, int row)
+{
+    return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(row);
+}
+
+} // namespace
+
+class RouteWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void itsControls();
+    void opensForANewNameOnly_data();
+    void opensForANewNameOnly();
+    void theLowestFreePlaceIsTaken();
+    void theCommandOpensTheSelectedRoute();
+    void closingStoresAndSetsTheDistance();
+    void anEmptyDescriptionSetsTheDistanceToZero();
+    void anEmptyCurrentRouteTakesTheFirstFreePlace();
+    void aRouteWithoutAPlaceUsesRowZero();
+    void moreThan200AtOpeningAndClosing();
+    void thePageIsBlocked();
+};
+
+void RouteWindowTest::init()
+{
+    // Row 0, where ends what has no place, is emptied by nothing.
+    Module1::DistanzePercorso[0] = 0;
+    Module1::TrattoDescrizione[0][1].clear();
+    Module1::TrattoKm[0][1] = 0;
+}
+
+void RouteWindowTest::itsControls()
+{
+    EntryPage page;
+    page.Start();
+    OpenEntry(page, 1);
+    frmDesPercorso& window = Opened(page);
+    const auto text = [&](const QString& name) {
+        const auto* child = window.findChild<QObject*>(name);
+        return child == nullptr ? QStringLiteral("none") : child->property("text").toString();
+    };
+    QCOMPARE(window.objectName(), QStringLiteral("frmDesPercorso"));
+    QCOMPARE(text(QStringLiteral("lblDescrizione")), QStringLiteral(" Descrizione "));
+    QCOMPARE(text(QStringLiteral("lblKm")), QStringLiteral(" Km "));
+    QCOMPARE(text(QStringLiteral("lblMetri")), QStringLiteral(" Metri "));
+    QCOMPARE(text(QStringLiteral("lblTotale")), QStringLiteral(" Totale"));
+    for (int row = 1; row <= 20; ++row) {
+        QCOMPARE(text(Name("lblTratto", row)),
+                 (row < 10 ? QStringLiteral(" ") : QString()) + QString::number(row) + QStringLiteral("°Tratto"));
+        QVERIFY(window.findChild<TextBox*>(Name("txtTratto", row))->Limit() == 80);
+        QVERIFY(window.findChild<TextBox*>(Name("txtKm", row))->Limit() == 2);
+        QVERIFY(window.findChild<TextBox*>(Name("txtMetri", row))->Limit() == 3);
+        QVERIFY(window.findChild<QWidget*>(Name("lblDescr", row)) != nullptr);
+    }
+    QVERIFY(window.txtDistanzaKm->isReadOnly());
+    QVERIFY(window.txtDistanzaMetri->isReadOnly());
+    // What the route holds; zeros show as nothing.
+    QCOMPARE(text(Name("txtTratto", 1)), QStringLiteral("t"));
+    QCOMPARE(text(Name("txtKm", 1)), QStringLiteral("1"));
+    QCOMPARE(text(Name("txtMetri", 1)), QStringLiteral("2"));
+    QCOMPARE(text(Name("txtKm", 2)), QString());
+    QCOMPARE(text(Name("txtMetri", 2)), QString());
+    QCOMPARE(text(QStringLiteral("txtDistanzaKm")), QStringLiteral("1"));
+    QCOMPARE(text(QStringLiteral("txtDistanzaMetri")), QStringLiteral("2"));
+    page.CloseRouteWindow();
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::opensForANewNameOnly_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("new") << "Delta" << true;
+    QTest::newRow("listed") << "Beta" << false;
+    // Not in the list, but with a description of its own.
+    QTest::newRow("described") << "Fuori lista" << false;
+    QTest::newRow("described, another case") << "FUORI lista" << false;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("blanks") << "   " << false;
+}
+
+void RouteWindowTest::opensForANewNameOnly()
+{
+    QFETCH(QString, typed);
+    QFETCH(bool, opens);
+    EntryPage page;
+    page.Start();
+    Module1::NomiPercorso[7] = "Fuori lista";
+    EnterRoute(page, typed);
+    if (opens) {
+        QCOMPARE(Opened(page).windowTitle(), QStringLiteral("Percorso : Delta"));
+        QVERIFY(Opened(page).windowModality() == Qt::WindowModal);
+        QCOMPARE(Module1::NomiPercorso[4], Text("Delta"));
+        page.CloseRouteWindow();
+    } else {
+        QCOMPARE(page.RouteWindow(), nullptr);
+        QCOMPARE(Module1::NomiPercorso[4], Text());
+        QCOMPARE(Module1::NomiPercorso[7], Text("Fuori lista"));
+    }
+    QCOMPARE(Module1::NomiPercorso[8], Text());
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::theLowestFreePlaceIsTaken()
+{
+    EntryPage page;
+    page.Start();
+    Module1::AzzeraPercorso(2);
+    EnterRoute(page, QStringLiteral("Delta"));
+    page.CloseRouteWindow();
+    QCOMPARE(Module1::NomiPercorso[2], Text("Delta"));
+    QCOMPARE(Module1::NomiPercorso[4], Text());
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::theCommandOpensTheSelectedRoute()
+{
+    EntryPage page;
+    page.Start();
+    OpenEntry(page, 2);
+    QCOMPARE(Opened(page).windowTitle(), QStringLiteral("Percorso : Gamma"));
+    QCOMPARE(Opened(page).txtMetri[1]->text(), QStringLiteral("3"));
+    page.CloseRouteWindow();
+    QCOMPARE(page.Caption("lblImmisMetri"), QStringLiteral("1,003"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::closingStoresAndSetsTheDistance()
+{
+    EntryPage page;
+    page.Start();
+    page->upMetro->SetValue(4);
+    EnterRoute(page, QStringLiteral("Delta"));
+    frmDesPercorso& window = Opened(page);
+    TypeInto(*window.txtTratto[1], QStringLiteral("dal ponte"));
+    TypeInto(*window.txtKm[1], QStringLiteral("9"));
+    TypeInto(*window.txtMetri[1], QStringLiteral("700"));
+    TypeInto(*window.txtTratto[20], QStringLiteral("ritorno"));
+    TypeInto(*window.txtMetri[20], QStringLiteral("350"));
+    // Closed with the focus still in a box whose sum has not been made.
+    page.CloseRouteWindow();
+    QCOMPARE(Module1::TrattoDescrizione[4][1], Text("dal ponte"));
+    QVERIFY(Module1::TrattoKm[4][1] == 9);
+    QVERIFY(Module1::TrattoMetri[4][1] == 700);
+    QCOMPARE(Module1::TrattoDescrizione[4][20], Text("ritorno"));
+    QVERIFY(Module1::TrattoMetri[4][20] == 350);
+    QVERIFY(Module1::DistanzePercorso[4] == 10050);
+    QCOMPARE(page.Caption("lblImmisMetri"), QStringLiteral("10,050"));
+    QCOMPARE(page->upMetro->Value().value(), 0);
+    // The day gets it with its next commit.
+    QVERIFY(DayPage::Day().Km == 0);
+    page.GoTo(141);
+    QVERIFY(Module1::Giorni[140].Km == 10);
+    QVERIFY(Module1::Giorni[140].Metri == 50);
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::anEmptyDescriptionSetsTheDistanceToZero()
+{
+    EntryPage page;
+    page.Start();
+    page->upKM->SetValue(12);
+    page->upMetri->SetValue(500);
+    EnterRoute(page, QStringLiteral("Delta"));
+    page.CloseRouteWindow();
+    QCOMPARE(page->upKM->Value().value(), 0);
+    QCOMPARE(page->upMetri->Value().value(), 0);
+    QCOMPARE(page.Caption("lblImmisMetri"), QStringLiteral("0,000"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::anEmptyCurrentRouteTakesTheFirstFreePlace()
+{
+    EntryPage page;
+    page.Start();
+    QCOMPARE(Module1::PercorsoCorrente, Text());
+    page->mnuDescrizionePercorso_Click();
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : "));
+    QCOMPARE(window.txtTratto[1]->text(), QString());
+    TypeInto(*window.txtTratto[1], QStringLiteral("senza nome"));
+    page.CloseRouteWindow();
+    QCOMPARE(Module1::NomiPercorso[4], Text());
+    QCOMPARE(Module1::TrattoDescrizione[4][1], Text("senza nome"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::aRouteWithoutAPlaceUsesRowZero()
+{
+    EntryPage page;
+    page.Start();
+    Module1::AzzeraPercorso(2); // "Beta" stays in the list
+    OpenEntry(page, 1);
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : Beta"));
+    QCOMPARE(window.txtTratto[1]->text(), QString());
+    TypeInto(*window.txtTratto[1], QStringLiteral("nulla"));
+    TypeInto(*window.txtKm[1], QStringLiteral("3"));
+    page.CloseRouteWindow();
+    QCOMPARE(Module1::TrattoDescrizione[0][1], Text("nulla"));
+    QVERIFY(Module1::DistanzePercorso[0] == 3000);
+    QCOMPARE(Module1::NomiPercorso[2], Text());
+    QCOMPARE(Module1::TrattoDescrizione[2][1], Text());
+    QCOMPARE(page->upKM->Value().value(), 3);
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::moreThan200AtOpeningAndClosing()
+{
+    // The third place of this message, a new name, is a matter of the field's closing.
+    EntryPage page;
+    page.folder.Write(QStringLiteral("prova/ListePercorso"), RouteFileOf(TwoHundredNames()));
+    page.Start();
+    page->upKM->SetValue(12);
+    page.script.Expect(TooMany());
+    OpenEntry(page, 1); // "Beta" is in the list but has no place
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : Beta"));
+    QCOMPARE(window.txtDistanzaKm->text(), QString());
+    VERIFY_SCRIPT(page.script);
+    TypeInto(*window.txtKm[1], QStringLiteral("3"));
+    page.script.Expect(TooMany());
+    page.CloseRouteWindow();
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(page->upKM->Value().value(), 12);
+    QVERIFY(Module1::TrattoKm[0][1] == 0);
+}
+
+void RouteWindowTest::thePageIsBlocked()
+{
+    EntryPage page;
+    page.Start();
+    EnterRoute(page, QStringLiteral("Delta"));
+    frmDesPercorso& window = Opened(page);
+    QVERIFY(QApplication::activeModalWidget() == &window);
+    page.CloseRouteWindow();
+    page.Open(5);
+    QTRY_VERIFY(page.IsOpen(5));
+    VERIFY_SCRIPT(page.script);
+}
+
+} // namespace zelvia::test
+
+DAY_PAGE_TEST_MAIN(zelvia::test::RouteWindowTest)
+#include "RouteWindowTest.moc"
