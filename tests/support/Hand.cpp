@@ -122,7 +122,8 @@ QString KeyName(Qt::Key key)
         {Qt::Key_Delete, "Delete"}, {Qt::Key_Left, "Left"},      {Qt::Key_Right, "Right"},
         {Qt::Key_Up, "Up"},         {Qt::Key_Down, "Down"},      {Qt::Key_Home, "Home"},
         {Qt::Key_End, "End"},       {Qt::Key_Space, "space"},    {Qt::Key_F1, "F1"},
-        {Qt::Key_F4, "F4"},         {Qt::Key_F10, "F10"},        {Qt::Key_PageDown, "Next"}};
+        {Qt::Key_F4, "F4"},         {Qt::Key_F10, "F10"},        {Qt::Key_PageDown, "Next"},
+        {Qt::Key_PageUp, "Prior"}};
     const auto found = names.find(key);
     return found != names.end() ? QString::fromLatin1(found->second) : QString(QChar(static_cast<int>(key))).toLower();
 }
