@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The date of the page: where it starts, how the arrows move it and where they stop.
 #include "support/DayPage.h"
+#include "tables/TableModel.h"
 
 namespace zelvia::test
 {
@@ -275,7 +276,9 @@ void DatesTest::aRequestOfTheTableEditorIsTakenUp()
     QCOMPARE(page.Caption("lblKmTab"), QStringLiteral("0,0"));
     QCOMPARE(page.Caption("lblTabNomeFile"), QStringLiteral("Nessuna tabella attiva"));
 
-    // With one, its name is shown and the file read; the request is met once.
+    // With one, its name is shown and the file read; the request is met once. What stays in memory when the file is
+    // missing starts after the day shown, so the panel stays neutral.
+    Module1::TabDataInizio = CalendarDate(2026, 6, 1);
     Module1::NomeTabellaAttiva = page.folder.System(QStringLiteral("prova/missing.tab"));
     page.script.Expect(Report(QStringLiteral("ERRORE : 53 File non trovato")));
     page->lblTimerTab->SetCaption("1");
