@@ -16,9 +16,7 @@ void frmMain::InizializzaListe()
         for (const ListaScelta lista : kTutteLeListe) {
             ListBox& lst = *Campo(lista).lst;
             lst.Clear();
-            for (const TextView voce : VociIniziali(lista)) {
-                lst.AddItem(voce);
-            }
+            lst.AddItems(VociIniziali(lista));
         }
     });
 }

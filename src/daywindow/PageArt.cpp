@@ -373,6 +373,13 @@ PaperSheet::PaperSheet(QWidget* parent) : QWidget(parent)
 
 void PaperSheet::paintEvent(QPaintEvent* event)
 {
+    // The first page goes straight onto the screen; the copy for the many small repaints is made with the second.
+    if (!shown_) {
+        shown_ = true;
+        QPainter painter(this);
+        DrawSheet(painter);
+        return;
+    }
     const qreal scale = devicePixelRatioF();
     if (cache_.isNull() || cache_.devicePixelRatioF() != scale) {
         cache_ = QPixmap((QSizeF(size()) * scale).toSize());

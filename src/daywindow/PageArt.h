@@ -43,6 +43,7 @@ protected:
 
 private:
     QPixmap cache_;
+    bool shown_ = false;
 };
 
 } // namespace zelvia

@@ -44,6 +44,16 @@ void ListBox::AddItem(TextView text)
     addItem(ToQString(text));
 }
 
+void ListBox::AddItems(std::span<const TextView> texts)
+{
+    QStringList strings;
+    strings.reserve(static_cast<qsizetype>(texts.size()));
+    for (const TextView text : texts) {
+        strings << ToQString(text);
+    }
+    addItems(strings);
+}
+
 void ListBox::RemoveItem(int index)
 {
     // The entry that follows must not come up as the selected one.

@@ -7,6 +7,7 @@
 
 #include <QListWidget>
 
+#include <span>
 #include <vector>
 
 namespace zelvia
@@ -24,6 +25,7 @@ public:
     Text List(int index) const;
     std::vector<Text> Items() const;
     void AddItem(TextView text);
+    void AddItems(std::span<const TextView> texts);
     void RemoveItem(int index);
     void Clear() { clear(); }
 
