@@ -161,6 +161,17 @@ WId ManagersActiveWindow()
     return Output({QStringLiteral("getactivewindow")}).trimmed().toULongLong();
 }
 
+void KeyForManager(const QStringList& words, const std::function<bool()>& done)
+{
+    constexpr int attempts = 5;
+    constexpr int patience = 2000;
+    for (int i = 0; i < attempts && !done(); ++i) {
+        Raw(words);
+        (void)QTest::qWaitFor(done, patience);
+    }
+    QVERIFY2(done(), qPrintable(words.join(QLatin1Char(' '))));
+}
+
 void MoveTo(QWidget& widget, QPoint position)
 {
     if (OnX11()) {

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 /// The user's hand in a test: mouse and keys enter where the machine's own do. On an X display they are true input of
 /// the X server and reach whatever window the server thinks fit; offscreen they enter at the platform's border. Each
 /// call returns when the program has seen the event, or fails the test after some seconds.
@@ -40,5 +42,9 @@ void Raw(const QStringList& words);
 /// On an X display only: the window that the window manager holds for the active one, which it is told of later than
 /// the program at times. Keys that the manager acts on go by this.
 WId ManagersActiveWindow();
+
+/// On an X display only: a key for the window manager, in the words of xdotool. A manager that is still busy with a new
+/// window misses keys; as a user would, this presses again, a few times, until `done`.
+void KeyForManager(const QStringList& words, const std::function<bool()>& done);
 
 } // namespace hand

@@ -128,7 +128,8 @@ void FormTest::TheCloseBoxUnloads()
     QVERIFY(QTest::qWaitForWindowActive(&form));
     if (hand::OnX11()) {
         QTRY_COMPARE(hand::ManagersActiveWindow(), form.winId());
-        hand::Raw({QStringLiteral("key"), QStringLiteral("alt+F4")});
+        hand::KeyForManager({QStringLiteral("key"), QStringLiteral("alt+F4")},
+                            [] { return CountedForm::unloaded > 0; });
     } else {
         form.windowHandle()->close();
     }

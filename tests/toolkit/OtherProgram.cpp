@@ -43,14 +43,9 @@ OtherProgram::~OtherProgram()
 void OtherProgram::ChangeBack()
 {
     if (hand::OnX11()) {
-        // A manager that is still busy with the other window misses the keys; a user presses them again.
-        constexpr int attempts = 5;
-        constexpr int patience = 2000;
-        for (int i = 0; i < attempts && !window_.isActiveWindow(); ++i) {
-            hand::Raw({QStringLiteral("keydown"), QStringLiteral("alt"), QStringLiteral("key"), QStringLiteral("Tab"),
-                       QStringLiteral("keyup"), QStringLiteral("alt")});
-            (void)QTest::qWaitFor([this] { return window_.isActiveWindow(); }, patience);
-        }
+        hand::KeyForManager({QStringLiteral("keydown"), QStringLiteral("alt"), QStringLiteral("key"),
+                             QStringLiteral("Tab"), QStringLiteral("keyup"), QStringLiteral("alt")},
+                            [this] { return window_.isActiveWindow(); });
     } else {
         QApplication::setActiveWindow(&window_);
     }

@@ -191,7 +191,7 @@ void ValidateTest::IsNotAskedForTheCloseBox()
     const QPointer<SampleForm> watched = closing;
     if (hand::OnX11()) {
         QTRY_COMPARE(hand::ManagersActiveWindow(), closing->winId());
-        hand::Raw({QStringLiteral("key"), QStringLiteral("alt+F4")});
+        hand::KeyForManager({QStringLiteral("key"), QStringLiteral("alt+F4")}, [&] { return watched.isNull(); });
     } else {
         closing->close();
     }
