@@ -90,6 +90,7 @@ private:
     void ConnectDateBox(std::size_t index);
     void Load();
 
+    void ShowRowMenu(int riga, const QPoint& position);
     void BeginEditing();
     bool LimitHolds(TableGrid::Column column, int riga);
     bool DateLimitHolds(std::size_t index);
@@ -120,9 +121,5 @@ private:
     std::array<BoundedArray<Label*, 1, 31>, TableGrid::kStrips> strips_;
     Text percorsoSalvato_; ///< Where this window last saved, for a table that was not opened from a file.
 };
-
-/// Runs the save dialog until the user picks a name in CartellaDiario, and writes the table in memory there, or
-/// cancels: FlagTabellaSalvata is then 1. Reports its own failure.
-void SalvaTabellaConNome(CommonDialog& dialog);
 
 } // namespace zelvia

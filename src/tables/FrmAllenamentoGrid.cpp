@@ -63,7 +63,7 @@ TextBox* MakeBox(QWidget* parent, const QString& name, int maxLength, const QRec
     box->setGeometry(place);
     box->setFont(PageFont("Times New Roman", 14));
     box->setAccessibleName(ToQString(spoken));
-    box->setTextMargins(-2, -2, -2, -2);
+    box->setTextMargins(0, -2, -1, -2);
     SetBackColour(*box, TableColours::Editing);
     SetForeColour(*box, TableColours::Fore);
     return box;
@@ -119,6 +119,9 @@ void frmAllenamento::BuildRow(int riga)
         const ColumnData& row = kData[column];
         boxes_[column][riga] = MakeBox(this, Indexed(row.name, riga), row.maxLength,
                                        {row.left, top, row.width, kBoxHeight}, spokenRow + Text(row.spoken));
+        if (row.digitsOnly) {
+            boxes_[column][riga]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
     }
 }
 
@@ -166,6 +169,14 @@ void frmAllenamento::BeginEditing()
     cmdAttiva->setEnabled(false);
 }
 
+/// Chooses a row and offers what can be done with it.
+void frmAllenamento::ShowRowMenu(int riga, const QPoint& position)
+{
+    RigaSelezionata = riga;
+    ColoreRiga(riga);
+    mnuRigheTabella->exec(position);
+}
+
 void frmAllenamento::ConnectBox(Column column, int riga)
 {
     TextBox& box = *Box(column, riga);
@@ -183,6 +194,7 @@ void frmAllenamento::ConnectBox(Column column, int riga)
         FormatBox(column, riga, holds);
         return !holds;
     };
+    box.MenuKey = [this, riga](const QPoint& position) { ShowRowMenu(riga, position); };
     if (column == RipetVolte) {
         box.GotFocus = [this, riga] { StripOf(LblRipetizioni, riga)->SetCaption(kRepetitionStrip); };
     }
@@ -281,9 +293,7 @@ frmAllenamento::frmAllenamento(TableWindows& windows)
         }
         lblGiorni[riga]->MouseUp = [this, riga](Qt::MouseButton button, const QPoint& position) {
             if (button == Qt::RightButton) {
-                RigaSelezionata = riga;
-                ColoreRiga(riga);
-                mnuRigheTabella->exec(position);
+                ShowRowMenu(riga, position);
             }
         };
     }
