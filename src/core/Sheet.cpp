@@ -24,4 +24,10 @@ void Sheet::PrintNumber(int x, int y, i32 number)
     Print(x, y, Str(number) + " ");
 }
 
+int DigitColumn(TextView text, int twoDigits)
+{
+    constexpr double firstOfTwo = 10;
+    return Val(text) >= firstOfTwo ? twoDigits : twoDigits + 1;
+}
+
 } // namespace zelvia

@@ -99,6 +99,10 @@ private:
     std::vector<SheetOperation> operations_;
 };
 
+/// The column of a number that begins at `twoDigits` from 10 on: one cell further right below, so the digits line up.
+/// An empty box counts as one digit.
+int DigitColumn(TextView text, int twoDigits);
+
 /// A text of the sheet at its cell.
 struct SheetCell {
     int x;

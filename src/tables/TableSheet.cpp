@@ -21,13 +21,6 @@ bool Filled(const Text& text)
     return !text.empty();
 }
 
-/// One cell further right for a number of one digit, so the digits line up; an empty box counts as one.
-int DigitColumn(const Text& text, int twoDigits)
-{
-    constexpr double firstOfTwo = 10;
-    return Val(text) >= firstOfTwo ? twoDigits : twoDigits + 1;
-}
-
 void PrintFrame(Sheet& sheet)
 {
     constexpr int top = 3;
