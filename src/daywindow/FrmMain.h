@@ -105,6 +105,7 @@ public:
     void mnuFileNuovo_Click();
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
+    void mnuFilePrint_Click();
     void mnuFileExit_Click();
     /// Asks to save what changed; `annullato` becomes 1 when the user cancels.
     void ChiediSalvataggio(i16& annullato);

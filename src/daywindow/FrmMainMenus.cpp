@@ -23,7 +23,7 @@ void frmMain::BuildMenus(QMenuBar& bar)
              {"mnuFileSave", "&Salva", [this] { mnuFileSave_Click(); }},
              {"mnuFileSaveAs", "Sal&va con nome", [this] { mnuFileSaveAs_Click(); }},
              {"mnuFileBar3", {}, {}},
-             {"mnuFilePrint", "S&tampa", {}},
+             {"mnuFilePrint", "S&tampa", [this] { mnuFilePrint_Click(); }},
              {"mnuFileBar4", {}, {}},
              {"mnuFileExit", "&Esci", [this] { mnuFileExit_Click(); }}});
     AddMenu(bar, "mnuOpzioni", "&Opzioni",
@@ -70,6 +70,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Open", &frmMain::mnuFileOpen_Click},
         {"Nuovo", &frmMain::mnuFileNuovo_Click},
         {"Save", &frmMain::mnuFileSave_Click},
+        {"Print", &frmMain::mnuFilePrint_Click},
         {"Help", &frmMain::mnuHelpContents_Click},
         {"Note", &frmMain::mnuNote_Click},
         {"Allenamenti", &frmMain::mnuAllenamenti_Click},
