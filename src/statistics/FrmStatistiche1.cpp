@@ -2,16 +2,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/FrmStatistiche1.h"
 
+#include "core/Conversions.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "statistics/CategoryTexts.h"
+#include "statistics/StatisticSheets.h"
 #include "toolkit/Application.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
+#include "toolkit/Printer.h"
 
 #include <QPainter>
 
 #include <utility>
+#include <vector>
 
 namespace zelvia
 {
@@ -90,6 +94,21 @@ i16 Scomponi(TextView errore, i16 (*pezzo)(TextView), TextView testo)
     return numero;
 }
 
+/// What the sheet shows of the slots 1..60.
+std::vector<StatisticSheetSlot> SlotsOnPaper()
+{
+    const bool numbers = SameText(TitoloStatistica, "Corridori") || SameText(TitoloStatistica, "Peso");
+    std::vector<StatisticSheetSlot> slots60;
+    for (int i = 1; i <= kMaxCategorie; ++i) {
+        Text valore = NomeCategoria[i];
+        if (numbers) {
+            valore = ValoreCategoria[i] != 0 ? StatisticSheetNumber(ValoreCategoria[i]) : Text();
+        }
+        slots60.push_back({std::move(valore), ContaCategoria[i]});
+    }
+    return slots60;
+}
+
 } // namespace
 
 frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
@@ -113,6 +132,7 @@ frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
     Build();
     cmdTempiLO->Click = [this] { cmdTempiLO_Click(); };
     cmGrafico->Click = [this] { cmGrafico_Click(); };
+    cmdStampa->Click = [this] { cmdStampa_Click(); };
     cmdEsci->Click = [this] { Unload(); };
     lvListaOrdinata->LostFocus = [this] { lvListaOrdinata_LostFocus(); };
     lvListaOrdinata->KeyPress = [this](int keyAscii) {
@@ -182,6 +202,16 @@ void frmStatistiche1::cmdTempiLO_Click()
     } else {
         ListavOrdinata(ValoreCategoria[i]);
     }
+}
+
+void frmStatistiche1::cmdStampa_Click()
+{
+    // After a fault the button stays off.
+    Trap("STAMPA - ERRORE : ", [this] {
+        cmdStampa->setEnabled(false);
+        PrintSheet(StatisticSheet(DataCorrente, TitoloStatistica, SlotsOnPaper()));
+        cmdStampa->setEnabled(true);
+    });
 }
 
 void frmStatistiche1::cmGrafico_Click()

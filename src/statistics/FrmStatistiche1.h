@@ -38,6 +38,7 @@ public:
 
     void cmdTempiLO_Click();
     void cmGrafico_Click();
+    void cmdStampa_Click();
     void lvListaOrdinata_LostFocus();
 
     Label* lblTitolo;
