@@ -5,7 +5,9 @@
 #include "calendar/CalendarModel.h"
 #include "core/Conversions.h"
 
+#include <array>
 #include <concepts>
+#include <type_traits>
 #include <variant>
 
 namespace zelvia::Module1

@@ -12,6 +12,7 @@
 #include "toolkit/UpDown.h"
 
 #include <array>
+#include <functional>
 
 namespace zelvia
 {

@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race calendar's controls: what stands where, and the events of its boxes.
-#include "calendar/CalendarCells.h"
 #include "calendar/FrmCalendario.h"
-#include "core/Conversions.h"
 #include "toolkit/Application.h"
 #include "toolkit/Colours.h"
 #include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
-#include "toolkit/QtText.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -158,6 +158,7 @@ void OpeningTest::aBadFile()
     VERIFY_SCRIPT(desk.script);
     const QByteArray name = rows[1].split('|')[3];
     QCOMPARE(Bytes(Module1::Gara[2]), name);
+    Module1::Gara[3] = "memoria";
     desk.script.Expect(BareReport(report));
     desk.OpenCalendar();
     for (int row = 1; row <= 3; ++row) {

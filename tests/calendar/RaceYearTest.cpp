@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A runner's races from the plan to the result, through the real windows.
-#include "calendar/CalendarModel.h"
 #include "support/CalendarDesk.h"
 
 namespace zelvia::test

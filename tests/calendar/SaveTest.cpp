@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // "Salva" of the calendar's window, and the calendar that the page's own commands write.
-#include "calendar/CalendarModel.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
+
+#include <QFile>
 
 namespace zelvia::test
 {
@@ -66,24 +67,29 @@ void SaveTest::savesTwoPages()
 
 void SaveTest::aFileThatCannotBeWritten_data()
 {
-    QTest::addColumn<bool>("denied");
+    QTest::addColumn<QString>("target"); // Where the file's name leads.
     QTest::addColumn<QString>("report");
-    QTest::newRow("denied") << true << kDenied;
-    QTest::newRow("no folder") << false << kNoFolder;
+    QTest::newRow("denied") << "a folder" << kDenied;
+    QTest::newRow("no folder") << "nowhere" << kNoFolder;
+    QTest::newRow("full disk") << "/dev/full"
+                               << "61 Disco pieno";
 }
 
 void SaveTest::aFileThatCannotBeWritten()
 {
-    QFETCH(bool, denied);
+    QFETCH(QString, target);
     QFETCH(QString, report);
     const QString path = QStringLiteral("prova/CalendarioGare");
     CalendarDesk desk;
     desk.StartOpen();
     desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
-    if (denied) {
+    if (target == QLatin1String("a folder")) {
         desk.folder.Block(path);
-    } else {
+    } else if (target == QLatin1String("nowhere")) {
         desk.folder.Dangle(path);
+    } else {
+        desk.folder.Remove(path);
+        QVERIFY(QFile::link(target, desk.folder.Native(path)));
     }
     desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
     desk.script.Expect(BareReport(report));

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race of the day as a slip on the page.
 #include "calendar/CalendarModel.h"
-#include "core/Conversions.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
 
