@@ -183,6 +183,7 @@ void frmMain::OnUnload()
     tables_.UnloadList();
     desPercorso_.Unload();
     calendario_.Unload();
+    statistiche_.Unload();
     info_.Unload();
 }
 

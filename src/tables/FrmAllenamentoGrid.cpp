@@ -108,9 +108,7 @@ Button* frmAllenamento::MakeButton(const char* name, TextView caption, int top, 
     auto* button = new Button(this, QLatin1String(name), caption);
     button->setGeometry(kPanelLeft, top, 176, 34);
     button->setFont(PageFont("Times New Roman", 15));
-    if (click != nullptr) {
-        button->Click = [this, click] { (this->*click)(); };
-    }
+    button->Click = [this, click] { (this->*click)(); };
     return button;
 }
 
@@ -132,9 +130,8 @@ void frmAllenamento::BuildPanel()
     cmdCalcoloMedie =
         MakeButton("cmdCalcoloMedie", "Calcolo Medie", first + 3 * step, &frmAllenamento::cmdCalcoloMedie_Click);
     cmdSalva = MakeButton("cmdSalva", "Salva", first + 4 * step, &frmAllenamento::cmdSalva_Click);
-    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, nullptr);
-    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, nullptr);
-    cmdEsci->Click = [this] { Unload(); };
+    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, &frmAllenamento::cmdStampa_Click);
+    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, &frmAllenamento::cmdEsci_Click);
     cmdAttiva->setEnabled(false);
     cmdDisattiva->setEnabled(false);
 }

@@ -147,11 +147,11 @@ QByteArray RaceInMemory(int row)
 {
     using namespace Module1;
     const auto digits = [](auto number) { return QByteArray::number(static_cast<int>(number.value())); };
-    return QByteArrayList{digits(GiornoGara[row]), digits(MeseGara[row]),     digits(AnnoGara[row]),
-                          Bytes(Gara[row]),        Bytes(Localita[row]),      digits(KmGara[row]),
-                          digits(MetriGara[row]),  digits(Partecipanti[row]), digits(Risultato[row]),
-                          digits(OreGara[row]),    digits(MinutiGara[row]),   digits(SecondiGara[row]),
-                          Bytes(Categoria[row]),   digits(RisultatoCat[row])}
+    return QByteArrayList{
+        digits(GiornoGara[row]),        digits(MeseGara[row]),    digits(AnnoGara[row]),   Bytes(Gara[row]),
+        Bytes(Localita[row]),           digits(KmGara[row]),      digits(MetriGara[row]),  digits(Partecipanti[row]),
+        digits(Risultato[row]),         digits(OreGara[row]),     digits(MinutiGara[row]), digits(SecondiGara[row]),
+        Bytes(Module1::Categoria[row]), digits(RisultatoCat[row])}
         .join('|');
 }
 
