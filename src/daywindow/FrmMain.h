@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "calendar/FrmCalendario.h"
 #include "core/CMouse.h"
 #include "core/Date.h"
 #include "core/Module1.h"
@@ -97,6 +98,10 @@ public:
     void TabAllenamentiNonVisibili() { ShowTablePanel(false); }
     void MostraRiquadriGara() { ShowRacePanel(true); }
     void NascondiRiquadriGara() { ShowRacePanel(false); }
+    /// Shows the race of the day shown in the place of the active table, if the calendar has one.
+    void AssegnaGara();
+    /// Shows the race at row `indice` of the calendar.
+    void GiornodellaGara(i16& indice);
 
     // Files.
     void CaricaNomeFile();
@@ -214,6 +219,7 @@ public:
     void mnuListaPrecedente_Click();
     void mnuListaIniziale_Click();
     void mnuAllenamenti_Click();
+    void mnuGare_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
@@ -315,6 +321,7 @@ private:
     TableWindows tables_;
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
+    FormSlot<frmCalendario> calendario_;
     FormSlot<frmStatistiche1> statistiche_;
 };
 

@@ -169,6 +169,7 @@ void frmMain::LoadCompanions()
     CaricaPercorsi();
     AzzeraCalendario();
     LeggiCalendario();
+    AssegnaGara();
 }
 
 void frmMain::mnuFileExit_Click()
@@ -181,6 +182,7 @@ void frmMain::OnUnload()
     tables_.UnloadEditor();
     tables_.UnloadList();
     desPercorso_.Unload();
+    calendario_.Unload();
     statistiche_.Unload();
     info_.Unload();
 }

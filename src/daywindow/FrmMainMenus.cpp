@@ -32,7 +32,8 @@ void frmMain::BuildMenus(QMenuBar& bar)
              {"mnuListaPrecedente", "Ripristina &Lista Precedente", [this] { mnuListaPrecedente_Click(); }},
              {"mnuListaIniziale", "Ripristina Lista &Iniziale", [this] { mnuListaIniziale_Click(); }}});
     AddMenu(bar, "mnuTabelle", "&Tabelle",
-            {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }}, {"mnuGare", "&Gare", {}}});
+            {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }},
+             {"mnuGare", "&Gare", [this] { mnuGare_Click(); }}});
     AddMenu(bar, "mnuStatistiche", "&Statistiche",
             {{"mnuMedie", "&Medie", {}},
              {"mnuStatBar", {}, {}},
@@ -74,6 +75,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Help", &frmMain::mnuHelpContents_Click},
         {"Note", &frmMain::mnuNote_Click},
         {"Allenamenti", &frmMain::mnuAllenamenti_Click},
+        {"Gare", &frmMain::mnuGare_Click},
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},

@@ -95,7 +95,7 @@ private:
 
     void ShowRowMenu(int riga, const QPoint& position);
     void BeginEditing();
-    bool LimitHolds(TableGrid::Column column, int riga);
+    bool ColumnLimitHolds(TableGrid::Column column, int riga);
     bool DateLimitHolds(std::size_t index);
     void FormatBox(TableGrid::Column column, int riga, bool limitHeld);
     void MoveOn(TableGrid::Column column, int riga);
