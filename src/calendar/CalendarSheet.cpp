@@ -4,6 +4,9 @@
 
 namespace zelvia
 {
+
+using CalendarGrid::Casella;
+
 namespace
 {
 
@@ -30,32 +33,33 @@ void PrintHeads(Sheet& sheet)
 
 void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& riga)
 {
-    sheet.Print(DigitColumn(riga.giorno, 2), y, riga.giorno);
-    sheet.Print(DigitColumn(riga.mese, 5), y, riga.mese);
-    sheet.Print(8, y, riga.anno);
-    sheet.Print(13, y, riga.gara);
-    sheet.Print(45, y, riga.localita);
-    sheet.Print(DigitColumn(riga.km, 66), y, riga.km);
-    if (!riga.km.empty()) {
+    const auto box = [&](Casella casella) -> const Text& { return riga[CalendarGrid::IndexOf(casella)]; };
+    sheet.Print(DigitColumn(box(Casella::Giorno), 2), y, box(Casella::Giorno));
+    sheet.Print(DigitColumn(box(Casella::Mese), 5), y, box(Casella::Mese));
+    sheet.Print(8, y, box(Casella::Anno));
+    sheet.Print(13, y, box(Casella::Gara));
+    sheet.Print(45, y, box(Casella::Localita));
+    sheet.Print(DigitColumn(box(Casella::Km), 66), y, box(Casella::Km));
+    if (!box(Casella::Km).empty()) {
         sheet.Print(68, y, ",");
-        if (riga.metri.empty()) {
+        if (box(Casella::Metri).empty()) {
             sheet.Print(69, y, "0");
         }
     }
-    sheet.Print(69, y, riga.metri);
-    sheet.Print(78, y, riga.partecipanti);
-    sheet.Print(90, y, riga.risultato);
-    sheet.Print(100, y, riga.ore);
-    if (!riga.ore.empty()) {
+    sheet.Print(69, y, box(Casella::Metri));
+    sheet.Print(78, y, box(Casella::Partecipanti));
+    sheet.Print(90, y, box(Casella::Risultato));
+    sheet.Print(100, y, box(Casella::Ore));
+    if (!box(Casella::Ore).empty()) {
         sheet.Print(102, y, ":");
     }
-    sheet.Print(103, y, riga.minuti);
-    if (!riga.minuti.empty()) {
+    sheet.Print(103, y, box(Casella::Minuti));
+    if (!box(Casella::Minuti).empty()) {
         sheet.Print(105, y, ":");
     }
-    sheet.Print(106, y, riga.secondi);
-    sheet.Print(112, y, riga.categoria);
-    sheet.Print(124, y, riga.risultatoCat);
+    sheet.Print(106, y, box(Casella::Secondi));
+    sheet.Print(112, y, box(Casella::Categoria));
+    sheet.Print(124, y, box(Casella::RisultatoCat));
 }
 
 } // namespace

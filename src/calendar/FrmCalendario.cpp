@@ -9,6 +9,7 @@
 #include "core/Conversions.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Printer.h"
 #include "toolkit/QtText.h"
 
 namespace zelvia
@@ -153,6 +154,27 @@ void frmCalendario::cmdSalva_Click()
         ScriviCalendario();
         CalendarioModificato = 0;
     }
+}
+
+/// What the page on the screen shows, saved or not.
+CalendarSheetTexts frmCalendario::SheetTexts() const
+{
+    CalendarSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}};
+    VisitBoxes([&](Casella casella, int riga) {
+        testi.righe[static_cast<std::size_t>(riga - 1)][CalendarGrid::IndexOf(casella)] = Box(casella, riga)->Content();
+    });
+    return testi;
+}
+
+void frmCalendario::cmdStampa_Click()
+{
+    // After a fault the button stays off.
+    Trap("STAMPA - ERRORE : ", [this] {
+        AllineaLbl();
+        cmdStampa->setEnabled(false);
+        PrintSheet(CalendarSheet(SheetTexts()));
+        cmdStampa->setEnabled(true);
+    });
 }
 
 bool frmCalendario::QueryUnload()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calendar/CalendarGrid.h"
+#include "calendar/CalendarSheet.h"
 #include "core/BoundedArray.h"
 #include "core/Numbers.h"
 #include "toolkit/Button.h"
@@ -34,6 +35,7 @@ public:
     void AllineaLbl();
 
     void cmdSalva_Click();
+    void cmdStampa_Click();
     void upPaginaGare_Change();
 
     /// A box of the grid; rows are 1..20.
@@ -71,6 +73,7 @@ private:
     void VisualizzaCalendarioGare();
     void AssegnaPaginaGare();
     void AzzeraPaginaGare();
+    CalendarSheetTexts SheetTexts() const;
     /// `esito` becomes 1 when the page differs from the columns, else 0.
     void ControllaSaveGar(i16& esito);
     /// `esito` becomes 1 when two rows carry the same date, else 0; says so for each two.

@@ -184,7 +184,7 @@ void frmCalendario::BuildFoot()
     upPaginaGare->Change = [this] { upPaginaGare_Change(); };
     constexpr int step = kButtonWidth + 14;
     cmdSalva = MakeButton("cmdSalva", "Salva", kRight - 2 * step - kButtonWidth, [this] { cmdSalva_Click(); });
-    cmdStampa = MakeButton("cmdStampa", "Stampa", kRight - step - kButtonWidth, {});
+    cmdStampa = MakeButton("cmdStampa", "Stampa", kRight - step - kButtonWidth, [this] { cmdStampa_Click(); });
     cmdEsci = MakeButton("cmdEsci", "Esci", kRight - kButtonWidth, [this] { Unload(); });
 }
 
