@@ -10,6 +10,11 @@
 namespace zelvia::test
 {
 
+QByteArray Kilometres(int km)
+{
+    return QByteArray::number(km) + ",0|0:0:0|0:0|||0 x 0  @  0:0";
+}
+
 PlanDesk::PlanDesk(CalendarDate today) : TableDesk(today), diary(DiaryBytes::Blank(today.Year().value()))
 {
     folder.Remove(QStringLiteral("prova/Base 10 km.tab"));

@@ -14,6 +14,9 @@ namespace zelvia::test
 inline constexpr const char* kNeutral = "0,0|0:0:0|0:0|||0 x 0  @  0:0";
 inline constexpr const char* kNeutralOfADiary = "0|0:00|0:00|||0 x 000     @ 0.00 ";
 
+/// The panel's texts behind the name for a row that asks for kilometres alone.
+QByteArray Kilometres(int km);
+
 /// A page of a year without an outing, in whose folder no training table lies yet. The program has just begun: no table
 /// was ever in memory.
 class PlanDesk : public TableDesk

@@ -23,11 +23,6 @@ TableBytes Plan(int km)
     return TableBytes(QDate(2026, 5, 1)).SetRow(kRow, QByteArray::number(km));
 }
 
-QByteArray Kilometres(int km)
-{
-    return QByteArray::number(km) + ",0|0:0:0|0:0|||0 x 0  @  0:0";
-}
-
 // What was in memory before: nothing at the program's start, another diary's table when a diary is opened, the table
 // itself at a tick.
 enum Moment { ProgramStart, Opening, Tick };

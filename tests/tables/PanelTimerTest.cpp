@@ -15,7 +15,7 @@ const QDate kStart(2026, 5, 20);
 
 QByteArray Panel(const char* name, int km)
 {
-    return QByteArray(name) + '|' + QByteArray::number(km) + ",0|0:0:0|0:0|||0 x 0  @  0:0";
+    return QByteArray(name) + '|' + Kilometres(km);
 }
 
 /// A table whose first row asks for kilometres from today on.
