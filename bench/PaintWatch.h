@@ -4,28 +4,30 @@
 
 #include "bench/Measure.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMouseEvent>
-#include <QObject>
 #include <QWidget>
 
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 namespace zelvia::bench
 {
 
-/// Notes that a widget was painted.
+/// Notes that a widget was painted. A window comes first in the pass that paints it with all it holds, and a pass is
+/// not left unfinished by the event loop.
 class PaintWatch : public QObject
 {
 public:
     explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
 
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    /// Watches for the windows of that name, one that is yet to be made too.
+    explicit PaintWatch(QString window) : window_(std::move(window)) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
     {
-        painted_ = painted_ || event->type() == QEvent::Paint;
+        painted_ = painted_ || (event->type() == QEvent::Paint && Means(*watched));
         return false;
     }
 
@@ -44,10 +46,17 @@ public:
         painted_ = false;
     }
 
+    /// What was painted so far does not count.
+    void Forget() { painted_ = false; }
+
 private:
+    bool Means(const QObject& watched) const { return window_.isEmpty() || watched.objectName() == window_; }
+
+    QString window_;
     bool painted_ = false;
 };
 
+/// A press and release of the left button on a place of the widget.
 inline void Click(QWidget& widget, const QPointF& place)
 {
     const QPointF screen = widget.mapToGlobal(place);

@@ -6,6 +6,7 @@
 #include "core/Date.h"
 #include "tables/TableCalculations.h"
 #include "tables/TableGrid.h"
+#include "tables/TableSheet.h"
 #include "toolkit/Button.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
@@ -55,6 +56,8 @@ public:
     void cmdDisattiva_Click();
     void cmdCalcoloMedie_Click();
     void cmdSalva_Click();
+    void cmdStampa_Click();
+    void cmdEsci_Click() { Unload(); }
     void mnuInserisciRiga_Click();
     void mnuEliminaRiga_Click();
 
@@ -90,6 +93,7 @@ private:
     void ConnectDateBox(std::size_t index);
     void Load();
 
+    void ShowRowMenu(int riga, const QPoint& position);
     void BeginEditing();
     bool LimitHolds(TableGrid::Column column, int riga);
     bool DateLimitHolds(std::size_t index);
@@ -114,15 +118,12 @@ private:
     void AcceptAllRows();
     void RecolourAllRows();
     bool ChooseActivePath();
+    TableSheetTexts SheetTexts() const;
 
     TableWindows& windows_;
     std::array<BoundedArray<TextBox*, 1, 31>, TableGrid::kColumns> boxes_;
     std::array<BoundedArray<Label*, 1, 31>, TableGrid::kStrips> strips_;
     Text percorsoSalvato_; ///< Where this window last saved, for a table that was not opened from a file.
 };
-
-/// Runs the save dialog until the user picks a name in CartellaDiario, and writes the table in memory there, or
-/// cancels: FlagTabellaSalvata is then 1. Reports its own failure.
-void SalvaTabellaConNome(CommonDialog& dialog);
 
 } // namespace zelvia

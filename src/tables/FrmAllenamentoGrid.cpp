@@ -63,7 +63,7 @@ TextBox* MakeBox(QWidget* parent, const QString& name, int maxLength, const QRec
     box->setGeometry(place);
     box->setFont(PageFont("Times New Roman", 14));
     box->setAccessibleName(ToQString(spoken));
-    box->setTextMargins(-2, -2, -2, -2);
+    box->setTextMargins(0, -2, -1, -2);
     SetBackColour(*box, TableColours::Editing);
     SetForeColour(*box, TableColours::Fore);
     return box;
@@ -119,6 +119,9 @@ void frmAllenamento::BuildRow(int riga)
         const ColumnData& row = kData[column];
         boxes_[column][riga] = MakeBox(this, Indexed(row.name, riga), row.maxLength,
                                        {row.left, top, row.width, kBoxHeight}, spokenRow + Text(row.spoken));
+        if (row.digitsOnly) {
+            boxes_[column][riga]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
     }
 }
 
@@ -127,9 +130,7 @@ Button* frmAllenamento::MakeButton(const char* name, TextView caption, int top, 
     auto* button = new Button(this, QLatin1String(name), caption);
     button->setGeometry(kPanelLeft, top, 176, 34);
     button->setFont(PageFont("Times New Roman", 15));
-    if (click != nullptr) {
-        button->Click = [this, click] { (this->*click)(); };
-    }
+    button->Click = [this, click] { (this->*click)(); };
     return button;
 }
 
@@ -151,9 +152,8 @@ void frmAllenamento::BuildPanel()
     cmdCalcoloMedie =
         MakeButton("cmdCalcoloMedie", "Calcolo Medie", first + 3 * step, &frmAllenamento::cmdCalcoloMedie_Click);
     cmdSalva = MakeButton("cmdSalva", "Salva", first + 4 * step, &frmAllenamento::cmdSalva_Click);
-    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, nullptr);
-    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, nullptr);
-    cmdEsci->Click = [this] { Unload(); };
+    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, &frmAllenamento::cmdStampa_Click);
+    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, &frmAllenamento::cmdEsci_Click);
     cmdAttiva->setEnabled(false);
     cmdDisattiva->setEnabled(false);
 }
@@ -164,6 +164,14 @@ void frmAllenamento::BeginEditing()
         ColoreSfondo(riga);
     }
     cmdAttiva->setEnabled(false);
+}
+
+/// Chooses a row and offers what can be done with it.
+void frmAllenamento::ShowRowMenu(int riga, const QPoint& position)
+{
+    RigaSelezionata = riga;
+    ColoreRiga(riga);
+    mnuRigheTabella->exec(position);
 }
 
 void frmAllenamento::ConnectBox(Column column, int riga)
@@ -183,6 +191,7 @@ void frmAllenamento::ConnectBox(Column column, int riga)
         FormatBox(column, riga, holds);
         return !holds;
     };
+    box.MenuKey = [this, riga](const QPoint& position) { ShowRowMenu(riga, position); };
     if (column == RipetVolte) {
         box.GotFocus = [this, riga] { StripOf(LblRipetizioni, riga)->SetCaption(kRepetitionStrip); };
     }
@@ -281,9 +290,7 @@ frmAllenamento::frmAllenamento(TableWindows& windows)
         }
         lblGiorni[riga]->MouseUp = [this, riga](Qt::MouseButton button, const QPoint& position) {
             if (button == Qt::RightButton) {
-                RigaSelezionata = riga;
-                ColoreRiga(riga);
-                mnuRigheTabella->exec(position);
+                ShowRowMenu(riga, position);
             }
         };
     }

@@ -21,6 +21,8 @@ QPalette PagePalette()
     palette.setColor(QPalette::ToolTipBase, Ink::Slip);
     palette.setColor(QPalette::ToolTipText, Ink::PrintDark);
     palette.setColor(QPalette::PlaceholderText, Ink::Rule);
+    palette.setColor(QPalette::Disabled, QPalette::Button, Ink::Paper);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, Ink::Rule.darker(115));
     return palette;
 }
 

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -177,6 +178,15 @@ void TextBox::dropEvent(QDropEvent* event)
     setCursorPosition(cursorPositionAt(event->position().toPoint()));
     Paste(event->mimeData()->text());
     event->acceptProposedAction();
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard || !MenuKey) {
+        QLineEdit::contextMenuEvent(event);
+        return;
+    }
+    Fire([this] { MenuKey(mapToGlobal(rect().bottomLeft())); });
 }
 
 } // namespace zelvia

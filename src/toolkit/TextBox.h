@@ -28,6 +28,8 @@ public:
     /// the key away.
     std::function<void(int& keyAscii)> KeyPress;
     std::function<void()> Click;
+    /// The menu key, with the place where a pop-up may open. Without it the key brings the box's own menu.
+    std::function<void(const QPoint& globalPosition)> MenuKey;
 
 public Q_SLOTS:
     /// Takes the place of the base's: the context menu pastes by the rules of this box.
@@ -39,6 +41,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     bool Passes(int keyAscii);
