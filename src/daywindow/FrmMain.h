@@ -11,6 +11,8 @@
 #include "daywindow/TimeAndPace.h"
 #include "routes/FrmDesPercorso.h"
 #include "routes/RoutePage.h"
+#include "statistics/FrmGrafici.h"
+#include "statistics/FrmRicercheStatistiche.h"
 #include "statistics/ListaOrdinata.h"
 #include "tables/TablePage.h"
 #include "tables/TableWindows.h"
@@ -183,6 +185,7 @@ public:
     void mnuListaPrecedente_Click();
     void mnuListaIniziale_Click();
     void mnuAllenamenti_Click();
+    void mnuMedie_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
@@ -278,6 +281,8 @@ private:
     TableWindows tables_;
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
+    FormSlot<frmGrafici> grafici_;
+    FormSlot<frmRicercheStatistiche> ricerche_;
 };
 
 } // namespace zelvia

@@ -181,6 +181,8 @@ void frmMain::OnUnload()
     tables_.UnloadEditor();
     tables_.UnloadList();
     desPercorso_.Unload();
+    grafici_.Unload();
+    ricerche_.Unload();
     info_.Unload();
 }
 

@@ -34,7 +34,7 @@ void frmMain::BuildMenus(QMenuBar& bar)
     AddMenu(bar, "mnuTabelle", "&Tabelle",
             {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }}, {"mnuGare", "&Gare", {}}});
     AddMenu(bar, "mnuStatistiche", "&Statistiche",
-            {{"mnuMedie", "&Medie", {}},
+            {{"mnuMedie", "&Medie", [this] { mnuMedie_Click(); }},
              {"mnuStatBar", {}, {}},
              {"mnuPercorso", "Perc&orso", {}},
              {"mnuLunghezza", "&Lunghezza", {}},
@@ -73,6 +73,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Help", &frmMain::mnuHelpContents_Click},
         {"Note", &frmMain::mnuNote_Click},
         {"Allenamenti", &frmMain::mnuAllenamenti_Click},
+        {"Medie", &frmMain::mnuMedie_Click},
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},
@@ -92,6 +93,16 @@ void frmMain::mnuAllenamenti_Click()
         list.raise();
         list.activateWindow();
     });
+}
+
+void frmMain::mnuMedie_Click()
+{
+    AssegnaCampi();
+    frmRicercheStatistiche& search =
+        ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); });
+    search.show();
+    search.raise();
+    search.activateWindow();
 }
 
 void frmMain::mnuHelpContents_Click()

@@ -9,7 +9,7 @@ namespace zelvia
 namespace
 {
 
-/// How many of the places 1..`last` hold more than 0.
+/// How many of the kMaxCategorie 1..`last` hold more than 0.
 template <typename Values>
 int CountAbove0(const Values& values, int last)
 {
@@ -22,16 +22,15 @@ int CountAbove0(const Values& values, int last)
 
 } // namespace
 
-ChartData GraficoCategorie(TextView titolo, const BoundedArray<Text, 0, 60>& nomi,
-                           const BoundedArray<i16, 0, 60>& conta, const BoundedArray<i16, 0, 60>& valori)
+ChartData GraficoCategorie(TextView titolo, const PerCategoria<Text>& nomi, const PerCategoria<i16>& conta,
+                           const PerCategoria<i16>& valori)
 {
-    constexpr int places = 60;
     ChartData grafico;
     grafico.chartType = ChartType::Bars;
     grafico.TitleText = titolo;
-    grafico.SetColumnCount(CountAbove0(conta, places));
+    grafico.SetColumnCount(CountAbove0(conta, kMaxCategorie));
     grafico.SetRowCount(1);
-    for (int i = 1; i <= places; ++i) {
+    for (int i = 1; i <= kMaxCategorie; ++i) {
         if (conta[i] > 0) {
             grafico.Column = i;
             grafico.SetData(PlainText(conta[i]));

@@ -8,6 +8,9 @@
 
 namespace zelvia
 {
+
+using namespace Module1;
+
 namespace
 {
 
@@ -57,10 +60,11 @@ void frmGrafici::resizeEvent(QResizeEvent* event)
     MSChart1->setGeometry(kMargin, kMargin / 2, width() - 2 * kMargin, buttonTop - kMargin);
 }
 
-void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo, const BoundedArray<Text, 0, 60>& nomi,
-                   const BoundedArray<i16, 0, 60>& conta, const BoundedArray<i16, 0, 60>& valori)
+void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo)
 {
-    ShowChart(finestra, "MostraGrafico - ERRORE : ", [&] { return GraficoCategorie(titolo, nomi, conta, valori); });
+    ShowChart(finestra, "MostraGrafico - ERRORE : ", [&] {
+        return GraficoCategorie(titolo, NomeCategoria, ContaCategoria, ValoreCategoria);
+    });
 }
 
 void MostraGraficoMedia(FormSlot<frmGrafici>& finestra, const PaceTable& valori)

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/BoundedArray.h"
-#include "core/Numbers.h"
 #include "core/Text.h"
 #include "statistics/ChartModel.h"
 #include "toolkit/Button.h"
@@ -34,9 +32,8 @@ protected:
 // Each loads the chart window if need be, gives it the chart and shows it. An error is reported under the name of the
 // routine, the window comes up all the same.
 
-/// How often each value of a category occurred, as bars, under the category's word.
-void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo, const BoundedArray<Text, 0, 60>& nomi,
-                   const BoundedArray<i16, 0, 60>& conta, const BoundedArray<i16, 0, 60>& valori);
+/// How often each value of the category counted last occurred, as bars, under the category's word.
+void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo);
 
 /// The pace of the runs that a search found, as a line.
 void MostraGraficoMedia(FormSlot<frmGrafici>& finestra, const PaceTable& valori);
