@@ -181,6 +181,7 @@ void frmMain::OnUnload()
     tables_.UnloadEditor();
     tables_.UnloadList();
     desPercorso_.Unload();
+    statistiche_.Unload();
     grafici_.Unload();
     ricerche_.Unload();
     info_.Unload();

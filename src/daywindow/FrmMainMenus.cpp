@@ -36,18 +36,18 @@ void frmMain::BuildMenus(QMenuBar& bar)
     AddMenu(bar, "mnuStatistiche", "&Statistiche",
             {{"mnuMedie", "&Medie", [this] { mnuMedie_Click(); }},
              {"mnuStatBar", {}, {}},
-             {"mnuPercorso", "Perc&orso", {}},
-             {"mnuLunghezza", "&Lunghezza", {}},
-             {"mnuKm", "&Km", {}},
-             {"mnuAndatura", "&Andatura", {}},
-             {"mnuFondo", "Terre&no", {}},
-             {"mnuTipo", "&Tipo", {}},
-             {"mnuStagione", "Sta&gione", {}},
-             {"mnuMeteo", "&Meteo", {}},
-             {"mnuTemperatura", "T&emperatura", {}},
-             {"mnuCorridori", "&Corridori", {}},
-             {"mnuPeso", "Pe&so", {}},
-             {"mnuRipetizioni", "&Ripetizioni", {}}});
+             {"mnuPercorso", "Perc&orso", [this] { mnuPercorso_Click(); }},
+             {"mnuLunghezza", "&Lunghezza", [this] { mnuLunghezza_Click(); }},
+             {"mnuKm", "&Km", [this] { mnuKm_Click(); }},
+             {"mnuAndatura", "&Andatura", [this] { mnuAndatura_Click(); }},
+             {"mnuFondo", "Terre&no", [this] { mnuFondo_Click(); }},
+             {"mnuTipo", "&Tipo", [this] { mnuTipo_Click(); }},
+             {"mnuStagione", "Sta&gione", [this] { mnuStagione_Click(); }},
+             {"mnuMeteo", "&Meteo", [this] { mnuMeteo_Click(); }},
+             {"mnuTemperatura", "T&emperatura", [this] { mnuTemperatura_Click(); }},
+             {"mnuCorridori", "&Corridori", [this] { mnuCorridori_Click(); }},
+             {"mnuPeso", "Pe&so", [this] { mnuPeso_Click(); }},
+             {"mnuRipetizioni", "&Ripetizioni", [this] { mnuRipetizioni_Click(); }}});
     AddMenu(bar, "mnuHelp", "&?",
             {{"mnuHelpContents", "&Sommario", [this] { mnuHelpContents_Click(); }, QKeySequence(Qt::Key_F1)},
              {"mnuHelpSearchForHelpOn", "&Cerca argomento", [this] { mnuHelpSearchForHelpOn_Click(); }},
@@ -77,6 +77,18 @@ void frmMain::DispatchCommand(TextView key)
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},
+        {"Percorso", &frmMain::mnuPercorso_Click},
+        {"Lunghezza", &frmMain::mnuLunghezza_Click},
+        {"Km", &frmMain::mnuKm_Click},
+        {"Andatura", &frmMain::mnuAndatura_Click},
+        {"Terreno", &frmMain::mnuFondo_Click},
+        {"Tipo", &frmMain::mnuTipo_Click},
+        {"Stagione", &frmMain::mnuStagione_Click},
+        {"Meteo", &frmMain::mnuMeteo_Click},
+        {"Temperatura", &frmMain::mnuTemperatura_Click},
+        {"Corridori", &frmMain::mnuCorridori_Click},
+        {"Peso", &frmMain::mnuPeso_Click},
+        {"Ripetizioni", &frmMain::mnuRipetizioni_Click},
     };
     for (const auto& [name, handler] : handlers) {
         if (name == key) {
@@ -93,16 +105,6 @@ void frmMain::mnuAllenamenti_Click()
         list.raise();
         list.activateWindow();
     });
-}
-
-void frmMain::mnuMedie_Click()
-{
-    AssegnaCampi();
-    frmRicercheStatistiche& search =
-        ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); });
-    search.show();
-    search.raise();
-    search.activateWindow();
 }
 
 void frmMain::mnuHelpContents_Click()

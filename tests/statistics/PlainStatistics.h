@@ -153,13 +153,19 @@ inline QByteArrayList LinesOf(const QByteArray& title, const std::vector<PlainRo
     return lines;
 }
 
+/// Whether the row of a value leads to the day: runners and weights alone decide, and case counts.
+inline bool IsOf(const QByteArray& title, const QByteArray& value, const PlainDay& day)
+{
+    return title == "Corridori" ? QByteArray::number(day.runners) == value : ValueOf(title, day) == value;
+}
+
 /// The classification of the days whose value is spelt like that: place, time, average, date, parted by "|".
 inline QByteArrayList TimesOf(const QByteArray& title, const QByteArray& value, const std::vector<PlainDay>& days)
 {
     std::vector<std::tuple<int, int, const PlainDay*>> runs; // seconds, less the place of the day, the day
     int minutes = 0;
     for (const PlainDay& day : days) {
-        if (ValueOf(title, day) != value) {
+        if (!IsOf(title, value, day)) {
             continue;
         }
         // A run without a time has the hours and minutes of the one before it.

@@ -3,6 +3,7 @@
 #include "support/DayPage.h"
 
 #include "core/Files.h"
+#include "statistics/CategoryStatistics.h"
 #include "tables/TableModel.h"
 
 #include <QMenu>
@@ -24,6 +25,7 @@ DayPage::~DayPage()
     Module1::AzzeraAnno();
     Module1::AzzeraStato();
     Module1::AzzeraTabella();
+    Module1::AzzeraStatistica();
     Application::Instance().ReleaseInstanceLock();
     SetClock({});
     SetProgramFolder({});

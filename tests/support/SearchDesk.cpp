@@ -3,6 +3,7 @@
 #include "support/SearchDesk.h"
 
 #include "support/Bytes.h"
+#include "support/EntryPage.h"
 #include "toolkit/FocusController.h"
 
 #include <QMenu>
@@ -35,8 +36,13 @@ void SearchDesk::AwaitFront(QWidget& window)
 {
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QTRY_VERIFY(QGuiApplication::focusWindow() == window.windowHandle());
+    EntryPage::AwaitFront(window);
+}
+
+void SearchDesk::AwaitBoxes() const
+{
+    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+    EntryPage::AwaitFront(*Search());
 }
 
 void SearchDesk::Choose(const QString& value) const

@@ -55,6 +55,8 @@ public:
     static QByteArray Focused();
     /// Waits until a window has the keyboard.
     static void AwaitFront(QWidget& window);
+    /// Waits until the boxes of the script have come and the search has the keyboard again.
+    void AwaitBoxes() const;
 
 private:
     template <typename Window>
