@@ -191,7 +191,12 @@ private:
         plot.toPainter(&recorder, whole.width(), whole.height());
         recorder.end();
         painter_.save();
-        painter_.drawPicture(area_.topLeft(), picture);
+        painter_.translate(area_.topLeft());
+        // Playing it sizes the picture by the dots of the device; the painter has its scale already.
+        const QPaintDevice& device = *painter_.device();
+        painter_.scale(static_cast<double>(picture.logicalDpiX()) / device.logicalDpiX(),
+                       static_cast<double>(picture.logicalDpiY()) / device.logicalDpiY());
+        painter_.drawPicture(0, 0, picture);
         painter_.restore();
     }
 
