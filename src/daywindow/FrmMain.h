@@ -13,6 +13,8 @@
 #include "routes/FrmDesPercorso.h"
 #include "routes/RoutePage.h"
 #include "statistics/CategoryStatistics.h"
+#include "statistics/FrmGrafici.h"
+#include "statistics/FrmRicercheStatistiche.h"
 #include "statistics/FrmStatistiche1.h"
 #include "statistics/ListaOrdinata.h"
 #include "tables/TablePage.h"
@@ -220,6 +222,7 @@ public:
     void mnuListaIniziale_Click();
     void mnuAllenamenti_Click();
     void mnuGare_Click();
+    void mnuMedie_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
@@ -322,6 +325,8 @@ private:
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
     FormSlot<frmCalendario> calendario_;
+    FormSlot<frmGrafici> grafici_;
+    FormSlot<frmRicercheStatistiche> ricerche_;
     FormSlot<frmStatistiche1> statistiche_;
 };
 

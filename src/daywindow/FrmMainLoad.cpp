@@ -184,6 +184,8 @@ void frmMain::OnUnload()
     desPercorso_.Unload();
     calendario_.Unload();
     statistiche_.Unload();
+    grafici_.Unload();
+    ricerche_.Unload();
     info_.Unload();
 }
 

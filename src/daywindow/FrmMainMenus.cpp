@@ -35,7 +35,7 @@ void frmMain::BuildMenus(QMenuBar& bar)
             {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }},
              {"mnuGare", "&Gare", [this] { mnuGare_Click(); }}});
     AddMenu(bar, "mnuStatistiche", "&Statistiche",
-            {{"mnuMedie", "&Medie", {}},
+            {{"mnuMedie", "&Medie", [this] { mnuMedie_Click(); }},
              {"mnuStatBar", {}, {}},
              {"mnuPercorso", "Perc&orso", [this] { mnuPercorso_Click(); }},
              {"mnuLunghezza", "&Lunghezza", [this] { mnuLunghezza_Click(); }},
@@ -76,6 +76,7 @@ void frmMain::DispatchCommand(TextView key)
         {"Note", &frmMain::mnuNote_Click},
         {"Allenamenti", &frmMain::mnuAllenamenti_Click},
         {"Gare", &frmMain::mnuGare_Click},
+        {"Medie", &frmMain::mnuMedie_Click},
         {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
         {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
         {"ListaIniziale", &frmMain::mnuListaIniziale_Click},

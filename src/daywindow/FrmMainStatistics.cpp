@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The statistics by category and their window.
+// The statistics by category, the searches and the charts: their windows.
 #include "daywindow/FrmMain.h"
 
 namespace zelvia
@@ -8,8 +8,7 @@ namespace zelvia
 
 frmStatistiche1& frmMain::StatisticsWindow()
 {
-    // The window of the charts joins here.
-    return statistiche_.Load(AperturaGrafico());
+    return statistiche_.Load([this](const Text& titolo) { MostraGrafico(grafici_, titolo); });
 }
 
 void frmMain::Statis(Categoria categoria)
@@ -25,6 +24,16 @@ void frmMain::ShowStatistic(void (frmMain::*statis)())
     window.show();
     window.raise();
     window.activateWindow();
+}
+
+void frmMain::mnuMedie_Click()
+{
+    AssegnaCampi();
+    frmRicercheStatistiche& search =
+        ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); });
+    search.show();
+    search.raise();
+    search.activateWindow();
 }
 
 } // namespace zelvia
