@@ -2,9 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/FrmGrafici.h"
 
+#include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "statistics/StatisticSheets.h"
 #include "toolkit/Application.h"
 #include "toolkit/PagePalette.h"
+#include "toolkit/Printer.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace zelvia
 {
@@ -48,6 +54,7 @@ frmGrafici::frmGrafici()
     setAutoFillBackground(true);
     setMinimumSize(kSmallest);
     resize(kSize);
+    cmdStampa->Click = [this] { cmdStampa_Click(); };
     cmdEsci->Click = [this] { Unload(); };
 }
 
@@ -58,6 +65,20 @@ void frmGrafici::resizeEvent(QResizeEvent* event)
     cmdEsci->setGeometry({QPoint(width() - kMargin - kButton.width(), buttonTop), kButton});
     cmdStampa->setGeometry({QPoint(cmdEsci->x() - kMargin - kButton.width(), buttonTop), kButton});
     MSChart1->setGeometry(kMargin, kMargin / 2, width() - 2 * kMargin, buttonTop - kMargin);
+}
+
+void frmGrafici::cmdStampa_Click()
+{
+    // After a fault the button stays off, and the picture on the clipboard.
+    Trap("STAMPA - ERRORE : ", [this] {
+        cmdStampa->setEnabled(false);
+        QClipboard& clipboard = *QGuiApplication::clipboard();
+        clipboard.clear();
+        MSChart1->EditCopy();
+        PrintSheet(ChartSheet(DataCorrente));
+        cmdStampa->setEnabled(true);
+        clipboard.clear();
+    });
 }
 
 void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo)

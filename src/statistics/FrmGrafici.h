@@ -21,6 +21,8 @@ public:
 
     Control& FocusSink() override { return *cmdEsci; }
 
+    void cmdStampa_Click();
+
     Chart* MSChart1;
     Button* cmdStampa;
     Button* cmdEsci;

@@ -6,6 +6,7 @@
 #include "core/Conversions.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Printer.h"
 
 #include <algorithm>
 
@@ -173,6 +174,34 @@ void frmRicercheStatistiche::RicercaMedie()
     lblTkm->SetCaption(TestoDistanza(totali));
     lblTtempi->SetCaption(TestoTempi(totali));
     lblTmedia->SetCaption(TestoMedia(totali));
+}
+
+/// What the window shows of its search.
+SearchSheetTexts frmRicercheStatistiche::SheetTexts() const
+{
+    SearchSheetTexts testi;
+    testi.data = DataCorrente;
+    const TestiPeriodo periodo = PeriodTexts();
+    std::copy_n(periodo.begin(), testi.inizio.size(), testi.inizio.begin());
+    std::copy_n(periodo.begin() + CampoPeriodo::GiornoFine, testi.fine.size(), testi.fine.begin());
+    std::transform(
+        kCondizioni.begin(), kCondizioni.end(), testi.condizioni.begin(),
+        [this](const CondizioneCategoria& condizione) { return ControlliDi(condizione.categoria).lbl->Caption(); });
+    for (int i = 0; i < lstMedie->ListCount(); ++i) {
+        testi.righe.push_back(lstMedie->List(i));
+    }
+    testi.totali = {lblTcorse->Caption(), lblTkm->Caption(), lblTtempi->Caption(), lblTmedia->Caption()};
+    return testi;
+}
+
+void frmRicercheStatistiche::cmdStampa_Click()
+{
+    // After a fault the button stays off.
+    Trap("STAMPA - ERRORE : ", [this] {
+        cmdStampa->setEnabled(false);
+        PrintSheet(SearchSheet(SheetTexts()));
+        cmdStampa->setEnabled(true);
+    });
 }
 
 void frmRicercheStatistiche::NascondiMedie()

@@ -7,6 +7,7 @@
 #include "statistics/CategoryStatistics.h"
 #include "statistics/RunSearch.h"
 #include "statistics/SearchPeriod.h"
+#include "statistics/StatisticSheets.h"
 #include "toolkit/Button.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
@@ -71,6 +72,7 @@ public:
     void lstStatistiche_DblClick();
     void cmdPeriodo_Click();
     void cmdAvvia_Click();
+    void cmdStampa_Click();
 
     CondizioniRicerca condizioni;
     TotaliRicerca totali;
@@ -114,6 +116,7 @@ private:
     void ShowHeads(bool visible);
     void ShowTotals(bool visible);
     TestiPeriodo PeriodTexts() const;
+    SearchSheetTexts SheetTexts() const;
 
     AperturaGraficoMedia apriGrafico_;
     std::array<ControlliCondizione, kCondizioni.size()> controlli_;

@@ -244,6 +244,7 @@ void frmRicercheStatistiche::BuildResult()
     };
     cmGrafico = command("cmGrafico", "Grafico", 0);
     cmdStampa = command("cmdStampa", "Stampa", 1);
+    cmdStampa->Click = [this] { cmdStampa_Click(); };
     cmdEsci = command("cmdEsci", "Esci", 2);
     cmGrafico->Click = [this] { apriGrafico_(totali.Medie); };
     cmdEsci->Click = [this] { Unload(); };

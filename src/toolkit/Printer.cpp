@@ -15,6 +15,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelvia
@@ -27,8 +28,7 @@ constexpr int kPointsPerInch = 72;
 constexpr double kCellWidth = kDotsPerInch / 12.0;
 constexpr double kCellHeight = kDotsPerInch / 6.0;
 constexpr double kRuleWidth = 0.6 * kDotsPerInch / kPointsPerInch;
-/// Pixels of a picture to the inch, where it does not tell its own.
-constexpr double kScreenDotsPerInch = 96;
+constexpr double kInchesPerMetre = 1 / 0.0254;
 
 std::function<void(const Sheet&)>& PrinterHandler()
 {
@@ -73,7 +73,11 @@ public:
     void operator()(const SheetPicture& picture)
     {
         const QImage image = QGuiApplication::clipboard()->image();
-        const QSizeF size = image.deviceIndependentSize() * (kDotsPerInch / kScreenDotsPerInch);
+        const auto onPaper = [](int dots, int dotsPerMetre) {
+            return dots * kInchesPerMetre * kDotsPerInch / std::max(dotsPerMetre, 1);
+        };
+        const QSizeF size(onPaper(image.width(), image.dotsPerMeterX()),
+                          onPaper(image.height(), image.dotsPerMeterY()));
         painter_.drawImage(QRectF(Corner(picture.x, picture.y), size), image);
     }
 

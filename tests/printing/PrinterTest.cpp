@@ -121,10 +121,11 @@ private Q_SLOTS:
 
     void thePictureOfTheClipboardInItsOwnSize()
     {
-        // 96 by 48 of the screen's dots, an inch by half an inch, twice as fine.
+        // An inch by half an inch, at 192 dots to the inch.
         QImage picture(192, 96, QImage::Format_RGB32);
         picture.fill(Qt::black);
-        picture.setDevicePixelRatio(2);
+        picture.setDotsPerMeterX(7559);
+        picture.setDotsPerMeterY(7559);
         QGuiApplication::clipboard()->setImage(picture);
         Sheet sheet(Orientation::Landscape, kFont);
         sheet.PaintClipboard(15, 3);
