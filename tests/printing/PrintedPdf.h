@@ -16,6 +16,7 @@ namespace zelvia::test
 /// A word of a page; places in points from the top left corner of the paper.
 struct PrintedWord {
     double left;
+    double right;
     double top;
     QString text;
 };
@@ -42,8 +43,8 @@ public:
     const QString& Path() const { return path_; }
 
     /// What is wrong with the place of the sheet's texts and rules on the paper, a line each; empty when each text
-    /// begins within a quarter of a cell of its place and each rule is drawn. `texts` counts the texts looked at.
-    QStringList Faults(const Sheet& sheet) const;
+    /// begins within a quarter of a cell of its place and each rule is drawn.
+    QString Faults(const Sheet& sheet) const;
 
 private:
     explicit PrintedPdf(QString path);

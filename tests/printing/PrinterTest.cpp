@@ -61,7 +61,7 @@ private Q_SLOTS:
         QCOMPARE(pdf.Pages().size(), 1);
         QVERIFY(std::abs(pdf.Pages()[0].size.width() - size.width()) < 1);
         QVERIFY(std::abs(pdf.Pages()[0].size.height() - size.height()) < 1);
-        QCOMPARE(pdf.Faults(sheet), QStringList());
+        QCOMPARE(pdf.Faults(sheet), QString());
         // The printable corner is 12 points in, a cell 6 by 12.
         const auto& words = pdf.Pages()[0].words;
         QCOMPARE(words.size(), 2);
@@ -83,7 +83,7 @@ private Q_SLOTS:
         PrintSheet(sheet);
         const PrintedPdf pdf = PrintedPdf::Next();
         QCOMPARE(pdf.Fonts(), (QByteArrayList{"LiberationMono-Italic", "LiberationSerif", "LiberationSerif-Italic"}));
-        QCOMPARE(pdf.Faults(sheet), QStringList());
+        QCOMPARE(pdf.Faults(sheet), QString());
     }
 
     void boldFace()
@@ -101,7 +101,7 @@ private Q_SLOTS:
         sheet.Print(4, 8, "3\xB0");
         sheet.Print(4, 10, "@");
         PrintSheet(sheet);
-        QCOMPARE(PrintedPdf::Next().Faults(sheet), QStringList());
+        QCOMPARE(PrintedPdf::Next().Faults(sheet), QString());
     }
 
     void pages()
@@ -116,7 +116,7 @@ private Q_SLOTS:
         PrintSheet(sheet);
         const PrintedPdf pdf = PrintedPdf::Next();
         QCOMPARE(pdf.Pages().size(), 3);
-        QCOMPARE(pdf.Faults(sheet), QStringList());
+        QCOMPARE(pdf.Faults(sheet), QString());
     }
 
     void thePictureOfTheClipboardInItsOwnSize()
@@ -149,7 +149,7 @@ private Q_SLOTS:
         sheet.Print(2, 2, "solo");
         sheet.PaintClipboard(15, 3);
         PrintSheet(sheet);
-        QCOMPARE(PrintedPdf::Next().Faults(sheet), QStringList());
+        QCOMPARE(PrintedPdf::Next().Faults(sheet), QString());
     }
 
     void aQueueThatRefusesJobs()
@@ -162,7 +162,7 @@ private Q_SLOTS:
         Queue("cupsaccept", {QStringLiteral("zelvia")});
         QCOMPARE(ErrorOf(sheet), 0);
         // Only the one that was taken comes out.
-        QCOMPARE(PrintedPdf::Next().Faults(sheet), QStringList());
+        QCOMPARE(PrintedPdf::Next().Faults(sheet), QString());
         QCOMPARE(PrintedPdf::Jobs(), before + 1);
     }
 

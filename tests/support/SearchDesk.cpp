@@ -14,14 +14,7 @@ namespace zelvia::test
 
 void SearchDesk::OpenSearch() const
 {
-    // With the mouse alone: two entries of the menu have the same key.
-    auto* bar = Page().findChild<QMenuBar*>();
-    auto* menu = Page().findChild<QMenu*>(QStringLiteral("mnuStatistiche"));
-    auto* entry = Page().findChild<QAction*>(QStringLiteral("mnuMedie"));
-    QVERIFY(menu != nullptr && entry != nullptr);
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
-    QTRY_VERIFY(menu->isVisible());
-    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    TakeEntry("mnuStatistiche", "mnuMedie");
     QTRY_VERIFY(Search() != nullptr);
     AwaitFront(*Search());
 }

@@ -38,14 +38,7 @@ void StatisticsDesk::TakePageToFront() const
 void StatisticsDesk::Choose(const char* entry) const
 {
     TakePageToFront();
-    auto* bar = Page().findChild<QMenuBar*>();
-    auto* menu = Page().findChild<QMenu*>(QStringLiteral("mnuStatistiche"));
-    auto* action = Page().findChild<QAction*>(QLatin1String(entry));
-    QVERIFY2(action != nullptr, entry);
-    hand::Click(*bar, bar->actionGeometry(menu->menuAction()).center());
-    QTRY_VERIFY(menu->isVisible());
-    QVERIFY(QTest::qWaitForWindowExposed(menu));
-    hand::Click(*menu, menu->actionGeometry(action).center());
+    TakeEntry("mnuStatistiche", entry);
     QTRY_VERIFY(Window() != nullptr);
     EntryPage::AwaitFront(*Window());
 }
