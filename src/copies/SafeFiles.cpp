@@ -107,9 +107,12 @@ void MakeFolders(const fs::path& path)
     if (path.has_relative_path()) {
         MakeFolders(path.parent_path());
     }
-    // Another start may have been quicker.
-    if (::mkdir(path.c_str(), kOwnersFolder) != 0 && !fs::is_directory(path, ignored)) {
-        throw FileFailure(path, errno);
+    if (::mkdir(path.c_str(), kOwnersFolder) != 0) {
+        const int reason = errno;
+        // Another start may have been quicker.
+        if (!fs::is_directory(path, ignored)) {
+            throw FileFailure(path, reason);
+        }
     }
 }
 
