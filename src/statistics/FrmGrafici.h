@@ -7,6 +7,9 @@
 #include "toolkit/Button.h"
 #include "toolkit/Chart.h"
 #include "toolkit/Form.h"
+#include "toolkit/Picture.h"
+
+#include <array>
 
 namespace zelvia
 {
@@ -29,6 +32,9 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+
+private:
+    std::array<Picture*, 7> shapes_{}; ///< The printed lines.
 };
 
 // Each loads the chart window if need be, gives it the chart and shows it. An error is reported under the name of the

@@ -98,6 +98,9 @@ public:
     Button* cmdStampa = nullptr;
     Button* cmdEsci = nullptr;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void BuildConditions();
     void BuildPeriod();

@@ -17,11 +17,12 @@ namespace
 
 // Places, in logical pixels: the conditions, the values to choose from and the result stand side by side, the period
 // and the commands below.
-constexpr QSize kSize{1084, 604};
-constexpr int kMargin = 18;
-constexpr int kHeadTop = 16;
+constexpr QSize kSize{1104, 632};
+constexpr int kFrame = 12; ///< From the border to the printed frame.
+constexpr int kMargin = 28;
+constexpr int kHeadTop = 28;
 constexpr int kHeadHeight = 24;
-constexpr int kTop = 44;
+constexpr int kTop = 58;
 constexpr int kRowStep = 35;
 constexpr int kRowHeight = 30;
 constexpr int kButtonWidth = 116;
@@ -35,7 +36,7 @@ constexpr int kResultWidth = 414;
 constexpr int kResultHeight = kListHeight - 16;
 constexpr int kTotalsTop = kTop + kResultHeight + 12;
 constexpr int kPeriodTop = kTop + kListHeight + 20;
-constexpr int kCommandTop = 552;
+constexpr int kCommandTop = 568;
 constexpr int kCommandHeight = 36;
 
 constexpr int kEnter = 13;
@@ -118,6 +119,18 @@ frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
     CategoriaLista.clear();
 }
 
+void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
+{
+    // The printed frame, a rule over the commands, and one that parts choice and result.
+    QPainter painter(this);
+    painter.setPen(Ink::Rule);
+    painter.drawRect(rect().adjusted(kFrame, kFrame, -kFrame - 1, -kFrame - 1));
+    const int between = kResultLeft - 12;
+    painter.drawLine(between, kHeadTop, between, kCommandTop - 18);
+    constexpr int ruleTop = kCommandTop - 16;
+    painter.fillRect(kMargin, ruleTop, width() - 2 * kMargin, 2, Ink::Accent);
+}
+
 Button* frmRicercheStatistiche::MakeButton(const char* name, TextView caption, const QRect& place)
 {
     auto* button = new Button(this, QLatin1String(name), caption);
@@ -150,6 +163,7 @@ ListBox* frmRicercheStatistiche::MakeList(const char* name, const QRect& place, 
     auto* list = new ListBox(this, QLatin1String(name));
     list->setGeometry(place);
     list->setAccessibleName(spoken);
+    list->setAlternatingRowColors(true);
     return list;
 }
 
@@ -169,7 +183,7 @@ void frmRicercheStatistiche::BuildConditions()
         controlli.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
         controlli.lbl->SetVisible(false);
     }
-    lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 17);
+    lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 18);
     SetForeColour(*lblTitoliSta, Ink::Accent);
     lblTitoliSta->SetVisible(false);
     lstStatistiche = MakeList("lstStatistiche", {kListLeft, kTop, kListWidth, kListHeight},
@@ -227,14 +241,14 @@ void frmRicercheStatistiche::ConnectField(CampoPeriodo::Campo campo)
 void frmRicercheStatistiche::BuildResult()
 {
     // The face's blanks bring the words over the columns of the list.
-    constexpr int headPixels = 15;
-    constexpr int dateLeft = 268;
+    constexpr int headPixels = 16;
+    constexpr int dateLeft = 288;
     lblTitoliMedie = MakeLabel("lblTitoliMedie", "      Km             Tempi          Media Km    ",
                                {kResultLeft, kHeadTop, dateLeft, kHeadHeight}, headPixels);
     lblTitoliMedie2 = MakeLabel("lblTitoliMedie2", "  gg  mm  aaaa",
                                 {kResultLeft + dateLeft, kHeadTop, kResultWidth - dateLeft, kHeadHeight}, headPixels);
     lstMedie = MakeList("lstMedie", {kResultLeft, kTop, kResultWidth, kResultHeight}, QStringLiteral("Corse trovate"));
-    lstMedie->setFont(PageFont("Courier", 14));
+    lstMedie->setFont(PageFont("Courier", 15));
     ShowHeads(false);
 
     constexpr int width = 126;

@@ -258,7 +258,7 @@ private:
             line.setPen(pen);
         }
         QCPGraph& discs = AddPoints(plot, 0, values_.size());
-        const double width = std::clamp(step * 0.6, 2.6, 7.0);
+        const double width = std::clamp(step * 0.6, 2.0, 7.0);
         const QPen ring(Ink::Accent, width > 4 ? 1.4 : 0.8);
         discs.setLineStyle(QCPGraph::lsNone);
         discs.setScatterStyle({QCPScatterStyle::ssCircle, ring, width > 4 ? Ink::Slip : Ink::Accent, width});
