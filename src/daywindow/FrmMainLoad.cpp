@@ -55,9 +55,13 @@ frmMain::frmMain()
     ConnectGroups();
     ConnectSplits();
     ConnectNotes();
+    Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain()
+{
+    Application::Instance().HelpKey = {};
+}
 
 bool frmMain::FormLoad()
 {
@@ -182,6 +186,7 @@ void frmMain::OnUnload()
     tables_.UnloadList();
     desPercorso_.Unload();
     info_.Unload();
+    guida_.Close();
 }
 
 } // namespace zelvia
