@@ -10,6 +10,7 @@
 #include "daywindow/FrmInfo.h"
 #include "daywindow/PageControls.h"
 #include "daywindow/TimeAndPace.h"
+#include "help/HelpViewer.h"
 #include "routes/FrmDesPercorso.h"
 #include "routes/RoutePage.h"
 #include "statistics/CategoryStatistics.h"
@@ -297,7 +298,7 @@ private:
     void CaricaListe();
     void SalvaListe();
 
-    void ShowHelp(int comando);
+    void ShowHelp(int comando, const QString& argomento = {});
 
     // Entry.
     void Immis(ListaScelta lista);
@@ -322,6 +323,7 @@ private:
     GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.
     std::optional<ListaOrdinata> ListaTempi; ///< Alive while the sorted list is open.
     TableWindows tables_;
+    HelpViewer guida_;
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
     FormSlot<frmCalendario> calendario_;

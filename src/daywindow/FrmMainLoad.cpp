@@ -55,9 +55,13 @@ frmMain::frmMain()
     ConnectGroups();
     ConnectSplits();
     ConnectNotes();
+    Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain()
+{
+    Application::Instance().HelpKey = {};
+}
 
 bool frmMain::FormLoad()
 {
@@ -187,6 +191,7 @@ void frmMain::OnUnload()
     grafici_.Unload();
     ricerche_.Unload();
     info_.Unload();
+    guida_.Close();
 }
 
 } // namespace zelvia

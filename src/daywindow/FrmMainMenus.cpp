@@ -3,7 +3,6 @@
 // The menus, the dispatcher of commands, help and the window about the program.
 #include "core/RunTimeError.h"
 #include "daywindow/FrmMain.h"
-#include "toolkit/Help.h"
 #include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
 
@@ -120,14 +119,14 @@ void frmMain::mnuHelpSearchForHelpOn_Click()
     ShowHelp(HelpCommand::Search);
 }
 
-void frmMain::ShowHelp(int comando)
+void frmMain::ShowHelp(int comando, const QString& argomento)
 {
     if (FileGuida.empty()) {
         MsgBox("Impossibile visualizzare il Sommario della Guida. Nessun file della Guida associato al progetto.",
                MsgButtons::OK, MsgIcon::Information, FromQString(windowTitle()));
         return;
     }
-    TrapWith([&] { WinHelp(FileGuida, comando); },
+    TrapWith([&] { guida_.WinHelp(FileGuida, comando, argomento); },
              [](const ErroreRunTime& error) { MsgBox(error.Description(), MsgButtons::OK); });
 }
 

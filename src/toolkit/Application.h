@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QLockFile>
 
+#include <functional>
 #include <memory>
 
 namespace zelvia
@@ -30,6 +31,9 @@ public:
     /// another run holds it; a folder that can't be written counts as free.
     bool TakeInstanceLock();
     void ReleaseInstanceLock() { lock_.reset(); }
+
+    /// What F1 does in a window that has no menu entry of its own for it; the window's name goes with it.
+    std::function<void(const QString& window)> HelpKey;
 
     bool notify(QObject* receiver, QEvent* event) override;
 

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/Form.h"
 
+#include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/Picture.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 
 namespace zelvia
 {
@@ -27,6 +29,20 @@ Control& Form::FocusSink()
 Form* Form::Of(QWidget* widget)
 {
     return widget == nullptr ? nullptr : qobject_cast<Form*>(widget->window());
+}
+
+/// A key comes here when no control of the window had a use for it.
+bool Form::event(QEvent* event)
+{
+    const auto& helpKey = Application::Instance().HelpKey;
+    if (event->type() == QEvent::KeyPress && helpKey) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) {
+            Fire([&] { helpKey(objectName()); });
+            return true;
+        }
+    }
+    return QWidget::event(event);
 }
 
 void Form::showEvent(QShowEvent* event)

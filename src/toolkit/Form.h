@@ -36,6 +36,7 @@ public:
     static Form* Of(QWidget* widget);
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
