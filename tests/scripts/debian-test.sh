@@ -85,6 +85,8 @@ await() {
 page() { xdotool search --onlyvisible --classname '^zelvia$'; }
 ended() { ! kill -0 "$program" 2>/dev/null; }
 newer() { [ "$1" -nt "$2" ]; }
+picture() { import -silent -window "$(page)" png:- | sha256sum; }
+changed() { [ "$(picture)" != "$1" ]; }
 active() { [ "$(xdotool getactivewindow)" = "$(page)" ]; }
 
 zelvia &
@@ -94,12 +96,12 @@ await active
 diary=$HOME/Zelvia/ZelviaFile/prova.zlv
 if [ "$1" = write ]; then
   # Into the first line of the notes.
+  closed=$(picture)
   xdotool mousemove --window "$(page)" 880 338 click 1
-  sleep 1
+  await changed "$closed"
   xdotool type --delay 50 "Prima corsa"
 fi
 touch "$HOME/before"
-sleep 1
 xdotool key alt+f && xdotool key s
 await newer "$diary" "$HOME/before"
 import -silent -window "$(page)" "$HOME/debian-$1.png"
