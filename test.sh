@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 . packaging/packages.sh
 
-packages_install run build display test
+packages_install run build package display test
 cmake --preset debug
 cmake --build --preset debug
 exec ctest --preset debug "$@" </dev/null

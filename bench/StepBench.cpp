@@ -4,15 +4,12 @@
 #include "bench/BareWindow.h"
 #include "bench/Measure.h"
 #include "bench/PageCount.h"
+#include "bench/PaintWatch.h"
 #include "core/Files.h"
 #include "core/Module1.h"
 #include "daywindow/FrmMain.h"
 #include "toolkit/Application.h"
 
-#include <QMouseEvent>
-
-#include <cstdlib>
-#include <iostream>
 #include <string>
 
 namespace
@@ -23,46 +20,6 @@ using namespace zelvia::bench;
 
 // With the one that is not counted, from the first day of a common year to its last.
 constexpr int kSteps = 363;
-
-/// Notes that a widget was painted.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
-    {
-        painted_ = painted_ || event->type() == QEvent::Paint;
-        return false;
-    }
-
-    /// Runs the events until the paint that is due has reached the screen; ends the program when it never does.
-    void Wait()
-    {
-        const auto start = Clock::now();
-        while (!painted_) {
-            QCoreApplication::processEvents();
-            if (Clock::now() - start > std::chrono::seconds(20)) {
-                std::cerr << "step_bench: a window is not painted\n";
-                std::exit(1);
-            }
-        }
-        QGuiApplication::sync();
-        painted_ = false;
-    }
-
-private:
-    bool painted_ = false;
-};
-
-void Click(QWidget& widget, const QPointF& place)
-{
-    const QPointF screen = widget.mapToGlobal(place);
-    QMouseEvent press(QEvent::MouseButtonPress, place, screen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, place, screen, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &release);
-}
 
 void Measure(frmMain& page, const std::string& platform)
 {

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Which folders Zelvia can live in. To be sourced by bash.
+# Which folders Zelvia can live in. To be sourced by bash, or run by it with a folder to check.
 #
 # The program derives the folder of a diary from the diary's path: it looks for the first "ZelviaFile" and for the first
 # "." in it, and keeps paths as Windows-1252 between double quotes, with backslashes. A folder that upsets one of these
@@ -81,3 +81,7 @@ folder_make() {
   fi
   rm -f -- "$probe"
 }
+
+if [ "${BASH_SOURCE[0]}" = "$0" ]; then
+  folder_check "$1"
+fi

@@ -73,6 +73,26 @@ fs::path ResolveCase(const fs::path& path)
     throw ErroreRunTime(folderExists && mode == OpenMode::Input ? Errore::FileNonTrovato : Errore::PercorsoNonTrovato);
 }
 
+/// The regular files of a folder, hidden ones left out, sorted; as far as they could be read when it failed.
+std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
+{
+    std::vector<Text> names;
+    if (folder.empty()) {
+        failed = std::make_error_code(std::errc::no_such_file_or_directory);
+        return names;
+    }
+    for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        std::error_code ignored;
+        const std::string name = Utf8Of(entry->path().filename());
+        if (!name.starts_with('.') && entry->is_regular_file(ignored)) {
+            names.push_back(FromUtf8(name));
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 } // namespace
 
 const Text& ProgramFolder()
@@ -160,20 +180,17 @@ Text FindFolder(TextView path)
 
 std::vector<Text> FilesIn(TextView folder)
 {
-    std::vector<Text> names;
-    if (folder.empty()) {
-        return names;
-    }
+    std::error_code ignored;
+    return VisibleFiles(folder, ignored);
+}
+
+std::vector<Text> ReadFolder(TextView folder)
+{
     std::error_code failed;
-    for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        std::error_code ignored;
-        const std::string name = Utf8Of(entry->path().filename());
-        if (!name.starts_with('.') && entry->is_regular_file(ignored)) {
-            names.push_back(FromUtf8(name));
-        }
+    std::vector<Text> names = VisibleFiles(folder, failed);
+    if (failed) {
+        throw ErroreRunTime(ErrorOfErrno(failed.value()));
     }
-    std::sort(names.begin(), names.end());
     return names;
 }
 

@@ -44,6 +44,9 @@ Text FindFolder(TextView path);
 /// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent.
 std::vector<Text> FilesIn(TextView folder);
 
+/// The same of a folder that has to be there. Raises error 76 when it is absent or no folder, 75 without permission.
+std::vector<Text> ReadFolder(TextView folder);
+
 /// Deletes a file. Raises error 53 when it is absent, 75 for a folder or without permission.
 void DeleteFile(TextView path);
 

@@ -15,10 +15,10 @@ void DrawTitle(QPainter& painter, const QRectF& area)
 {
     painter.setFont(PrintFont(44, true));
     painter.setPen(Ink::PrintDark);
-    painter.drawText(area.adjusted(0, 0, 0, -34), Qt::AlignCenter, QStringLiteral("Zelvia"));
+    painter.drawText(area.adjusted(0, 0, 0, -46), Qt::AlignCenter, QStringLiteral("Zelvia"));
     painter.setFont(PrintFont(17));
     painter.setPen(Ink::Accent);
-    painter.drawText(area.adjusted(0, 60, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+    painter.drawText(area.adjusted(0, 74, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                      QStringLiteral("il diario di chi corre"));
 }
 

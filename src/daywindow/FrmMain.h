@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "calendar/FrmCalendario.h"
 #include "core/CMouse.h"
 #include "core/Date.h"
 #include "core/Module1.h"
@@ -12,6 +13,10 @@
 #include "help/HelpViewer.h"
 #include "routes/FrmDesPercorso.h"
 #include "routes/RoutePage.h"
+#include "statistics/CategoryStatistics.h"
+#include "statistics/FrmGrafici.h"
+#include "statistics/FrmRicercheStatistiche.h"
+#include "statistics/FrmStatistiche1.h"
 #include "statistics/ListaOrdinata.h"
 #include "tables/TablePage.h"
 #include "tables/TableWindows.h"
@@ -96,6 +101,10 @@ public:
     void TabAllenamentiNonVisibili() { ShowTablePanel(false); }
     void MostraRiquadriGara() { ShowRacePanel(true); }
     void NascondiRiquadriGara() { ShowRacePanel(false); }
+    /// Shows the race of the day shown in the place of the active table, if the calendar has one.
+    void AssegnaGara();
+    /// Shows the race at row `indice` of the calendar.
+    void GiornodellaGara(i16& indice);
 
     // Files.
     void CaricaNomeFile();
@@ -106,6 +115,7 @@ public:
     void mnuFileNuovo_Click();
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
+    void mnuFilePrint_Click();
     void mnuFileExit_Click();
     /// Asks to save what changed; `annullato` becomes 1 when the user cancels.
     void ChiediSalvataggio(i16& annullato);
@@ -156,6 +166,34 @@ public:
     i16 NumeroPercorso();
     void SetDistance(i32 km, i32 metri) override;
 
+    // Statistics.
+    /// The window of the statistics, created when there is none.
+    frmStatistiche1& StatisticsWindow();
+    void StatisPercorso() { Statis(Categoria::Percorso); }
+    void StatisLunghezza() { Statis(Categoria::Lunghezza); }
+    void StatisAndatura() { Statis(Categoria::Andatura); }
+    void StatisFondo() { Statis(Categoria::Fondo); }
+    void StatisTipo() { Statis(Categoria::Tipo); }
+    void StatisStagione() { Statis(Categoria::Stagione); }
+    void StatisMeteo() { Statis(Categoria::Meteo); }
+    void StatisTemperatura() { Statis(Categoria::Temperatura); }
+    void StatisCorridori() { Statis(Categoria::Corridori); }
+    void StatisPeso() { Statis(Categoria::Peso); }
+    void StatisKm() { Statis(Categoria::Km); }
+    void StatisRipetizioni() { Statis(Categoria::Ripetizioni); }
+    void mnuPercorso_Click() { ShowStatistic(&frmMain::StatisPercorso); }
+    void mnuLunghezza_Click() { ShowStatistic(&frmMain::StatisLunghezza); }
+    void mnuAndatura_Click() { ShowStatistic(&frmMain::StatisAndatura); }
+    void mnuFondo_Click() { ShowStatistic(&frmMain::StatisFondo); }
+    void mnuTipo_Click() { ShowStatistic(&frmMain::StatisTipo); }
+    void mnuStagione_Click() { ShowStatistic(&frmMain::StatisStagione); }
+    void mnuMeteo_Click() { ShowStatistic(&frmMain::StatisMeteo); }
+    void mnuTemperatura_Click() { ShowStatistic(&frmMain::StatisTemperatura); }
+    void mnuCorridori_Click() { ShowStatistic(&frmMain::StatisCorridori); }
+    void mnuPeso_Click() { ShowStatistic(&frmMain::StatisPeso); }
+    void mnuKm_Click() { ShowStatistic(&frmMain::StatisKm); }
+    void mnuRipetizioni_Click() { ShowStatistic(&frmMain::StatisRipetizioni); }
+
     // Training tables.
     void SetActiveTableName(TextView nome) override { lblTabNomeFile->SetCaption(nome); }
     void RequestTableReading() override { lblTimerTab->SetCaption("1"); }
@@ -184,6 +222,8 @@ public:
     void mnuListaPrecedente_Click();
     void mnuListaIniziale_Click();
     void mnuAllenamenti_Click();
+    void mnuGare_Click();
+    void mnuMedie_Click();
     void mnuHelpContents_Click();
     void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
@@ -272,6 +312,12 @@ private:
     void FillOrderedList(bool posizione);
     void ShowRoute(const Text& nome);
 
+    // Statistics.
+    /// Counts the category up to the day shown, from the records, into that window.
+    void Statis(Categoria categoria);
+    /// The command of a statistic: commits the day, counts and shows.
+    void ShowStatistic(void (frmMain::*statis)());
+
     BoundedArray<std::unique_ptr<CampoLista>, 1, 8> campiLista_;
     std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
     GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.
@@ -280,6 +326,10 @@ private:
     HelpViewer guida_;
     FormSlot<frmInfo> info_;
     FormSlot<frmDesPercorso> desPercorso_;
+    FormSlot<frmCalendario> calendario_;
+    FormSlot<frmGrafici> grafici_;
+    FormSlot<frmRicercheStatistiche> ricerche_;
+    FormSlot<frmStatistiche1> statistiche_;
 };
 
 } // namespace zelvia

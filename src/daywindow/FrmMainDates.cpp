@@ -27,6 +27,7 @@ void frmMain::Data()
         if (!NomeTabellaAttiva.empty()) {
             AssegnaTabella();
         }
+        AssegnaGara();
     });
 }
 
@@ -80,6 +81,10 @@ void frmMain::tmrFocus_Timer()
         AzzeraDatiTabella();
         if (!NomeTabellaAttiva.empty()) {
             ShowActiveTable();
+        }
+        // The plan comes back on the next day without a race.
+        if (lblGara->Visible()) {
+            TabAllenamentiNonVisibili();
         }
     });
 }

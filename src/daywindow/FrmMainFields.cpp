@@ -204,16 +204,4 @@ void frmMain::ShowTablePanel(bool visible)
     }
 }
 
-void frmMain::ShowRacePanel(bool visible)
-{
-    for (Picture* picture : {pctCalGara, pctCalLocalita, pctCalLunghezza, pctCalPartecipanti, pctCalTempoImpiegato,
-                             pctCalRisultato, pctCalCategoria, pctCalRisCategoria}) {
-        picture->SetVisible(visible);
-    }
-    for (Label* label : {lblGara, lblLocalita, lblPartecipanti, lblTempoImpiegato, lblLunghezzaGara, lblRisultato,
-                         lblCategoria, lblRisultatoCat}) {
-        label->SetVisible(visible);
-    }
-}
-
 } // namespace zelvia

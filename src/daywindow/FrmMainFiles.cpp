@@ -271,6 +271,7 @@ void frmMain::ReadOpenedDiary()
     CaricaPercorsi();
     AzzeraCalendario();
     LeggiCalendario();
+    AssegnaGara();
 }
 
 void frmMain::mnuFileNuovo_Click()

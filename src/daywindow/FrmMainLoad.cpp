@@ -173,6 +173,7 @@ void frmMain::LoadCompanions()
     CaricaPercorsi();
     AzzeraCalendario();
     LeggiCalendario();
+    AssegnaGara();
 }
 
 void frmMain::mnuFileExit_Click()
@@ -185,6 +186,10 @@ void frmMain::OnUnload()
     tables_.UnloadEditor();
     tables_.UnloadList();
     desPercorso_.Unload();
+    calendario_.Unload();
+    statistiche_.Unload();
+    grafici_.Unload();
+    ricerche_.Unload();
     info_.Unload();
     guida_.Close();
 }

@@ -109,12 +109,7 @@ void frmMain::BeginOrderedList()
 
 void frmMain::AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun)
 {
-    ListaTempi->LOgiorno(giorno);
-    ListaTempi->LOtempo(tempoRun);
-    ListaTempi->LOmedia(media);
-    ListaTempi->LOdata(dataRun);
-    ListaTempi->Trasforma();
-    ListaTempi->Incrementa();
+    AggiungiCorsa(*ListaTempi, giorno, tempoRun, media, dataRun);
 }
 
 void frmMain::AddRunsOf(const Text& percorso, i16 ultimo)

@@ -9,6 +9,7 @@
 #include "routes/RoutePage.h"
 #include "routes/RouteTotals.h"
 #include "toolkit/Application.h"
+#include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 
@@ -23,7 +24,6 @@ namespace
 {
 
 constexpr int kRows = 20;
-constexpr int kEnter = 13;
 
 // Places, in logical pixels.
 constexpr QSize kSize{860, 636};
@@ -43,11 +43,6 @@ constexpr int RowTop(int riga)
     return kTop + (riga - 1) * kRowStep;
 }
 
-QString Indexed(const char* name, int index)
-{
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
-}
-
 i32 Parsed(const TextBox& box)
 {
     return RoundTo<i32>(Val(box.Content()));
@@ -56,14 +51,6 @@ i32 Parsed(const TextBox& box)
 Text EmptyForZero(i32 number)
 {
     return number == 0 ? Text() : PlainText(number);
-}
-
-/// Throws away a printable character that is no digit.
-void DigitsOnly(int& keyAscii)
-{
-    if (keyAscii >= ' ' && (keyAscii < '0' || keyAscii > '9')) {
-        keyAscii = 0;
-    }
 }
 
 } // namespace
@@ -140,14 +127,14 @@ void frmDesPercorso::ConnectRow(int riga)
     };
     txtKm[riga]->KeyPress = [this, riga](int& keyAscii) {
         FileModificato = 1;
-        DigitsOnly(keyAscii);
+        ThrowAwayNonDigit(keyAscii);
         if (keyAscii == kEnter) {
             txtMetri[riga]->SetFocus();
         }
     };
     txtMetri[riga]->KeyPress = [this, riga](int& keyAscii) {
         FileModificato = 1;
-        DigitsOnly(keyAscii);
+        ThrowAwayNonDigit(keyAscii);
         if (keyAscii == kEnter && riga < kRows) {
             txtTratto[riga + 1]->SetFocus();
         }

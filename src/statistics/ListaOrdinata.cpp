@@ -171,4 +171,14 @@ void ListaOrdinata::Posizione()
     });
 }
 
+void AggiungiCorsa(ListaOrdinata& lista, i16 giorno, TextView tempo, TextView media, CalendarDate data)
+{
+    lista.LOgiorno(giorno);
+    lista.LOtempo(tempo);
+    lista.LOmedia(media);
+    lista.LOdata(data);
+    lista.Trasforma();
+    lista.Incrementa();
+}
+
 } // namespace zelvia

@@ -88,4 +88,7 @@ private:
     CasellaTempi* CasellaLista = nullptr;
 };
 
+/// Adds one run. Raises error 9 beyond 366 entries.
+void AggiungiCorsa(ListaOrdinata& lista, i16 giorno, TextView tempo, TextView media, CalendarDate data);
+
 } // namespace zelvia

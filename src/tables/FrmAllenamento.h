@@ -6,6 +6,7 @@
 #include "core/Date.h"
 #include "tables/TableCalculations.h"
 #include "tables/TableGrid.h"
+#include "tables/TableSheet.h"
 #include "toolkit/Button.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
@@ -55,6 +56,8 @@ public:
     void cmdDisattiva_Click();
     void cmdCalcoloMedie_Click();
     void cmdSalva_Click();
+    void cmdStampa_Click();
+    void cmdEsci_Click() { Unload(); }
     void mnuInserisciRiga_Click();
     void mnuEliminaRiga_Click();
 
@@ -92,7 +95,7 @@ private:
 
     void ShowRowMenu(int riga, const QPoint& position);
     void BeginEditing();
-    bool LimitHolds(TableGrid::Column column, int riga);
+    bool ColumnLimitHolds(TableGrid::Column column, int riga);
     bool DateLimitHolds(std::size_t index);
     void FormatBox(TableGrid::Column column, int riga, bool limitHeld);
     void MoveOn(TableGrid::Column column, int riga);
@@ -115,6 +118,7 @@ private:
     void AcceptAllRows();
     void RecolourAllRows();
     bool ChooseActivePath();
+    TableSheetTexts SheetTexts() const;
 
     TableWindows& windows_;
     std::array<BoundedArray<TextBox*, 1, 31>, TableGrid::kColumns> boxes_;

@@ -11,6 +11,7 @@
 #include "tables/TableModel.h"
 #include "tables/TablePage.h"
 #include "tables/TableWindows.h"
+#include "toolkit/Printer.h"
 #include "toolkit/QtText.h"
 
 #include <utility>
@@ -75,6 +76,30 @@ bool frmAllenamento::ChooseActivePath()
     }
     NomeFileForm = percorsoSalvato_;
     return true;
+}
+
+TableSheetTexts frmAllenamento::SheetTexts() const
+{
+    TableSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}, .dataInizio = {}};
+    for (std::size_t riga = 0; riga < testi.righe.size(); ++riga) {
+        for (std::size_t column = 0; column < kData.size(); ++column) {
+            testi.righe[riga][column] = Content(static_cast<Column>(column), static_cast<int>(riga) + 1);
+        }
+    }
+    for (std::size_t i = 0; i < dateBoxes.size(); ++i) {
+        testi.dataInizio[i] = dateBoxes[i]->Content();
+    }
+    return testi;
+}
+
+void frmAllenamento::cmdStampa_Click()
+{
+    // After a fault the button stays off.
+    Trap("STAMPA - ERRORE : ", [this] {
+        cmdStampa->setEnabled(false);
+        PrintSheet(TableSheet(SheetTexts()));
+        cmdStampa->setEnabled(true);
+    });
 }
 
 void frmAllenamento::cmdAttiva_Click()

@@ -8,6 +8,7 @@
 #include "tables/TableWindows.h"
 #include "tables/TextRoutines.h"
 #include "toolkit/Application.h"
+#include "toolkit/GridBox.h"
 #include "toolkit/Menu.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
@@ -23,13 +24,6 @@ using namespace TableGrid;
 namespace
 {
 
-constexpr int kEnter = 13;
-
-QString Indexed(const char* name, int index)
-{
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
-}
-
 /// The fixed pitch of the strips keeps the signs of their captions between the boxes.
 QFont StripFont()
 {
@@ -39,22 +33,6 @@ QFont StripFont()
 QFont HeadFont()
 {
     return PageFont("Times New Roman", 14);
-}
-
-Label* MakeLabel(QWidget* parent, const QString& name, TextView caption, const QRect& place, const QFont& font)
-{
-    auto* label = new Label(parent, name);
-    label->SetCaption(caption);
-    label->setGeometry(place);
-    label->setFont(font);
-    return label;
-}
-
-void ThrowAwayNonDigit(int& keyAscii)
-{
-    if (keyAscii >= ' ' && (keyAscii < '0' || keyAscii > '9')) {
-        keyAscii = 0;
-    }
 }
 
 TextBox* MakeBox(QWidget* parent, const QString& name, int maxLength, const QRect& place, TextView spoken)
@@ -130,9 +108,7 @@ Button* frmAllenamento::MakeButton(const char* name, TextView caption, int top, 
     auto* button = new Button(this, QLatin1String(name), caption);
     button->setGeometry(kPanelLeft, top, 176, 34);
     button->setFont(PageFont("Times New Roman", 15));
-    if (click != nullptr) {
-        button->Click = [this, click] { (this->*click)(); };
-    }
+    button->Click = [this, click] { (this->*click)(); };
     return button;
 }
 
@@ -154,9 +130,8 @@ void frmAllenamento::BuildPanel()
     cmdCalcoloMedie =
         MakeButton("cmdCalcoloMedie", "Calcolo Medie", first + 3 * step, &frmAllenamento::cmdCalcoloMedie_Click);
     cmdSalva = MakeButton("cmdSalva", "Salva", first + 4 * step, &frmAllenamento::cmdSalva_Click);
-    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, nullptr);
-    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, nullptr);
-    cmdEsci->Click = [this] { Unload(); };
+    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, &frmAllenamento::cmdStampa_Click);
+    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, &frmAllenamento::cmdEsci_Click);
     cmdAttiva->setEnabled(false);
     cmdDisattiva->setEnabled(false);
 }
@@ -185,12 +160,12 @@ void frmAllenamento::ConnectBox(Column column, int riga)
         if (kData[static_cast<std::size_t>(column)].digitsOnly) {
             ThrowAwayNonDigit(keyAscii);
         }
-        if (keyAscii == kEnter && LimitHolds(column, riga)) {
+        if (keyAscii == kEnter && ColumnLimitHolds(column, riga)) {
             MoveOn(column, riga);
         }
     };
     box.Validate = [this, column, riga] {
-        const bool holds = LimitHolds(column, riga);
+        const bool holds = ColumnLimitHolds(column, riga);
         FormatBox(column, riga, holds);
         return !holds;
     };
@@ -226,43 +201,28 @@ void frmAllenamento::ConnectDateBox(std::size_t index)
     }
 }
 
-bool frmAllenamento::LimitHolds(Column column, int riga)
+bool frmAllenamento::ColumnLimitHolds(Column column, int riga)
 {
     const ColumnData& row = kData[static_cast<std::size_t>(column)];
-    if (row.limit == 0 || Val(SenzaPuntoMigliaia(Content(column, riga))) <= row.limit) {
-        return true;
-    }
-    MsgBox(row.message, MsgButtons::OK, MsgIcon::Exclamation);
-    return false;
+    return row.limit == 0 || LimitHolds(Val(SenzaPuntoMigliaia(Content(column, riga))), row.limit, row.message);
 }
 
 bool frmAllenamento::DateLimitHolds(std::size_t index)
 {
-    if (Val(dateBoxes[index]->Content()) <= kDateBoxes[index].limit) {
-        return true;
-    }
-    MsgBox(kDateBoxes[index].message, MsgButtons::OK, MsgIcon::Exclamation);
-    return false;
+    return LimitHolds(Val(dateBoxes[index]->Content()), kDateBoxes[index].limit, kDateBoxes[index].message);
 }
 
 void frmAllenamento::FormatBox(Column column, int riga, bool limitHeld)
 {
     TextBox& box = *Box(column, riga);
-    Text testo = box.Content();
-    switch (kData[static_cast<std::size_t>(column)].formato) {
-    case Formato::DueCifre: testo = testo.empty() ? testo : Format(Val(testo), "00"); break;
-    case Formato::TreCifre: testo = testo.empty() ? testo : Format(Val(testo), "000"); break;
-    case Formato::Maiuscole: ControlloMaiuscole(testo); break;
-    case Formato::Migliaia: testo = limitHeld ? ConPuntoMigliaia(testo) : testo; break;
-    case Formato::Striscia:
-        if (Val(testo) == 0) {
-            StripOf(LblRipetizioni, riga)->SetCaption(kBlankRepetitionStrip);
-        }
-        break;
-    case Formato::Nessuno: break;
+    const Text testo = box.Content();
+    const Formato formato = kData[static_cast<std::size_t>(column)].formato;
+    const Text formattato = formato == Formato::Migliaia && !limitHeld ? testo : Formattato(testo, formato);
+    if (formattato != testo) {
+        box.SetContent(formattato);
     }
-    if (testo != box.Content()) {
-        box.SetContent(testo);
+    if (column == RipetVolte && Val(testo) == 0) {
+        StripOf(LblRipetizioni, riga)->SetCaption(kBlankRepetitionStrip);
     }
 }
 

@@ -66,7 +66,7 @@ void frmTabAllenamenti::RefreshList()
 {
     flbListaTabelle->Clear();
     constexpr TextView extension = ".tab";
-    for (const Text& file : FilesIn(CartellaDiario)) {
+    for (const Text& file : ReadFolder(CartellaDiario)) {
         if (Len(file) > Len(extension) && SameText(Right(file, Len(extension)), extension)) {
             flbListaTabelle->AddItem(file);
         }

@@ -26,7 +26,7 @@ public:
     void cmdNuovaTab_Click();
     void cmdCancellaTab_Click();
 
-    /// Reads the folder again.
+    /// Reads the folder again. Raises error 76 or 75 when it cannot be read; the list is then empty.
     void RefreshList();
     /// Selects the first entry that is the active table, case ignored; with none the selection stays.
     void SelectActive();

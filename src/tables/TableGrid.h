@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Text.h"
+#include "tables/TextRoutines.h"
 
 #include <array>
 #include <cstddef>
@@ -31,8 +32,7 @@ enum Column {
     kColumns
 };
 
-/// How a box is written when it is left.
-enum class Formato { Nessuno, DueCifre, TreCifre, Maiuscole, Migliaia, Striscia };
+using Module1::Formato;
 
 struct ColumnData {
     const char* name;
@@ -63,7 +63,7 @@ inline constexpr std::array<ColumnData, kColumns> kData = {{
     {"txtMediaMillesimi", 3, true, 0, {}, Formato::TreCifre, 324, 52, "media, millesimi"},
     {"txtAndatura", 22, false, 0, {}, Formato::Maiuscole, 390, 176, "andatura"},
     {"txtFondo", 22, false, 0, {}, Formato::Maiuscole, 580, 176, "terreno"},
-    {"txtRipetVolte", 2, true, 0, {}, Formato::Striscia, 774, 36, "ripetizioni, volte"},
+    {"txtRipetVolte", 2, true, 0, {}, Formato::Nessuno, 774, 36, "ripetizioni, volte"},
     {"txtRipetDistanza", 5, true, 9999, kMaxDistanza, Formato::Migliaia, 832, 74, "ripetizioni, metri"},
     {"txtRipetQuante", 2, true, 60, kMaxMinuti60, Formato::Nessuno, 940, 34, "ripetizioni, minuti"},
     {"txtRipetTempi", 2, true, 59, kMaxSecondi, Formato::DueCifre, 990, 34, "ripetizioni, secondi"},

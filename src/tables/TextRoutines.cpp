@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tables/TextRoutines.h"
 
+#include "core/Conversions.h"
+
 namespace zelvia::Module1
 {
 namespace
@@ -46,6 +48,22 @@ Text ControlloMaiuscole(Text& testo)
         }
     }
     return testo;
+}
+
+Text Formattato(TextView testo, Formato formato)
+{
+    Text formattato(testo);
+    if (testo.empty()) {
+        return formattato;
+    }
+    switch (formato) {
+    case Formato::DueCifre: return Format(Val(testo), "00");
+    case Formato::TreCifre: return Format(Val(testo), "000");
+    case Formato::Maiuscole: return ControlloMaiuscole(formattato);
+    case Formato::Migliaia: return ConPuntoMigliaia(testo);
+    case Formato::Nessuno: break;
+    }
+    return formattato;
 }
 
 } // namespace zelvia::Module1

@@ -16,4 +16,10 @@ Text SenzaPuntoMigliaia(TextView testo);
 /// Takes each A-Z that follows an ASCII letter to lower case, in place, and returns the text.
 Text ControlloMaiuscole(Text& testo);
 
+/// What becomes of the text of a grid's box when the box is left.
+enum class Formato { Nessuno, DueCifre, TreCifre, Maiuscole, Migliaia };
+
+/// The text in one of the formats; an empty one stays empty.
+Text Formattato(TextView testo, Formato formato);
+
 } // namespace zelvia::Module1

@@ -21,6 +21,7 @@
 
 #include <array>
 #include <cstdio>
+#include <vector>
 
 namespace zelvia
 {
@@ -74,6 +75,22 @@ void ShowScreenPointer(i16 pointer)
     }
 }
 
+/// Families of the same widths as a font, the generic one last.
+std::vector<const char*> KinOf(TextView family)
+{
+    if (family == "Times New Roman" || family == "Liberation Serif") {
+        return {"Liberation Serif", "Times New Roman", "Nimbus Roman", "serif"};
+    }
+    if (family == "Book Antiqua") {
+        return {"Palatino Linotype", "P052", "URW Palladio L", "TeX Gyre Pagella", "Liberation Serif", "serif"};
+    }
+    if (family == "MS Sans Serif") {
+        return {"Liberation Sans", "Arial", "DejaVu Sans", "sans-serif"};
+    }
+    // In these the degree sign is as wide as a digit.
+    return {"Liberation Mono", "DejaVu Sans Mono", "monospace"};
+}
+
 void InstallItalian(QApplication& application)
 {
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
@@ -118,14 +135,10 @@ bool Application::notify(QObject* receiver, QEvent* event)
 QFont PageFont(TextView family, int pixels)
 {
     QStringList families{ToQString(family)};
-    if (family == "Times New Roman" || family == "Liberation Serif") {
-        families << QLatin1String("Liberation Serif") << QLatin1String("Times New Roman")
-                 << QLatin1String("Nimbus Roman") << QLatin1String("serif");
-        families.removeDuplicates();
-    } else {
-        // In these the degree sign is as wide as a digit.
-        families << QLatin1String("Liberation Mono") << QLatin1String("DejaVu Sans Mono") << QLatin1String("monospace");
+    for (const char* kin : KinOf(family)) {
+        families << QLatin1String(kin);
     }
+    families.removeDuplicates();
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(pixels);

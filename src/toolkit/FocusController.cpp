@@ -5,6 +5,7 @@
 #include "toolkit/Events.h"
 #include "toolkit/Form.h"
 #include "toolkit/ListBox.h"
+#include "toolkit/ListView.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -254,7 +255,8 @@ bool FocusController::FilterPress(QWidget* widget, QEvent* event)
 {
     Flush();
     Control* target = ControlOf(widget);
-    if (dynamic_cast<ListBox*>(target) != nullptr && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
+    const bool list = dynamic_cast<ListBox*>(target) != nullptr || dynamic_cast<ListView*>(target) != nullptr;
+    if (list && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
         // A right press neither selects nor takes the focus; the list acts when the button is released.
         return true;
     }

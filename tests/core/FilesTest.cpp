@@ -36,6 +36,9 @@ private Q_SLOTS:
     void FindFolderTellsFoldersOnly();
     void FilesInCountsVisibleRegularFiles();
     void FilesInAnAbsentFolder();
+    void ReadFolderRaises_data();
+    void ReadFolderRaises();
+    void ReadingAFolderWithoutPermission();
     void MakeFolderRaises_data();
     void MakeFolderRaises();
     void ProgramFolderIsKept();
@@ -268,6 +271,49 @@ void FilesTest::FilesInAnAbsentFolder()
     QVERIFY(FilesIn(folder.Path("manca")).empty());
     QVERIFY(FilesIn(folder.Path("file")).empty());
     QVERIFY(FilesIn("").empty());
+}
+
+void FilesTest::ReadFolderRaises_data()
+{
+    QTest::addColumn<QByteArray>("path"); // Below the folder.
+    QTest::addColumn<int>("number");
+    QTest::newRow("a folder") << QByteArray("\\cartella") << 0;
+    QTest::newRow("in other letters") << QByteArray("\\CARTELLA") << 0;
+    QTest::newRow("missing") << QByteArray("\\manca") << 76;
+    QTest::newRow("missing below a missing one") << QByteArray("\\manca\\manca") << 76;
+    QTest::newRow("a file") << QByteArray("\\file") << 76;
+}
+
+void FilesTest::ReadFolderRaises()
+{
+    QFETCH(QByteArray, path);
+    QFETCH(int, number);
+    const TempFolder folder;
+    folder.Write("file", "x");
+    folder.MakeFolder("cartella");
+    folder.Write("cartella/b", "x");
+    folder.Write("cartella/a", "x");
+    folder.Write("cartella/.nascosto", "x");
+    std::vector<Text> names;
+    QCOMPARE(RaisedBy([&] { names = ReadFolder(folder.Path() + TextOf(path)); }), number);
+    QCOMPARE(names, number == 0 ? (std::vector<Text>{"a", "b"}) : std::vector<Text>());
+    QCOMPARE(RaisedBy([] { (void)ReadFolder(""); }), 76);
+}
+
+void FilesTest::ReadingAFolderWithoutPermission()
+{
+    namespace fs = std::filesystem;
+    const TempFolder folder;
+    fs::permissions(folder.Native(), fs::perms(0755));
+    folder.MakeFolder("segreta");
+    fs::permissions(folder.Native("segreta"), fs::perms(0));
+    {
+        const OrdinaryUser user;
+        QVERIFY(user.Done());
+        QCOMPARE(RaisedBy([&] { (void)ReadFolder(folder.Path("segreta")); }), 75);
+        QVERIFY(FilesIn(folder.Path("segreta")).empty());
+    }
+    fs::permissions(folder.Native("segreta"), fs::perms(0755));
 }
 
 void FilesTest::MakeFolderRaises_data()

@@ -3,16 +3,18 @@
 # Drives the real program on the present X display. To be sourced after check.sh, with the build folder in `build`.
 
 cmake --install "$build" --prefix "$work/diario" >"$work/install.log"
+# What is started: the program, or what leads to it.
+command=("$work/diario/zelvia")
 
 # start [COMMAND...]: starts the program, under a command if one is given; sets `program`, the process to wait for.
 start() {
-  "$@" "$work/diario/zelvia" >"$work/program.log" 2>&1 &
+  "$@" "${command[@]}" >"$work/program.log" 2>&1 &
   program=$!
   started+=("$program")
 }
 
 page_up() {
-  page=$(xdotool search --onlyvisible --class '^zelvia$' 2>/dev/null)
+  page=$(xdotool search --onlyvisible --classname '^zelvia$' 2>/dev/null)
 }
 page_down() { ! page_up; }
 ended() { ! kill -0 "$1" 2>/dev/null; }

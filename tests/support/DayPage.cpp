@@ -3,6 +3,7 @@
 #include "support/DayPage.h"
 
 #include "core/Files.h"
+#include "statistics/CategoryStatistics.h"
 #include "tables/TableModel.h"
 
 #include <QMenu>
@@ -24,6 +25,7 @@ DayPage::~DayPage()
     Module1::AzzeraAnno();
     Module1::AzzeraStato();
     Module1::AzzeraTabella();
+    Module1::AzzeraStatistica();
     Application::Instance().ReleaseInstanceLock();
     SetClock({});
     SetProgramFolder({});
@@ -62,14 +64,33 @@ void DayPage::Down(UpDown& spin) const
     ClickAt(spin, {spin.width() / 2, spin.height() - spin.height() / 4});
 }
 
-void DayPage::Menu(const char* menu, Qt::Key entry) const
+QMenu* DayPage::OpenMenu(const char* menu) const
 {
     auto* bar = page_->findChild<QMenuBar*>();
     auto* opened = page_->findChild<QMenu*>(QLatin1String(menu));
-    QVERIFY2(opened != nullptr, menu);
+    if (opened == nullptr) {
+        qFatal("no menu %s", menu);
+    }
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(opened->menuAction()).center());
-    QTRY_VERIFY(opened->isVisible());
-    QTest::keyClick(opened, entry);
+    if (!QTest::qWaitFor([&] { return opened->isVisible(); }) || !QTest::qWaitForWindowExposed(opened)) {
+        qFatal("%s does not open", menu);
+    }
+    return opened;
+}
+
+void DayPage::Menu(const char* menu, Qt::Key entry) const
+{
+    QTest::keyClick(OpenMenu(menu), entry);
+}
+
+void DayPage::TakeEntry(const char* menu, const char* entry) const
+{
+    QMenu* opened = OpenMenu(menu);
+    auto* action = opened->findChild<QAction*>(QLatin1String(entry));
+    if (action == nullptr) {
+        qFatal("no entry %s", entry);
+    }
+    QTest::mouseClick(opened, Qt::LeftButton, {}, opened->actionGeometry(action).center());
 }
 
 QString DayPage::Caption(const char* name) const

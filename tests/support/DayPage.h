@@ -10,6 +10,7 @@
 #include "toolkit/Application.h"
 #include "toolkit/QtText.h"
 
+#include <QMenu>
 #include <QPointer>
 #include <QTest>
 
@@ -44,6 +45,8 @@ public:
     void Down(UpDown& spin) const;
     /// Opens a menu of the bar with the mouse and presses the key of an entry.
     void Menu(const char* menu, Qt::Key entry) const;
+    /// Opens a menu of the bar and takes an entry of it, both with the mouse: some entries share their key.
+    void TakeEntry(const char* menu, const char* entry) const;
 
     /// What a label, a menu entry or a window of that name shows.
     QString Caption(const char* name) const;
@@ -60,6 +63,7 @@ public:
     ExpectedBox OverwriteQuestion(const QString& title, const QString& name, QMessageBox::StandardButton press) const;
 
 private:
+    QMenu* OpenMenu(const char* menu) const;
     void ClickAt(QWidget& widget, QPoint place) const;
 
     QPointer<frmMain> page_;

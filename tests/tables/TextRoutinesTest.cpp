@@ -20,6 +20,8 @@ private Q_SLOTS:
     void Dots();
     void Capitals_data();
     void Capitals();
+    void Formats_data();
+    void Formats();
 };
 
 void TextRoutinesTest::Dots_data()
@@ -91,6 +93,39 @@ void TextRoutinesTest::Capitals()
     Text inPlace = TextOf(text);
     QCOMPARE(Bytes(ControlloMaiuscole(inPlace)), result);
     QCOMPARE(Bytes(inPlace), result);
+}
+
+void TextRoutinesTest::Formats_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("result");
+    const auto row = [](Formato format, const char* text, const char* result) {
+        QTest::addRow("%d, \"%s\"", static_cast<int>(format), text)
+            << static_cast<int>(format) << QByteArray(text) << QByteArray(result);
+    };
+    for (const Formato format :
+         {Formato::Nessuno, Formato::DueCifre, Formato::TreCifre, Formato::Maiuscole, Formato::Migliaia}) {
+        row(format, "", "");
+    }
+    row(Formato::Nessuno, "07", "07");
+    row(Formato::DueCifre, "7", "07");
+    row(Formato::DueCifre, "0", "00");
+    row(Formato::DueCifre, "59", "59");
+    row(Formato::TreCifre, "7", "007");
+    row(Formato::TreCifre, "097", "097");
+    row(Formato::Maiuscole, "MEZZA DEL LAGO", "Mezza Del Lago");
+    row(Formato::Migliaia, "999", "999");
+    row(Formato::Migliaia, "1234", "1.234");
+    row(Formato::Migliaia, "1.234", "1.234");
+}
+
+void TextRoutinesTest::Formats()
+{
+    QFETCH(int, format);
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, result);
+    QCOMPARE(Bytes(Formattato(TextOf(text), static_cast<Formato>(format))), result);
 }
 
 QTEST_APPLESS_MAIN(TextRoutinesTest)

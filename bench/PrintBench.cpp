@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Hands sheets to the default printer, against an empty page handed to it by Qt alone.
+#include "bench/Measure.h"
+#include "statistics/StatisticSheets.h"
+#include "tables/TableSheet.h"
+#include "toolkit/Application.h"
+#include "toolkit/Printer.h"
+
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <string>
+
+namespace
+{
+
+using namespace zelvia;
+using namespace zelvia::bench;
+
+constexpr int kRounds = 20;
+
+/// A training table with something in each of its boxes.
+Sheet FullTable()
+{
+    TableSheetTexts tabella;
+    tabella.data = CalendarDate(2026, 5, 20);
+    tabella.titolo = "Tabella allenamento : Base 10 km    di   ";
+    for (auto& riga : tabella.righe) {
+        riga = {"12", "500", "1", "02", "30", "5", "05", "250", "Media", "Strada", "12", "1.500", "5", "05"};
+    }
+    return TableSheet(tabella);
+}
+
+/// A search that found each day of a leap year, on thirteen pages.
+Sheet WholeYear()
+{
+    SearchSheetTexts ricerca;
+    ricerca.data = CalendarDate(2028, 12, 31);
+    ricerca.righe.assign(366, "  7,500   0:40:00     5:07      01/03/2028 ");
+    return SearchSheet(ricerca);
+}
+
+void PrintEmptyPage()
+{
+    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    QPainter painter(&printer);
+}
+
+void Measure(const char* name, const Sheet& sheet)
+{
+    const Samples samples = Alternate(
+        kRounds, [&] { return MillisecondsOf([&] { PrintSheet(sheet); }); },
+        [] { return MillisecondsOf(PrintEmptyPage); });
+    PrintMedians(name, samples, "ms", "measured <= 200 ms");
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    Application application(argc, argv);
+    Measure("Sheet of a table, to the spool", FullTable());
+    Measure("Sheets of a year's search, to the spool", WholeYear());
+    return 0;
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace zelvia
+{
+
+/// What went wrong with a file of the machine, as the runner reads it: Italian, UTF-8.
+class FileFailure : public std::runtime_error
+{
+public:
+    FileFailure(const std::filesystem::path& path, int errnoValue);
+    using std::runtime_error::runtime_error;
+};
+
+/// A handle of the machine that is closed with its object; below 0 there is none.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor();
+
+    int Number() const { return number_; }
+    /// Closes it now; true when that worked.
+    bool Close();
+
+private:
+    int number_;
+};
+
+/// The whole file. Raises FileFailure, as everything below.
+std::string ReadFile(const std::filesystem::path& path);
+
+/// Writes a file that must not be there yet, for its owner alone, and brings it to the disk.
+void WriteNewFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Makes a folder for its owner alone, and those above it that are missing.
+void MakeFolders(const std::filesystem::path& path);
+
+/// Brings a folder's own entries to the disk.
+void SyncFolder(const std::filesystem::path& path);
+
+/// The same for a folder and all folders below it.
+void SyncFolders(const std::filesystem::path& path);
+
+/// A lock on a file, made when it is missing, for the life of the object. Fails when another process holds it for all
+/// of `patience`; the machine frees it when its holder ends, in whatever way.
+class FileLock
+{
+public:
+    FileLock(const std::filesystem::path& path, std::chrono::milliseconds patience);
+
+private:
+    Descriptor file_;
+};
+
+/// True when a process holds a lock on the file; false for one that is absent or can't be opened.
+bool IsLocked(const std::filesystem::path& path);
+
+} // namespace zelvia

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <vector>
+
+namespace zelvia
+{
+
+/// The kinds of chart, by their numbers in the chart control.
+enum class ChartType { Bars = 1, Line = 3 };
+
+/// What a chart shows: a title and a grid of values, each column a series. Row and Column choose the cell that is set;
+/// rows and columns count from 1, and a cell outside the grid raises error 9.
+class ChartData
+{
+public:
+    ChartType chartType = ChartType::Bars;
+    Text TitleText;
+    int Row = 1;
+    int Column = 1;
+
+    /// Give the grid its size; cells and labels that stay keep what they hold, new ones are 0 and empty.
+    void SetColumnCount(int count);
+    void SetRowCount(int count);
+    int ColumnCount() const { return static_cast<int>(columnLabels_.size()); }
+    int RowCount() const { return static_cast<int>(rowLabels_.size()); }
+
+    /// Takes a number as the Italian locale writes it. Raises error 13 on a text that is none.
+    void SetData(TextView number);
+    double Data(int row, int column) const;
+
+    void SetColumnLabel(TextView label);
+    void SetRowLabel(TextView label);
+    const Text& ColumnLabel(int column) const;
+    const Text& RowLabel(int row) const;
+
+    friend bool operator==(const ChartData&, const ChartData&) = default;
+
+private:
+    std::vector<Text> columnLabels_;
+    std::vector<Text> rowLabels_;
+    std::vector<std::vector<double>> columns_;
+};
+
+} // namespace zelvia

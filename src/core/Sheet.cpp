@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Sheet.h"
+
+#include "core/Conversions.h"
+
+namespace zelvia
+{
+
+void Sheet::Print(int x, int y, TextView text)
+{
+    if (!text.empty()) {
+        operations_.emplace_back(SheetText{x, y, Text(text), font_});
+    }
+}
+
+void Sheet::Print(int x, int y, CalendarDate date)
+{
+    Print(x, y, PlainText(date));
+}
+
+void Sheet::PrintNumber(int x, int y, i32 number)
+{
+    Print(x, y, Str(number) + " ");
+}
+
+int DigitColumn(TextView text, int twoDigits)
+{
+    constexpr double firstOfTwo = 10;
+    return Val(text) >= firstOfTwo ? twoDigits : twoDigits + 1;
+}
+
+} // namespace zelvia

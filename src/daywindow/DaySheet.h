@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Sheet.h"
+
+#include <array>
+
+namespace zelvia
+{
+
+/// What the page shows of a day, as it stands on its labels.
+struct DaySheetTexts {
+    CalendarDate data;
+    /// From the route down to the weight.
+    std::array<Text, 15> campi;
+    Text ripetizioniVolte;
+    Text ripetizioniDistanza;
+    Text ripetizioniQuante;
+    /// True when the page shows the race of the day in the place of the active table.
+    bool conGara = false;
+    Text nomeTabella;
+    /// Distance, time, average, pace, terrain, repetitions.
+    std::array<Text, 6> tabella;
+    /// Name, place, runners, time, length, placing, category, placing in it.
+    std::array<Text, 8> gara;
+    std::array<Text, 8> note;
+    /// Day of the year, runs, kilometres, races.
+    std::array<Text, 4> contatori;
+};
+
+/// The sheet of a day.
+Sheet DaySheet(const DaySheetTexts& giorno);
+
+} // namespace zelvia

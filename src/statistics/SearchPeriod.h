@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace zelvia
+{
+
+/// The six boxes of a search's period, in the order of their places on the window.
+namespace CampoPeriodo
+{
+enum Campo : std::size_t { GiornoInizio, MeseInizio, AnnoInizio, GiornoFine, MeseFine, AnnoFine };
+inline constexpr std::size_t kCampi = 6;
+} // namespace CampoPeriodo
+
+using TestiPeriodo = std::array<Text, CampoPeriodo::kCampi>;
+
+/// The highest value of a box, and the message beyond it.
+struct LimitePeriodo {
+    int massimo;
+    TextView messaggio;
+};
+
+LimitePeriodo LimiteDi(CampoPeriodo::Campo campo);
+
+/// What is put right before a search, and told.
+struct CorrezionePeriodo {
+    TextView messaggio;
+    CampoPeriodo::Campo campo;
+    TextView valore;
+
+    friend bool operator==(const CorrezionePeriodo&, const CorrezionePeriodo&) = default;
+};
+
+struct ControlloPeriodo {
+    std::vector<CorrezionePeriodo> correzioni; ///< In the order in which they are told.
+    bool invertito = false;                    ///< The end lies before the start: there is to be no search.
+};
+
+inline constexpr TextView kPeriodoInvertito = "DATA FINE MINORE DELLA DATA INIZIO                 ";
+
+/// Checks the dates of a search. A date counts as begun when any of its boxes holds 1 or more; the 29th of February is
+/// none in any year, and the earliest year is 2007. The years take no part in the order of the two dates, which is
+/// tested only when there is a day of the start. Raises error 6 on a number beyond a double.
+ControlloPeriodo ControllaPeriodo(TestiPeriodo testi);
+
+} // namespace zelvia

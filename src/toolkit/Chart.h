@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/ChartData.h"
+#include "toolkit/Control.h"
+
+#include <QWidget>
+
+namespace zelvia
+{
+
+/// The chart of a window. It tells its values as its accessible description too.
+class Chart : public QWidget, public Control
+{
+    Q_OBJECT
+
+public:
+    Chart(QWidget* parent, const QString& name);
+
+    const ChartData& Shown() const { return data_; }
+    void Show(const ChartData& shown);
+
+    /// Puts a picture of the chart as it stands on the clipboard, on white and as large on paper as on the screen.
+    void EditCopy() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    ChartData data_;
+};
+
+} // namespace zelvia

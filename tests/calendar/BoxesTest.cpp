@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The boxes of the calendar's grid: lengths, digits, limits, formats, Enter and the dashes of the date.
+#include "support/CalendarDesk.h"
+
+Q_DECLARE_METATYPE(zelvia::CalendarGrid::Casella)
+
+namespace zelvia::test
+{
+
+class BoxesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void limitsHoldTheFocus_data();
+    void limitsHoldTheFocus();
+    void theHighestIsTaken();
+    void lengthsAndDigits();
+    void formatsOnLeaving();
+    void enterGoesAlong();
+    void enterInTheLastBoxStays();
+    void theDashesComeWithTheDay();
+};
+
+void BoxesTest::limitsHoldTheFocus_data()
+{
+    QTest::addColumn<Casella>("box");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("message");
+    const QString thousands = QStringLiteral("MAX 999.999                   ");
+    QTest::newRow("day") << Casella::Giorno << "32"
+                         << "MAX 31 GIORNI                 ";
+    QTest::newRow("month") << Casella::Mese << "13"
+                           << "MAX 12 MESI                   ";
+    QTest::newRow("year") << Casella::Anno << "2100"
+                          << "MAX ANNO 2099                 ";
+    QTest::newRow("runners") << Casella::Partecipanti << "1000000" << thousands;
+    QTest::newRow("placing") << Casella::Risultato << "9999999" << thousands;
+    QTest::newRow("hours") << Casella::Ore << "25"
+                           << "MAX 24 ORE                ";
+    QTest::newRow("minutes") << Casella::Minuti << "60"
+                             << "MAX 59 MINUTI                ";
+    QTest::newRow("seconds") << Casella::Secondi << "99"
+                             << "MAX 59 SECONDI                ";
+    QTest::newRow("placing in the category") << Casella::RisultatoCat << "1000000" << thousands;
+}
+
+void BoxesTest::limitsHoldTheFocus()
+{
+    QFETCH(Casella, box);
+    QFETCH(QString, typed);
+    QFETCH(QString, message);
+    CalendarDesk desk;
+    desk.StartOpen();
+    desk.Write(box, 4, typed);
+    // Enter, Tab, another box and a button, each with its one message.
+    for (int way = 0; way < 4; ++way) {
+        desk.script.Expect(Warning(message));
+        if (way < 2) {
+            hand::Key(way == 0 ? Qt::Key_Return : Qt::Key_Tab);
+        } else {
+            hand::Click(way == 2 ? static_cast<QWidget&>(desk.Box(Casella::Gara, 9)) : *desk.Window()->cmdSalva);
+        }
+        QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+        QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
+        QTRY_VERIFY(desk.Window()->isActiveWindow());
+        QTRY_COMPARE(CalendarDesk::Focused(), desk.Box(box, 4).objectName().toLatin1());
+        QCOMPARE(desk.Box(box, 4).text(), typed);
+    }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::theHighestIsTaken()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    desk.WriteRow(7, "31|12|2099|||99|999|999999|999999|24|59|59||999999");
+    QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtGiornoGara(8)"));
+    QCOMPARE(desk.Row(7), QByteArray("31|12|2099|||99|999|999.999|999.999|24|59|59||999.999"));
+    // With the dot the limit is tested on the number without it.
+    hand::Click(desk.Box(Casella::Partecipanti, 7));
+    hand::Key(Qt::Key_Tab);
+    QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtRisultato(7)"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::lengthsAndDigits()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    const QString mixed = QStringLiteral("a1-2. 3x4,5z6y7w8v9");
+    const std::pair<Casella, const char*> digits[] = {
+        {Casella::Giorno, "12"},           {Casella::Mese, "12"},
+        {Casella::Anno, "1234"},           {Casella::Km, "12"},
+        {Casella::Metri, "123"},           {Casella::Partecipanti, "1234567"},
+        {Casella::Risultato, "1234567"},   {Casella::Ore, "12"},
+        {Casella::Minuti, "12"},           {Casella::Secondi, "12"},
+        {Casella::RisultatoCat, "1234567"}};
+    for (const auto& [box, held] : digits) {
+        desk.Write(box, 2, mixed);
+        QTRY_COMPARE(desk.Box(box, 2).text(), QLatin1String(held));
+        desk.Write(box, 2, QStringLiteral("1"));
+    }
+    const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
+    for (const auto& [box, length] : {std::pair{Casella::Gara, 31}, {Casella::Localita, 20}, {Casella::Categoria, 8}}) {
+        desk.Write(box, 2, letters);
+        QTRY_COMPARE(desk.Box(box, 2).text(), letters.left(length));
+    }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::formatsOnLeaving()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    const std::tuple<Casella, const char*, const char*> rows[] = {
+        {Casella::Giorno, "05", "05"},
+        {Casella::Mese, "5", "5"},
+        {Casella::Anno, "26", "26"},
+        {Casella::Gara, "MEZZA DEL LAGO", "Mezza Del Lago"},
+        {Casella::Gara, "mezza del Lago", "mezza del Lago"},
+        {Casella::Localita, "SANT'ANNA", "Sant'Anna"},
+        {Casella::Km, "05", "05"},
+        {Casella::Metri, "5", "005"},
+        {Casella::Metri, "97", "097"},
+        {Casella::Metri, "", ""},
+        {Casella::Partecipanti, "999", "999"},
+        {Casella::Partecipanti, "1234", "1.234"},
+        {Casella::Risultato, "12345", "12.345"},
+        {Casella::Ore, "1", "1"},
+        {Casella::Minuti, "5", "05"},
+        {Casella::Minuti, "", ""},
+        {Casella::Secondi, "0", "00"},
+        {Casella::Categoria, "MM45", "MM45"},
+        {Casella::RisultatoCat, "1000", "1.000"},
+        {Casella::RisultatoCat, "", ""},
+    };
+    for (const auto& [box, typed, left] : rows) {
+        desk.Write(box, 3, QLatin1String(typed));
+        QTRY_COMPARE(desk.Box(box, 3).text(), QLatin1String(typed));
+        hand::Key(Qt::Key_Tab);
+        QTRY_COMPARE(desk.Box(box, 3).text(), QLatin1String(left));
+    }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::enterGoesAlong()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    hand::Click(desk.Box(Casella::Giorno, 1));
+    for (const char* next :
+         {"txtMeseGara(1)", "txtAnnoGara(1)", "txtGare(1)", "txtLocalita(1)", "txtKm(1)", "txtMetri(1)",
+          "txtPartecipanti(1)", "txtRisultato(1)", "txtOre(1)", "txtMinuti(1)", "txtSecondi(1)", "txtCategoria(1)",
+          "txtRisultatoCat(1)", "txtGiornoGara(2)", "txtMeseGara(2)"}) {
+        hand::Key(Qt::Key_Return);
+        QTRY_COMPARE(CalendarDesk::Focused(), QByteArray(next));
+    }
+    // Tab takes the same way.
+    hand::Key(Qt::Key_Tab);
+    QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtAnnoGara(2)"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::enterInTheLastBoxStays()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    // It does not leave the box, so nothing is tested or formatted.
+    desk.Write(Casella::RisultatoCat, 20, QStringLiteral("1000000"));
+    hand::Key(Qt::Key_Return);
+    QCOMPARE(CalendarDesk::Focused(), QByteArray("txtRisultatoCat(20)"));
+    QCOMPARE(desk.Box(Casella::RisultatoCat, 20).text(), QStringLiteral("1000000"));
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::theDashesComeWithTheDay()
+{
+    const QByteArray dashes = "      -      -    ";
+    const QByteArray blank(18, ' ');
+    CalendarDesk desk;
+    desk.StartOpen();
+    QCOMPARE(desk.Dashes(5), blank);
+    const std::pair<const char*, QByteArray> rows[] = {{"", blank}, {"0", blank}, {"7", dashes}, {"00", blank}};
+    for (const auto& [typed, after] : rows) {
+        desk.Write(Casella::Giorno, 5, QLatin1String(typed));
+        QTRY_COMPARE(desk.Dashes(5), dashes);
+        hand::Key(Qt::Key_Tab);
+        QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtMeseGara(5)"));
+        QCOMPARE(desk.Dashes(5), after);
+    }
+    QCOMPARE(desk.Dashes(6), blank);
+    VERIFY_SCRIPT(desk.script);
+}
+
+} // namespace zelvia::test
+
+DAY_PAGE_TEST_MAIN(zelvia::test::BoxesTest)
+#include "BoxesTest.moc"

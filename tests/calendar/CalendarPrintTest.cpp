@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The sheet of a page of the calendar, from its boxes.
+#include "support/CalendarDesk.h"
+#include "support/PrinterTray.h"
+
+namespace zelvia::test
+{
+
+class CalendarPrintTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thePageOnTheScreen();
+    void anotherPage();
+    void aPageWithoutRaces();
+    void aPrinterThatFailsLeavesTheButtonOff();
+};
+
+void CalendarPrintTest::thePageOnTheScreen()
+{
+    CalendarDesk desk;
+    PrinterTray tray;
+    desk.StartOpen();
+    // Typed, and not saved.
+    desk.WriteRow(1, "7|6|2026|Notturna|Lecco|10|050|1234|87||45|30|S50|9");
+    bool enabledMeanwhile = true;
+    tray.whilePrinting = [&] { enabledMeanwhile = desk.Window()->cmdStampa->isEnabled(); };
+    desk.Click(*desk.Window()->cmdStampa);
+    QCOMPARE(tray.sheets.size(), std::size_t(1));
+    QVERIFY(tray.sheets.back().Paper() == Orientation::Landscape);
+    QCOMPARE(tray.Row(0), (QByteArrayList{"124|20/05/2026"}));
+    QCOMPARE(tray.Row(1), (QByteArrayList{"60|Calendario Gare       di  "}));
+    QCOMPARE(tray.Row(7), (QByteArrayList{"3|7", "6|6", "8|2026", "13|Notturna", "45|Lecco", "66|10", "68|,", "69|050",
+                                          "78|1.234", "90|87", "103|45", "105|:", "106|30", "112|S50", "124|9"}));
+    QCOMPARE(tray.Row(8), QByteArrayList());
+    QVERIFY(!enabledMeanwhile);
+    QVERIFY(desk.Window()->cmdStampa->isEnabled());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void CalendarPrintTest::anotherPage()
+{
+    CalendarDesk desk;
+    PrinterTray tray;
+    desk.StartOpen();
+    desk.WriteRow(1, "7|6|2026|Notturna|Lecco|10||||||||");
+    desk.NextPage();
+    desk.WriteRow(20, "8|11|2026|Campestre|Como|6||||||||");
+    desk.Click(*desk.Window()->cmdStampa);
+    QCOMPARE(tray.Row(7), QByteArrayList());
+    QCOMPARE(tray.Row(26),
+             (QByteArrayList{"3|8", "5|11", "8|2026", "13|Campestre", "45|Como", "67|6", "68|,", "69|0"}));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void CalendarPrintTest::aPageWithoutRaces()
+{
+    CalendarDesk desk;
+    PrinterTray tray;
+    desk.StartOpen();
+    desk.Click(*desk.Window()->cmdStampa);
+    QCOMPARE(tray.Row(5).size(), 9);
+    for (int y = 6; y <= 26; ++y) {
+        QCOMPARE(tray.Row(y), QByteArrayList());
+    }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void CalendarPrintTest::aPrinterThatFailsLeavesTheButtonOff()
+{
+    CalendarDesk desk;
+    PrinterTray tray;
+    desk.StartOpen();
+    tray.broken = true;
+    desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    desk.Click(*desk.Window()->cmdStampa);
+    VERIFY_SCRIPT(desk.script);
+    QVERIFY(!desk.Window()->cmdStampa->isEnabled());
+    desk.Leave();
+    tray.broken = false;
+    desk.OpenCalendar();
+    desk.Click(*desk.Window()->cmdStampa);
+    QCOMPARE(tray.sheets.size(), std::size_t(1));
+    VERIFY_SCRIPT(desk.script);
+}
+
+} // namespace zelvia::test
+
+DAY_PAGE_TEST_MAIN(zelvia::test::CalendarPrintTest)
+#include "CalendarPrintTest.moc"

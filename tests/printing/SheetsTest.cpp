@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The six sheets of the sample year, from the windows to the PDF.
+#include "calendar/FrmCalendario.h"
+#include "printing/PrintedPdf.h"
+#include "statistics/FrmGrafici.h"
+#include "statistics/FrmRicercheStatistiche.h"
+#include "statistics/FrmStatistiche1.h"
+#include "support/PrinterTray.h"
+#include "support/TableDesk.h"
+
+namespace zelvia::test
+{
+
+namespace
+{
+
+const QByteArrayList kUpright = {"LiberationSerif"};
+const QByteArrayList kWithItalics = {"LiberationSerif", "LiberationSerif-Italic"};
+
+template <typename Window>
+Window* Shown()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = qobject_cast<Window*>(widget);
+        if (window != nullptr && window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// Opens a window from the page's menu and waits for it.
+template <typename Window>
+Window& Open(const DayPage& page, const char* menu, const char* entry)
+{
+    page.TakeEntry(menu, entry);
+    if (!QTest::qWaitFor([] { return Shown<Window>() != nullptr; })) {
+        qFatal("no window");
+    }
+    return *Shown<Window>();
+}
+
+/// What came out of the printer, and the list of what was to be drawn.
+struct Printed {
+    Sheet sheet;
+    PrintedPdf pdf;
+};
+
+/// Prints twice, once into a tray that keeps the list and once for real.
+Printed Print(const std::function<void()>& press)
+{
+    PrinterTray tray;
+    press();
+    if (tray.sheets.size() != 1) {
+        qFatal("nothing was handed to the printer");
+    }
+    SetPrinterHandler({});
+    press();
+    return {tray.sheets.front(), PrintedPdf::Next()};
+}
+
+/// The word that begins at a cell of the first page.
+QString At(const Printed& printed, int x, int y)
+{
+    for (const PrintedWord& word : printed.pdf.Pages()[0].words) {
+        // Margin 12 points, cells of 6 by 12, a quarter of one to spare.
+        if (std::abs(word.left - (12 + 6 * x)) < 1.5 && std::abs(word.top - (12 + 12 * y)) < 3) {
+            return word.text;
+        }
+    }
+    return {};
+}
+
+bool IsLandscape(const Printed& printed)
+{
+    const QSizeF size = printed.pdf.Pages()[0].size;
+    return std::abs(size.width() - 842) < 1 && std::abs(size.height() - 595) < 1;
+}
+
+bool IsPortrait(const Printed& printed)
+{
+    const QSizeF size = printed.pdf.Pages()[0].size;
+    return std::abs(size.width() - 595) < 1 && std::abs(size.height() - 842) < 1;
+}
+
+} // namespace
+
+class SheetsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDay();
+    void aRaceDay();
+    void aTrainingTable();
+    void aPageOfTheCalendar();
+    void aStatistic();
+    void aSearchOverSeveralPages();
+    void aChart();
+};
+
+void SheetsTest::aDay()
+{
+    DayPage page;
+    page.Start();
+    const Printed printed = Print([&] { page.Menu("mnuFile", Qt::Key_T); });
+    QVERIFY(IsPortrait(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(),
+             (QByteArrayList{"LiberationMono-Italic", "LiberationSerif", "LiberationSerif-Italic"}));
+    QCOMPARE(At(printed, 40, 2), QStringLiteral("20/05/2026"));
+    QCOMPARE(At(printed, 16, 8), QStringLiteral("8,000"));
+    QCOMPARE(At(printed, 48, 4), QStringLiteral("ALLENAMENTO"));
+    QCOMPARE(At(printed, 56, 20), QStringLiteral("Bene"));
+    QCOMPARE(At(printed, 21, 40), QStringLiteral("140"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aRaceDay()
+{
+    DayPage page(CalendarDate(2026, 5, 31));
+    page.Start();
+    const Printed printed = Print([&] { page.Menu("mnuFile", Qt::Key_T); });
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(At(printed, 48, 4), QStringLiteral("GARA"));
+    QCOMPARE(At(printed, 62, 4), QStringLiteral("Giro"));
+    QCOMPARE(At(printed, 62, 8), QStringLiteral("1.234"));
+    QCOMPARE(At(printed, 62, 10), QStringLiteral("0:49:06"));
+    QCOMPARE(At(printed, 62, 12), QStringLiteral("10,0"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aTrainingTable()
+{
+    TableDesk desk;
+    desk.Start();
+    desk.OpenList();
+    desk.OpenTable("Base 10 km.tab");
+    const Printed printed = Print([&] { desk.Click(*desk.Editor()->cmdStampa); });
+    QVERIFY(IsPortrait(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(), kUpright);
+    QCOMPARE(At(printed, 26, 1), QStringLiteral("Tabella"));
+    QCOMPARE(At(printed, 33, 7), QStringLiteral("Media"));
+    QCOMPARE(At(printed, 20, 40), QStringLiteral("2026"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void SheetsTest::aPageOfTheCalendar()
+{
+    DayPage page;
+    page.Start();
+    auto& window = Open<frmCalendario>(page, "mnuTabelle", "mnuGare");
+    const Printed printed = Print([&] { page.Click(*window.cmdStampa); });
+    QVERIFY(IsLandscape(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(), kUpright);
+    QCOMPARE(At(printed, 60, 1), QStringLiteral("Calendario"));
+    QCOMPARE(At(printed, 3, 7), QStringLiteral("8"));
+    QCOMPARE(At(printed, 13, 7), QStringLiteral("Corrida"));
+    QCOMPARE(At(printed, 78, 9), QStringLiteral("1.843"));
+    delete &window;
+    VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aStatistic()
+{
+    DayPage page(CalendarDate(2026, 12, 31));
+    page.Start();
+    auto& window = Open<frmStatistiche1>(page, "mnuStatistiche", "mnuPercorso");
+    const Printed printed = Print([&] { page.Click(*window.cmdStampa); });
+    QVERIFY(IsPortrait(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(), kUpright);
+    delete &window;
+    VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aSearchOverSeveralPages()
+{
+    DayPage page(CalendarDate(2026, 12, 31));
+    page.Start();
+    auto& window = Open<frmRicercheStatistiche>(page, "mnuStatistiche", "mnuMedie");
+    page.Click(*window.cmdAvvia);
+    const int runs = window.lstMedie->ListCount();
+    QVERIFY(runs > 100);
+    const Printed printed = Print([&] { page.Click(*window.cmdStampa); });
+    QVERIFY(IsPortrait(printed));
+    // The first page holds 22 runs, each one after it 31, and the totals may take a page of their own.
+    QVERIFY(printed.pdf.Pages().size() >= 1 + (runs - 22 + 30) / 31);
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(), kWithItalics);
+    delete &window;
+    VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aChart()
+{
+    DayPage page(CalendarDate(2026, 12, 31));
+    page.Start();
+    auto& statistic = Open<frmStatistiche1>(page, "mnuStatistiche", "mnuPercorso");
+    page.Click(*statistic.cmGrafico);
+    QTRY_VERIFY(Shown<frmGrafici>() != nullptr);
+    frmGrafici& window = *Shown<frmGrafici>();
+    const Printed printed = Print([&] { page.Click(*window.cmdStampa); });
+    QVERIFY(IsLandscape(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    QCOMPARE(printed.pdf.Fonts(), (QByteArrayList{"LiberationSerif-Bold"}));
+    // Something is drawn where the picture is: from (15, 3) on, as wide as the chart on the screen.
+    constexpr int dotsPerInch = 72;
+    const QImage sheet = printed.pdf.Picture(0, dotsPerInch);
+    const double pointsPerDot = 0.75;
+    const QRect picture(12 + 15 * 6, 12 + 3 * 12, static_cast<int>(window.MSChart1->width() * pointsPerDot),
+                        static_cast<int>(window.MSChart1->height() * pointsPerDot));
+    int inked = 0;
+    for (int y = picture.top(); y < picture.bottom(); ++y) {
+        for (int x = picture.left(); x < picture.right(); ++x) {
+            inked += qGray(sheet.pixel(x, y)) < 200 ? 1 : 0;
+        }
+    }
+    QVERIFY(inked > picture.width());
+    delete &window;
+    delete &statistic;
+    VERIFY_SCRIPT(page.script);
+}
+
+} // namespace zelvia::test
+
+DAY_PAGE_TEST_MAIN(zelvia::test::SheetsTest)
+#include "SheetsTest.moc"

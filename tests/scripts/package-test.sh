@@ -1,0 +1,71 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What is in the Debian package, and what Debian's own tools say of it: package-test.sh BUILD-FOLDER
+. "$(dirname "$0")/check.sh"
+. "$source_folder/packaging/packages.sh"
+build=$(readlink -f "$1")
+package=$(ls "$build/package"/*.deb)
+export LC_ALL=C.UTF-8
+field() { dpkg-deb -f "$package" "$1"; }
+version=$(sed -n 's/^project(Zelvia VERSION \([0-9.]*\).*/\1/p' "$source_folder/CMakeLists.txt")
+
+expect "the name of the file" "${package##*/}" "zelvia_${version}_$(dpkg --print-architecture).deb"
+expect "the version" "$(field Version)" "$version"
+expect "the newest change" "$(head -n 1 "$source_folder/packaging/debian/changelog")" "zelvia ($version) bookworm; urgency=medium"
+expect "the newest release" \
+  "$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$source_folder/packaging/desktop/org.zelvia.Zelvia.metainfo.xml" | head -n 1)" \
+  "$version"
+
+expect "the files" "$(dpkg-deb -c "$package" | awk '{ print $1, $6 }' | grep -v '/$')" \
+  "-rwxr-xr-x ./usr/bin/zelvia
+-rwxr-xr-x ./usr/bin/zelvia-copie
+-rwxr-xr-x ./usr/libexec/zelvia/zelvia
+-rwxr-xr-x ./usr/libexec/zelvia/zelvia-avviso
+-rw-r--r-- ./usr/share/applications/zelvia.desktop
+-rw-r--r-- ./usr/share/doc/zelvia/changelog.gz
+-rw-r--r-- ./usr/share/doc/zelvia/copyright
+-rw-r--r-- ./usr/share/icons/hicolor/scalable/apps/zelvia.svg
+-rw-r--r-- ./usr/share/man/man1/zelvia-copie.1.gz
+-rw-r--r-- ./usr/share/man/man1/zelvia.1.gz
+-rw-r--r-- ./usr/share/metainfo/org.zelvia.Zelvia.metainfo.xml
+-rw-r--r-- ./usr/share/zelvia/Guida.hlp
+-rw-r--r-- ./usr/share/zelvia/folder-check.sh
+-rw-r--r-- ./usr/share/zelvia/lay-folder.sh
+-rw-r--r-- ./usr/share/zelvia/mano.cur"
+expect "owners" "$(dpkg-deb -c "$package" | awk '{ print $2 }' | sort -u)" root/root
+expect "scripts that run as root" "$(dpkg-deb -I "$package" | grep -c 'postinst\|preinst\|postrm\|prerm' || true)" 0
+
+# What it needs: the list's packages, the libraries that its programs are linked to, and nothing that builds or tests.
+depends=$(field Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//')
+for name in $(packages_in run) libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
+  expect "depends on $name" "$(grep -cx -- "$name" <<<"$depends")" 1
+done
+for name in $(packages_in build package display test); do
+  expect "depends on $name" "$(grep -cx -- "$name" <<<"$depends" || true)" 0
+done
+
+run lintian --allow-root --fail-on error,warning "$package"
+expect "lintian" "$status|$output" "0|"
+dpkg-deb -x "$package" "$work/tree"
+run desktop-file-validate "$work/tree/usr/share/applications/zelvia.desktop"
+expect "desktop-file-validate" "$status|$output$errors" "0|"
+run appstreamcli validate --no-net "$work/tree/usr/share/metainfo/org.zelvia.Zelvia.metainfo.xml"
+expect "appstreamcli validate" "$status" 0 || echo "$output$errors" >&2
+[ "$status" -eq 0 ] || echo "$output$errors" >&2
+run appstreamcli validate-tree --no-net "$work/tree"
+[ "$status" -eq 0 ] || expect "appstreamcli validate-tree" "$output$errors" ""
+for page in zelvia zelvia-copie; do
+  run man --warnings -l "$work/tree/usr/share/man/man1/$page.1.gz"
+  expect "man $page: warnings" "$status|$errors" "0|"
+  expect "man $page: its name" "$(grep -cE "^ +$page (-|−) " <<<"$output")" 1
+done
+
+# The page tells of the commands that the program knows.
+page=$(man -l "$work/tree/usr/share/man/man1/zelvia-copie.1.gz")
+run "$work/tree/usr/bin/zelvia-copie" --help
+for command in elenco confronta rimetti crea; do
+  expect "man zelvia-copie: $command" "$(grep -cE "^ {7}$command( |$)" <<<"$page")" 1
+  expect "zelvia-copie --help: $command" "$(grep -cE "^  $command " <<<"$output")" 1
+done
+verdict

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/RunTimeError.h"
+#include "support/SheetLines.h"
+#include "toolkit/Printer.h"
+
+#include <functional>
+#include <vector>
+
+namespace zelvia::test
+{
+
+/// Takes the printer's place while it lives: keeps what is printed, or refuses it.
+class PrinterTray
+{
+public:
+    PrinterTray()
+    {
+        SetPrinterHandler([this](const Sheet& sheet) {
+            if (whilePrinting) {
+                whilePrinting();
+            }
+            if (broken) {
+                throw ErroreRunTime(Errore::Stampante);
+            }
+            sheets.push_back(sheet);
+        });
+    }
+    ~PrinterTray() { SetPrinterHandler({}); }
+    PrinterTray(const PrinterTray&) = delete;
+    PrinterTray& operator=(const PrinterTray&) = delete;
+
+    /// What stands in a row of the sheet printed last.
+    QByteArrayList Row(int y) const { return SheetRow(sheets.back(), y); }
+
+    std::vector<Sheet> sheets;
+    bool broken = false;
+    std::function<void()> whilePrinting;
+};
+
+/// The report of a printer that failed.
+inline constexpr const char* kPrinterReport = "STAMPA - ERRORE : 482 Errore della stampante";
+
+} // namespace zelvia::test
