@@ -5,6 +5,7 @@
 #include "toolkit/Application.h"
 
 #include <QImage>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -83,6 +84,7 @@ void HelpPage::ShowWords(const QString& text)
 {
     moveCursor(QTextCursor::Start);
     if (FindText(text, false)) {
+        ShowCursorAbove();
         return;
     }
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -102,8 +104,14 @@ void HelpPage::ShowWords(const QString& text)
         QTextCursor cursor(best);
         cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
         setTextCursor(cursor);
-        ensureCursorVisible();
+        ShowCursorAbove();
     }
+}
+
+/// What follows the place found is what one wants to read.
+void HelpPage::ShowCursorAbove()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top() - viewport()->height() / 4);
 }
 
 } // namespace zelvia

@@ -30,6 +30,7 @@ protected:
     void doSetSource(const QUrl& address, QTextDocument::ResourceType type) override;
 
 private:
+    void ShowCursorAbove();
     QImage Fitted(const QByteArray& picture) const;
 
     const HelpFile& file_;

@@ -244,6 +244,8 @@ void WindowTest::WordsThatStandApartShowTheirParagraph()
     QTRY_COMPARE(Reader::Address(), QStringLiteral("/guida/messaggi.html"));
     const QString selected = Reader::Shown().textCursor().selectedText();
     QVERIFY2(selected.contains(QStringLiteral("FINE MINORE DELLA DATA INIZIO")), qPrintable(selected));
+    const int top = Reader::Shown().cursorRect().top();
+    QVERIFY2(top >= 0 && top < Reader::Shown().viewport()->height() / 2, qPrintable(QString::number(top)));
 }
 
 void WindowTest::LinksAndTheWayBackByMouse()
