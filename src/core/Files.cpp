@@ -173,6 +173,10 @@ std::vector<Text> FilesIn(TextView folder)
             names.push_back(FromUtf8(name));
         }
     }
+    // Files that can't be seen must not be taken for files that are not there, or a first set is written over them.
+    if (failed && failed.value() != ENOENT && failed.value() != ENOTDIR) {
+        throw ErroreRunTime(ErrorOfErrno(failed.value()));
+    }
     std::sort(names.begin(), names.end());
     return names;
 }
