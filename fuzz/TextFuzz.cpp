@@ -23,6 +23,8 @@ void CheckEditor(const Text& text)
     Require(ControlloMaiuscole(twice) == once, "a second time changes nothing");
     if (InStr(text, ".") == 0) {
         const Text dotted = ConPuntoMigliaia(text);
+        const bool longEnough = text.size() >= 4;
+        Require(dotted.size() == text.size() + (longEnough ? 1 : 0), "a dot from four characters on");
         Require(SenzaPuntoMigliaia(dotted) == text, "a dot that was put is taken away again");
         Require(ConPuntoMigliaia(dotted) == dotted, "a dot is put once");
     }

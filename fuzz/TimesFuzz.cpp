@@ -80,6 +80,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (IsTimeOfDay(start) && IsTimeOfDay(end)) {
         Require(SecondsOf(taken) == SecondsOf(end) - SecondsOf(start), "the time between start and end");
+        Require(taken.minuti >= 0 && taken.minuti < 60 && taken.secondi >= 0 && taken.secondi < 60, "the borrows");
     }
     CheckPace(distance, end);
     return 0;
