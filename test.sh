@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Builds with sanitizers and runs every test. What stands on the command line goes to ctest: test.sh -R core
+# Builds with sanitizers and runs every test, the fuzzers for a moment too. What stands on the command line goes to ctest:
+# test.sh -R core
 set -euo pipefail
 
 cd "$(dirname "$(readlink -f "$0")")"
 . packaging/packages.sh
 
 packages_install run build package display test
-cmake --preset debug
-cmake --build --preset debug
+for preset in fuzz debug; do
+  cmake --preset $preset
+  cmake --build --preset $preset
+done
 exec ctest --preset debug "$@" </dev/null

@@ -180,8 +180,13 @@ Text FindFolder(TextView path)
 
 std::vector<Text> FilesIn(TextView folder)
 {
-    std::error_code ignored;
-    return VisibleFiles(folder, ignored);
+    std::error_code failed;
+    std::vector<Text> names = VisibleFiles(folder, failed);
+    // Files that can't be seen must not be taken for files that are not there, or a first set is written over them.
+    if (failed && failed.value() != ENOENT && failed.value() != ENOTDIR) {
+        throw ErroreRunTime(ErrorOfErrno(failed.value()));
+    }
+    return names;
 }
 
 std::vector<Text> ReadFolder(TextView folder)

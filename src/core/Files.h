@@ -42,6 +42,7 @@ int ErrorOfErrno(int errnoValue);
 Text FindFolder(TextView path);
 
 /// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent.
+/// Raises error 75 for a folder that may not be read, and the others of ErrorOfErrno.
 std::vector<Text> FilesIn(TextView folder);
 
 /// The same of a folder that has to be there. Raises error 76 when it is absent or no folder, 75 without permission.

@@ -22,7 +22,7 @@ namespace
 {
 
 // Places, in logical pixels. The chart as it first comes up fits the frame of a printed sheet.
-constexpr QSize kSize{976, 692};
+constexpr QSize kSize{968, 692};
 constexpr QSize kSmallest{640, 460};
 constexpr int kFrame = 12; ///< From the border to the printed frame.
 constexpr int kMargin = 26;

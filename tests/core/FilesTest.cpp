@@ -271,6 +271,8 @@ void FilesTest::FilesInAnAbsentFolder()
     QVERIFY(FilesIn(folder.Path("manca")).empty());
     QVERIFY(FilesIn(folder.Path("file")).empty());
     QVERIFY(FilesIn("").empty());
+    // A folder that can't be listed for another reason is no empty one.
+    QCOMPARE(RaisedBy([&] { FilesIn(folder.Path(std::string(300, 'x'))); }), 52);
 }
 
 void FilesTest::ReadFolderRaises_data()

@@ -18,19 +18,6 @@ namespace
 
 const QString kDiary = QStringLiteral("ZelviaFile/prova.zlv");
 
-/// The reports of a start that knows no folder of the diary: nothing can be written, and nothing read.
-void ExpectNoFolder(BoxScript& script)
-{
-    for (int i = 0; i < 3; ++i) {
-        script.Expect(BareReport(kNoFolder));
-    }
-    ExpectListsNotSaved(script, kNoFolder);
-    ExpectListsNotLoaded(script, kNoFolder);
-    script.Expect(BareReport(kNoFolder));
-    script.Expect(RoutesNotLoaded(QStringLiteral("Cartella non trovata")));
-    script.Expect(BareReport(kNoFolder));
-}
-
 /// One quoted text a line.
 QByteArray ListBytes(const QStringList& entries)
 {

@@ -46,6 +46,18 @@ ExpectedBox RoutesNotLoaded(const QString& description)
     return Report(QStringLiteral("ERRORE : %1 Liste Percorso").arg(description));
 }
 
+void ExpectNoFolder(BoxScript& script)
+{
+    for (int i = 0; i < 3; ++i) {
+        script.Expect(BareReport(kNoFolder));
+    }
+    ExpectListsNotSaved(script, kNoFolder);
+    ExpectListsNotLoaded(script, kNoFolder);
+    script.Expect(BareReport(kNoFolder));
+    script.Expect(RoutesNotLoaded(QStringLiteral("Cartella non trovata")));
+    script.Expect(BareReport(kNoFolder));
+}
+
 ExpectedBox SaveQuestion(QMessageBox::StandardButton press)
 {
     return {QStringLiteral("IL FILE NON E' STATO SALVATO, SALVARE IL FILE ?             "), QMessageBox::Information,

@@ -27,6 +27,8 @@ void ExpectListsNotSaved(BoxScript& script, const QString& error);
 void ExpectListsNotLoaded(BoxScript& script, const QString& error);
 /// The route reader's own form.
 ExpectedBox RoutesNotLoaded(const QString& description);
+/// The reports of a start that knows no folder of the diary: nothing can be written, and nothing read.
+void ExpectNoFolder(BoxScript& script);
 
 ExpectedBox SaveQuestion(QMessageBox::StandardButton press);
 ExpectedBox SaveRefusal();

@@ -46,7 +46,6 @@ void EditorPrintTest::aNewTable()
 {
     TableDesk desk;
     PrinterTray tray;
-    desk.Start();
     desk.StartNew();
     desk.Click(*desk.Editor()->cmdStampa);
     QCOMPARE(tray.Row(1), (QByteArrayList{"26|Tabella allenamento "}));
@@ -59,7 +58,6 @@ void EditorPrintTest::theButtonIsOffMeanwhile()
 {
     TableDesk desk;
     PrinterTray tray;
-    desk.Start();
     desk.StartNew();
     bool enabledMeanwhile = true;
     tray.whilePrinting = [&] { enabledMeanwhile = desk.Editor()->cmdStampa->isEnabled(); };

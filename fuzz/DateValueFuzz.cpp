@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Dates out of texts, and what is counted from them.
+#include "Harness.h"
+#include "core/Conversions.h"
+#include "core/Date.h"
+
+#include <algorithm>
+
+using namespace zelvia;
+using namespace zelvia::fuzz;
+
+namespace
+{
+
+/// One or two digits, one or two digits, two to four digits.
+bool HasTheForm(const Text& text)
+{
+    const Text trimmed = Trim(text);
+    std::size_t at = 0;
+    for (const std::size_t longest : {2U, 2U, 4U}) {
+        std::size_t digits = 0;
+        while (at < trimmed.size() && trimmed[at] >= '0' && trimmed[at] <= '9') {
+            ++at;
+            ++digits;
+        }
+        if (digits < longest / 2 || digits < 1 || digits > longest) {
+            return false;
+        }
+        const bool last = longest == 4;
+        if (last ? at != trimmed.size() : at == trimmed.size() || trimmed[at] != '/') {
+            return false;
+        }
+        ++at;
+    }
+    return true;
+}
+
+void CheckCounting(CalendarDate date, std::int32_t number)
+{
+    CalendarDate later;
+    if (RaisedBy([&] { later = DateAdd("d", number, date); }) == 0) {
+        Require(DateAdd("d", -number, later) == date, "days forth and back");
+    }
+    if (RaisedBy([&] { later = DateAdd("m", number, date); }) == 0) {
+        Require(later.Day() <= date.Day(), "a month later is never a later day of the month");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const Text text = InputText(data, size);
+    CalendarDate date;
+    const int error = RaisedBy([&] { date = DateValue(text); });
+    RequireError(error, {Errore::TipoNonCorrispondente});
+    if (error != 0) {
+        return 0;
+    }
+    Require(HasTheForm(text), "only day/month/year is a date");
+    Require(DateValue(PlainText(date)) == date, "a date as text is that date");
+    Require(CalendarDate(date.Year().value(), 1, 1).PlusDays(date.DayOfYear().value() - 1) == date,
+            "the day of the year");
+    for (const std::int32_t number : {1, -1, 31, 366, 12000, 4000000, INT32_MIN + 1, INT32_MAX}) {
+        CheckCounting(date, number);
+    }
+    return 0;
+}

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Text.h"
+
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace zelvia::fuzz
+{
+
+/// Reads values as ValueReader does, in the plainest way: one character after the other, all bytes in memory.
+class Reference
+{
+public:
+    explicit Reference(Text bytes) : bytes_(std::move(bytes)) {}
+
+    bool AtEnd() const { return at_ == bytes_.size(); }
+
+    /// The next text; none when the bytes end before it does.
+    std::optional<Text> NextText();
+
+    /// The next value that is to become a number or a date; none when the bytes have ended or it is in quotes.
+    /// `ended` tells the two apart.
+    std::optional<Text> NextBare(bool& ended);
+
+    /// Takes the comma or line end behind a bare value that was good.
+    void SkipSeparator();
+
+private:
+    char Here() const { return bytes_[at_]; }
+    bool At(TextView set) const { return !AtEnd() && set.find(Here()) != TextView::npos; }
+    void SkipBlanks();
+    Text Bare();
+
+    Text bytes_;
+    std::size_t at_ = 0;
+};
+
+} // namespace zelvia::fuzz

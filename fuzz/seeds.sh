@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Makes the seeds of the fuzzers from the sample year: seeds.sh FOLDER, a folder below it for each.
+set -euo pipefail
+
+demo=$(dirname "$(readlink -f "$0")")/../share/demo
+out=$1
+rm -rf "$out"
+mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,TableCalculations,Trasforma,Text}
+
+# Two days of the diary and two routes, so that the inputs stay small; the others whole.
+diary=$demo/ZelviaFile/prova.zlv
+for day in 1 60 180; do
+  sed -n "$(((day - 1) * 136 + 1)),$(((day + 1) * 136))p" "$diary" >"$out/Diary/days-$day"
+done
+head -n 124 "$demo/prova/ListePercorso" >"$out/Routes/two-routes"
+cp "$demo/prova/CalendarioGare" "$out/Calendar"
+cp "$demo"/prova/*.lsx "$out/List"
+i=0
+for table in "$demo"/prova/*.tab; do
+  i=$((i + 1))
+  cp "$table" "$out/Table/table-$i"
+done
+cp "$demo/prova/nometab" "$out/Pointer"
+printf '"C:\\Zelvia\\ZelviaFile\\prova.zlv"\r\n' >"$out/Pointer/full-path"
+{ printf '\0\0\0\0\0' && head -n 20 "$demo/prova/Percorso.lsx"; } >"$out/ValueFile/texts"
+{ printf '\377\125\125\125\125' && printf '7\r\n-12\r\n1.5\r\n'; } >"$out/ValueFile/shorts-at-the-edge"
+{ printf '\220\103\0\0\0' && head -n 136 "$diary"; } >"$out/ValueFile/day-at-the-edge"
+
+# Times, averages and dates as they stand in the file.
+sed -n 's/\r$//; s/^"\([0-9]*:[0-9][0-9]:[0-9][0-9]\)"$/\1/p' "$diary" | sort -u | sed -n 1,12p >"$out/Trasforma/times"
+sed -n 's/\r$//; s/^#\([0-9]*\)-\([0-9]*\)-\([0-9]*\)#$/\3\/\2\/\1/p' "$diary" | sed -n 1,3p |
+  while read -r date; do printf '%s' "$date" >"$out/DateValue/${date//\//-}"; done
+for text in 05 1.500 12,5 3:07 ' 12 3' 10,500 -1.234,5; do
+  printf '%s' "$text" >"$out/Val/$(printf '%s' "$text" | tr -c '[:alnum:]' _)"
+done
+for pattern in 0 00 000 '##' '##:' '###,###' 000.00 '   dddd  d  mmmm  yyyy' dd/mm/yyyy; do
+  printf 'AAAAAA\020\100BB\0\0\0\1\2\0%s' "$pattern" >"$out/Format/$(printf '%s' "$pattern" | cksum | cut -d' ' -f1)"
+done
+printf '\1\11\36\0\1\12\24\5%s' 10,500 >"$out/Times/morning"
+printf '%s\n' 10 500 0 48 30 '' '' '' >"$out/TableCalculations/average"
+printf '%s\n' 10 500 '' '' '' 4 37 250 >"$out/TableCalculations/time"
+printf '%s\n' '' '' 1 5 0 5 30 '' >"$out/TableCalculations/distance"
+printf '%s' 'C:\X\ZelviaFile\a.b.zlv' >"$out/Text/path"
+printf '%s' 'SALITA e pista di 12345 metri' >"$out/Text/words"

@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Files.h"
+#include "core/Module1.h"
+#include "faults/FaultyDisk.h"
+#include "faults/SavedFiles.h"
+#include "support/Days.h"
+#include "support/MessageScript.h"
+#include "support/TempFolder.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <span>
+
+using namespace zelvia;
+using namespace zelvia::test;
+
+/// Every call on a file goes wrong in turn: each routine reports it under its own title, leaves as much as it had
+/// done, closes the file, and does its work the next time.
+class FileFaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void Writing_data();
+    void Writing();
+    void Reading_data();
+    void Reading();
+    void MakingAFolder_data();
+    void MakingAFolder();
+    void Deleting_data();
+    void Deleting();
+    void ListingAFolder_data();
+    void ListingAFolder();
+
+private:
+    std::string WriteOnce(const SavedFile& file, const Fault& fault, int error);
+    void ReadOnce(const SavedFile& file, const Fault& fault, int error);
+
+    TempFolder folder_;
+};
+
+namespace
+{
+
+// As much as the routines hand to the system at a time, and take from it.
+constexpr std::size_t kWritten = 1 << 16;
+constexpr std::size_t kRead = 1 << 18;
+
+struct Failure {
+    Call call;
+    int reason;
+    int error; ///< Of the report; 0 when the failure does not matter.
+};
+
+// For every file.
+constexpr Failure kWriteFailures[] = {
+    {Call::Open, EACCES, 75}, {Call::Open, ENOENT, 76}, {Call::Write, ENOSPC, 61},
+    {Call::Write, EIO, 57},   {Call::Close, EIO, 57},
+};
+
+constexpr Failure kReadFailures[] = {
+    {Call::Open, EACCES, 75},
+    {Call::Open, ENOENT, 53},
+    {Call::Read, EIO, 57},
+    {Call::Close, EIO, 0},
+};
+
+// The other reasons, for one file: the numbers are found in one place for all.
+constexpr const char* kFileOfReasons = "CalendarioGare";
+
+constexpr Failure kWriteReasons[] = {
+    {Call::Open, EPERM, 75},   {Call::Open, EROFS, 75},  {Call::Open, EISDIR, 75},  {Call::Open, ENOTDIR, 76},
+    {Call::Open, ENOSPC, 61},  {Call::Open, EDQUOT, 61}, {Call::Open, EMFILE, 67},  {Call::Open, ENFILE, 67},
+    {Call::Open, EIO, 57},     {Call::Open, EBUSY, 70},  {Call::Open, ETXTBSY, 70}, {Call::Open, ENAMETOOLONG, 52},
+    {Call::Write, EDQUOT, 61}, {Call::Write, EFBIG, 61}, {Call::Close, ENOSPC, 61}, {Call::Close, EDQUOT, 61},
+};
+
+constexpr Failure kReadReasons[] = {
+    {Call::Open, EPERM, 75},  {Call::Open, EISDIR, 75}, {Call::Open, ENOTDIR, 76}, {Call::Open, EMFILE, 67},
+    {Call::Open, ENFILE, 67}, {Call::Open, EIO, 57},    {Call::Open, EBUSY, 70},   {Call::Open, ENAMETOOLONG, 52},
+    {Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70},
+};
+
+constexpr Failure kFolderFailures[] = {
+    {Call::Make, EACCES, 75}, {Call::Make, EPERM, 75},   {Call::Make, EROFS, 75},
+    {Call::Make, ENOSPC, 61}, {Call::Make, EDQUOT, 61},  {Call::Make, EIO, 57},
+    {Call::Make, ENOENT, 76}, {Call::Make, ENOTDIR, 76}, {Call::Make, ENAMETOOLONG, 52},
+};
+
+constexpr Failure kDeleteFailures[] = {
+    {Call::Delete, EACCES, 75}, {Call::Delete, EPERM, 75},   {Call::Delete, EROFS, 75},  {Call::Delete, EBUSY, 70},
+    {Call::Delete, EIO, 57},    {Call::Delete, ETXTBSY, 70}, {Call::Delete, ENOENT, 53},
+};
+
+constexpr Failure kListFailures[] = {
+    {Call::List, EACCES, 75}, {Call::List, EPERM, 75}, {Call::List, EMFILE, 67},
+    {Call::List, ENFILE, 67}, {Call::List, EIO, 57},   {Call::NextName, EIO, 57},
+};
+
+QByteArray NameOf(const Failure& failure)
+{
+    constexpr const char* calls[] = {"open", "read", "write", "close", "list", "next name", "make", "delete"};
+    return QByteArray(calls[static_cast<int>(failure.call)]) + ", " + strerrorname_np(failure.reason);
+}
+
+void AddColumns()
+{
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("reason");
+    QTest::addColumn<int>("error");
+}
+
+QTestData& operator<<(QTestData& row, const Failure& failure)
+{
+    return row << static_cast<int>(failure.call) << failure.reason << failure.error;
+}
+
+void AddFailures(std::span<const Failure> failures)
+{
+    AddColumns();
+    for (const Failure& failure : failures) {
+        QTest::newRow(NameOf(failure).constData()) << failure;
+    }
+}
+
+void AddFilesWithFailures(std::span<const Failure> failures, std::span<const Failure> reasons)
+{
+    QTest::addColumn<int>("file");
+    AddColumns();
+    for (std::size_t i = 0; i < SavedFiles().size(); ++i) {
+        const QByteArray name = SavedFiles()[i].name;
+        const auto add = [&](const Failure& failure) {
+            QTest::newRow((name + ": " + NameOf(failure)).constData()) << static_cast<int>(i) << failure;
+        };
+        std::for_each(failures.begin(), failures.end(), add);
+        if (name == kFileOfReasons) {
+            std::for_each(reasons.begin(), reasons.end(), add);
+        }
+    }
+}
+
+const SavedFile& FileOf(int index)
+{
+    return SavedFiles()[static_cast<std::size_t>(index)];
+}
+
+} // namespace
+
+void FileFaultsTest::init()
+{
+    Module1::CartellaDiario = folder_.Path();
+}
+
+void FileFaultsTest::Writing_data()
+{
+    AddFilesWithFailures(kWriteFailures, kWriteReasons);
+}
+
+/// Writes over an old file and returns what is there then.
+std::string FileFaultsTest::WriteOnce(const SavedFile& file, const Fault& fault, int error)
+{
+    folder_.Write(file.name, "vecchio");
+    const int descriptors = OpenDescriptors();
+    {
+        const FaultyDisk disk(folder_.Native(), fault);
+        MessageScript boxes;
+        if (error != 0) {
+            boxes.Expect(WriteReport(file, error));
+        }
+        file.write();
+        if (!boxes.AllShown() || disk.Struck() != (error != 0)) {
+            QTest::qFail("the failure came without its report, or not at all", __FILE__, __LINE__);
+        }
+    }
+    if (OpenDescriptors() != descriptors) {
+        QTest::qFail("a file was left open", __FILE__, __LINE__);
+    }
+    return folder_.Read(file.name);
+}
+
+void FileFaultsTest::Writing()
+{
+    QFETCH(int, file);
+    QFETCH(int, call);
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const SavedFile& saved = FileOf(file);
+    saved.fill();
+    const std::string whole = Lines(saved.lines());
+    QVERIFY(whole.size() > 2 * kRead);
+    const auto kind = static_cast<Call>(call);
+    const bool writes = kind == Call::Write;
+    const std::size_t last = writes ? (whole.size() + kWritten - 1) / kWritten : 1;
+    for (std::size_t n = 1; n <= last; ++n) {
+        const std::string left = WriteOnce(saved, {kind, static_cast<int>(n), reason, {}, {}}, error);
+        const std::size_t start = (n - 1) * kWritten;
+        // A disk that fills up takes a part of the piece.
+        const std::size_t taken = reason == EIO ? 0 : std::min(kWritten, whole.size() - start) / 2;
+        const std::string expected = writes                ? whole.substr(0, start + taken)
+                                     : kind == Call::Close ? whole
+                                                           : std::string("vecchio");
+        QCOMPARE(Difference(left, expected), QByteArray());
+    }
+    const int none = static_cast<int>(last) + 1;
+    QCOMPARE(Difference(WriteOnce(saved, {kind, none, reason, {}, {}}, 0), whole), QByteArray());
+}
+
+void FileFaultsTest::Reading_data()
+{
+    AddFilesWithFailures(kReadFailures, kReadReasons);
+}
+
+/// Reads over other values.
+void FileFaultsTest::ReadOnce(const SavedFile& file, const Fault& fault, int error)
+{
+    file.forget();
+    const int descriptors = OpenDescriptors();
+    {
+        const FaultyDisk disk(folder_.Native(), fault);
+        MessageScript boxes;
+        const Text report = ReadReport(file, error);
+        if (!report.empty()) {
+            boxes.Expect(report);
+        }
+        file.read();
+        QVERIFY(boxes.AllShown());
+        QCOMPARE(disk.Struck(), fault.error != 0);
+    }
+    QCOMPARE(OpenDescriptors(), descriptors);
+}
+
+void FileFaultsTest::Reading()
+{
+    QFETCH(int, file);
+    QFETCH(int, call);
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const SavedFile& saved = FileOf(file);
+    saved.forget();
+    const std::vector<std::string> before = saved.lines();
+    saved.fill();
+    const std::vector<std::string> filed = saved.lines();
+    const std::string whole = Lines(filed);
+    folder_.Write(saved.name, whole);
+    const auto kind = static_cast<Call>(call);
+    // The whole pieces, the last one, and the end behind it.
+    const std::size_t last = kind == Call::Read ? whole.size() / kRead + 2 : 1;
+    for (std::size_t n = 1; n <= last; ++n) {
+        ReadOnce(saved, {kind, static_cast<int>(n), reason, {}, {}}, error);
+        if (kind == Call::Open) {
+            QVERIFY(saved.lines() == before);
+        } else if (kind == Call::Close) {
+            QVERIFY(saved.lines() == filed);
+        } else {
+            QCOMPARE(WrongAfterCut(saved, filed, std::min(n - 1, whole.size() / kRead) * kRead), QByteArray());
+        }
+    }
+    ReadOnce(saved, {kind, static_cast<int>(last) + 1, 0, {}, {}}, 0);
+    QCOMPARE(Difference(Lines(saved.lines()), whole), QByteArray());
+}
+
+void FileFaultsTest::MakingAFolder_data()
+{
+    AddFailures(kFolderFailures);
+}
+
+void FileFaultsTest::MakingAFolder()
+{
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const TempFolder folder;
+    {
+        const FaultyDisk disk(folder.Native(), {Call::Make, 1, reason, {}, {}});
+        QCOMPARE(RaisedBy([&] { MakeFolder(folder.Path("nuova")); }), error);
+        QVERIFY(disk.Struck());
+        QVERIFY(!folder.Has("nuova"));
+        QCOMPARE(RaisedBy([&] { MakeFolder(folder.Path("nuova")); }), 0);
+    }
+    QVERIFY(folder.Has("nuova"));
+}
+
+void FileFaultsTest::Deleting_data()
+{
+    AddFailures(kDeleteFailures);
+}
+
+void FileFaultsTest::Deleting()
+{
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const TempFolder folder;
+    folder.Write("Base.tab", "x");
+    {
+        const FaultyDisk disk(folder.Native(), {Call::Delete, 1, reason, {}, {}});
+        QCOMPARE(RaisedBy([&] { DeleteFile(folder.Path("Base.tab")); }), error);
+        QVERIFY(disk.Struck());
+        QVERIFY(folder.Has("Base.tab"));
+        QCOMPARE(RaisedBy([&] { DeleteFile(folder.Path("Base.tab")); }), 0);
+    }
+    QVERIFY(!folder.Has("Base.tab"));
+}
+
+void FileFaultsTest::ListingAFolder_data()
+{
+    AddFailures(kListFailures);
+}
+
+/// A folder that can't be listed is never taken for an empty one: the files in it would be written over.
+void FileFaultsTest::ListingAFolder()
+{
+    QFETCH(int, call);
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const TempFolder folder;
+    folder.MakeFolder("prova");
+    folder.Write("prova/uno", "x");
+    folder.Write("prova/due", "x");
+    const int descriptors = OpenDescriptors();
+    int failed = 0;
+    for (bool struck = true; struck;) {
+        const FaultyDisk disk(folder.Native(), {static_cast<Call>(call), failed + 1, reason, {}, {}});
+        std::vector<Text> names;
+        const int raised = RaisedBy([&] { names = FilesIn(folder.Path("prova")); });
+        struck = disk.Struck();
+        QCOMPARE(raised, struck ? error : 0);
+        QCOMPARE(names.size(), std::size_t(struck ? 0 : 2));
+        QCOMPARE(OpenDescriptors(), descriptors);
+        failed += struck ? 1 : 0;
+    }
+    // The folder, or its two files, the two names of the folders and the end.
+    QCOMPARE(failed, static_cast<Call>(call) == Call::List ? 1 : 5);
+}
+
+QTEST_APPLESS_MAIN(FileFaultsTest)
+#include "FileFaultsTest.moc"
