@@ -86,3 +86,31 @@ click 100 32
 click 416 38
 await up '^Tabella allenamento'
 take tabella
+xdotool key alt+F4
+await up '^Lista Tabelle'
+xdotool key alt+F4
+
+# The calendar, a statistic and its chart.
+await up '^Zelvia$'
+xdotool key alt+t sleep 0.3 key g
+await up '^Calendario Gare'
+take gare
+xdotool key alt+F4
+
+await up '^Zelvia$'
+xdotool key alt+s sleep 0.3 key o
+await up '^Statistiche$'
+take statistica
+xdotool key Tab Tab space
+await up '^Grafici$'
+take grafico
+xdotool key alt+F4
+await up '^Statistiche$'
+xdotool key alt+F4
+
+# A search without conditions.
+await up '^Zelvia$'
+xdotool key alt+s sleep 0.3 key Return
+await up '^Ricerche Statistiche$'
+click 203 586
+take ricerca

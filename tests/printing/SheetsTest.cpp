@@ -160,7 +160,6 @@ void SheetsTest::aPageOfTheCalendar()
     QCOMPARE(At(printed, 3, 7), QStringLiteral("8"));
     QCOMPARE(At(printed, 13, 7), QStringLiteral("Corrida"));
     QCOMPARE(At(printed, 78, 9), QStringLiteral("1.843"));
-    delete &window;
     VERIFY_SCRIPT(page.script);
 }
 
@@ -173,7 +172,6 @@ void SheetsTest::aStatistic()
     QVERIFY(IsPortrait(printed));
     QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
     QCOMPARE(printed.pdf.Fonts(), kUpright);
-    delete &window;
     VERIFY_SCRIPT(page.script);
 }
 
@@ -191,7 +189,6 @@ void SheetsTest::aSearchOverSeveralPages()
     QVERIFY(printed.pdf.Pages().size() >= 1 + (runs - 22 + 30) / 31);
     QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
     QCOMPARE(printed.pdf.Fonts(), kWithItalics);
-    delete &window;
     VERIFY_SCRIPT(page.script);
 }
 
@@ -220,8 +217,6 @@ void SheetsTest::aChart()
         }
     }
     QVERIFY(inked > picture.width());
-    delete &window;
-    delete &statistic;
     VERIFY_SCRIPT(page.script);
 }
 

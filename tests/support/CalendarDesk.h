@@ -17,8 +17,6 @@ class CalendarDesk : public EntryPage
 public:
     /// The diary's calendar holds what `file` holds.
     explicit CalendarDesk(const CalendarBytes& file = {});
-    /// The window goes before the page, and asks nothing.
-    ~CalendarDesk() { delete Window(); }
 
     /// Opens the calendar from the page's menu.
     void OpenCalendar() const;

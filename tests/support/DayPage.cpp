@@ -13,6 +13,23 @@
 namespace zelvia::test
 {
 
+namespace
+{
+
+QList<QPointer<Form>> OtherWindows(const frmMain* page)
+{
+    QList<QPointer<Form>> windows;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* window = qobject_cast<Form*>(widget);
+        if (window != nullptr && window != page) {
+            windows.append(window);
+        }
+    }
+    return windows;
+}
+
+} // namespace
+
 DayPage::DayPage(CalendarDate today)
 {
     SetProgramFolder(folder.System());
@@ -21,6 +38,10 @@ DayPage::DayPage(CalendarDate today)
 
 DayPage::~DayPage()
 {
+    // The windows go before the page that they belong to.
+    for (const QPointer<Form>& window : OtherWindows(page_)) {
+        delete window;
+    }
     delete page_;
     Module1::AzzeraAnno();
     Module1::AzzeraStato();

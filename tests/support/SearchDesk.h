@@ -18,13 +18,6 @@ class SearchDesk : public DayPage
 public:
     explicit SearchDesk(CalendarDate today = CalendarDate(2026, 5, 20)) : DayPage(today) {}
 
-    /// The windows go before the page that they belong to.
-    ~SearchDesk()
-    {
-        delete Charts();
-        delete Search();
-    }
-
     /// Opens the search from the page's menu.
     void OpenSearch() const;
     void StartSearch();

@@ -20,9 +20,6 @@ public:
     /// The sample year.
     explicit StatisticsDesk(CalendarDate today) : DayPage(today) {}
 
-    /// The window goes before the page that it belongs to.
-    ~StatisticsDesk() { delete Window(); }
-
     /// The window on show, or null.
     frmStatistiche1* Window() const;
     /// Takes the page to the front, and an entry of its menu with the mouse; waits for the window.

@@ -18,13 +18,6 @@ class TableDesk : public DayPage
 public:
     explicit TableDesk(CalendarDate today = CalendarDate(2026, 5, 20)) : DayPage(today) {}
 
-    /// The windows go before the page that they belong to.
-    ~TableDesk()
-    {
-        delete Editor();
-        delete List();
-    }
-
     /// Opens the list from the page's menu.
     void OpenList() const;
     /// Opens the editor on a table of the list, or on a new one.
