@@ -87,6 +87,9 @@ void EditorKeysTest::enterEndsWithTheGrid()
 {
     TableDesk desk;
     desk.StartNew();
+    hand::Click(desk.Box(RipetTempi, 30));
+    hand::Key(Qt::Key_Return);
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtKm(31)"));
     desk.Write(desk.Box(RipetTempi, 31), QStringLiteral("7"));
     for (int i = 0; i < 2; ++i) {
         hand::Key(Qt::Key_Return);
