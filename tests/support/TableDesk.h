@@ -40,6 +40,8 @@ public:
     frmAllenamento* Editor() const { return Shown<frmAllenamento>(); }
     /// Brings a window to the front and waits until it has the keyboard.
     static void ToFront(QWidget& window);
+    /// Waits until all boxes of the script have come and gone and the editor has the keyboard again.
+    void AwaitBoxes() const;
     /// Presses "Esci" of a window and waits until it has gone.
     void Leave(Form& window, Button& exit) const;
     void LeaveEditor() const { Leave(*Editor(), *Editor()->cmdEsci); }
