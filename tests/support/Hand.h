@@ -39,8 +39,8 @@ void Type(const QString& text);
 /// On an X display only: input whose arrival in this program is not waited for, in the words of xdotool.
 void Raw(const QStringList& words);
 
-/// On an X display only: the window that the window manager holds for the active one, which it is told of later than
-/// the program at times. Keys that the manager acts on go by this.
+/// On an X display only: the window that the window manager holds for the active one, 0 while it holds none. It is told
+/// later than the program at times. Keys that the manager acts on go by this.
 WId ManagersActiveWindow();
 
 /// On an X display only: a key for the window manager, in the words of xdotool. A manager that is still busy with a new
