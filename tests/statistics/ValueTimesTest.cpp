@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The times of one value of a statistic: which days they are, and how they come and go.
 #include "support/EntryPage.h"
+#include "support/PrinterTray.h"
 #include "support/StatisticsDesk.h"
 
 namespace zelvia::test
@@ -400,6 +401,7 @@ void ValueTimesTest::leaving()
 {
     QFETCH(QByteArray, way);
     StatisticsDesk desk;
+    const PrinterTray tray;
     desk.Start();
     StatisticsDesk::PutRun(1, "Lago", "0:50:00", "5:00");
     desk.Choose("mnuPercorso");
@@ -412,7 +414,7 @@ void ValueTimesTest::leaving()
         } else if (way == "Tab") {
             hand::Key(Qt::Key_Tab);
         } else if (way == "another button") {
-            hand::Click(*window.cmGrafico);
+            hand::Click(*window.cmdStampa);
         } else if (way == "beside the controls") {
             hand::Click(window, QPoint(4, window.height() - 4));
         } else if (way == "the title") {
