@@ -168,12 +168,9 @@ CalendarSheetTexts frmCalendario::SheetTexts() const
 
 void frmCalendario::cmdStampa_Click()
 {
-    // After a fault the button stays off.
-    Trap("STAMPA - ERRORE : ", [this] {
+    PrintByButton(*cmdStampa, [this] {
         AllineaLbl();
-        cmdStampa->setEnabled(false);
-        PrintSheet(CalendarSheet(SheetTexts()));
-        cmdStampa->setEnabled(true);
+        return CalendarSheet(SheetTexts());
     });
 }
 

@@ -63,7 +63,7 @@ void frmMain::mnuFilePrint_Click()
 {
     auto* entry = findChild<QAction*>(QStringLiteral("mnuFilePrint"));
     entry->setEnabled(false);
-    Trap("STAMPA - ERRORE : ", [this] { PrintSheet(DaySheet(TextsOf(*this))); });
+    Trap(kPrintErrors, [this] { PrintSheet(DaySheet(TextsOf(*this))); });
     entry->setEnabled(true);
 }
 

@@ -97,16 +97,16 @@ void frmGrafici::resizeEvent(QResizeEvent* event)
 
 void frmGrafici::cmdStampa_Click()
 {
-    // After a fault the button stays off, and the picture on the clipboard.
-    Trap("STAMPA - ERRORE : ", [this] {
-        cmdStampa->setEnabled(false);
-        QClipboard& clipboard = *QGuiApplication::clipboard();
+    QClipboard& clipboard = *QGuiApplication::clipboard();
+    const bool printed = PrintByButton(*cmdStampa, [&] {
         clipboard.clear();
         MSChart1->EditCopy();
-        PrintSheet(ChartSheet(DataCorrente));
-        cmdStampa->setEnabled(true);
-        clipboard.clear();
+        return ChartSheet(DataCorrente);
     });
+    // After a fault the picture stays.
+    if (printed) {
+        clipboard.clear();
+    }
 }
 
 void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo)

@@ -196,12 +196,7 @@ SearchSheetTexts frmRicercheStatistiche::SheetTexts() const
 
 void frmRicercheStatistiche::cmdStampa_Click()
 {
-    // After a fault the button stays off.
-    Trap("STAMPA - ERRORE : ", [this] {
-        cmdStampa->setEnabled(false);
-        PrintSheet(SearchSheet(SheetTexts()));
-        cmdStampa->setEnabled(true);
-    });
+    PrintByButton(*cmdStampa, [this] { return SearchSheet(SheetTexts()); });
 }
 
 void frmRicercheStatistiche::NascondiMedie()

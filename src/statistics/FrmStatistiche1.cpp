@@ -206,12 +206,7 @@ void frmStatistiche1::cmdTempiLO_Click()
 
 void frmStatistiche1::cmdStampa_Click()
 {
-    // After a fault the button stays off.
-    Trap("STAMPA - ERRORE : ", [this] {
-        cmdStampa->setEnabled(false);
-        PrintSheet(StatisticSheet(DataCorrente, TitoloStatistica, SlotsOnPaper()));
-        cmdStampa->setEnabled(true);
-    });
+    PrintByButton(*cmdStampa, [] { return StatisticSheet(DataCorrente, TitoloStatistica, SlotsOnPaper()); });
 }
 
 void frmStatistiche1::cmGrafico_Click()

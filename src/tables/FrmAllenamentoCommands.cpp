@@ -94,12 +94,7 @@ TableSheetTexts frmAllenamento::SheetTexts() const
 
 void frmAllenamento::cmdStampa_Click()
 {
-    // After a fault the button stays off.
-    Trap("STAMPA - ERRORE : ", [this] {
-        cmdStampa->setEnabled(false);
-        PrintSheet(TableSheet(SheetTexts()));
-        cmdStampa->setEnabled(true);
-    });
+    PrintByButton(*cmdStampa, [this] { return TableSheet(SheetTexts()); });
 }
 
 void frmAllenamento::cmdAttiva_Click()

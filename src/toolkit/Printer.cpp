@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "toolkit/Application.h"
+#include "toolkit/Button.h"
 #include "toolkit/QtText.h"
 
 #include <QClipboard>
@@ -152,6 +153,16 @@ void PrintSheet(const Sheet& sheet)
     if (!painter.end() || !SpoolTookIt()) {
         Refuse();
     }
+}
+
+bool PrintByButton(Button& button, const std::function<Sheet()>& make)
+{
+    Trap(kPrintErrors, [&] {
+        button.setEnabled(false);
+        PrintSheet(make());
+        button.setEnabled(true);
+    });
+    return button.isEnabled();
 }
 
 } // namespace zelvia
