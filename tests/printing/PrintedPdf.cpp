@@ -76,13 +76,24 @@ int PrintedPdf::Jobs()
 
 PrintedPdf PrintedPdf::Next()
 {
-    static int number = 0;
-    const QString path = JobsFolder() + QStringLiteral("/%1.pdf").arg(++number);
+    static int last = 0;
+    int next = 0;
+    const auto came = [&] {
+        const QStringList files = QDir(JobsFolder()).entryList({QStringLiteral("*.pdf")});
+        for (const QString& file : files) {
+            const int number = file.chopped(4).toInt();
+            if (number > last && (next == 0 || number < next)) {
+                next = number;
+            }
+        }
+        return next != 0;
+    };
     constexpr int patience = 20000;
-    if (!QTest::qWaitFor([&] { return QFile::exists(path); }, patience)) {
+    if (!QTest::qWaitFor(came, patience)) {
         qFatal("nothing was printed");
     }
-    return PrintedPdf(path);
+    last = next;
+    return PrintedPdf(JobsFolder() + QStringLiteral("/%1.pdf").arg(next));
 }
 
 PrintedPdf::PrintedPdf(QString path) : path_(std::move(path))

@@ -8,6 +8,7 @@
 
 #include <QClipboard>
 #include <QProcess>
+#include <QTemporaryFile>
 
 using namespace zelvia;
 using zelvia::test::PrintedPdf;
@@ -164,6 +165,40 @@ private Q_SLOTS:
         // Only the one that was taken comes out.
         QCOMPARE(PrintedPdf::Next().Faults(sheet), QString());
         QCOMPARE(PrintedPdf::Jobs(), before + 1);
+    }
+
+    void aSpoolThatIsFull()
+    {
+        Sheet sheet(Orientation::Portrait, kFont);
+        sheet.Print(2, 2, "in attesa");
+        // Three jobs that wait are as many as it takes.
+        QTemporaryFile waiting;
+        QVERIFY(waiting.open());
+        waiting.write("%PDF-1.4\n%%EOF\n");
+        waiting.close();
+        for (int job = 0; job < 3; ++job) {
+            Queue("lp", {QStringLiteral("-s"), QStringLiteral("-H"), QStringLiteral("hold"), waiting.fileName()});
+        }
+        const int before = PrintedPdf::Jobs();
+        QCOMPARE(ErrorOf(sheet), 482);
+        Queue("cancel", {QStringLiteral("-a"), QStringLiteral("zelvia")});
+        // With room again, what is printed next comes next: the refused job was dropped.
+        sheet.Print(2, 4, "dopo");
+        QCOMPARE(ErrorOf(sheet), 0);
+        QCOMPARE(PrintedPdf::Next().Faults(sheet), QString());
+        QCOMPARE(PrintedPdf::Jobs(), before + 1);
+    }
+
+    void noRoomForTheJobItself()
+    {
+        Sheet sheet(Orientation::Portrait, kFont);
+        sheet.Print(2, 2, "senza posto");
+        const QByteArray temporary = qgetenv("TMPDIR");
+        qputenv("TMPDIR", "/nessun/posto");
+        const int before = PrintedPdf::Jobs();
+        QCOMPARE(ErrorOf(sheet), 482);
+        temporary.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+        QCOMPARE(PrintedPdf::Jobs(), before);
     }
 
     void noPrinterAtAll()

@@ -6,7 +6,7 @@
 #
 # The server listens on a socket in a folder made for it, knows one queue, "zelvia", which is the default printer, and
 # lays each job as it comes, a PDF named after the number of the job, into $ZELVIA_PRINTED. Nothing of the machine's own
-# print server is touched.
+# print server is touched. More than three jobs that wait are too many for the spool.
 set -euo pipefail
 
 support=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -50,6 +50,7 @@ DefaultAuthType None
 LogLevel warn
 DirtyCleanInterval 0
 PreserveJobHistory Yes
+MaxJobsPerPrinter 3
 <Location />
   Order allow,deny
   Allow all
