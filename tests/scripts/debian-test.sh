@@ -4,7 +4,7 @@
 # The Debian package in a fresh, minimal Debian 12, with a day of a runner's life: installed, a day written and saved,
 # upgraded, the day found again, removed: debian-test.sh BUILD-FOLDER
 #
-# Needs root and the network, so it is asked for: cmake -DZELVIA_DEBIAN_TEST=ON. The machine's own apt sources serve the
+# Needs root, debootstrap and the network; cmake -DZELVIA_DEBIAN_TEST=OFF leaves it out. The machine's own apt sources serve the
 # tree, too. ZELVIA_DEBIAN_TREE may name a compressed archive of such a tree, to be used or, if it is not there, made.
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
