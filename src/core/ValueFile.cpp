@@ -40,6 +40,28 @@ TextView TrimBlanks(TextView text)
     return text;
 }
 
+/// Whether a number that no double can hold is one of those too large; the others are too small. Its first digit above
+/// 0 and its exponent tell.
+bool IsTooLarge(TextView number)
+{
+    const auto mark = std::min(number.find_first_of("eE"), number.size());
+    const TextView mantissa = number.substr(0, mark);
+    const auto point = static_cast<std::ptrdiff_t>(std::min(mantissa.find('.'), mantissa.size()));
+    if (mantissa.find_first_of("123456789") == TextView::npos) {
+        return false;
+    }
+    const auto first = static_cast<std::ptrdiff_t>(mantissa.find_first_of("123456789"));
+    TextView digits = number.substr(std::min(mark + 1, number.size()));
+    if (digits.starts_with('+')) {
+        digits.remove_prefix(1);
+    }
+    std::ptrdiff_t exponent = 0;
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec == std::errc::result_out_of_range) {
+        return !digits.starts_with('-');
+    }
+    return exponent > first - point;
+}
+
 /// A number that is no plain run of digits: a fraction, an exponent, a sign in front.
 double ParseNumber(TextView text)
 {
@@ -52,13 +74,14 @@ double ParseNumber(TextView text)
     const bool named = text.find_first_not_of("+-.0123456789eE") != TextView::npos;
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (startsLikeNumber && !named && result.ec == std::errc::result_out_of_range) {
-        throw ErroreRunTime(Errore::Overflow);
-    }
-    if (!startsLikeNumber || named || result.ec != std::errc() || result.ptr != text.data() + text.size()) {
+    if (!startsLikeNumber || named || result.ec == std::errc::invalid_argument ||
+        result.ptr != text.data() + text.size()) {
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }
-    return value;
+    if (result.ec == std::errc::result_out_of_range && IsTooLarge(text)) {
+        throw ErroreRunTime(Errore::Overflow);
+    }
+    return result.ec == std::errc() ? value : 0;
 }
 
 int DateDigits(TextView text)

@@ -177,6 +177,14 @@ void ValueFileTest::IntegersAreReadAndRefused_data()
     row("2147483648", error6, error6);
     row("99999999999999999999999", error6, error6);
     row("1e400", error6, error6);
+    row("0.001e+400", error6, error6);
+    row("1e99999999999999999999", error6, error6);
+    row("1e-400", 0, 0);
+    row("-100.5e-400", 0, 0);
+    row("1e-99999999999999999999", 0, 0);
+    row("0e99999999999999999999", 0, 0);
+    row("1e400-5", error13, error13);
+    row("1e-400x", error13, error13);
     row("1.5", 2, 2);
     row("2.5", 2, 2);
     row("-0.5", 0, 0);
