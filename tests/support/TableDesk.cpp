@@ -72,7 +72,7 @@ void TableDesk::ToFront(QWidget& window)
     constexpr int attempts = 5;
     constexpr int patience = 2000;
     for (int i = 0; i < attempts; ++i) {
-        if (i > 0 || !window.isActiveWindow()) {
+        if (i > 0 || QGuiApplication::focusWindow() != window.windowHandle()) {
             window.activateWindow();
         }
         if (QTest::qWaitFor(settled, patience)) {
