@@ -3,7 +3,7 @@
 #include "daywindow/PageArt.h"
 
 #include "daywindow/PageLayout.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
 
 #include <QPaintEvent>
@@ -65,26 +65,35 @@ void DrawFrame(QPainter& painter, const QRect& frame, int radius, const QColor& 
     painter.drawArc(QRectF(right, bottom, size, size), 3 * quarter, quarter);
 }
 
-/// The soft shadow of a sheet in layers that lie over each other, given from the widest on.
+/// The soft shadow of a sheet in layers that lie over each other, given from the widest on. What the sheet hides is
+/// left out.
 void DrawShadow(QPainter& painter, const QRect& sheet, const QList<QRect>& layers, int radius, const QColor& shade)
 {
     const QRect& widest = layers.first();
-    const int sidesTop = sheet.top() + kCorner;
-    const int sidesEnd = sheet.bottom() + 1 - kCorner;
+    const QRect straight = sheet.adjusted(kCorner, kCorner, -kCorner, -kCorner);
+    const int cornersLeft = widest.left();
+    const int cornersRight = straight.right() + 1;
+    const int leftWidth = straight.left() - cornersLeft;
+    const int rightWidth = widest.right() + 1 - cornersRight;
+    const std::pair<int, int> rows[] = {{widest.top(), straight.top() - widest.top()},
+                                        {straight.bottom() + 1, widest.bottom() - straight.bottom()}};
     painter.setPen(Qt::NoPen);
     painter.setBrush(shade);
-    const QRect ends[] = {{widest.left(), widest.top(), widest.width(), sidesTop - widest.top()},
-                          {widest.left(), sidesEnd, widest.width(), widest.bottom() + 1 - sidesEnd}};
-    for (const QRect& end : ends) {
-        painter.setClipRect(end);
-        for (const QRect& layer : layers) {
-            painter.drawRoundedRect(layer, radius, radius);
+    for (const auto& [top, height] : rows) {
+        for (const QRect& corner :
+             {QRect(cornersLeft, top, leftWidth, height), QRect(cornersRight, top, rightWidth, height)}) {
+            painter.setClipRect(corner);
+            for (const QRect& layer : layers) {
+                painter.drawRoundedRect(layer, radius, radius);
+            }
         }
     }
     painter.setClipping(false);
     for (const QRect& layer : layers) {
-        for (int top = sidesTop; top < sidesEnd; top += kLines) {
-            const int height = qMin(kLines, sidesEnd - top);
+        painter.fillRect(straight.left(), layer.top(), straight.width(), qMax(0, sheet.top() - layer.top()), shade);
+        painter.fillRect(straight.left(), sheet.bottom() + 1, straight.width(), layer.bottom() - sheet.bottom(), shade);
+        for (int top = straight.top(); top <= straight.bottom(); top += kLines) {
+            const int height = qMin(kLines, straight.bottom() + 1 - top);
             painter.fillRect(layer.left(), top, sheet.left() - layer.left(), height, shade);
             painter.fillRect(sheet.right() + 1, top, layer.right() - sheet.right(), height, shade);
         }
@@ -334,7 +343,7 @@ void DrawMilestone(QPainter& painter, const QRectF& area)
     stone.cubicTo(10, 3, 30, 3, 30, 16);
     stone.lineTo(30, 35);
     stone.closeSubpath();
-    painter.setBrush(QColor(255, 255, 255, 120));
+    painter.setBrush(Mixed(Ink::Paper, Qt::white, 120 / 255.0));
     painter.drawPath(stone);
     painter.drawLine(QPointF(5, 35), QPointF(35, 35));
     // The headings' font, made smaller by the painter: a size of its own would be one more font to load.
