@@ -11,6 +11,15 @@
 namespace zelvia
 {
 
+/// The place of `index` in an array of the indexes first..last. Raises error 9 for any other.
+constexpr std::size_t OffsetWithin(int index, int first, int last)
+{
+    if (index < first || index > last) {
+        throw ErroreRunTime(Errore::Indice);
+    }
+    return static_cast<std::size_t>(index - first);
+}
+
 /// An array of the indexes First..Last; any other index raises error 9.
 template <typename T, int First, int Last>
 class BoundedArray
@@ -32,13 +41,7 @@ public:
     friend bool operator==(const BoundedArray&, const BoundedArray&) = default;
 
 private:
-    static constexpr std::size_t Offset(int index)
-    {
-        if (index < First || index > Last) {
-            throw ErroreRunTime(Errore::Indice);
-        }
-        return static_cast<std::size_t>(index - First);
-    }
+    static constexpr std::size_t Offset(int index) { return OffsetWithin(index, First, Last); }
 
     std::array<T, static_cast<std::size_t>(Last - First + 1)> items_{};
 };

@@ -5,6 +5,7 @@
 #include "core/BoundedArray.h"
 #include "core/Date.h"
 #include "core/Numbers.h"
+#include "core/SparseArray.h"
 #include "core/Text.h"
 
 namespace zelvia
@@ -27,9 +28,9 @@ struct RecordGiorno {
     i16 OraFine;
     i16 MinutiFine;
     i16 SecondiFine;
-    Text TempoImpiegato;                ///< As shown: hours:minutes:seconds, or empty.
-    Text MediaKm;                       ///< As shown: minutes:seconds per kilometre, or empty.
-    BoundedArray<Text, 0, 100> ListaKm; ///< Place 100 is shown and committed but is not in the file.
+    Text TempoImpiegato;               ///< As shown: hours:minutes:seconds, or empty.
+    Text MediaKm;                      ///< As shown: minutes:seconds per kilometre, or empty.
+    SparseArray<Text, 0, 100> ListaKm; ///< Place 100 is shown and committed but is not in the file.
     Text Stagione;
     Text TempoAtm;
     Text Temperatura;
@@ -66,9 +67,7 @@ void VisitDiaryValues(Giorno& giorno, Visitor&& visit)
     visit(giorno.SecondiFine);
     visit(giorno.TempoImpiegato);
     visit(giorno.MediaKm);
-    for (int i = 0; i <= 99; ++i) {
-        visit(giorno.ListaKm[i]);
-    }
+    giorno.ListaKm.Visit(0, 99, visit);
     visit(giorno.Stagione);
     visit(giorno.TempoAtm);
     visit(giorno.Temperatura);

@@ -14,8 +14,8 @@ namespace zelvia
 namespace
 {
 
-// Large enough for few calls, and small enough to stay in the fast memory. The inputs of the fuzzers are to meet the edge
-// between two pieces all the same.
+// Large enough for few calls, and small enough to stay in the fast memory. The inputs of the fuzzers are to meet the
+// edge between two pieces all the same.
 #ifdef ZELVIA_FUZZ
 constexpr std::size_t kChunk = 1 << 9;
 #else
@@ -123,7 +123,7 @@ void ValueWriter::Flush()
     }
 }
 
-void ValueWriter::Write(TextView text)
+void ValueWriter::WriteText(TextView text)
 {
     constexpr std::size_t frame = 4;
     if (text.size() + frame > buffer_.size() - used_) {
@@ -262,6 +262,11 @@ ValueReader::Value ValueReader::Next()
 bool ValueReader::InputQuotedLine(Text& text)
 {
     const TextView rest = TextView(buffer_).substr(position_);
+    if (rest.starts_with(kBlankLine)) {
+        text.clear();
+        position_ += kBlankLine.size();
+        return true;
+    }
     if (!rest.starts_with('"')) {
         return false;
     }

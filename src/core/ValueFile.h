@@ -14,6 +14,9 @@
 namespace zelvia
 {
 
+/// What nearly every text of a diary is.
+inline constexpr TextView kBlankLine = "\"\"\r\n";
+
 /// Writes one value a line: integers as plain digits, dates as #yyyy-mm-dd#, texts between double quotes as they stand,
 /// each line ended by CR LF. The file is created or emptied at once; there is no temporary file.
 class ValueWriter
@@ -23,7 +26,15 @@ public:
     explicit ValueWriter(TextView path);
 
     /// Each raises error 61 on a full disk, 57 on another failure of the device.
-    void Write(TextView text);
+    void Write(TextView text)
+    {
+        if (text.empty() && buffer_.size() - used_ >= kBlankLine.size()) {
+            std::memcpy(buffer_.data() + used_, kBlankLine.data(), kBlankLine.size());
+            used_ += kBlankLine.size();
+            return;
+        }
+        WriteText(text);
+    }
     void Write(i16 number) { WriteDigits(number.value()); }
     void Write(i32 number) { WriteDigits(number.value()); }
     void Write(CalendarDate date);
@@ -33,6 +44,7 @@ public:
     void Close();
 
 private:
+    void WriteText(TextView text);
     void WriteDigits(int number);
     void Append(const char* bytes, std::size_t count);
     void Flush();

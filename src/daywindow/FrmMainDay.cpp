@@ -179,9 +179,7 @@ void frmMain::AssegnaCampi()
         }
         giorno.TempoImpiegato = lblOutTempoImpiegato->Caption();
         giorno.MediaKm = lblOutMediaKM->Caption();
-        for (Text& parziale : giorno.ListaKm) {
-            parziale.clear();
-        }
+        giorno.ListaKm.Clear();
         for (int i = 0; i < lstListaKM->ListCount(); ++i) {
             giorno.ListaKm[i] = lstListaKM->List(i);
         }

@@ -54,8 +54,8 @@ RecordGiorno FullDay()
     day.SecondiFine = 38;
     day.TempoImpiegato = "0:57:37";
     day.MediaKm = "5:45";
-    for (Text& line : day.ListaKm) {
-        line = "x";
+    for (int i = 0; i <= 100; ++i) {
+        day.ListaKm[i] = "x";
     }
     day.Stagione = "Estate";
     day.TempoAtm = "Sole";

@@ -3,11 +3,16 @@
 #include "core/Numbers.h"
 
 #include "core/BoundedArray.h"
+#include "core/SparseArray.h"
 #include "support/Bytes.h"
 
 #include <QTest>
 
+#include <iterator>
 #include <limits>
+#include <string>
+#include <utility>
+#include <vector>
 
 using namespace zelvia;
 using namespace zelvia::test;
@@ -28,6 +33,8 @@ private Q_SLOTS:
     void ValuesOutOfRangeAreRefused();
     void FailedArithmeticChangesNothing();
     void ArraysKeepTheirBounds();
+    void SparseArraysHoldWhatIsWritten();
+    void SparseArraysAreVisitedInTurn();
 };
 
 void NumbersTest::RoundingGoesToTheEvenOne_data()
@@ -181,6 +188,56 @@ void NumbersTest::ArraysKeepTheirBounds()
     note[0] = 5;
     QCOMPARE(note[0], 5);
     QCOMPARE(RaisedBy([&] { (void)note[11]; }), 9);
+}
+
+void NumbersTest::SparseArraysHoldWhatIsWritten()
+{
+    using Lines = SparseArray<std::string, 0, 100>;
+    Lines lines;
+    const Lines& read = lines;
+    QCOMPARE(RaisedBy([&] { (void)read[101]; }), 9);
+    QCOMPARE(RaisedBy([&] { (void)read[-1]; }), 9);
+    QCOMPARE(RaisedBy([&] { lines[101] = "x"; }), 9);
+    QVERIFY(read[100].empty());
+    QVERIFY(read.begin() == read.end());
+
+    lines[2] = "due";
+    QCOMPARE(std::distance(read.begin(), read.end()), 3);
+    QCOMPARE(read[2], std::string("due"));
+    QVERIFY(read[1].empty() && read[3].empty());
+
+    Lines other;
+    other[2] = "due";
+    QVERIFY(lines == other);
+    other[50].clear();
+    QVERIFY(lines == other && other == lines);
+    other[50] = "x";
+    QVERIFY(!(lines == other) && !(other == lines));
+
+    lines.Clear();
+    QVERIFY(lines == Lines());
+}
+
+void NumbersTest::SparseArraysAreVisitedInTurn()
+{
+    SparseArray<std::string, 0, 100> lines;
+    lines[1] = "uno";
+    std::vector<std::string> met;
+    lines.Visit(0, 3, [&](std::string& line) {
+        met.push_back(line);
+        line = met.size() == 3 ? "tre" : line + "!";
+    });
+    QVERIFY(met == (std::vector<std::string>{"", "uno", "", ""}));
+    QVERIFY(std::vector<std::string>(lines.begin(), lines.end()) ==
+            (std::vector<std::string>{"!", "uno!", "tre", "!"}));
+
+    met.clear();
+    std::as_const(lines).Visit(2, 5, [&](const std::string& line) { met.push_back(line); });
+    QVERIFY(met == (std::vector<std::string>{"tre", "!", "", ""}));
+
+    lines.Clear();
+    lines.Visit(0, 100, [](std::string& line) { line.clear(); });
+    QVERIFY(lines.begin() == lines.end());
 }
 
 QTEST_APPLESS_MAIN(NumbersTest)

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+
+#include <utility>
+#include <vector>
+
+namespace zelvia
+{
+
+/// An array of the indexes First..Last, nearly all of whose items are blank, T(): those behind the last one written
+/// take no room. Any other index raises error 9.
+template <typename T, int First, int Last>
+class SparseArray
+{
+public:
+    T& operator[](int index)
+    {
+        const std::size_t offset = OffsetWithin(index, First, Last);
+        if (offset >= items_.size()) {
+            items_.reserve(static_cast<std::size_t>(Last - First + 1));
+            items_.resize(offset + 1);
+        }
+        return items_[offset];
+    }
+
+    const T& operator[](int index) const
+    {
+        const std::size_t offset = OffsetWithin(index, First, Last);
+        return offset < items_.size() ? items_[offset] : kBlank;
+    }
+
+    /// Hands the items first..last in turn to `visit`, which may change them. One that has no room and stays blank is
+    /// given none.
+    template <typename Visitor>
+    void Visit(int first, int last, Visitor&& visit)
+    {
+        T spare{};
+        for (int index = first; index <= last; ++index) {
+            if (OffsetWithin(index, First, Last) < items_.size()) {
+                visit((*this)[index]);
+                continue;
+            }
+            visit(spare);
+            if (spare != kBlank) {
+                (*this)[index] = std::exchange(spare, T{});
+            }
+        }
+    }
+
+    template <typename Visitor>
+    void Visit(int first, int last, Visitor&& visit) const
+    {
+        for (int index = first; index <= last; ++index) {
+            visit((*this)[index]);
+        }
+    }
+
+    void Clear() { items_.clear(); }
+
+    // The items up to the last that has room; all behind it are blank.
+    auto begin() const { return items_.begin(); }
+    auto end() const { return items_.end(); }
+
+    friend bool operator==(const SparseArray& left, const SparseArray& right)
+    {
+        const bool shorter = left.items_.size() < right.items_.size();
+        const std::vector<T>& few = shorter ? left.items_ : right.items_;
+        const std::vector<T>& many = shorter ? right.items_ : left.items_;
+        for (std::size_t i = 0; i < many.size(); ++i) {
+            if (many[i] != (i < few.size() ? few[i] : kBlank)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+private:
+    static inline const T kBlank{};
+
+    std::vector<T> items_;
+};
+
+} // namespace zelvia
