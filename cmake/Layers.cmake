@@ -37,6 +37,7 @@ set(ZELVIA_QT_STRICT
 function(zelvia_layer name)
   cmake_parse_arguments(LAYER "QT" "FOLDER" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${LAYER_SOURCES})
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   set(view ${CMAKE_BINARY_DIR}/layers/${LAYER_FOLDER})
   file(MAKE_DIRECTORY ${view})
   file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${LAYER_FOLDER} ${view}/${LAYER_FOLDER} SYMBOLIC)

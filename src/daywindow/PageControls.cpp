@@ -4,7 +4,7 @@
 
 #include "daywindow/PageArt.h"
 #include "daywindow/PageLayout.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
 
 #include <QPainter>

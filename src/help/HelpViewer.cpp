@@ -3,7 +3,7 @@
 #include "help/HelpViewer.h"
 
 #include "core/Files.h"
-#include "help/HelpWindow.h"
+#include "toolkit/LateParts.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -32,7 +32,7 @@ void HelpViewer::Open(TextView file)
     const QString path = QString::fromStdString(NativePath(file).string());
     QString stamp = StampOf(path);
     if (window_ == nullptr || stamp != stamp_) {
-        window_ = std::make_unique<HelpWindow>(std::make_unique<HelpFile>(path));
+        window_ = Late().OpenGuide(path);
         stamp_ = std::move(stamp);
     }
 }

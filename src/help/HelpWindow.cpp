@@ -4,7 +4,7 @@
 
 #include "help/HelpPage.h"
 #include "help/SearchPane.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 
 #include <QAction>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "help/HelpFile.h"
+#include "toolkit/LateParts.h"
 
 #include <QWidget>
 
@@ -23,7 +24,7 @@ class SearchPane;
 
 /// The window of the guide: contents and search at the left, the page at the right. To the controls of the program it
 /// counts as another program's window, so a field stays open while the guide is read.
-class HelpWindow : public QWidget
+class HelpWindow : public QWidget, public GuideWindow
 {
     Q_OBJECT
 
@@ -31,11 +32,9 @@ public:
     explicit HelpWindow(std::unique_ptr<HelpFile> file);
     ~HelpWindow() override;
 
-    // Each of these also brings the window to the front.
-    /// The contents, and the first page unless the guide is open at another.
-    void ShowContents();
-    void ShowSearch();
-    void ShowTopic(const QString& name);
+    void ShowContents() override;
+    void ShowSearch() override;
+    void ShowTopic(const QString& name) override;
 
 private:
     void BuildButtons();

@@ -8,7 +8,7 @@
 #include "routes/RouteModel.h"
 #include "routes/RoutePage.h"
 #include "routes/RouteTotals.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"

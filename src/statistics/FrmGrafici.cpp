@@ -5,7 +5,7 @@
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "statistics/StatisticSheets.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Printer.h"
 

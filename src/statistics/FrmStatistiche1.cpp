@@ -7,7 +7,7 @@
 #include "core/RunTimeError.h"
 #include "statistics/CategoryTexts.h"
 #include "statistics/StatisticSheets.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
 #include "toolkit/Printer.h"

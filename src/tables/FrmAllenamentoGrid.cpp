@@ -7,7 +7,7 @@
 #include "tables/TableColours.h"
 #include "tables/TableWindows.h"
 #include "tables/TextRoutines.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/GridBox.h"
 #include "toolkit/Menu.h"
 #include "toolkit/PagePalette.h"

@@ -9,7 +9,7 @@
 #include "core/Workspace.h"
 #include "tables/TablePage.h"
 #include "tables/TableWindows.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 

@@ -75,22 +75,6 @@ void ShowScreenPointer(i16 pointer)
     }
 }
 
-/// Families of the same widths as a font, the generic one last.
-std::vector<const char*> KinOf(TextView family)
-{
-    if (family == "Times New Roman" || family == "Liberation Serif") {
-        return {"Liberation Serif", "Times New Roman", "Nimbus Roman", "serif"};
-    }
-    if (family == "Book Antiqua") {
-        return {"Palatino Linotype", "P052", "URW Palladio L", "TeX Gyre Pagella", "Liberation Serif", "serif"};
-    }
-    if (family == "MS Sans Serif") {
-        return {"Liberation Sans", "Arial", "DejaVu Sans", "sans-serif"};
-    }
-    // In these the degree sign is as wide as a digit.
-    return {"Liberation Mono", "DejaVu Sans Mono", "monospace"};
-}
-
 void InstallItalian(QApplication& application)
 {
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
@@ -130,21 +114,6 @@ bool Application::TakeInstanceLock()
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     return FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
-}
-
-QFont PageFont(TextView family, int pixels)
-{
-    QStringList families{ToQString(family)};
-    for (const char* kin : KinOf(family)) {
-        families << QLatin1String(kin);
-    }
-    families.removeDuplicates();
-    QFont font;
-    font.setFamilies(families);
-    font.setPixelSize(pixels);
-    // Each of these holds every character a diary can: no list of other fonts need be made for those it lacks.
-    font.setStyleStrategy(QFont::NoFontMerging);
-    return font;
 }
 
 QCursor LoadCursor(TextView path)

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QFont>
 #include <QLockFile>
 
 #include <functional>
@@ -40,9 +39,6 @@ public:
 private:
     std::unique_ptr<QLockFile> lock_;
 };
-
-/// A font by its name, with its metric kin as fallback; the size in logical pixels.
-QFont PageFont(TextView family, int pixels);
 
 /// Reads a Windows cursor file with its hot spot. Raises error 53 or the like when it can't be opened, 481 when it
 /// holds no picture.

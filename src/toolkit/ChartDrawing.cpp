@@ -3,7 +3,7 @@
 #include "toolkit/ChartDrawing.h"
 
 #include "core/Conversions.h"
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/ChartLabels.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/ChartLabels.h"
 
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 
 #include <QFontMetricsF>
 

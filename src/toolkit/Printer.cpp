@@ -3,20 +3,9 @@
 #include "toolkit/Printer.h"
 
 #include "core/RunTimeError.h"
-#include "toolkit/Application.h"
 #include "toolkit/Button.h"
-#include "toolkit/QtText.h"
+#include "toolkit/LateParts.h"
 
-#include <QClipboard>
-#include <QFontMetricsF>
-#include <QGuiApplication>
-#include <QImage>
-#include <QLibrary>
-#include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
-
-#include <algorithm>
 #include <utility>
 
 namespace zelvia
@@ -24,91 +13,10 @@ namespace zelvia
 namespace
 {
 
-constexpr int kDotsPerInch = 600;
-constexpr int kPointsPerInch = 72;
-constexpr double kCellWidth = kDotsPerInch / 12.0;
-constexpr double kCellHeight = kDotsPerInch / 6.0;
-constexpr double kRuleWidth = 0.6 * kDotsPerInch / kPointsPerInch;
-constexpr double kInchesPerMetre = 1 / 0.0254;
-
 std::function<void(const Sheet&)>& PrinterHandler()
 {
     static std::function<void(const Sheet&)> handler;
     return handler;
-}
-
-[[noreturn]] void Refuse()
-{
-    throw ErroreRunTime(Errore::Stampante);
-}
-
-QPointF Corner(int x, int y)
-{
-    return {x * kCellWidth, y * kCellHeight};
-}
-
-/// Draws the operations of a sheet one after the other.
-class SheetPlayer
-{
-public:
-    SheetPlayer(QPrinter& printer, QPainter& painter) : printer_(printer), painter_(painter)
-    {
-        painter_.setPen(QPen(Qt::black, kRuleWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        painter_.setBrush(Qt::NoBrush);
-    }
-
-    void operator()(const SheetText& text)
-    {
-        QFont font = PageFont(text.font.name, text.font.size * kDotsPerInch / kPointsPerInch);
-        font.setBold(text.font.bold);
-        font.setItalic(text.font.italic);
-        painter_.setFont(font);
-        const double ascent = QFontMetricsF(font, &printer_).ascent();
-        painter_.drawText(Corner(text.x, text.y) + QPointF(0, ascent), ToQString(text.text));
-    }
-
-    void operator()(const SheetLine& line) { painter_.drawLine(Corner(line.x1, line.y1), Corner(line.x2, line.y2)); }
-
-    void operator()(const SheetBox& box) { painter_.drawRect(QRectF(Corner(box.x1, box.y1), Corner(box.x2, box.y2))); }
-
-    void operator()(const SheetPicture& picture)
-    {
-        const QImage image = QGuiApplication::clipboard()->image();
-        const auto onPaper = [](int dots, int dotsPerMetre) {
-            return dots * kInchesPerMetre * kDotsPerInch / std::max(dotsPerMetre, 1);
-        };
-        const QSizeF size(onPaper(image.width(), image.dotsPerMeterX()),
-                          onPaper(image.height(), image.dotsPerMeterY()));
-        painter_.drawImage(QRectF(Corner(picture.x, picture.y), size), image);
-    }
-
-    void operator()(const SheetPageBreak& /*pageBreak*/)
-    {
-        if (!printer_.newPage()) {
-            Refuse();
-        }
-    }
-
-private:
-    QPrinter& printer_;
-    QPainter& painter_;
-};
-
-/// Whether the spool took the job that was handed over last. Qt does not tell; the answer stands with the spool's own
-/// library, which the printing has loaded by now. Where there is none there is no such spool.
-bool SpoolTookIt()
-{
-    constexpr int version = 2;
-    constexpr int lastGoodStatus =
-        7; // IPP_STATUS_OK_EVENTS_COMPLETE, the highest of the "successful" range of RFC 8011
-    QLibrary spool(QStringLiteral("cups"), version);
-    const auto lastError = reinterpret_cast<int (*)()>(spool.resolve("cupsLastError"));
-    return lastError == nullptr || lastError() <= lastGoodStatus;
-}
-
-QPageLayout::Orientation LayoutOf(Orientation orientation)
-{
-    return orientation == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape;
 }
 
 } // namespace
@@ -124,35 +32,7 @@ void PrintSheet(const Sheet& sheet)
         PrinterHandler()(sheet);
         return;
     }
-    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    if (info.isNull()) {
-        // A QPrinter without a printer would quietly write a file.
-        Refuse();
-    }
-    QPrinter printer(info, QPrinter::HighResolution);
-    printer.setResolution(kDotsPerInch);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageOrientation(LayoutOf(sheet.Paper()));
-    // As wide as the printer's own margins allow: the grid begins at the printable corner.
-    printer.setPageMargins(printer.pageLayout().minimumMargins(), printer.pageLayout().units());
-    printer.setDocName(QStringLiteral("Zelvia"));
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        Refuse();
-    }
-    try {
-        SheetPlayer player(printer, painter);
-        for (const SheetOperation& operation : sheet.Operations()) {
-            std::visit(player, operation);
-        }
-    } catch (...) {
-        printer.abort();
-        throw;
-    }
-    // The job goes to the spool at the end of the painting.
-    if (!painter.end() || !SpoolTookIt()) {
-        Refuse();
-    }
+    Late().PlaySheet(sheet);
 }
 
 bool PrintByButton(Button& button, const std::function<Sheet()>& make)

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the guide, worked by hand.
-#include "help/HelpPage.h"
-#include "help/HelpWindow.h"
 #include "routes/FrmDesPercorso.h"
 #include "support/EntryPage.h"
 #include "support/TempFolder.h"
 #include "tables/FrmTabAllenamenti.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -16,6 +15,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QTextBrowser>
+#include <QTextCursor>
 #include <QTreeView>
 
 namespace zelvia::test
@@ -34,12 +35,12 @@ QByteArray GuideBytes()
     return file.readAll();
 }
 
-QList<HelpWindow*> HelpWindows()
+QList<QWidget*> HelpWindows()
 {
-    QList<HelpWindow*> found;
+    QList<QWidget*> found;
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* help = qobject_cast<HelpWindow*>(window)) {
-            found << help;
+        if (window->objectName() == QLatin1String("HelpWindow")) {
+            found << window;
         }
     }
     return found;
@@ -52,9 +53,9 @@ public:
     Reader() { folder.Write(QStringLiteral("Guida.hlp"), GuideBytes()); }
 
     /// Null unless there is one window, and it is on the screen.
-    static HelpWindow* Window()
+    static QWidget* Window()
     {
-        const QList<HelpWindow*> windows = HelpWindows();
+        const QList<QWidget*> windows = HelpWindows();
         return windows.size() == 1 && windows.first()->isVisible() ? windows.first() : nullptr;
     }
 
@@ -63,7 +64,7 @@ public:
     {
         return *Window()->findChild<Widget*>(QLatin1String(name));
     }
-    static HelpPage& Shown() { return Part<HelpPage>("page"); }
+    static QTextBrowser& Shown() { return Part<QTextBrowser>("page"); }
     static QString Address() { return Shown().source().toString(QUrl::RemoveScheme | QUrl::RemoveAuthority); }
     static QTreeView& Contents() { return Part<QTreeView>("contents"); }
 
@@ -85,9 +86,9 @@ public:
     /// Where a text stands on the page shown, in the coordinates of its viewport.
     static QPoint PlaceOf(const QString& text)
     {
-        HelpPage& page = Shown();
+        QTextBrowser& page = Shown();
         page.moveCursor(QTextCursor::Start);
-        if (!page.FindText(text, false)) {
+        if (!page.find(text)) {
             return {-1, -1};
         }
         QTextCursor cursor = page.textCursor();
@@ -168,7 +169,7 @@ void WindowTest::ASecondCallBringsTheSameWindowToTheFront()
 {
     Reader reader;
     reader.Open();
-    const HelpWindow* first = Reader::Window();
+    const QWidget* first = Reader::Window();
     hand::Key(Qt::Key_Down);
     QTRY_COMPARE(Reader::Address(), QStringLiteral("/guida/primogiorno.html"));
     reader->activateWindow();
@@ -376,7 +377,7 @@ void WindowTest::EscapeCloses()
 {
     Reader reader;
     reader.Open();
-    const QPointer<HelpWindow> window = Reader::Window();
+    const QPointer<QWidget> window = Reader::Window();
     hand::Key(Qt::Key_Down);
     QTRY_COMPARE(Reader::Address(), QStringLiteral("/guida/primogiorno.html"));
     hand::Key(Qt::Key_Escape);
@@ -496,7 +497,7 @@ void WindowTest::TheEndOfTheProgramClosesTheGuide()
     Reader reader;
     qputenv("TMPDIR", folder_->Native().c_str());
     reader.Open();
-    const QPointer<HelpWindow> window = Reader::Window();
+    const QPointer<QWidget> window = Reader::Window();
     QVERIFY(!written.entryList({QStringLiteral("zelvia-guida-*")}, QDir::Dirs).isEmpty());
     reader->close();
     QTRY_VERIFY(reader.Gone());

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "toolkit/Application.h"
+#include "toolkit/Fonts.h"
 
 #include "core/MessageBox.h"
 #include "support/BoxAnswer.h"
