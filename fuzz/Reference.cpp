@@ -2,8 +2,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Reference.h"
 
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+
 namespace zelvia::fuzz
 {
+
+double PlainVal(Text text)
+{
+    std::erase(text, ' ');
+    std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    bool point = false;
+    while (at < text.size() && ((text[at] >= '0' && text[at] <= '9') || (text[at] == '.' && !point))) {
+        point = point || text[at] == '.';
+        ++at;
+    }
+    return std::strtod(text.substr(0, at).c_str(), nullptr);
+}
+
+std::optional<int> PlainShort(const Text& text)
+{
+    const double number = std::nearbyint(PlainVal(text));
+    if (number < INT16_MIN || number > INT16_MAX) {
+        return std::nullopt;
+    }
+    return static_cast<int>(number);
+}
 
 void Reference::SkipBlanks()
 {

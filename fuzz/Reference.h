@@ -11,6 +11,13 @@
 namespace zelvia::fuzz
 {
 
+/// The number at the start of a text as the C library reads it, once the blanks are gone: a sign, digits, one point.
+/// Infinite when it is beyond a double.
+double PlainVal(Text text);
+
+/// The same rounded to a short, ties to the even one; none when it is beyond one.
+std::optional<int> PlainShort(const Text& text);
+
 /// Reads values as ValueReader does, in the plainest way: one character after the other, all bytes in memory.
 class Reference
 {

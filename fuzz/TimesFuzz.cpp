@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <tuple>
 
 using namespace zelvia;
 using namespace zelvia::fuzz;
@@ -27,6 +28,34 @@ bool IsTimeOfDay(const Orario& time)
 {
     const auto within = [](i32 part, int limit) { return part >= 0 && part < limit; };
     return within(time.ore, 24) && within(time.minuti, 60) && within(time.secondi, 60);
+}
+
+std::tuple<int, int, int> Parts(const Orario& time)
+{
+    return {time.ore.value(), time.minuti.value(), time.secondi.value()};
+}
+
+/// What the user is told of an end that is not behind the start; the blanks at the end tell the cases apart.
+Text WarningOf(const Orario& start, const Orario& end)
+{
+    if (Parts(end) == Parts(start)) {
+        return "L'ORA FINE E' UGUALE ALL'ORA INIZIO        ";
+    }
+    if (Parts(end) > Parts(start)) {
+        return {};
+    }
+    const bool bySeconds = end.ore == start.ore && end.minuti == start.minuti;
+    return Text("L'ORA FINE E' MINORE DELL'ORA INIZIO") + Text(bySeconds ? 8 : 9, ' ');
+}
+
+void CheckVerdict(bool distance, const Orario& start, const Orario& end)
+{
+    const EsitoTempi verdict = ControllaTempi(distance, start, end);
+    const bool given = end.ore >= 1 || end.minuti >= 1 || end.secondi >= 1;
+    const Calcolo wanted = !given ? Calcolo::Niente : distance ? Calcolo::TempoEMedia : Calcolo::SoloTempo;
+    Require(verdict.calcolo == wanted, "what can be computed");
+    Require(verdict.azzera == (!given || !distance), "time and average are blanked when either is missing");
+    Require(verdict.avviso == (given ? WarningOf(start, end) : Text()), "the warning of the order of the times");
 }
 
 double SecondsOf(const Orario& time)
@@ -67,9 +96,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Orario end = TakeTime(input);
     const Text distance = input.Rest();
 
-    const EsitoTempi verdict = ControllaTempi(!distance.empty(), start, end);
-    const bool given = end.ore >= 1 || end.minuti >= 1 || end.secondi >= 1;
-    Require((verdict.calcolo == Calcolo::Niente) == !given, "only an end time is computed from");
+    CheckVerdict(!distance.empty(), start, end);
 
     Orario taken{};
     const int error = RaisedBy([&] { taken = TempoTrascorso(start, end); });

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers out of texts: Val, and the conversions of the Italian locale.
 #include "Harness.h"
+#include "Reference.h"
 #include "core/Conversions.h"
 
 #include <cmath>
@@ -19,18 +20,6 @@ bool IsDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The longest number at the start of a text without blanks: a sign, digits, one point.
-Text NumberAtStart(const Text& text)
-{
-    std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
-    bool point = false;
-    while (at < text.size() && (IsDigit(text[at]) || (text[at] == '.' && !point))) {
-        point = point || text[at] == '.';
-        ++at;
-    }
-    return text.substr(0, at);
-}
-
 bool Beyond(double number)
 {
     return !(std::fabs(number) <= std::numeric_limits<double>::max());
@@ -44,9 +33,7 @@ bool Same(double actual, double expected, double smallest)
 
 void CheckVal(const Text& text)
 {
-    Text dense = text;
-    std::erase(dense, ' ');
-    const double expected = std::strtod(NumberAtStart(dense).c_str(), nullptr);
+    const double expected = PlainVal(text);
     double actual = 0;
     const int error = RaisedBy([&] { actual = Val(text); });
     Require(error == (Beyond(expected) ? Errore::Overflow : 0), "the error of Val");

@@ -7,7 +7,7 @@ set -euo pipefail
 demo=$(dirname "$(readlink -f "$0")")/../share/demo
 out=$1
 rm -rf "$out"
-mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,TableCalculations,Trasforma,Text}
+mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,MediaKm,CategoryTexts,SearchTotals,TableCalculations,Trasforma,Text}
 
 # Two days of the diary and two routes, so that the inputs stay small; the others whole.
 diary=$demo/ZelviaFile/prova.zlv
@@ -39,6 +39,17 @@ for pattern in 0 00 000 '##' '##:' '###,###' 000.00 '   dddd  d  mmmm  yyyy' dd/
   printf 'AAAAAA\020\100BB\0\0\0\1\2\0%s' "$pattern" >"$out/Format/$(printf '%s' "$pattern" | cksum | cut -d' ' -f1)"
 done
 printf '\1\11\36\0\1\12\24\5%s' 10,500 >"$out/Times/morning"
+# Kilometres, metres, then the seconds of the run: 10,500 in 0:48:30, 1,000 in 0:04:36, 0,100 in 2:00:00.
+printf '\12\0\364\1\136\13\0\0' >"$out/MediaKm/morning"
+printf '\1\0\0\0\024\1\0\0' >"$out/MediaKm/one-km"
+printf '\0\0\144\0\040\34\0\0' >"$out/MediaKm/over-an-hour"
+i=0
+for row in ' 7,500' '12,0' ' 5 x 1000 @ 4:30' '10 x 400  @ 1:20' '' 'x@:' ':@x,'; do
+  i=$((i + 1))
+  printf '\7\0\364\1\5\0\350\3\4\0\36\0%s' "$row" >"$out/CategoryTexts/row-$i"
+done
+printf '%s\n' 0:48:30 4:37 1:05:30 5:07 '' '' 0:59:59 10:05 >"$out/SearchTotals/four-runs"
+printf '%s\n' 0:48:30 4:37 1000:00:00 5:7000 0:00:07 0:30 >"$out/SearchTotals/too-long"
 printf '%s\n' 10 500 0 48 30 '' '' '' >"$out/TableCalculations/average"
 printf '%s\n' 10 500 '' '' '' 4 37 250 >"$out/TableCalculations/time"
 printf '%s\n' '' '' 1 5 0 5 30 '' >"$out/TableCalculations/distance"

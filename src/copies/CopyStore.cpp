@@ -35,20 +35,20 @@ void Rename(const fs::path& from, const fs::path& to)
     }
 }
 
-/// Copies `files` of one folder into another, to the disk; the bytes of each pass through `change`.
-template <typename Change>
-void CopyFiles(const fs::path& from, const fs::path& to, const std::vector<std::string>& files, Change&& change)
+/// Copies `files` of one folder into another, to the disk, each by `copy`.
+template <typename CopyOne>
+void CopyFiles(const fs::path& from, const fs::path& to, const std::vector<std::string>& files, CopyOne&& copy)
 {
     for (const std::string& file : files) {
         MakeFolders((to / file).parent_path());
-        WriteNewFile(to / file, change(file, ReadFile(from / file)));
+        copy(from / file, to / file);
     }
 }
 
 bool HoldsTheSame(const fs::path& folder, const std::vector<std::string>& files, const fs::path& copy)
 {
     return files == FilesBelow(copy) && std::all_of(files.begin(), files.end(), [&](const std::string& file) {
-               return ReadFile(folder / file) == ReadFile(copy / file);
+               return HoldTheSame(folder / file, copy / file);
            });
 }
 
@@ -143,7 +143,7 @@ CopyOutcome CopyStore::Take(const fs::path& folder, std::chrono::system_clock::t
         return CopyOutcome::Unchanged;
     }
     PassingFolder passing(root_ / kNew);
-    CopyFiles(folder, passing.Place(), files, [](const std::string&, std::string bytes) { return bytes; });
+    CopyFiles(folder, passing.Place(), files, CopyNewFile);
     WriteNewFile(passing.Place() / kOrigin, folder.string());
     passing.PutInPlace(root_ / NameOf(copies.empty() ? 1 : copies.back().number + 1, now));
     Thin(folder);
@@ -163,15 +163,18 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
     std::vector<std::string> elsewhere;
     MakeFolders(target.parent_path());
     PassingFolder passing(target.parent_path() / ("." + target.filename().string() + kNew));
-    CopyFiles(copy.place, passing.Place(), FilesBelow(copy.place), [&](const std::string& file, std::string bytes) {
-        if (const fs::path name = fs::path(file).filename(); name == "nomeload" || name == "nometab") {
-            if (bytes.starts_with(origin)) {
-                bytes.replace(0, origin.size(), place);
-            } else if (!bytes.starts_with("\"\"")) {
-                elsewhere.push_back(file);
-            }
+    CopyFiles(copy.place, passing.Place(), FilesBelow(copy.place), [&](const fs::path& from, const fs::path& to) {
+        if (from.filename() != "nomeload" && from.filename() != "nometab") {
+            CopyNewFile(from, to);
+            return;
         }
-        return bytes;
+        std::string bytes = ReadFile(from);
+        if (bytes.starts_with(origin)) {
+            bytes.replace(0, origin.size(), place);
+        } else if (!bytes.starts_with("\"\"")) {
+            elsewhere.push_back(from.lexically_relative(copy.place).string());
+        }
+        WriteNewFile(to, bytes);
     });
     // Takes the place of an empty folder, too.
     passing.PutInPlace(target);

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -48,6 +49,85 @@ int OpenOrFail(const fs::path& path, int flags)
     return file;
 }
 
+/// Reads a file piece by piece, each but the last of the same length: it may be longer than the memory is.
+class PieceReader
+{
+public:
+    explicit PieceReader(const fs::path& path) : path_(path), file_(OpenOrFail(path, O_RDONLY)) {}
+
+    /// What comes next, empty at the end.
+    std::string_view Next()
+    {
+        std::size_t filled = 0;
+        while (filled < piece_.size()) {
+            const ssize_t count =
+                Again([&] { return ::read(file_.Number(), piece_.data() + filled, piece_.size() - filled); });
+            if (count < 0) {
+                throw FileFailure(path_, errno);
+            }
+            if (count == 0) {
+                break;
+            }
+            filled += static_cast<std::size_t>(count);
+        }
+        return {piece_.data(), filled};
+    }
+
+private:
+    fs::path path_;
+    Descriptor file_;
+    std::array<char, 1 << 16> piece_;
+};
+
+bool IsZeros(std::string_view bytes)
+{
+    return bytes.front() == 0 && std::memcmp(bytes.data(), bytes.data() + 1, bytes.size() - 1) == 0;
+}
+
+/// A file that must not be there yet, for its owner alone.
+class NewFile
+{
+public:
+    explicit NewFile(const fs::path& path) : path_(path), file_(OpenOrFail(path, O_WRONLY | O_CREAT | O_EXCL)) {}
+
+    void Write(std::string_view bytes)
+    {
+        length_ += static_cast<off_t>(bytes.size());
+        while (!bytes.empty()) {
+            const ssize_t count = Again([&] { return ::write(file_.Number(), bytes.data(), bytes.size()); });
+            if (count < 0) {
+                throw FileFailure(path_, errno);
+            }
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        }
+    }
+
+    /// Leaves a hole in place of so many zeros, which takes no room on the disk.
+    void WriteZeros(std::size_t count)
+    {
+        length_ += static_cast<off_t>(count);
+        if (::lseek(file_.Number(), length_, SEEK_SET) < 0) {
+            throw FileFailure(path_, errno);
+        }
+    }
+
+    /// Brings it to the disk.
+    void Finish()
+    {
+        if (Again([&] { return ::ftruncate(file_.Number(), length_); }) != 0) {
+            throw FileFailure(path_, errno);
+        }
+        if (Again([&] { return ::fsync(file_.Number()); }) != 0 || !file_.Close()) {
+            throw FileFailure(path_, errno);
+        }
+    }
+
+private:
+    fs::path path_;
+    Descriptor file_;
+    off_t length_ = 0;
+};
+
 } // namespace
 
 FileFailure::FileFailure(const fs::path& path, int errnoValue)
@@ -68,34 +148,46 @@ bool Descriptor::Close()
 
 std::string ReadFile(const fs::path& path)
 {
-    const Descriptor file(OpenOrFail(path, O_RDONLY));
+    PieceReader file(path);
     std::string bytes;
-    std::array<char, 1 << 16> piece;
-    for (;;) {
-        const ssize_t count = Again([&] { return ::read(file.Number(), piece.data(), piece.size()); });
-        if (count < 0) {
-            throw FileFailure(path, errno);
-        }
-        if (count == 0) {
-            return bytes;
-        }
-        bytes.append(piece.data(), static_cast<std::size_t>(count));
+    for (std::string_view piece = file.Next(); !piece.empty(); piece = file.Next()) {
+        bytes.append(piece);
     }
+    return bytes;
+}
+
+bool HoldTheSame(const fs::path& one, const fs::path& other)
+{
+    PieceReader first(one);
+    PieceReader second(other);
+    std::string_view a = first.Next();
+    std::string_view b = second.Next();
+    while (!a.empty() && a == b) {
+        a = first.Next();
+        b = second.Next();
+    }
+    return a == b;
 }
 
 void WriteNewFile(const fs::path& path, std::string_view bytes)
 {
-    Descriptor file(OpenOrFail(path, O_WRONLY | O_CREAT | O_EXCL));
-    while (!bytes.empty()) {
-        const ssize_t count = Again([&] { return ::write(file.Number(), bytes.data(), bytes.size()); });
-        if (count < 0) {
-            throw FileFailure(path, errno);
+    NewFile file(path);
+    file.Write(bytes);
+    file.Finish();
+}
+
+void CopyNewFile(const fs::path& from, const fs::path& to)
+{
+    PieceReader source(from);
+    NewFile target(to);
+    for (std::string_view piece = source.Next(); !piece.empty(); piece = source.Next()) {
+        if (IsZeros(piece)) {
+            target.WriteZeros(piece.size());
+        } else {
+            target.Write(piece);
         }
-        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
-    if (Again([&] { return ::fsync(file.Number()); }) != 0 || !file.Close()) {
-        throw FileFailure(path, errno);
-    }
+    target.Finish();
 }
 
 void MakeFolders(const fs::path& path)

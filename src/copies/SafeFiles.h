@@ -39,8 +39,14 @@ private:
 /// The whole file. Raises FileFailure, as everything below.
 std::string ReadFile(const std::filesystem::path& path);
 
+/// True when two files have the same bytes, however long they are.
+bool HoldTheSame(const std::filesystem::path& one, const std::filesystem::path& other);
+
 /// Writes a file that must not be there yet, for its owner alone, and brings it to the disk.
 void WriteNewFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// The same with the bytes of another file, however long it is.
+void CopyNewFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Makes a folder for its owner alone, and those above it that are missing.
 void MakeFolders(const std::filesystem::path& path);

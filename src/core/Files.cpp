@@ -73,6 +73,14 @@ fs::path ResolveCase(const fs::path& path)
     throw ErroreRunTime(folderExists && mode == OpenMode::Input ? Errore::FileNonTrovato : Errore::PercorsoNonTrovato);
 }
 
+/// True for a regular file, and for one of which the system can't tell what it is.
+bool MayBeRegular(const fs::directory_entry& entry)
+{
+    std::error_code failed;
+    const fs::file_status status = entry.status(failed);
+    return fs::is_regular_file(status) || (!fs::status_known(status) && failed.value() != ELOOP);
+}
+
 /// The regular files of a folder, hidden ones left out, sorted; as far as they could be read when it failed.
 std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
 {
@@ -83,9 +91,8 @@ std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
     }
     for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
          entry.increment(failed)) {
-        std::error_code ignored;
         const std::string name = Utf8Of(entry->path().filename());
-        if (!name.starts_with('.') && entry->is_regular_file(ignored)) {
+        if (!name.starts_with('.') && MayBeRegular(*entry)) {
             names.push_back(FromUtf8(name));
         }
     }
@@ -107,6 +114,10 @@ void SetProgramFolder(TextView folder)
 
 fs::path NativePath(TextView path)
 {
+    // The system would take such a name for the one that ends there.
+    if (path.find('\0') != TextView::npos) {
+        throw ErroreRunTime(Errore::NomeFileNonValido);
+    }
     const fs::path native = FromSystem(path);
     if (path.empty() || native.parent_path() == native.root_path()) {
         throw ErroreRunTime(Errore::PercorsoNonTrovato);
@@ -130,6 +141,7 @@ int ErrorOfErrno(int errnoValue)
     case EPERM:
     case EROFS:
     case EISDIR:
+    case ELOOP:
     case EEXIST: return Errore::AccessoPercorso;
     case ETXTBSY:
     case EBUSY:
@@ -153,7 +165,9 @@ FileHandle OpenFile(TextView path, OpenMode mode)
     const fs::path native = NativePath(path);
     std::error_code ignored;
     const fs::file_status status = fs::status(native, ignored);
-    if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_character_file(status)) {
+    // A pipe or a device may never end, or never begin.
+    const bool takesText = fs::is_character_file(status) && mode == OpenMode::Output;
+    if (fs::exists(status) && !fs::is_regular_file(status) && !takesText) {
         throw ErroreRunTime(Errore::AccessoPercorso);
     }
     errno = 0;

@@ -18,7 +18,7 @@ void SetProgramFolder(TextView folder);
 
 /// A path of the system, in backslash form, as the machine takes it. A name that is absent falls back to the single
 /// entry of its folder that differs from it only in case. Raises error 76 for the empty path and for a name right
-/// under the root, which is what a path becomes whose folder is unknown.
+/// under the root, which is what a path becomes whose folder is unknown; 52 for a path with a character 0.
 std::filesystem::path NativePath(TextView path);
 
 /// A path of the machine (UTF-8) in backslash form.
@@ -32,7 +32,8 @@ struct FileCloser {
 using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Opens a file whole, unbuffered; Output creates or empties it at once. Raises error 53 for a missing file at Input,
-/// 76 for a missing folder, 75 for no permission or for a folder, and the others of ErrorOfErrno.
+/// 76 for a missing folder, 75 for no permission and for anything but a file (at Output also a character device), and
+/// the others of ErrorOfErrno.
 FileHandle OpenFile(TextView path, OpenMode mode);
 
 /// The error number of a failed call of the system on a file: 52, 57, 61, 67, 70, 75 or 76.
@@ -41,7 +42,8 @@ int ErrorOfErrno(int errnoValue);
 /// The name of the folder at `path` if there is one, else the empty text.
 Text FindFolder(TextView path);
 
-/// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent.
+/// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent. One
+/// that the system can't look at counts as a file.
 /// Raises error 75 for a folder that may not be read, and the others of ErrorOfErrno.
 std::vector<Text> FilesIn(TextView folder);
 

@@ -22,6 +22,9 @@ constexpr std::size_t kChunk = 1 << 9;
 constexpr std::size_t kChunk = 1 << 15;
 #endif
 
+// Far more than any text of a diary. A file without end, or one with a hole, must not fill the memory.
+constexpr std::size_t kLongestValue = 1 << 26;
+
 bool IsBlank(char c)
 {
     return c == ' ' || c == '\t';
@@ -214,13 +217,23 @@ void ValueReader::SkipSeparator()
     }
 }
 
-ValueReader::Value ValueReader::NextQuoted()
+/// Reads on in a value of which so many bytes are in the buffer; false at the end of the file. Raises `tooLong` instead
+/// when it is longer than any value.
+bool ValueReader::MoreOfValue(std::size_t length, int tooLong)
+{
+    if (length > kLongestValue) {
+        throw ErroreRunTime(tooLong);
+    }
+    return More();
+}
+
+ValueReader::Value ValueReader::NextQuoted(int tooLong)
 {
     std::size_t searched = position_ + 1;
     std::size_t close = 0;
     while ((close = buffer_.find('"', searched)) == std::string::npos) {
         const std::size_t length = buffer_.size() - position_;
-        if (!More()) {
+        if (!MoreOfValue(length, tooLong)) {
             position_ = buffer_.size();
             throw ErroreRunTime(Errore::FineFile);
         }
@@ -231,13 +244,13 @@ ValueReader::Value ValueReader::NextQuoted()
     return {bytes, true};
 }
 
-ValueReader::Value ValueReader::NextPlain()
+ValueReader::Value ValueReader::NextPlain(int tooLong)
 {
     std::size_t searched = position_;
     std::size_t end = 0;
     while ((end = buffer_.find_first_of(",\r\n", searched)) == std::string::npos) {
         const std::size_t length = buffer_.size() - position_;
-        if (!More()) {
+        if (!MoreOfValue(length, tooLong)) {
             end = buffer_.size();
             break;
         }
@@ -248,13 +261,13 @@ ValueReader::Value ValueReader::NextPlain()
     return {TrimBlanks(bytes), false};
 }
 
-ValueReader::Value ValueReader::Next()
+ValueReader::Value ValueReader::Next(int tooLong)
 {
     SkipBlanks();
     if (AtEnd()) {
         throw ErroreRunTime(Errore::FineFile);
     }
-    return buffer_[position_] == '"' ? NextQuoted() : NextPlain();
+    return buffer_[position_] == '"' ? NextQuoted(tooLong) : NextPlain(tooLong);
 }
 
 /// Takes the value that nearly every line of a diary is: a text in quotes and CR LF, all of it in the buffer. False
@@ -284,7 +297,7 @@ void ValueReader::Input(Text& text)
     if (InputQuotedLine(text)) {
         return;
     }
-    const Value value = Next();
+    const Value value = Next(Errore::MemoriaEsaurita);
     text.assign(value.bytes);
     if (value.quoted) {
         SkipBlanks();
@@ -294,7 +307,7 @@ void ValueReader::Input(Text& text)
 
 TextView ValueReader::NextNumber()
 {
-    const Value value = Next();
+    const Value value = Next(Errore::TipoNonCorrispondente);
     if (value.quoted) {
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }

@@ -64,6 +64,7 @@ public:
     /// Raises what OpenFile raises.
     explicit ValueReader(TextView path);
 
+    /// Raises error 7 when the text does not end within 128 MiB.
     void Input(Text& text);
 
     /// Raise error 13 on anything but a number, 6 on one out of range; a fraction is rounded, ties to even.
@@ -82,12 +83,13 @@ private:
     };
 
     bool InputQuotedLine(Text& text);
-    Value Next();
-    Value NextQuoted();
-    Value NextPlain();
+    Value Next(int tooLong);
+    Value NextQuoted(int tooLong);
+    Value NextPlain(int tooLong);
     void SkipBlanks();
     void SkipSeparator();
     bool More();
+    bool MoreOfValue(std::size_t length, int tooLong);
     TextView NextNumber();
 
     template <typename Integer>

@@ -32,7 +32,7 @@ void AzzeraTotali(TotaliRicerca& totali);
 void SommaTempi(TotaliRicerca& totali, TextView tempo);
 
 /// Adds the average of the run counted last, minutes:seconds. Raises error 5, and changes nothing, when one of the two
-/// is longer than three characters.
+/// is longer than three characters; error 13, and adds nothing, when the seconds are below 0.
 void SommaMedia(TotaliRicerca& totali, TextView media);
 
 /// Carries whole thousands of metres over to the kilometres.

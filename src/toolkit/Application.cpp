@@ -20,6 +20,7 @@
 #include <QTranslator>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <vector>
 
@@ -123,7 +124,11 @@ QCursor LoadCursor(TextView path)
     constexpr std::size_t headerSize = 14;
     std::array<unsigned char, headerSize> header{};
     const FileHandle file = OpenFile(path, OpenMode::Input);
+    errno = 0;
     const bool complete = std::fread(header.data(), 1, header.size(), file.get()) == header.size();
+    if (std::ferror(file.get()) != 0) {
+        throw ErroreRunTime(ErrorOfErrno(errno));
+    }
     QImageReader reader(QString::fromStdString(NativePath(path).string()), "cur");
     const QImage image = complete && header[2] == 2 ? reader.read() : QImage();
     if (image.isNull()) {

@@ -13,6 +13,8 @@
 #include <ctime>
 #include <functional>
 #include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 using namespace zelvia;
 using namespace zelvia::test;
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void AnotherProcessIsWaitedFor();
     void AFailureLeavesTheCopiesAlone_data();
     void AFailureLeavesTheCopiesAlone();
+    void AFileWithAHole();
     void PuttingBack_data();
     void PuttingBack();
     void PuttingBackIsRefused_data();
@@ -318,6 +321,28 @@ void CopyStoreTest::AFailureLeavesTheCopiesAlone()
     obstacle(*temp_);
     QVERIFY_THROWS_EXCEPTION(FileFailure, TakeAt(kNoon));
     QCOMPARE(Names(), QString());
+}
+
+/// A file longer than it has bytes on the disk: it is copied and compared without being held in memory, and its copy
+/// takes no more room.
+void CopyStoreTest::AFileWithAHole()
+{
+    constexpr std::uintmax_t length = std::uintmax_t{1} << 28;
+    const std::string modo = temp_->Native("Zelvia/prova/Modo.lsx");
+    temp_->Write("Zelvia/prova/Modo.lsx", "lista");
+    std::filesystem::resize_file(modo, length);
+    QCOMPARE(TakeAt(kNoon), CopyOutcome::Made);
+    QCOMPARE(TakeAt("2026-11-21 12:00:01"), CopyOutcome::Unchanged);
+    const std::vector<Copy> copies = CopyStore(Root()).List();
+    QCOMPARE(copies.size(), std::size_t(1));
+    QCOMPARE(std::filesystem::file_size(copies.front().place / "prova/Modo.lsx"), length);
+    struct stat copied {
+    };
+    QCOMPARE(stat((copies.front().place / "prova/Modo.lsx").c_str(), &copied), 0);
+    QVERIFY(copied.st_blocks < 1024);
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    QVERIFY(usage.ru_maxrss < 250 * 1024);
 }
 
 void CopyStoreTest::PuttingBack_data()

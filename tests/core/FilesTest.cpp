@@ -57,6 +57,7 @@ void FilesTest::OpeningFails_data()
     QTest::newRow("a folder, backslash at its end") << QByteArray("cartella\\") << 75 << 75;
     QTest::newRow("a link to a folder") << QByteArray("legame") << 75 << 75;
     QTest::newRow("a name too long") << QByteArray(300, 'n') << 52 << 52;
+    QTest::newRow("a character 0 in the name") << QByteArray("file\0x", 6) << 52 << 52;
     QTest::newRow("right under the root") << QByteArray("\\nometab") << 76 << 76;
     QTest::newRow("the root") << QByteArray("\\") << 76 << 76;
     QTest::newRow("empty") << QByteArray() << 76 << 76;
@@ -155,6 +156,7 @@ void FilesTest::ErrorsOfTheSystem_data()
     QTest::newRow("EPERM") << EPERM << 75;
     QTest::newRow("EROFS") << EROFS << 75;
     QTest::newRow("EISDIR") << EISDIR << 75;
+    QTest::newRow("ELOOP") << ELOOP << 75;
     QTest::newRow("ETXTBSY") << ETXTBSY << 70;
     QTest::newRow("EBUSY") << EBUSY << 70;
     QTest::newRow("EAGAIN") << EAGAIN << 70;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "faults/FaultyDisk.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
@@ -42,6 +43,7 @@ constexpr size_t kPiece = 1 << 18;
 struct Stream {
     int descriptor;
     std::string path;
+    bool writes;
     std::vector<char> buffer;
 };
 
@@ -53,10 +55,10 @@ std::set<std::FILE*>& BufferedStreams()
 }
 
 /// False, with errno set, when the disk lets this call fail.
-bool Allows(Call call, const std::string& path)
+bool Allows(Call call, const std::string& path, bool writes = false)
 {
     FaultyDisk* disk = FaultyDisk::Watching(path.c_str());
-    return disk == nullptr || !disk->Fails(call, path);
+    return disk == nullptr || !disk->Fails(call, path, writes);
 }
 
 ssize_t ReadStream(void* cookie, char* buffer, size_t size)
@@ -71,7 +73,7 @@ ssize_t WriteStream(void* cookie, const char* buffer, size_t size)
     const auto& stream = *static_cast<Stream*>(cookie);
     int fault = 0;
     size_t left = size;
-    if (!Allows(Call::Write, stream.path)) {
+    if (!Allows(Call::Write, stream.path, true)) {
         fault = errno;
         left = fault == ENOSPC || fault == EDQUOT || fault == EFBIG ? size / 2 : 0;
     }
@@ -93,20 +95,20 @@ int CloseStream(void* cookie)
 {
     const std::unique_ptr<Stream> stream(static_cast<Stream*>(cookie));
     const int closed = close(stream->descriptor);
-    return Allows(Call::Close, stream->path) ? closed : -1;
+    return Allows(Call::Close, stream->path, stream->writes) ? closed : -1;
 }
 
 std::FILE* OpenStream(const char* path, const char* mode)
 {
-    if (!Allows(Call::Open, path)) {
+    const bool reads = *mode == 'r';
+    if (!Allows(Call::Open, path, !reads)) {
         return nullptr;
     }
-    const bool reads = *mode == 'r';
     const int descriptor = open(path, reads ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (descriptor < 0) {
         return nullptr;
     }
-    auto* stream = new Stream{descriptor, path, std::vector<char>(reads ? kPiece : 0)};
+    auto* stream = new Stream{descriptor, path, !reads, std::vector<char>(reads ? kPiece : 0)};
     std::FILE* file = fopencookie(stream, mode, {ReadStream, WriteStream, nullptr, CloseStream});
     if (reads) {
         std::setvbuf(file, stream->buffer.data(), _IOFBF, kPiece);
@@ -144,9 +146,13 @@ FaultyDisk* FaultyDisk::Watching(const char* path)
     return watches ? disk : nullptr;
 }
 
-bool FaultyDisk::Fails(Call call, const std::string& path)
+bool FaultyDisk::Fails(Call call, const std::string& path, bool writes)
 {
-    if (call != fault_.call || !path.ends_with(fault_.name) || ++count_ != fault_.nth) {
+    if (call != fault_.call || !path.ends_with(fault_.name)) {
+        return false;
+    }
+    calls_.push_back({path.substr(std::min(path.size(), folder_.size() + 1)), writes});
+    if (static_cast<int>(calls_.size()) != fault_.nth) {
         return false;
     }
     struck_ = true;
@@ -221,6 +227,18 @@ int mkdir(const char* path, mode_t mode) noexcept
 {
     static const auto next = Next<int (*)(const char*, mode_t)>("mkdir");
     return Allows(Call::Make, path) ? next(path, mode) : -1;
+}
+
+int stat(const char* path, struct stat* result) noexcept
+{
+    static const auto next = Next<int (*)(const char*, struct stat*)>("stat");
+    return Allows(Call::Look, path) ? next(path, result) : -1;
+}
+
+int lstat(const char* path, struct stat* result) noexcept
+{
+    static const auto next = Next<int (*)(const char*, struct stat*)>("lstat");
+    return Allows(Call::Look, path) ? next(path, result) : -1;
 }
 
 int remove(const char* path) noexcept

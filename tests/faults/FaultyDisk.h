@@ -11,8 +11,16 @@ namespace zelvia::test
 {
 
 /// What is asked of the system for a file: opening it, reading, writing and closing it; listing a folder, the next of
-/// its names; making a folder; deleting a file.
-enum class Call { Open, Read, Write, Close, List, NextName, Make, Delete };
+/// its names; making a folder; deleting a file; looking at what a path leads to.
+enum class Call { Open, Read, Write, Close, List, NextName, Make, Delete, Look };
+
+/// A call as it came.
+struct Caught {
+    std::string path; ///< From the folder on; empty for the folder itself.
+    bool writes;      ///< Of a file that is open, or is to be opened, for writing.
+
+    bool operator==(const Caught&) const = default;
+};
 
 /// The call that goes wrong.
 struct Fault {
@@ -38,10 +46,12 @@ public:
     bool Struck() const { return struck_; }
     /// The names of the files opened so far, in order, from the folder on.
     const std::vector<std::string>& Opened() const { return opened_; }
+    /// The calls of the fault's kind so far, in order.
+    const std::vector<Caught>& Calls() const { return calls_; }
 
     // For the catching functions.
     static FaultyDisk* Watching(const char* path);
-    bool Fails(Call call, const std::string& path);
+    bool Fails(Call call, const std::string& path, bool writes);
     void NoteOpen(const std::string& path) { opened_.push_back(path.substr(folder_.size() + 1)); }
     int Error() const { return fault_.error; }
 
@@ -49,9 +59,9 @@ private:
     std::string folder_;
     Fault fault_;
     std::thread::id thread_ = std::this_thread::get_id();
-    int count_ = 0;
     bool struck_ = false;
     std::vector<std::string> opened_;
+    std::vector<Caught> calls_;
 };
 
 /// How many files this process holds open.

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <span>
 
 using namespace zelvia;
@@ -36,6 +37,10 @@ private Q_SLOTS:
     void Deleting();
     void ListingAFolder_data();
     void ListingAFolder();
+    void LookingAtAFile_data();
+    void LookingAtAFile();
+    void LookingAtTheNames_data();
+    void LookingAtTheNames();
 
 private:
     std::string WriteOnce(const SavedFile& file, const Fault& fault, int error);
@@ -57,33 +62,20 @@ struct Failure {
     int error; ///< Of the report; 0 when the failure does not matter.
 };
 
-// For every file.
 constexpr Failure kWriteFailures[] = {
-    {Call::Open, EACCES, 75}, {Call::Open, ENOENT, 76}, {Call::Write, ENOSPC, 61},
-    {Call::Write, EIO, 57},   {Call::Close, EIO, 57},
+    {Call::Open, EACCES, 75},  {Call::Open, ENOENT, 76},       {Call::Write, ENOSPC, 61}, {Call::Write, EIO, 57},
+    {Call::Close, EIO, 57},    {Call::Open, ELOOP, 75},        {Call::Open, EPERM, 75},   {Call::Open, EROFS, 75},
+    {Call::Open, EISDIR, 75},  {Call::Open, ENOTDIR, 76},      {Call::Open, ENOSPC, 61},  {Call::Open, EDQUOT, 61},
+    {Call::Open, EMFILE, 67},  {Call::Open, ENFILE, 67},       {Call::Open, EIO, 57},     {Call::Open, EBUSY, 70},
+    {Call::Open, ETXTBSY, 70}, {Call::Open, ENAMETOOLONG, 52}, {Call::Write, EDQUOT, 61}, {Call::Write, EFBIG, 61},
+    {Call::Close, ENOSPC, 61}, {Call::Close, EDQUOT, 61},
 };
 
 constexpr Failure kReadFailures[] = {
-    {Call::Open, EACCES, 75},
-    {Call::Open, ENOENT, 53},
-    {Call::Read, EIO, 57},
-    {Call::Close, EIO, 0},
-};
-
-// The other reasons, for one file: the numbers are found in one place for all.
-constexpr const char* kFileOfReasons = "CalendarioGare";
-
-constexpr Failure kWriteReasons[] = {
-    {Call::Open, EPERM, 75},   {Call::Open, EROFS, 75},  {Call::Open, EISDIR, 75},  {Call::Open, ENOTDIR, 76},
-    {Call::Open, ENOSPC, 61},  {Call::Open, EDQUOT, 61}, {Call::Open, EMFILE, 67},  {Call::Open, ENFILE, 67},
-    {Call::Open, EIO, 57},     {Call::Open, EBUSY, 70},  {Call::Open, ETXTBSY, 70}, {Call::Open, ENAMETOOLONG, 52},
-    {Call::Write, EDQUOT, 61}, {Call::Write, EFBIG, 61}, {Call::Close, ENOSPC, 61}, {Call::Close, EDQUOT, 61},
-};
-
-constexpr Failure kReadReasons[] = {
-    {Call::Open, EPERM, 75},  {Call::Open, EISDIR, 75}, {Call::Open, ENOTDIR, 76}, {Call::Open, EMFILE, 67},
-    {Call::Open, ENFILE, 67}, {Call::Open, EIO, 57},    {Call::Open, EBUSY, 70},   {Call::Open, ENAMETOOLONG, 52},
-    {Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70},
+    {Call::Open, EACCES, 75},  {Call::Open, ENOENT, 53},       {Call::Read, EIO, 57},    {Call::Close, EIO, 0},
+    {Call::Open, EROFS, 75},   {Call::Open, ELOOP, 75},        {Call::Open, EPERM, 75},  {Call::Open, EISDIR, 75},
+    {Call::Open, ENOTDIR, 76}, {Call::Open, EMFILE, 67},       {Call::Open, ENFILE, 67}, {Call::Open, EIO, 57},
+    {Call::Open, EBUSY, 70},   {Call::Open, ENAMETOOLONG, 52}, {Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70},
 };
 
 constexpr Failure kFolderFailures[] = {
@@ -97,6 +89,12 @@ constexpr Failure kDeleteFailures[] = {
     {Call::Delete, EIO, 57},    {Call::Delete, ETXTBSY, 70}, {Call::Delete, ENOENT, 53},
 };
 
+// What can't be looked at is opened all the same.
+constexpr Failure kLookFailures[] = {
+    {Call::Look, EACCES, 0},
+    {Call::Look, ENOENT, 0},
+};
+
 constexpr Failure kListFailures[] = {
     {Call::List, EACCES, 75}, {Call::List, EPERM, 75}, {Call::List, EMFILE, 67},
     {Call::List, ENFILE, 67}, {Call::List, EIO, 57},   {Call::NextName, EIO, 57},
@@ -104,7 +102,7 @@ constexpr Failure kListFailures[] = {
 
 QByteArray NameOf(const Failure& failure)
 {
-    constexpr const char* calls[] = {"open", "read", "write", "close", "list", "next name", "make", "delete"};
+    constexpr const char* calls[] = {"open", "read", "write", "close", "list", "next name", "make", "delete", "look"};
     return QByteArray(calls[static_cast<int>(failure.call)]) + ", " + strerrorname_np(failure.reason);
 }
 
@@ -128,18 +126,14 @@ void AddFailures(std::span<const Failure> failures)
     }
 }
 
-void AddFilesWithFailures(std::span<const Failure> failures, std::span<const Failure> reasons)
+void AddFilesWithFailures(std::span<const Failure> failures)
 {
     QTest::addColumn<int>("file");
     AddColumns();
     for (std::size_t i = 0; i < SavedFiles().size(); ++i) {
         const QByteArray name = SavedFiles()[i].name;
-        const auto add = [&](const Failure& failure) {
+        for (const Failure& failure : failures) {
             QTest::newRow((name + ": " + NameOf(failure)).constData()) << static_cast<int>(i) << failure;
-        };
-        std::for_each(failures.begin(), failures.end(), add);
-        if (name == kFileOfReasons) {
-            std::for_each(reasons.begin(), reasons.end(), add);
         }
     }
 }
@@ -158,7 +152,7 @@ void FileFaultsTest::init()
 
 void FileFaultsTest::Writing_data()
 {
-    AddFilesWithFailures(kWriteFailures, kWriteReasons);
+    AddFilesWithFailures(kWriteFailures);
 }
 
 /// Writes over an old file and returns what is there then.
@@ -212,7 +206,7 @@ void FileFaultsTest::Writing()
 
 void FileFaultsTest::Reading_data()
 {
-    AddFilesWithFailures(kReadFailures, kReadReasons);
+    AddFilesWithFailures(kReadFailures);
 }
 
 /// Reads over other values.
@@ -334,6 +328,70 @@ void FileFaultsTest::ListingAFolder()
     }
     // The folder, or its two files, the two names of the folders and the end.
     QCOMPARE(failed, static_cast<Call>(call) == Call::List ? 1 : 5);
+}
+
+void FileFaultsTest::LookingAtAFile_data()
+{
+    AddFilesWithFailures(kLookFailures);
+}
+
+/// A failure of a look alone neither stops a save or a load nor changes what comes of it.
+void FileFaultsTest::LookingAtAFile()
+{
+    QFETCH(int, file);
+    QFETCH(int, reason);
+    const SavedFile& saved = FileOf(file);
+    const auto looks = [&](const std::function<void()>& work) {
+        int n = 0;
+        for (bool struck = true; struck;) {
+            const FaultyDisk disk(folder_.Native(), {Call::Look, ++n, reason, {}, {}});
+            const MessageScript none;
+            work();
+            struck = disk.Struck();
+        }
+        return n - 1;
+    };
+    saved.fill();
+    const std::vector<std::string> filed = saved.lines();
+    folder_.Write(saved.name, "vecchio");
+    QVERIFY(looks([&] {
+                saved.write();
+                QCOMPARE(Difference(folder_.Read(saved.name), Lines(filed)), QByteArray());
+                folder_.Write(saved.name, "vecchio");
+            }) >= 2);
+    folder_.Write(saved.name, Lines(filed));
+    QVERIFY(looks([&] {
+                saved.forget();
+                saved.read();
+                QVERIFY(saved.lines() == filed);
+            }) >= 2);
+}
+
+void FileFaultsTest::LookingAtTheNames_data()
+{
+    AddColumns();
+    for (const auto& [reason, counted] :
+         {std::pair(EACCES, 1), std::pair(EIO, 1), std::pair(ENOENT, 0), std::pair(ELOOP, 0)}) {
+        QTest::newRow(strerrorname_np(reason)) << static_cast<int>(Call::Look) << reason << counted;
+    }
+}
+
+/// A link that can't be followed counts as a file, so that its folder is never taken for an empty one; one that leads
+/// nowhere does not.
+void FileFaultsTest::LookingAtTheNames()
+{
+    QFETCH(int, reason);
+    QFETCH(int, error);
+    const TempFolder folder;
+    folder.MakeFolder("prova");
+    folder.Write("altrove", "x");
+    std::filesystem::create_symlink(folder.Native("altrove"), folder.Native("prova/nome"));
+    {
+        const FaultyDisk disk(folder.Native(), {Call::Look, 1, reason, "/nome", {}});
+        QCOMPARE(FilesIn(folder.Path("prova")).size(), static_cast<std::size_t>(error));
+        QVERIFY(disk.Struck());
+    }
+    QCOMPARE(FilesIn(folder.Path("prova")), std::vector<Text>{"nome"});
 }
 
 QTEST_APPLESS_MAIN(FileFaultsTest)

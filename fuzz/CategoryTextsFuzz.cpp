@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The texts of distances and repetitions: six numbers of a day, and behind them a row to be taken apart.
+#include "Harness.h"
+#include "Reference.h"
+#include "statistics/CategoryTexts.h"
+
+#include <array>
+
+using namespace zelvia;
+using namespace zelvia::fuzz;
+
+namespace
+{
+
+constexpr auto kNone = Text::npos;
+
+/// From `first` to before `last`, where both stand in the text in that order.
+std::optional<Text> Between(const Text& row, std::size_t first, std::size_t last)
+{
+    if (first == kNone || last == kNone || last < first) {
+        return std::nullopt;
+    }
+    return row.substr(first + 1, last - first - 1);
+}
+
+Text Before(const Text& row, char mark)
+{
+    const auto at = row.find(mark);
+    return at == kNone ? Text() : row.substr(0, at);
+}
+
+/// A missing mark stands just before the text.
+Text Behind(const Text& row, std::size_t mark)
+{
+    return row.substr(mark == kNone ? 0 : mark + 1);
+}
+
+/// One of the six routines and its piece, cut by hand; none where there is no such piece.
+struct Routine {
+    i16 (*piece)(TextView);
+    std::optional<Text> (*cut)(const Text& row);
+};
+
+constexpr std::array<Routine, 6> kRoutines = {{
+    {PezzoKm, [](const Text& row) { return std::optional(Before(row, ',')); }},
+    {PezzoMetri, [](const Text& row) { return std::optional(Behind(row, row.find(','))); }},
+    {PezzoVolte, [](const Text& row) { return std::optional(Before(row, 'x')); }},
+    {PezzoDistanza, [](const Text& row) { return Between(row, row.rfind('x'), row.rfind('@')); }},
+    {PezzoQuante, [](const Text& row) { return Between(row, row.rfind('@'), row.rfind(':')); }},
+    {PezzoTempi, [](const Text& row) { return std::optional(Behind(row, row.rfind(':'))); }},
+}};
+
+void CheckPiece(const Routine& routine, const Text& row)
+{
+    i16 number;
+    const int error = RaisedBy([&] { number = routine.piece(row); });
+    const auto piece = routine.cut(row);
+    const auto expected = piece ? PlainShort(*piece) : std::nullopt;
+    Require(error == (!piece ? Errore::ArgomentoNonValido : !expected ? Errore::Overflow : 0), "the error of a piece");
+    Require(error != 0 || number == *expected, "the number of a piece");
+}
+
+/// What a text is built from comes out of it again.
+void CheckReturn(const RecordGiorno& day)
+{
+    const Text distance = TestoKm(day);
+    Require(PezzoKm(distance) == day.Km && PezzoMetri(distance) == day.Metri, "the distance comes back");
+    const Text repetitions = TestoRipetizioni(day);
+    Require(PezzoVolte(repetitions) == day.Ripetizioni && PezzoDistanza(repetitions) == day.RipetizioniDistanza,
+            "the repetitions and their distance come back");
+    Require(PezzoQuante(repetitions) == day.RipetizioniQuante && PezzoTempi(repetitions) == day.RipetizioniTempi,
+            "the time of the repetitions comes back");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Bytes input(data, size);
+    RecordGiorno day;
+    for (i16 RecordGiorno::*number :
+         {&RecordGiorno::Km, &RecordGiorno::Metri, &RecordGiorno::Ripetizioni, &RecordGiorno::RipetizioniDistanza,
+          &RecordGiorno::RipetizioniQuante, &RecordGiorno::RipetizioniTempi}) {
+        day.*number = input.Take<std::int16_t>();
+    }
+    CheckReturn(day);
+    const Text row = input.Rest();
+    for (const Routine& routine : kRoutines) {
+        CheckPiece(routine, row);
+    }
+    return 0;
+}
