@@ -93,7 +93,7 @@ bool TextBox::TypeCharacters(const QString& characters)
     }
     for (const char32_t codePoint : codePoints) {
         const int byte = IsControl(codePoint) ? -1 : ByteOf(codePoint);
-        if (byte >= 0 && Passes(byte) && Room() > 0) {
+        if (byte >= 0 && Passes(byte) && Room() > 0 && !isReadOnly()) {
             insert(QString(QChar(static_cast<char16_t>(codePoint))));
         }
     }
