@@ -51,6 +51,7 @@ TextBox::TextBox(QWidget* parent, const QString& name, int limit) : QLineEdit(pa
     setObjectName(name);
     setMaxLength(std::numeric_limits<int>::max());
     setDragEnabled(false);
+    connect(this, &QLineEdit::textEdited, this, [this] { Fire(Change); });
 }
 
 Text TextBox::Content() const

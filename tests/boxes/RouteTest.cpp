@@ -89,6 +89,8 @@ private Q_SLOTS:
     void texts();
     void sumsTakeNothing_data();
     void sumsTakeNothing();
+    void changesWithoutACharacter_data();
+    void changesWithoutACharacter();
 };
 
 void RouteTest::everyBoxHasItsRow()
@@ -217,6 +219,52 @@ void RouteTest::sumsTakeNothing()
     QCOMPARE(sum.text(), QStringLiteral("0"));
     desk.CloseRouteWindow();
     QCOMPARE(desk.Caption("lblImmisMetri"), QStringLiteral("0,0"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void RouteTest::changesWithoutACharacter_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QString>("after");
+    for (const char* name : {"txtTratto", "txtKm", "txtMetri"}) {
+        for (const auto& [way, after] : {std::pair{"pasted", "77"}, std::pair{"pasted from the menu", "77"},
+                                         std::pair{"cut", ""}, std::pair{"deleted", ""}, std::pair{"undone", ""}}) {
+            QTest::addRow("%s, %s", name, way)
+                << QString::fromLatin1(name) << QString::fromLatin1(way) << QString::fromLatin1(after);
+        }
+    }
+}
+
+void RouteTest::changesWithoutACharacter()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, way);
+    QFETCH(QString, after);
+    Desk desk;
+    desk.Begin();
+    TextBox& box = Box(*desk.RouteWindow(), qPrintable(name), 2);
+    Fill(box, {"", Entry::Typed, QStringLiteral("5")});
+    QTRY_COMPARE(box.text(), QStringLiteral("5"));
+    Module1::FileModificato = 0;
+    if (way.startsWith(QLatin1String("pasted"))) {
+        QApplication::clipboard()->setText(QStringLiteral("77"));
+    }
+    box.selectAll();
+    if (way == QLatin1String("pasted")) {
+        hand::Key(Qt::Key_V, Qt::ControlModifier);
+    } else if (way == QLatin1String("pasted from the menu")) {
+        box.paste();
+    } else if (way == QLatin1String("cut")) {
+        hand::Key(Qt::Key_X, Qt::ControlModifier);
+    } else if (way == QLatin1String("deleted")) {
+        hand::Key(Qt::Key_Delete);
+    } else {
+        hand::Key(Qt::Key_Z, Qt::ControlModifier);
+    }
+    QTRY_COMPARE(box.text(), after);
+    QVERIFY(Module1::FileModificato == 1);
+    desk.CloseRouteWindow();
     VERIFY_SCRIPT(desk.script);
 }
 
