@@ -266,7 +266,7 @@ void PageTest::lists()
                 page.CloseRouteWindow();
             }
         }
-        QCOMPARE(field.lblImmis->text(), left);
+        QTRY_COMPARE(field.lblImmis->text(), left);
         QCOMPARE(page.ListOf(number), entries);
         // The date goes on, and the day keeps its text.
         page.Up(*page->upGiorno);
@@ -320,7 +320,7 @@ void PageTest::notes()
         QTRY_COMPARE(note.txt->text(), Shown(input, kNoteLimit));
         hand::Key(Qt::Key_Escape);
         QTRY_VERIFY2(!note.txt->isVisible(), input.name);
-        QCOMPARE(note.lbl->text(), Shown(input, kNoteLimit));
+        QTRY_COMPARE(note.lbl->text(), Shown(input, kNoteLimit));
         page.Up(*page->upGiorno);
         QVERIFY(Module1::GiornoCorrente == slot + 1);
         ++slot;
