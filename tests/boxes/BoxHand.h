@@ -7,6 +7,9 @@
 
 #include <QByteArrayList>
 
+#include <algorithm>
+#include <iterator>
+
 namespace zelvia::test
 {
 
@@ -35,5 +38,28 @@ QByteArrayList Sorted(QByteArrayList names);
 /// Pastes a long text into every box of a window; the names of those that take more or fewer characters than
 /// `limitOf` their name without the index.
 QByteArrayList BoxesOfOtherLength(const QWidget& window, const std::function<int(const QByteArray& name)>& limitOf);
+
+/// A row of data for each box of numbers of a window's table, or for each of texts: its place in the table.
+template <typename Rows>
+void AddBoxRows(const Rows& rows, bool numbers)
+{
+    QTest::addColumn<int>("index");
+    int index = 0;
+    for (const auto& row : rows) {
+        if ((row.kind != nullptr) == numbers) {
+            QTest::newRow(row.name) << index;
+        }
+        ++index;
+    }
+}
+
+/// How many characters the box of that name takes by the table, -1 when it is not there.
+template <typename Rows>
+int LimitIn(const Rows& rows, const QByteArray& name)
+{
+    const auto found =
+        std::find_if(std::begin(rows), std::end(rows), [&](const auto& row) { return name == row.name; });
+    return found == std::end(rows) ? -1 : found->limit;
+}
 
 } // namespace zelvia::test

@@ -37,6 +37,8 @@ const QHash<QByteArray, QString>& ShownTexts()
         {"outside the set, typed", QStringLiteral("abc")},
         {"outside the set, pasted", QStringLiteral("a???b")},
         {"control characters", QStringLiteral("a b")},
+        // The set has the second one among its unassigned bytes.
+        {"control characters beyond 127", QStringLiteral("a?b\u0090c")},
     };
     return texts;
 }
@@ -188,7 +190,7 @@ std::span<const BadInput> NumberInputs()
 
 std::span<const BadInput> TextInputs()
 {
-    static const std::array<BadInput, 10> texts = {{
+    static const std::array<BadInput, 11> texts = {{
         {"blanks", Entry::Pasted, QString(100, u' ')},
         {"blanks around", Entry::Pasted, QStringLiteral("  Lago  ")},
         {"accented letters, typed", Entry::Typed, QStringLiteral("àèéìòù€")},
@@ -196,6 +198,7 @@ std::span<const BadInput> TextInputs()
         {"outside the set, typed", Entry::Typed, QStringLiteral("aЖb→c")},
         {"outside the set, pasted", Entry::Pasted, QStringLiteral("aЖ→\U0001F3C3b")},
         {"control characters", Entry::Pasted, QStringLiteral("a\0\t\r\n\x1B\x7F b")},
+        {"control characters beyond 127", Entry::Pasted, QStringLiteral("a\u0085b\u0090c")},
         {"a number", Entry::Typed, QStringLiteral("-1,5e9")},
         {"more than it holds", Entry::Pasted, QStringLiteral("abcdefghij").repeated(10)},
         {"megabytes", Entry::FromMenu, QString(kMegabytes, u'm')},

@@ -39,16 +39,6 @@ const BoxRow kBoxes[] = {
     {"txtRisultatoCat", Casella::RisultatoCat, 7, &kThousandsTo999999, kThousands},
 };
 
-void AddBoxes(bool numbers)
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(kBoxes)); ++i) {
-        if ((kBoxes[i].kind != nullptr) == numbers) {
-            QTest::newRow(kBoxes[i].name) << i;
-        }
-    }
-}
-
 /// A box of the free row, other than the one tried.
 Casella OtherThan(Casella box)
 {
@@ -164,9 +154,9 @@ class CalendarTest : public QObject
 
 private Q_SLOTS:
     void everyBoxHasItsRow();
-    void numbers_data() { AddBoxes(true); }
+    void numbers_data() { AddBoxRows(kBoxes, true); }
     void numbers();
-    void texts_data() { AddBoxes(false); }
+    void texts_data() { AddBoxRows(kBoxes, false); }
     void texts();
     void keysThatAreNoneOfThePage();
 };
@@ -180,10 +170,7 @@ void CalendarTest::everyBoxHasItsRow()
         named << Counted(row.name, kRows);
     }
     QCOMPARE(BoxesOf(*desk.Window()), Sorted(named));
-    const auto limitOf = [](const QByteArray& name) {
-        return std::find_if(std::begin(kBoxes), std::end(kBoxes), [&](const BoxRow& row) { return name == row.name; })
-            ->limit;
-    };
+    const auto limitOf = [](const QByteArray& name) { return LimitIn(kBoxes, name); };
     QCOMPARE(BoxesOfOtherLength(*desk.Window(), limitOf), QByteArrayList());
     VERIFY_SCRIPT(desk.script);
 }

@@ -103,13 +103,8 @@ void RouteTest::everyBoxHasItsRow()
     }
     QCOMPARE(BoxesOf(*desk.RouteWindow()), Sorted(named));
     // The sums show 0.
-    const auto limitOf = [](const QByteArray& name) {
-        return std::find_if(std::begin(kBoxes), std::end(kBoxes), [&](const BoxRow& row) { return name == row.name; })
-            ->limit;
-    };
-    QCOMPARE(
-        BoxesOfOtherLength(*desk.RouteWindow(), [&](const QByteArray& name) { return std::max(limitOf(name), 1); }),
-        QByteArrayList());
+    const auto limitOf = [](const QByteArray& name) { return std::max(LimitIn(kBoxes, name), 1); };
+    QCOMPARE(BoxesOfOtherLength(*desk.RouteWindow(), limitOf), QByteArrayList());
     desk.CloseRouteWindow();
     VERIFY_SCRIPT(desk.script);
 }

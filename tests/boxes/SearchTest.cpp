@@ -54,7 +54,7 @@ class SearchTest : public QObject
 
 private Q_SLOTS:
     void everyBoxHasItsRow();
-    void period_data();
+    void period_data() { AddBoxRows(kBoxes, true); }
     void period();
     void keysThatAreNoneOfItsLists();
     void keysThatAreNoneOfTheStatistics();
@@ -69,23 +69,12 @@ void SearchTest::everyBoxHasItsRow()
         named << Counted(row.name, 1);
     }
     QCOMPARE(BoxesOf(*desk.Search()), Sorted(named));
-    const auto limitOf = [](const QByteArray& name) {
-        return std::find_if(std::begin(kBoxes), std::end(kBoxes), [&](const BoxRow& row) { return name == row.name; })
-            ->limit;
-    };
+    const auto limitOf = [](const QByteArray& name) { return LimitIn(kBoxes, name); };
     QCOMPARE(BoxesOfOtherLength(*desk.Search(), limitOf), QByteArrayList());
     hand::Click(*desk->cmGrafico);
     QTRY_VERIFY(desk.Charts() != nullptr);
     QCOMPARE(BoxesOf(*desk.Charts()), QByteArrayList());
     VERIFY_SCRIPT(desk.script);
-}
-
-void SearchTest::period_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(kBoxes)); ++i) {
-        QTest::newRow(kBoxes[i].name) << i;
-    }
 }
 
 void SearchTest::period()

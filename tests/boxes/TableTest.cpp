@@ -65,27 +65,6 @@ const DateRow kDate[] = {
     {"txtAnnoInizio", 4, &kYear, QStringLiteral("MAX ANNO 2099                 ")},
 };
 
-void AddBoxes(bool numbers)
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(kBoxes)); ++i) {
-        if ((kBoxes[i].kind != nullptr) == numbers) {
-            QTest::newRow(kBoxes[i].name) << i;
-        }
-    }
-}
-
-int LimitOf(const QByteArray& name)
-{
-    for (const BoxRow& row : kBoxes) {
-        if (name == row.name) {
-            return row.limit;
-        }
-    }
-    return std::find_if(std::begin(kDate), std::end(kDate), [&](const DateRow& row) { return name == row.name; })
-        ->limit;
-}
-
 class Desk : public TableDesk
 {
 public:
@@ -128,11 +107,11 @@ class TableTest : public QObject
 
 private Q_SLOTS:
     void everyBoxHasItsRow();
-    void numbers_data() { AddBoxes(true); }
+    void numbers_data() { AddBoxRows(kBoxes, true); }
     void numbers();
-    void texts_data() { AddBoxes(false); }
+    void texts_data() { AddBoxRows(kBoxes, false); }
     void texts();
-    void dateBoxes_data();
+    void dateBoxes_data() { AddBoxRows(kDate, true); }
     void dateBoxes();
     void dates_data();
     void dates();
@@ -153,7 +132,8 @@ void TableTest::everyBoxHasItsRow()
     }
     QCOMPARE(BoxesOf(*desk.Editor()), Sorted(named));
     QCOMPARE(BoxesOf(*desk.List()), QByteArrayList{Counted("flbListaTabelle", 1)});
-    QCOMPARE(BoxesOfOtherLength(*desk.Editor(), LimitOf), QByteArrayList());
+    const auto limitOf = [](const QByteArray& name) { return std::max(LimitIn(kBoxes, name), LimitIn(kDate, name)); };
+    QCOMPARE(BoxesOfOtherLength(*desk.Editor(), limitOf), QByteArrayList());
     VERIFY_SCRIPT(desk.script);
 }
 
@@ -211,14 +191,6 @@ void TableTest::texts()
         QCOMPARE(Bytes(desk.Box(row.box, i).Content()), values[i - 1]);
     }
     VERIFY_SCRIPT(desk.script);
-}
-
-void TableTest::dateBoxes_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < int(std::size(kDate)); ++i) {
-        QTest::newRow(kDate[i].name) << i;
-    }
 }
 
 void TableTest::dateBoxes()
