@@ -13,22 +13,28 @@ using namespace zelvia::fuzz;
 namespace
 {
 
-/// One or two digits, one or two digits, two to four digits.
+/// One or two digits, one or two digits, two to four digits, each with blanks around.
 bool HasTheForm(const Text& text)
 {
-    const Text trimmed = Trim(text);
     std::size_t at = 0;
+    const auto skipBlanks = [&] {
+        while (at < text.size() && text[at] == ' ') {
+            ++at;
+        }
+    };
     for (const std::size_t longest : {2U, 2U, 4U}) {
         std::size_t digits = 0;
-        while (at < trimmed.size() && trimmed[at] >= '0' && trimmed[at] <= '9') {
+        skipBlanks();
+        while (at < text.size() && text[at] >= '0' && text[at] <= '9') {
             ++at;
             ++digits;
         }
+        skipBlanks();
         if (digits < longest / 2 || digits < 1 || digits > longest) {
             return false;
         }
         const bool last = longest == 4;
-        if (last ? at != trimmed.size() : at == trimmed.size() || trimmed[at] != '/') {
+        if (last ? at != text.size() : at == text.size() || text[at] != '/') {
             return false;
         }
         ++at;

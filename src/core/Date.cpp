@@ -100,16 +100,14 @@ void SetClock(std::function<CalendarDate()> clock)
 
 CalendarDate DateValue(TextView text)
 {
-    const Text date = Trim(text);
-    const auto first = date.find('/');
-    const auto second = first == Text::npos ? Text::npos : date.find('/', first + 1);
-    if (second == Text::npos) {
+    const auto first = text.find('/');
+    const auto second = first == TextView::npos ? TextView::npos : text.find('/', first + 1);
+    if (second == TextView::npos) {
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }
-    const TextView view = date;
-    const int day = DatePart(view.substr(0, first), 1, 2);
-    const int month = DatePart(view.substr(first + 1, second - first - 1), 1, 2);
-    const TextView yearText = view.substr(second + 1);
+    const int day = DatePart(Trim(text.substr(0, first)), 1, 2);
+    const int month = DatePart(Trim(text.substr(first + 1, second - first - 1)), 1, 2);
+    const Text yearText = Trim(text.substr(second + 1));
     int year = DatePart(yearText, 2, 4);
     if (yearText.size() == 2) {
         year += year <= kLastShortYear ? 2000 : 1900;

@@ -80,7 +80,7 @@ CalendarDate Date();
 /// Replaces the clock behind Date(); an empty function puts the system's own back.
 void SetClock(std::function<CalendarDate()> clock);
 
-/// Reads day/month/year: one or two digits, one or two digits, two to four digits, blanks around the whole allowed.
+/// Reads day/month/year: one or two digits, one or two digits, two to four digits, blanks around each part allowed.
 /// A year of two digits stands for 1930..2029. Raises error 13 on anything else and on a day that does not exist.
 CalendarDate DateValue(TextView text);
 

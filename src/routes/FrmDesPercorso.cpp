@@ -139,6 +139,10 @@ void frmDesPercorso::ConnectRow(int riga)
             txtTratto[riga + 1]->SetFocus();
         }
     };
+    // What is pasted, cut or undone is a change as well, and comes with no character.
+    for (TextBox* box : {txtTratto[riga], txtKm[riga], txtMetri[riga]}) {
+        box->Change = [] { FileModificato = 1; };
+    }
     txtKm[riga]->LostFocus = [this] { CalcolaDistanza(); };
     txtMetri[riga]->LostFocus = [this] { CalcolaDistanza(); };
 }

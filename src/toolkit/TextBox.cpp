@@ -51,6 +51,7 @@ TextBox::TextBox(QWidget* parent, const QString& name, int limit) : QLineEdit(pa
     setObjectName(name);
     setMaxLength(std::numeric_limits<int>::max());
     setDragEnabled(false);
+    connect(this, &QLineEdit::textEdited, this, [this] { Fire(Change); });
 }
 
 Text TextBox::Content() const
@@ -93,7 +94,7 @@ bool TextBox::TypeCharacters(const QString& characters)
     }
     for (const char32_t codePoint : codePoints) {
         const int byte = IsControl(codePoint) ? -1 : ByteOf(codePoint);
-        if (byte >= 0 && Passes(byte) && Room() > 0) {
+        if (byte >= 0 && Passes(byte) && Room() > 0 && !isReadOnly()) {
             insert(QString(QChar(static_cast<char16_t>(codePoint))));
         }
     }

@@ -27,6 +27,8 @@ public:
     /// Sees each character before it is entered, Enter as 13, Escape as 27 and Backspace as 8; setting it to 0 throws
     /// the key away.
     std::function<void(int& keyAscii)> KeyPress;
+    /// The text has become another one by hand: typed, pasted, deleted or undone, but not set by the program.
+    std::function<void()> Change;
     std::function<void()> Click;
     /// The menu key, with the place where a pop-up may open. Without it the key brings the box's own menu.
     std::function<void(const QPoint& globalPosition)> MenuKey;

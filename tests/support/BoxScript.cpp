@@ -132,7 +132,9 @@ void BoxScript::Answer(QFileDialog& dialog, const ExpectedDialog& expected)
     // Typed, since only typing gives up the file that the dialog has selected by itself.
     name->setFocus();
     name->selectAll();
-    QTest::keyClicks(name, expected.choose);
+    for (const QChar character : expected.choose) {
+        QTest::sendKeyEvent(QTest::Click, name, Qt::Key_unknown, QString(character), Qt::NoModifier);
+    }
     if (name->completer() != nullptr) {
         name->completer()->popup()->hide();
     }

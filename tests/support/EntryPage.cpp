@@ -112,7 +112,7 @@ bool EntryPage::IsOpen(int number) const
     return field.txt->isVisible() && field.lst->isVisible();
 }
 
-void EntryPage::TypeOver(TextBox& box, const QString& text) const
+void EntryPage::TypeOver(TextBox& box, const QString& text)
 {
     QTRY_VERIFY(box.hasFocus());
     box.selectAll();

@@ -36,7 +36,7 @@ public:
     void Open(int number) const { Open(*Field(number).lblImmis); }
     bool IsOpen(int number) const;
     /// Types over what the edit box of an open field holds.
-    void TypeOver(TextBox& box, const QString& text) const;
+    static void TypeOver(TextBox& box, const QString& text);
 
     /// A point of a row of a list, in the coordinates of its viewport.
     static QPoint RowAt(ListBox& list, int row);
