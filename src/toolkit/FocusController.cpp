@@ -88,7 +88,6 @@ void FocusController::Enqueue(Control* control)
 void FocusController::Schedule()
 {
     if (!waiting_.empty() && !scheduled_) {
-        scheduled_ = true;
         QMetaObject::invokeMethod(
             this,
             [this] {
@@ -96,6 +95,8 @@ void FocusController::Schedule()
                 Flush();
             },
             Qt::QueuedConnection);
+        // Only now: when the call could not be queued the next change must try again.
+        scheduled_ = true;
     }
 }
 

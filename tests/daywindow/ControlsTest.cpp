@@ -221,6 +221,7 @@ void ControlsTest::dateHasItsFaceAndTips()
     QCOMPARE(window.upMese->toolTip(), QStringLiteral("mese"));
     QCOMPARE(window.tmrFocus->objectName(), QStringLiteral("tmrFocus"));
     QCOMPARE(window.objectName(), QStringLiteral("frmMain"));
+    QCOMPARE(window.windowTitle(), QStringLiteral("Zelvia"));
 }
 
 void ControlsTest::textBoxesHoldTheirLength_data()

@@ -263,6 +263,7 @@ void MenusTest::infoWindow()
     QPointer<QWidget> info = InfoWindow();
     QVERIFY(!info.isNull());
     QVERIFY(info->isVisible());
+    QCOMPARE(info->windowTitle(), QStringLiteral("Informazioni su Zelvia"));
     QVERIFY(!info->isModal());
     QVERIFY(info->findChild<QWidget*>(QStringLiteral("pctInfo"))->isVisible());
     QVERIFY(info->findChild<QWidget*>(QStringLiteral("Picture1"))->isVisible());

@@ -28,6 +28,7 @@ class RouteWindowTest : public QObject
 private Q_SLOTS:
     void init();
     void itsControls();
+    void itsCaptionBeforeItHasARoute();
     void opensForANewNameOnly_data();
     void opensForANewNameOnly();
     void theLowestFreePlaceIsTaken();
@@ -38,6 +39,8 @@ private Q_SLOTS:
     void aRouteWithoutAPlaceUsesRowZero();
     void moreThan200AtOpeningAndClosing();
     void thePageIsBlocked();
+    void moreThanTheTotalHolds();
+    void moreThanTheDistanceHolds();
 };
 
 void RouteWindowTest::init()
@@ -83,6 +86,14 @@ void RouteWindowTest::itsControls()
     QCOMPARE(text(QStringLiteral("txtDistanzaMetri")), QStringLiteral("2"));
     page.CloseRouteWindow();
     VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::itsCaptionBeforeItHasARoute()
+{
+    EntryPage page;
+    page.Start();
+    const frmDesPercorso window(&page.Page(), page.Page());
+    QCOMPARE(window.windowTitle(), QStringLiteral(" Percorso "));
 }
 
 void RouteWindowTest::opensForANewNameOnly_data()
@@ -256,6 +267,32 @@ void RouteWindowTest::thePageIsBlocked()
     page.Open(5);
     QTRY_VERIFY(page.IsOpen(5));
     VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::moreThanTheTotalHolds()
+{
+    EntryPage page;
+    page.Start();
+    Module1::TrattoKm[1][1] = Module1::TrattoKm[1][2] = 2'000'000'000;
+    page.script.Expect(Report(QStringLiteral("CalcolaDistanza - ERRORE : 6 Numero oltre i limiti")));
+    OpenEntry(page, 0);
+    QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+    QCOMPARE(page.RouteWindow()->txtKm[2]->text(), QStringLiteral("2000000000"));
+    QCOMPARE(page.RouteWindow()->txtDistanzaKm->text(), QString());
+}
+
+void RouteWindowTest::moreThanTheDistanceHolds()
+{
+    EntryPage page;
+    page.Start();
+    // In metres more than 2,147,483,647.
+    Module1::TrattoKm[1][1] = 3'000'000;
+    OpenEntry(page, 0);
+    page.script.Expect(Report(QStringLiteral("AssegnaArray - ERRORE : 6 Numero oltre i limiti")));
+    page.CloseRouteWindow();
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(Module1::DistanzePercorso[1].value(), 1001);
+    QCOMPARE(page->upKM->Value(), 0);
 }
 
 } // namespace zelvia::test

@@ -177,6 +177,11 @@ void PeriodFieldsTest::aCheckRepairsAndTells_data()
         << QStringList{QStringLiteral("DATA INIZIO  MAX 28 GIORNI                 "),
                        QStringLiteral("DATA FINE  MAX 30 GIORNI                 ")}
         << QByteArray("28|2|2026|30|11|2026") << true;
+    QTest::newRow("an end on 29 February of a year before the first")
+        << QByteArray("|||29|2|2006")
+        << QStringList{QStringLiteral("DATA FINE  MAX 28 GIORNI                 "),
+                       QStringLiteral("DATA FINE  ANNO 2007                 ")}
+        << QByteArray("|||28|2|2007") << true;
     QTest::newRow("an end's year alone") << QByteArray("|||||2026")
                                          << QStringList{QStringLiteral("DATA FINE  MIN GIORNO 1                 "),
                                                         QStringLiteral("DATA FINE  MIN MESE  1                ")}

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void aCategoryGoesBackToChoosing();
     void unreadableTimesAreTold();
     void aListThatCannotBeCounted();
+    void moreMinutesThanTheTotalHolds();
     void escLeavesAndAFreshOneComes();
     void itGoesWithThePage();
 };
@@ -331,6 +332,22 @@ void SearchWindowTest::aListThatCannotBeCounted()
     QTRY_VERIFY(desk.Condition(Categoria::Corridori).isVisible());
     QCOMPARE(desk->lstStatistiche->count(), 0);
     QVERIFY(!desk->lblTitoliSta->isVisible());
+}
+
+void SearchWindowTest::moreMinutesThanTheTotalHolds()
+{
+    SearchDesk desk;
+    desk.StartSearch();
+    Module1::AzzeraAnno();
+    // 32,700 minutes and as many seconds, which are 545 minutes more: 33,245.
+    for (int slot = 1; slot <= 100; ++slot) {
+        Module1::Giorni[slot].Km = 1;
+        Module1::Giorni[slot].TempoImpiegato = "0:327:327";
+    }
+    desk.script.Expect(Report(QStringLiteral("Tempi Totali - ERRORE : 6 Numero oltre i limiti")));
+    desk.Run();
+    desk.AwaitBoxes();
+    QVERIFY(desk.ShowsResult());
 }
 
 void SearchWindowTest::escLeavesAndAFreshOneComes()

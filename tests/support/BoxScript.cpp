@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/BoxScript.h"
 
+#include "support/ShownTexts.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QMap>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -31,6 +34,25 @@ QString Described(const QWidget& window)
     const auto* box = qobject_cast<const QMessageBox*>(&window);
     return box != nullptr ? QStringLiteral("box ") + Shown(box->text())
                           : QStringLiteral("window ") + Shown(window.windowTitle());
+}
+
+/// Qt's own question of a file dialog goes by the title of that dialog, and is no text of the program.
+void NoteShown(const QMessageBox& box)
+{
+    if (box.windowTitle() != ExpectedBox().title) {
+        return;
+    }
+    static const QMap<QMessageBox::Icon, const char*> icons = {{QMessageBox::NoIcon, "-"},
+                                                               {QMessageBox::Critical, "critical"},
+                                                               {QMessageBox::Warning, "exclamation"},
+                                                               {QMessageBox::Information, "information"}};
+    std::string buttons;
+    for (const auto& [button, name] : {std::pair{QMessageBox::Yes, "Yes "}, std::pair{QMessageBox::No, "No "},
+                                       std::pair{QMessageBox::Ok, "OK "}, std::pair{QMessageBox::Cancel, "Cancel "}}) {
+        buttons += box.standardButtons().testFlag(button) ? name : "";
+    }
+    ShownTexts::NoteBox(box.text().toStdString(), icons.value(box.icon(), "?"),
+                        buttons.substr(0, buttons.find_last_not_of(' ') + 1));
 }
 
 } // namespace
@@ -96,6 +118,7 @@ void BoxScript::Answer(QMessageBox& box, const ExpectedBox& expected)
                  Shown(expected.text));
         }
     };
+    NoteShown(box);
     compare(box.text() == expected.text, QStringLiteral("text"));
     compare(box.icon() == expected.icon, QStringLiteral("icon"));
     compare(box.standardButtons() == expected.buttons, QStringLiteral("buttons"));
@@ -120,6 +143,7 @@ void BoxScript::Answer(QFileDialog& dialog, const ExpectedDialog& expected)
     auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     auto* filters = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    ShownTexts::NoteDialog(dialog.windowTitle().toStdString(), filters->currentText().toStdString());
     compare(dialog.windowTitle(), expected.title, "title");
     compare(filters->count() == 1 ? filters->currentText() : QStringLiteral("several"), expected.filter, "filter");
     compare(dialog.directory().path(), expected.directory, "directory");

@@ -5,6 +5,7 @@
 #include "core/MessageBox.h"
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
+#include "support/ShownTexts.h"
 
 #include <QTest>
 
@@ -57,6 +58,7 @@ private:
     MsgAnswer Answer(const MsgRequest& request)
     {
         ++shown_;
+        ShownTexts::NoteBox(request);
         const MsgAnswer giveUp = request.buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
         if (expected_.empty()) {
             Fail("unexpected box: " + request.text);
