@@ -58,8 +58,10 @@ Desk::Desk()
 Desk::~Desk()
 {
     qApp->removeEventFilter(this);
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (qobject_cast<Form*>(window) != nullptr && window != page_) {
+    // The windows go before the page, and some take others with them.
+    order_.removeAll(page_.data());
+    for (const QPointer<QWidget>& window : order_) {
+        if (qobject_cast<Form*>(window) != nullptr) {
             delete window;
         }
     }

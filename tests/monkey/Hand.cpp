@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QTest>
+#include <QWindow>
 
 namespace zelvia::monkey
 {
@@ -74,7 +75,16 @@ void Hand::DoubleClickAt(QWidget& widget, QPoint place)
 {
     trail_.Note(QStringLiteral("double click ") + Name(widget) + At(place));
     if (ToFront(widget)) {
-        hand::DoubleClick(widget, place);
+        // The first click may be the end of the window.
+        const QPointer<QWindow> window = widget.window()->windowHandle();
+        const QPoint point = widget.mapTo(widget.window(), place);
+        for (int i = 0; i < 2 && !window.isNull() && window->isVisible(); ++i) {
+            QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, point);
+            if (!window.isNull() && window->isVisible()) {
+                QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, point);
+                QTest::lastMouseTimestamp -= i == 0 ? QTest::mouseDoubleClickInterval : 0;
+            }
+        }
         // A third click that came by chance would select all.
         QTest::qWait(2 * QApplication::doubleClickInterval());
     }

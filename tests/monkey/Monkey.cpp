@@ -22,6 +22,24 @@ namespace zelvia::monkey
 namespace
 {
 
+/// What Qt itself grumbled about first, other than what the display of the run can't do.
+QString firstWarning;
+
+void OnMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    const bool known = text.startsWith(QLatin1String("This plugin does not support")) ||
+                       text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"));
+    if (type == QtDebugMsg || type == QtInfoMsg || known) {
+        return;
+    }
+    if (firstWarning.isEmpty()) {
+        firstWarning = QStringLiteral("Qt warns: ") + text;
+    }
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+}
+
 constexpr int kPatience = 60; ///< Seconds that an action may last.
 
 struct Settings {
@@ -60,6 +78,7 @@ private:
 
 void MonkeyTest::plays()
 {
+    const QtMessageHandler previous = qInstallMessageHandler(OnMessage);
     Dice dice(settings_.seed);
     Trail trail(settings_.seed, kPatience, settings_.log);
     Desk desk;
@@ -82,14 +101,15 @@ void MonkeyTest::plays()
             actions.Run();
             desk.Settle();
         }
-        wrong = boxes.Problem();
+        wrong = boxes.Problem().isEmpty() ? firstWarning : boxes.Problem();
         if (wrong.isEmpty()) {
             wrong = invariants.Check(actions, number);
         }
         if (!settings_.log.isEmpty()) {
-            trail.Log(invariants.Digest());
+            trail.Log(invariants.Digest() + ' ' + QByteArray::number(time.elapsed()));
         }
     }
+    qInstallMessageHandler(previous);
     Report(actions, desk, boxes, invariants, number, time.elapsed());
     if (!wrong.isEmpty()) {
         // Qt Test would cut it short.
@@ -161,8 +181,7 @@ int main(int argc, char* argv[])
     std::printf("monkey --seed %llu\n", static_cast<unsigned long long>(settings.seed));
     std::fflush(stdout);
     zelvia::monkey::MonkeyTest test(settings);
-    return QTest::qExec(&test,
-                        {QCoreApplication::applicationFilePath(), QStringLiteral("-maxwarnings"), QStringLiteral("0")});
+    return QTest::qExec(&test, {QCoreApplication::applicationFilePath()});
 }
 
 #include "Monkey.moc"
