@@ -12,60 +12,84 @@
 namespace zelvia::monkey
 {
 
+namespace
+{
+
+constexpr const char* kPage = "frmMain";
+
+} // namespace
+
 Actions::Actions(Desk& desk, Dice& dice, Trail& trail, Boxes& boxes)
     : desk_(desk), dice_(dice), trail_(trail), boxes_(boxes),
-      hand_(desk, dice, trail), table_{{"click anywhere", 12, &Actions::ClickAnywhere},
-                                       {"right click", 4, &Actions::RightClick},
-                                       {"double click", 3, &Actions::DoubleClick},
-                                       {"drag", 2, &Actions::DragAcross},
-                                       {"wheel", 2, &Actions::TurnWheel},
-                                       {"key", 14, &Actions::PressKey},
-                                       {"keys", 4, &Actions::PressKeys},
-                                       {"type", 8, &Actions::TypeText},
-                                       {"paste", 1, &Actions::PasteText},
-                                       {"write a box", 8, &Actions::WriteBox},
-                                       {"fill a row", 5, &Actions::FillRow},
-                                       {"button", 10, &Actions::PressButton},
-                                       {"spin", 8, &Actions::UseSpin},
-                                       {"hold a spin", 1, &Actions::HoldSpin},
-                                       {"list", 8, &Actions::UseList},
-                                       {"list menu", 3, &Actions::OpenListMenu},
-                                       {"close a window", 3, &Actions::CloseWindow},
-                                       {"change windows", 4, &Actions::ChangeWindow},
-                                       {"another program", 1, &Actions::OtherProgram},
-                                       {"step the date", 6, &Actions::StepDate},
-                                       {"walk the dates", 3, &Actions::WalkDates},
-                                       {"open a field", 10, &Actions::OpenField},
-                                       {"enter a field", 6, &Actions::EnterField},
-                                       {"write a note", 3, &Actions::WriteNote},
-                                       {"menu", 14, &Actions::OpenMenu},
-                                       {"help", 1, &Actions::UseHelp},
-                                       {"tick", 3, &Actions::Tick},
-                                       {"clock", 1, &Actions::MoveClock},
-                                       {"printer", 1, &Actions::BreakPrinter},
-                                       {"exit", 1, &Actions::Exit}}
+      hand_(desk, dice, trail), table_{{"click anywhere", 12, nullptr, &Actions::ClickAnywhere},
+                                       {"right click", 4, nullptr, &Actions::RightClick},
+                                       {"double click", 3, nullptr, &Actions::DoubleClick},
+                                       {"drag", 2, nullptr, &Actions::DragAcross},
+                                       {"wheel", 2, nullptr, &Actions::TurnWheel},
+                                       {"key", 14, nullptr, &Actions::PressKey},
+                                       {"keys", 4, nullptr, &Actions::PressKeys},
+                                       {"type", 8, nullptr, &Actions::TypeText},
+                                       {"paste", 1, nullptr, &Actions::PasteText},
+                                       {"write a box", 8, nullptr, &Actions::WriteBox},
+                                       {"fill a row", 5, nullptr, &Actions::FillRow},
+                                       {"button", 10, nullptr, &Actions::PressButton},
+                                       {"spin", 8, nullptr, &Actions::UseSpin},
+                                       {"hold a spin", 1, nullptr, &Actions::HoldSpin},
+                                       {"list", 8, nullptr, &Actions::UseList},
+                                       {"list menu", 3, nullptr, &Actions::OpenListMenu},
+                                       {"close a window", 3, nullptr, &Actions::CloseWindow},
+                                       {"change windows", 4, nullptr, &Actions::ChangeWindow},
+                                       {"another program", 1, nullptr, &Actions::OtherProgram},
+                                       {"tick", 3, nullptr, &Actions::Tick},
+                                       {"clock", 1, nullptr, &Actions::MoveClock},
+                                       {"printer", 1, nullptr, &Actions::BreakPrinter},
+                                       {"step the date", 6, kPage, &Actions::StepDate},
+                                       {"walk the dates", 3, kPage, &Actions::WalkDates},
+                                       {"open a field", 10, kPage, &Actions::OpenField},
+                                       {"enter a field", 6, kPage, &Actions::EnterField},
+                                       {"enter a run", 5, kPage, &Actions::EnterRun},
+                                       {"enter splits", 3, kPage, &Actions::EnterSplits},
+                                       {"write a note", 3, kPage, &Actions::WriteNote},
+                                       {"menu", 14, kPage, &Actions::OpenMenu},
+                                       {"exit", 1, kPage, &Actions::Exit},
+                                       {"choose a table", 25, "frmTabAllenamenti", &Actions::ChooseTable},
+                                       {"row menu", 8, "frmAllenamento", &Actions::OpenRowMenu},
+                                       {"activate a table", 8, "frmAllenamento", &Actions::ActivateTable},
+                                       {"write a race", 10, "frmCalendario", &Actions::WriteRace},
+                                       {"search", 25, "frmRicercheStatistiche", &Actions::Search},
+                                       {"help", 20, "HelpWindow", &Actions::UseHelp}}
 {
     for (const Action& action : table_) {
         weights_ += action.weight;
     }
 }
 
+/// By the weights, of the actions that are for this window; now and then the page is worked on from behind another one.
+Actions::Action& Actions::Throw(const QWidget& window)
+{
+    for (;;) {
+        int thrown = dice_.Below(weights_);
+        auto action = table_.begin();
+        while (thrown >= action->weight) {
+            thrown -= action->weight;
+            ++action;
+        }
+        const bool fromBehind = dice_.OneIn(6);
+        if (action->home == nullptr || window.objectName() == QLatin1String(action->home) ||
+            (fromBehind && action->home == kPage)) {
+            return *action;
+        }
+    }
+}
+
 void Actions::Run()
 {
     steppedDate_ = false;
-    int thrown = dice_.Below(weights_);
-    QWidget* window = AnyWindow();
-    if (window == nullptr) {
-        return;
-    }
-    for (Action& action : table_) {
-        thrown -= action.weight;
-        if (thrown < 0) {
-            trail_.Note(QLatin1String(action.name) + QLatin1Char(':'));
-            ++action.done;
-            (this->*action.run)(*window);
-            return;
-        }
+    if (QWidget* window = AnyWindow()) {
+        Action& action = Throw(*window);
+        trail_.Note(QLatin1String(action.name) + QLatin1Char(':'));
+        ++action.done;
+        (this->*action.run)(*window);
     }
 }
 
@@ -174,6 +198,51 @@ void Actions::WriteNote(QWidget& /*window*/)
     for (int i = 0; i < lines; ++i) {
         hand_.Type(AnyText(dice_));
         hand_.Key(Qt::Key_Return);
+    }
+}
+
+/// Opens a group of spin controls and works it with keys.
+void Actions::UseGroup(Label& value, int keys)
+{
+    static constexpr Qt::Key worked[] = {Qt::Key_Up,   Qt::Key_Up,    Qt::Key_Up,     Qt::Key_PageUp,
+                                         Qt::Key_Down, Qt::Key_Right, Qt::Key_PageUp, Qt::Key_Left};
+    hand_.Click(value);
+    desk_.Settle();
+    for (int i = 0; i < keys; ++i) {
+        hand_.Key(dice_.Of(worked));
+    }
+}
+
+/// A distance and the times of a run, in any order.
+void Actions::EnterRun(QWidget& /*window*/)
+{
+    const int first = dice_.Below(3);
+    const int keys = dice_.Between(1, 8);
+    for (int i = 0; i < 3; ++i) {
+        frmMain* page = desk_.Page();
+        if (page == nullptr) {
+            return;
+        }
+        Label* values[] = {page->lblImmisMetri, page->lblImmisOraInizio, page->lblImmisOraFine};
+        UseGroup(*values[(first + i) % 3], keys);
+        desk_.Settle();
+    }
+    hand_.Key(Qt::Key_Escape);
+}
+
+void Actions::EnterSplits(QWidget& /*window*/)
+{
+    const int keys = dice_.Between(2, 8);
+    const QPointer<frmMain> page = desk_.Page();
+    if (page.isNull()) {
+        return;
+    }
+    UseGroup(*page->lblImmisTempoKM, keys);
+    desk_.Settle();
+    for (int i = 0; i < 2 && !page.isNull() && page->cmdListaKM->isVisible(); ++i) {
+        hand_.Click(*page->cmdListaKM);
+        desk_.Settle();
+        hand_.Key(Qt::Key_Up);
     }
 }
 

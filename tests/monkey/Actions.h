@@ -37,9 +37,12 @@ private:
     struct Action {
         const char* name;
         int weight;
+        const char* home; ///< The window that it is for, null for any.
         void (Actions::*run)(QWidget& window);
         long done = 0;
     };
+
+    Action& Throw(const QWidget& window);
 
     QWidget* AnyWindow();
 
@@ -71,6 +74,15 @@ private:
     void EnterField(QWidget& window);
     void WriteNote(QWidget& window);
     void OpenMenu(QWidget& window);
+    void EnterRun(QWidget& window);
+    void EnterSplits(QWidget& window);
+
+    // On other windows.
+    void ChooseTable(QWidget& window);
+    void OpenRowMenu(QWidget& window);
+    void ActivateTable(QWidget& window);
+    void WriteRace(QWidget& window);
+    void Search(QWidget& window);
     void UseHelp(QWidget& window);
 
     // On no window.
@@ -79,6 +91,8 @@ private:
     void BreakPrinter(QWidget& window);
     void Exit(QWidget& window);
 
+    void UseGroup(Label& value, int keys);
+    void PressIf(Button& button);
     QString FittingText(const QWidget& box);
     void TypeOver(TextBox& box, const QString& text);
     QWidget* AnyControl(const QWidget& window);

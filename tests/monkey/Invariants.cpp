@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QCryptographicHash>
+#include <QMenuBar>
 
 namespace zelvia::monkey
 {
@@ -70,6 +71,17 @@ QString Invariants::CheckAtRest() const
     const Control* focused = FocusController::Instance().Current();
     if (focused != nullptr && focused->Widget().window()->isVisible() && !focused->Widget().isVisible()) {
         return QStringLiteral("the focus lies in the hidden ") + focused->Widget().objectName();
+    }
+    // Who has the keyboard has been told so.
+    QWidget* keyboard = QApplication::focusWidget();
+    if (Form* form = Form::Of(keyboard); form != nullptr && form->isVisible()) {
+        const Control* control = ControlOf(keyboard);
+        const Control* holder = control != nullptr ? control : &form->FocusSink();
+        if (qobject_cast<QMenuBar*>(keyboard) == nullptr && holder != focused) {
+            return QStringLiteral("%1 of %2 has the keyboard, the focus was told to ")
+                       .arg(holder->Widget().objectName(), form->objectName()) +
+                   (focused == nullptr ? QStringLiteral("none") : focused->Widget().objectName());
+        }
     }
     return page != nullptr ? PageFault(*page) : QString();
 }

@@ -12,7 +12,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
+#include <string>
 
 namespace zelvia::monkey
 {
@@ -144,10 +144,22 @@ bool ManySplits(const Situation& situation)
     return situation.desk.Page() != nullptr && situation.desk.Page()->lstListaKM->ListCount() > most;
 }
 
-bool NothingChosen(const Situation& situation)
+bool Matches(const QString& text, const char* pattern)
+{
+    return QRegularExpression(QRegularExpression::anchoredPattern(QString::fromUtf8(pattern))).match(text).hasMatch();
+}
+
+/// True when the value chosen in the statistics is none of its category: there is none, or a list of the searches has
+/// taken its place.
+bool NoValueChosen(const Situation& situation)
 {
     const auto* statistics = situation.desk.Window<frmStatistiche1>();
-    return statistics != nullptr && statistics->lstStatistica->ListIndex() < 0;
+    if (statistics == nullptr) {
+        return false;
+    }
+    const QString value = ToQString(Module1::NomeCategoria[statistics->lstStatistica->ListIndex() + 1]);
+    const bool distance = Module1::TitoloStatistica == "Km";
+    return !Matches(value, distance ? "[ \\d]\\d+,\\d+" : "[ \\d]\\d+ x \\d+ {1,2}@ \\d+:\\d+");
 }
 
 struct KnownReport {
@@ -174,8 +186,8 @@ const KnownReport kReports[] = {
     // Arithmetic of the table editor, in the width of its boxes.
     {"Calcola(MediaKm|Distanza|Tempo) - ERRORE : ", 6, Always},
     {"Calcola(MediaKm|Distanza|Tempo) - ERRORE : ", 11, Always},
-    // Nothing chosen among the repetitions.
-    {"Scomponi(Distanza|Quante) - ERRORE : ", 5, NothingChosen},
+    {"Scomponi(Distanza|Quante) - ERRORE : ", 5, NoValueChosen},
+    {"Scomponi\\w+ - ERRORE : ", 6, NoValueChosen},
     // What was pasted passes the boxes that take digits only.
     {"(AssegnaTab|ControllaSaveTab|cmdAttiva|cmdOK|cmdSalva|ControlloData|mnuInserisciRiga|mnuEliminaRiga) - ERRORE : ",
      13, Pasted},
@@ -193,17 +205,11 @@ const KnownReport kReports[] = {
     {"SalvaLista\\w+ - ERRORE : ", 76, StrangeName},
 };
 
-bool Matches(const QString& text, const QString& pattern)
-{
-    return QRegularExpression(QRegularExpression::anchoredPattern(pattern)).match(text).hasMatch();
-}
-
 bool IsKnownReport(const QString& text, const Situation& situation)
 {
     const auto fits = [&](const KnownReport& report) {
-        const QString whole = QLatin1String(report.title) + QString::number(report.number) + QLatin1Char(' ') +
-                              QRegularExpression::escape(ToQString(DescriptionOf(report.number)));
-        return Matches(text, whole) && report.due(situation);
+        const std::string whole = report.title + std::to_string(report.number) + ' ' + DescriptionOf(report.number);
+        return Matches(text, whole.c_str()) && report.due(situation);
     };
     // The reader of the routes tells no number.
     const QString routes =
@@ -231,7 +237,7 @@ QString WrongWith(const QMessageBox& box, const Situation& situation)
         return QStringLiteral("title or format: ") + described;
     }
     for (const KnownBox& known : kBoxes) {
-        if (Matches(box.text(), QString::fromUtf8(known.pattern))) {
+        if (Matches(box.text(), known.pattern)) {
             return box.icon() == known.icon && box.standardButtons() == known.buttons
                        ? QString()
                        : QStringLiteral("icon or buttons: ") + described;

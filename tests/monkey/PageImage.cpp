@@ -194,8 +194,6 @@ QString PageFault(const frmMain& page)
         {page.lblData,
          QLocale(QLocale::Italian, QLocale::Italy).toString(date, QStringLiteral("   dddd  d  MMMM  yyyy"))},
         {page.lblNumGiornoAnno, QString::number(date.dayOfYear())},
-        {page.lblImmisMetri,
-         Digits(ValueOf(*page.upKM)) + QLatin1Char(',') + Digits(ValueOf(*page.upMetri) + ValueOf(*page.upMetro), 3)},
         {page.lblImmisOraInizio, Clock({page.upOraInizio, page.upMinutiInizio, page.upSecondiInizio})},
         {page.lblImmisOraFine, Clock({page.upOraFine, page.upMinutiFine, page.upSecondiFine})},
         {page.lblImmisCorridori, Digits(ValueOf(*page.upCorridori))},
@@ -207,6 +205,14 @@ QString PageFault(const frmMain& page)
         if (label->text() != text && !IsFirstCaption(*label, page)) {
             return Differs(label->objectName(), label->text(), text);
         }
+    }
+    // A change of the kilometres shows the distance without the single metres, which stay.
+    const QString km = Digits(ValueOf(*page.upKM)) + QLatin1Char(',');
+    const QString tens = km + Digits(ValueOf(*page.upMetri), 3);
+    const QString whole = km + Digits(ValueOf(*page.upMetri) + ValueOf(*page.upMetro), 3);
+    const QString distance = page.lblImmisMetri->text();
+    if (distance != tens && distance != whole && !IsFirstCaption(*page.lblImmisMetri, page)) {
+        return Differs(QStringLiteral("the distance"), distance, whole);
     }
     const QDate parts(page.AnnoCorrente.value(), page.MeseCorrente.value(), page.GiornoMese.value());
     if (parts != date || Module1::GiornoCorrente.value() != date.dayOfYear()) {

@@ -298,21 +298,123 @@ void Actions::OtherProgram(QWidget& window)
     }
 }
 
-void Actions::UseHelp(QWidget& /*window*/)
+void Actions::PressIf(Button& button)
+{
+    if (button.isVisible() && button.isEnabled()) {
+        hand_.Click(button);
+    }
+}
+
+void Actions::ChooseTable(QWidget& window)
+{
+    const auto& list = static_cast<frmTabAllenamenti&>(window);
+    const bool anew = dice_.OneIn(4);
+    if (!anew) {
+        UseList(window);
+    }
+    desk_.Settle();
+    if (desk_.Window<frmTabAllenamenti>() == &list) {
+        PressIf(anew ? *list.cmdNuovaTab : *list.cmdOK);
+    }
+}
+
+/// By the mouse on the caption of a row, or by the menu key in one of its boxes.
+void Actions::OpenRowMenu(QWidget& window)
+{
+    const auto& editor = static_cast<frmAllenamento&>(window);
+    const int row = dice_.Between(1, TableGrid::kRows);
+    if (dice_.OneIn(3)) {
+        hand_.Click(*editor.Box(TableGrid::Km, row));
+        desk_.Settle();
+        hand_.Key(Qt::Key_Menu);
+    } else {
+        hand_.Click(*editor.lblGiorni[row], Qt::RightButton);
+    }
+}
+
+/// A start date near the days of the diary, then the buttons that make the table the active one.
+void Actions::ActivateTable(QWidget& window)
+{
+    const QPointer<frmAllenamento> editor = &static_cast<frmAllenamento&>(window);
+    const int numbers[] = {dice_.Between(1, 31), dice_.Between(1, 12), dice_.Between(2025, 2027)};
+    const bool dated = dice_.OneIn(2);
+    for (std::size_t i = 0; dated && i < std::size(numbers) && !editor.isNull(); ++i) {
+        TypeOver(*editor->dateBoxes[i], QString::number(numbers[i]));
+        desk_.Settle();
+    }
+    for (Button* frmAllenamento::*button :
+         {&frmAllenamento::cmdCalcoloMedie, &frmAllenamento::cmdOK, &frmAllenamento::cmdAttiva,
+          &frmAllenamento::cmdDisattiva, &frmAllenamento::cmdSalva}) {
+        const bool pressed = button == &frmAllenamento::cmdDisattiva ? dice_.OneIn(6) : !dice_.OneIn(3);
+        if (pressed && desk_.Window<frmAllenamento>() == editor && !editor.isNull()) {
+            PressIf(*(editor->*button));
+            desk_.Settle();
+        }
+    }
+}
+
+/// A row from its day on, Enter after each value; at times on the date of the page.
+void Actions::WriteRace(QWidget& window)
+{
+    const QPointer<frmCalendario> calendar = &static_cast<frmCalendario&>(window);
+    const int row = dice_.Between(1, CalendarGrid::kRows);
+    const bool onPage = dice_.OneIn(3);
+    const CalendarDate date = Module1::DataCorrente;
+    const int other[] = {dice_.Between(0, 31), dice_.Between(0, 12), dice_.Between(2025, 2027)};
+    const int shown[] = {date.Day().value(), date.Month().value(), date.Year().value()};
+    hand_.Click(*calendar->Box(CalendarGrid::Casella::Giorno, row));
+    hand_.Key(Qt::Key_A, Qt::ControlModifier);
+    for (const int number : onPage ? shown : other) {
+        hand_.Type(QString::number(number));
+        hand_.Key(Qt::Key_Return);
+        hand_.Key(Qt::Key_A, Qt::ControlModifier);
+        desk_.Settle();
+    }
+    const int boxes = dice_.Between(0, 11);
+    for (int i = 0; i < boxes && !calendar.isNull() && QApplication::focusWidget() != nullptr; ++i) {
+        hand_.Type(FittingText(*QApplication::focusWidget()));
+        hand_.Key(Qt::Key_Return);
+        desk_.Settle();
+    }
+}
+
+/// A category's button and a value of its list, or a period, and the search at times.
+void Actions::Search(QWidget& window)
+{
+    const QPointer<frmRicercheStatistiche> search = &static_cast<frmRicercheStatistiche&>(window);
+    const int way = dice_.Below(4);
+    if (way == 0) {
+        PressIf(*search->cmdPeriodo);
+        desk_.Settle();
+        for (int i = 0; i < 6 && !search.isNull() && search->campiPeriodo[0]->isVisible(); ++i) {
+            hand_.Type(FittingText(*search->campiPeriodo[0]));
+            hand_.Key(Qt::Key_Return);
+            desk_.Settle();
+        }
+    } else if (way < 3) {
+        const auto category = static_cast<Categoria>(dice_.Below(static_cast<int>(kCondizioni.size())));
+        PressIf(*search->ControlliDi(category).cmd);
+        desk_.Settle();
+        if (!search.isNull() && search->lstStatistiche->isVisible()) {
+            UseList(*search);
+        }
+    }
+    desk_.Settle();
+    if (dice_.OneIn(2) && !search.isNull() && search->isVisible()) {
+        PressIf(*search->cmdAvvia);
+    }
+}
+
+void Actions::UseHelp(QWidget& window)
 {
     const int way = dice_.Below(4);
     const QString text = AnyText(dice_);
-    for (QWidget* help : desk_.Windows()) {
-        if (IsHelp(*help)) {
-            const QPoint place = hand_.AnyPlace(*help);
-            desk_.Activate(*help);
-            switch (way) {
-            case 0: hand_.Type(text); break;
-            case 1: hand_.Key(Qt::Key_Return); break;
-            case 2: help->windowHandle()->close(); break;
-            default: hand_.ClickAt(*help, place); break;
-            }
-        }
+    const QPoint place = hand_.AnyPlace(window);
+    switch (way) {
+    case 0: hand_.Type(text); break;
+    case 1: hand_.Key(Qt::Key_Return); break;
+    case 2: window.windowHandle()->close(); break;
+    default: hand_.ClickAt(window, place); break;
     }
 }
 
