@@ -118,6 +118,18 @@ bool Pasted(const Situation& situation)
     return situation.pasted;
 }
 
+/// A distance of five digits that the limit holds in its box: what takes no focus still reads it.
+bool PastedOrWide(const Situation& situation)
+{
+    constexpr int widest = 32767;
+    const auto* editor = situation.desk.Window<frmAllenamento>();
+    bool wide = situation.pasted;
+    for (int row = 1; editor != nullptr && row <= TableGrid::kRows; ++row) {
+        wide = wide || editor->Box(TableGrid::RipetDistanza, row)->text().toInt() > widest;
+    }
+    return wide;
+}
+
 /// A name outside the set, or one in a folder that is not there: the dialog keeps it for the next save.
 bool StrangeName(const Situation& situation)
 {
@@ -192,7 +204,7 @@ const KnownReport kReports[] = {
     {"(AssegnaTab|ControllaSaveTab|cmdAttiva|cmdOK|cmdSalva|ControlloData|mnuInserisciRiga|mnuEliminaRiga) - ERRORE : ",
      13, Pasted},
     {"(AssegnaTab|ControllaSaveTab|cmdAttiva|cmdOK|cmdSalva|ControlloData|mnuInserisciRiga|mnuEliminaRiga) - ERRORE : ",
-     6, Pasted},
+     6, PastedOrWide},
     {"(ERRORE : |Query - ERRORE : |ContrData - ERRORE : |CalcolaDistanza - ERRORE : |AssegnaArray - ERRORE : )", 6,
      Pasted},
     {"Ricerca Medie - ERRORE : ", 13, Pasted},
