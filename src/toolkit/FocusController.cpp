@@ -154,9 +154,11 @@ void FocusController::LeaveHidden(Control& control)
     if (sink == nullptr || sink == &control) {
         return;
     }
+    const Control* focused = Focused();
+    const bool elsewhere = focused != nullptr && focused->Widget().window() != control.Widget().window();
     if (deferring_ && &control == current_) {
         displaced_ = &control;
-    } else {
+    } else if (!elsewhere) {
         Enqueue(sink);
     }
     sink->Widget().setFocus(Qt::OtherFocusReason);

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void AnotherProgramIsNoLostFocus();
     void AClickInAnotherControlAfterAnotherProgram();
     void AnotherWindowOfTheProgramIsALostFocus();
+    void AFieldThatItClosesLeavesTheFocusToAnotherWindow();
     void AWindowThatClosesGivesTheFocusBack();
     void TheFirstFocusIsTheSink();
 
@@ -174,6 +175,28 @@ void FocusTest::AnotherWindowOfTheProgramIsALostFocus()
     }
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +txtUno"));
     QTRY_COMPARE(second.told, QByteArray("+pctFondo -pctFondo"));
+}
+
+void FocusTest::AFieldThatItClosesLeavesTheFocusToAnotherWindow()
+{
+    form_->txtUno->LostFocus = [this] {
+        form_->Tell("-txtUno");
+        form_->txtUno->SetVisible(false);
+    };
+    form_->Start(*form_->txtUno);
+    SampleForm second;
+    second.move(700, 500);
+    second.Open();
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno"));
+    QVERIFY(!form_->txtUno->isVisible());
+
+    // The field that closed was the first window's affair: the second one still has the focus, and tells who loses it.
+    second.Start(*second.txtDue);
+    QVERIFY(StaysFalse([&] { return form_->told != "-txtUno" || !second.told.isEmpty(); }));
+    QCOMPARE(FocusController::Instance().Current(), static_cast<Control*>(second.txtDue));
+    form_->activateWindow();
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno +pctFondo"));
+    QTRY_COMPARE(second.told, QByteArray("-txtDue"));
 }
 
 void FocusTest::AWindowThatClosesGivesTheFocusBack()
