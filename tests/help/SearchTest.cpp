@@ -19,17 +19,22 @@ namespace
 
 constexpr int kPatience = 20000;
 
-/// The texts that every message is made of, one a line between quotes.
+/// The texts that every message box is made of, between what changes in it: from the list of all texts.
 QStringList Messages()
 {
-    QFile file(QStringLiteral(ZELVIA_SOURCE_DIR "/tests/help/messages.txt"));
+    QFile file(QStringLiteral(ZELVIA_SOURCE_DIR "/tests/texts/list.txt"));
     if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("cannot read the list of messages");
+        qFatal("cannot read the list of texts");
     }
+    static const QRegularExpression box(QStringLiteral("^box \\| \"(.+)\" \\| [a-z-]+, "),
+                                        QRegularExpression::MultilineOption);
+    static const QRegularExpression changing(QStringLiteral("\\{[a-z]+\\}"));
+    static const QRegularExpression letter(QStringLiteral("\\p{L}"));
     QStringList messages;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        messages << line.mid(1, line.size() - 2);
+    for (const QRegularExpressionMatch& match : box.globalMatch(QString::fromUtf8(file.readAll()))) {
+        messages << match.captured(1).split(changing).filter(letter);
     }
+    messages.removeDuplicates();
     return messages;
 }
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Every page of the guide is in it, every entry, link and picture leads to something that is there, and every window, menu
-# entry and message of the program has its place.
+# Every page of the guide is in it, every entry, link and picture leads to something that is there, and every window and
+# menu entry of the program has its place.
 . "$(dirname "$0")/check.sh"
 cd "$source_folder/share/guida"
 
@@ -44,25 +44,4 @@ names=$(cd "$source_folder/src" &&
 expect "windows and menu entries were found" "$(($(wc -l <<<"$names") > 35))" 1
 expect "windows and menu entries without a topic" "$(comm -13 <(sort -u <<<"$topics") <(echo "$names"))" ""
 
-# Every text that a message box is given stands in the list that the search of the guide is tested with. A message is told
-# from other texts by its capitals; what stands in a call of MsgBox is one whatever its letters.
-list=$source_folder/tests/help/messages.txt
-expect "lines of the list that are no text" "$(grep -vnE '^".*[^ ].*"$' "$list" || true)" ""
-# Headings of the page and of the printed sheets.
-headings='"ALLENAMENTO :  "|"GARA :  "'
-texts=$(cd "$source_folder/src" && find . -name '*.cpp' -o -name '*.h' | sort | xargs perl -CSD -0777 -ne '
-  while (/\bMsgBox\(((?:[^()"]|"(?:[^"\\]|\\.)*"|\((?:[^()"]|"(?:[^"\\]|\\.)*")*\))*)\)/g) {
-    my $call = $1;
-    print "$&\n" while $call =~ /"(?:[^"\\]|\\.)*"/g;
-  }
-  while (/"((?:[^"\\\n]|\\.)*)"/g) {
-    my $text = $1;
-    print "\"$text\"\n" if $text =~ /\p{Lu}{3}/ && $text =~ / / && $text !~ /\p{Ll}|ERRORE : /;
-  }' | sort -u | grep -vxE "$headings" | grep -E '[[:alpha:]]')
-expect "messages were found" "$(($(wc -l <<<"$texts") > 30))" 1
-while IFS= read -r text; do
-  text=${text#\"}
-  text=${text%\"}
-  grep -qF -- "$text" "$list" || expect "«$text»" "not in tests/help/messages.txt" "there, and told of in messaggi.html"
-done <<<"$texts"
 verdict
