@@ -16,6 +16,9 @@ template <typename T, int First, int Last>
 class SparseArray
 {
 public:
+    static constexpr int kFirst = First;
+    static constexpr int kLast = Last;
+
     T& operator[](int index)
     {
         const std::size_t offset = OffsetWithin(index, First, Last);

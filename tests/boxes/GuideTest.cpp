@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the boxes of the guide.
 #include "boxes/BoxHand.h"
-#include "help/HelpWindow.h"
 
 #include <QAbstractItemView>
 #include <QLabel>
@@ -22,12 +21,11 @@ class Reader : public EntryPage
 public:
     Reader() { folder.Write(QStringLiteral("Guida.hlp"), GuideBytes()); }
 
-    static HelpWindow* Window()
+    static QWidget* Window()
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {
-            auto* help = qobject_cast<HelpWindow*>(window);
-            if (help != nullptr && help->isVisible()) {
-                return help;
+            if (window->objectName() == QLatin1String("HelpWindow") && window->isVisible()) {
+                return window;
             }
         }
         return nullptr;
