@@ -140,10 +140,22 @@ void TextBox::Paste(const QString& pasted)
     if (isReadOnly()) {
         return;
     }
-    Text clean = FromQString(pasted);
-    // Control characters: the line ends and tabulators of what was copied elsewhere.
-    std::erase_if(clean, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; });
-    insert(ToQString(clean).left(Room()));
+    const auto room = static_cast<std::size_t>(Room());
+    Text clean;
+    // Of megabytes no more is looked at than fits.
+    for (qsizetype i = 0; i < pasted.size() && clean.size() < room; ++i) {
+        const QChar character = pasted[i];
+        // Control characters: the line ends and tabulators of what was copied elsewhere.
+        if (character < u' ' || character == u'\x7F') {
+            continue;
+        }
+        if (character.isHighSurrogate() && i + 1 < pasted.size() && pasted[i + 1].isLowSurrogate()) {
+            ++i;
+        }
+        const int byte = ByteOf(character.unicode());
+        clean += byte < 0 ? '?' : static_cast<char>(byte);
+    }
+    insert(ToQString(clean));
 }
 
 void TextBox::mousePressEvent(QMouseEvent* event)
