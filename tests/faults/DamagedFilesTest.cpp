@@ -44,12 +44,6 @@ private:
 namespace
 {
 
-const SavedFile& Fetched()
-{
-    QFETCH(int, file);
-    return SavedFiles()[static_cast<std::size_t>(file)];
-}
-
 /// A file of its kind from the sample year.
 std::string SampleOf(const SavedFile& file)
 {
@@ -175,7 +169,7 @@ void DamagedFilesTest::ReadGood(const SavedFile& file, const std::string& whole)
 
 void DamagedFilesTest::CutAtEveryByte()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     const std::string whole = SampleOf(file);
     const std::vector<std::string> filed = LinesIn(whole);
     file.forget();
@@ -223,7 +217,7 @@ void DamagedFilesTest::EveryByteGarbled_data()
 void DamagedFilesTest::EveryByteGarbled()
 {
     QFETCH(char, garbage);
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     const std::string whole = SampleOf(file);
     const std::vector<std::string> filed = LinesIn(whole);
     const int descriptors = OpenDescriptors();
@@ -276,7 +270,7 @@ void DamagedFilesTest::OtherLineEnds()
     QFETCH(QByteArray, ahead);
     QFETCH(QByteArray, behind);
     QFETCH(QByteArray, last);
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     const std::vector<std::string> filed = LinesIn(SampleOf(file));
     std::string bytes;
     for (std::size_t i = 0; i < filed.size(); ++i) {
@@ -292,7 +286,7 @@ void DamagedFilesTest::OtherLineEnds()
 /// What a crash of the machine can leave of a file: its length, and zeros.
 void DamagedFilesTest::NothingButZeros()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     const std::string whole = SampleOf(file);
     const std::string zeros(whole.size(), '\0');
     folder_.Write(file.name, zeros);

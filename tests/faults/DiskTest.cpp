@@ -31,6 +31,7 @@ class DiskTest : public QObject
 
 private Q_SLOTS:
     void init();
+    void cleanup();
     void AFullDisk_data() { AddFileRows(); }
     void AFullDisk();
     void AFileThatMayNotGrow_data() { AddFileRows(); }
@@ -54,22 +55,14 @@ private Q_SLOTS:
     void ChangedWhileItIsRead();
 
 private:
-    void Write(const SavedFile& file, int error) const;
-    void Read(const SavedFile& file, int error) const;
-
     std::unique_ptr<TempFolder> folder_;
+    int descriptors_ = 0;
 };
 
 namespace
 {
 
 constexpr rlim_t kSmall = 65536;
-
-const SavedFile& Fetched()
-{
-    QFETCH(int, file);
-    return SavedFiles()[static_cast<std::size_t>(file)];
-}
 
 /// Holds a limit of the system lower for as long as it lives.
 class Limit
@@ -185,70 +178,56 @@ void DiskTest::init()
 {
     folder_ = std::make_unique<TempFolder>();
     Module1::CartellaDiario = folder_->Path();
+    descriptors_ = OpenDescriptors();
 }
 
-void DiskTest::Write(const SavedFile& file, int error) const
+/// No file is left open, whatever went wrong with it.
+void DiskTest::cleanup()
 {
-    MessageScript boxes;
-    if (error != 0) {
-        boxes.Expect(WriteReport(file, error));
-    }
-    file.write();
-    QVERIFY(boxes.AllShown());
-}
-
-void DiskTest::Read(const SavedFile& file, int error) const
-{
-    MessageScript boxes;
-    const Text report = ReadReport(file, error);
-    if (!report.empty()) {
-        boxes.Expect(report);
-    }
-    file.read();
-    QVERIFY(boxes.AllShown());
+    QCOMPARE(OpenDescriptors(), descriptors_);
 }
 
 void DiskTest::AFullDisk()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     std::filesystem::create_symlink("/dev/full", folder_->Native(file.name));
-    Write(file, 61);
+    WriteFor(file, 61);
 }
 
 void DiskTest::AFileThatMayNotGrow()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     const std::string whole = Lines(file.lines());
     {
         const Limit limit(RLIMIT_FSIZE, kSmall + 10);
-        Write(file, 61);
+        WriteFor(file, 61);
     }
     QCOMPARE(Difference(folder_->Read(file.name), whole.substr(0, kSmall + 10)), QByteArray());
-    Write(file, 0);
+    WriteFor(file, 0);
     QCOMPARE(Difference(folder_->Read(file.name), whole), QByteArray());
 }
 
 void DiskTest::ASmallDisk()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     const std::string whole = Lines(file.lines());
     {
         const SmallDisk disk(folder_->Native());
-        Write(file, 61);
+        WriteFor(file, 61);
         const std::string left = folder_->Read(file.name);
         QVERIFY(!left.empty() && left.size() <= kSmall);
         QCOMPARE(Difference(left, whole.substr(0, left.size())), QByteArray());
     }
-    Write(file, 0);
+    WriteFor(file, 0);
     QCOMPARE(Difference(folder_->Read(file.name), whole), QByteArray());
 }
 
 void DiskTest::AReadOnlyDisk()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     folder_->MakeFolder("disco");
     SmallDisk disk(folder_->Native("disco"));
@@ -256,48 +235,48 @@ void DiskTest::AReadOnlyDisk()
     disk.MakeReadOnly();
     const OrdinaryUser user(*folder_);
     Module1::CartellaDiario = folder_->Path("disco");
-    Write(file, 75);
+    WriteFor(file, 75);
     QCOMPARE(RaisedBy([&] { MakeFolder(folder_->Path("disco/nuova")); }), 75);
     QCOMPARE(RaisedBy([&] { DeleteFile(folder_->Path("disco/vecchio")); }), 75);
     QCOMPARE(FilesIn(folder_->Path("disco")).size(), std::size_t(1));
-    Read(file, 53);
+    ReadFor(file, 53);
 }
 
 void DiskTest::AReadOnlyFolder()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     const std::vector<std::string> filed = file.lines();
     folder_->Write("vecchio", "x");
     const OrdinaryUser user(*folder_);
     {
         const Rights rights(folder_->Native(), 0555);
-        Write(file, 75);
+        WriteFor(file, 75);
         QCOMPARE(RaisedBy([&] { MakeFolder(folder_->Path("nuova")); }), 75);
         QCOMPARE(RaisedBy([&] { DeleteFile(folder_->Path("vecchio")); }), 75);
         QVERIFY(folder_->Has("vecchio"));
     }
-    Write(file, 0);
+    WriteFor(file, 0);
     // What is there already can be written over and read even so.
     const Rights rights(folder_->Native(), 0555);
-    Write(file, 0);
+    WriteFor(file, 0);
     file.forget();
-    Read(file, 0);
+    ReadFor(file, 0);
     QVERIFY(file.lines() == filed);
 }
 
 void DiskTest::AFileThatMayNotBeTouched()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.forget();
     const std::vector<std::string> before = file.lines();
     const OrdinaryUser user(*folder_);
     folder_->Write(file.name, "vecchio");
     {
         const Rights rights(folder_->Native(file.name), 0000);
-        Read(file, 75);
+        ReadFor(file, 75);
         QVERIFY(file.lines() == before);
-        Write(file, 75);
+        WriteFor(file, 75);
     }
     QCOMPARE(Bytes(folder_->Read(file.name)), QByteArray("vecchio"));
 }
@@ -316,21 +295,21 @@ void DiskTest::AFolderThatMayNotBeListed()
 
 void DiskTest::AFolderInPlaceOfTheFile()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     folder_->MakeFolder(file.name);
-    Write(file, 75);
-    Read(file, 75);
+    WriteFor(file, 75);
+    ReadFor(file, 75);
     QCOMPARE(RaisedBy([&] { DeleteFile(folder_->Path(file.name)); }), 75);
     QVERIFY(folder_->Has(file.name));
 }
 
 void DiskTest::AFileInPlaceOfTheFolder()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     folder_->Write("prova", "x");
     Module1::CartellaDiario = folder_->Path("prova");
-    Write(file, 76);
-    Read(file, 76);
+    WriteFor(file, 76);
+    ReadFor(file, 76);
     QCOMPARE(RaisedBy([&] { DeleteFile(folder_->Path("prova") + "\\Base.tab"); }), 76);
     QCOMPARE(RaisedBy([&] { MakeFolder(folder_->Path("prova")); }), 75);
     QVERIFY(FilesIn(folder_->Path("prova")).empty());
@@ -339,7 +318,7 @@ void DiskTest::AFileInPlaceOfTheFolder()
 
 void DiskTest::TooManyFilesAreOpen()
 {
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     const std::vector<std::string> filed = file.lines();
     folder_->Write(file.name, Lines(filed));
@@ -347,13 +326,13 @@ void DiskTest::TooManyFilesAreOpen()
     close(lowest);
     {
         const Limit limit(RLIMIT_NOFILE, static_cast<rlim_t>(lowest));
-        Read(file, 67);
-        Write(file, 67);
+        ReadFor(file, 67);
+        WriteFor(file, 67);
         QCOMPARE(RaisedBy([&] { FilesIn(folder_->Path()); }), 67);
     }
     QCOMPARE(Difference(folder_->Read(file.name), Lines(filed)), QByteArray());
     file.forget();
-    Read(file, 0);
+    ReadFor(file, 0);
     QVERIFY(file.lines() == filed);
 }
 
@@ -408,18 +387,17 @@ void DiskTest::ChangedWhileItIsRead()
 {
     QFETCH(int, change);
     QFETCH(int, error);
-    const SavedFile& file = Fetched();
+    const SavedFile& file = FetchedFile();
     file.fill();
     std::vector<std::string> filed = file.lines();
     folder_->Write(file.name, Lines(filed));
     folder_->Write(file.name + std::string("-nuovo"), "altro");
     file.forget();
-    const int descriptors = OpenDescriptors();
     {
         const auto kind = static_cast<Change>(change);
         const FaultyDisk disk(folder_->Native(),
                               {Call::Read, 2, 0, {}, [&] { Make(kind, folder_->Native(file.name)); }});
-        Read(file, error);
+        ReadFor(file, error);
         QVERIFY(disk.Struck());
         if (kind == Change::Longer && file.clearedWhenOpen) {
             filed.emplace_back("\"coda\"");
@@ -430,7 +408,6 @@ void DiskTest::ChangedWhileItIsRead()
             QCOMPARE(WrongAfterCut(file, filed, kind == Change::Cut ? std::size_t(kCutAt) : kRead), QByteArray());
         }
     }
-    QCOMPARE(OpenDescriptors(), descriptors);
 }
 
 QTEST_APPLESS_MAIN(DiskTest)

@@ -216,13 +216,7 @@ void FileFaultsTest::ReadOnce(const SavedFile& file, const Fault& fault, int err
     const int descriptors = OpenDescriptors();
     {
         const FaultyDisk disk(folder_.Native(), fault);
-        MessageScript boxes;
-        const Text report = ReadReport(file, error);
-        if (!report.empty()) {
-            boxes.Expect(report);
-        }
-        file.read();
-        QVERIFY(boxes.AllShown());
+        ReadFor(file, error);
         QCOMPARE(disk.Struck(), fault.error != 0);
     }
     QCOMPARE(OpenDescriptors(), descriptors);

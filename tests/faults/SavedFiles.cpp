@@ -10,6 +10,7 @@
 #include "routes/RouteModel.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/MessageScript.h"
 #include "tables/TableModel.h"
 
 #include <QTest>
@@ -209,6 +210,16 @@ Text Report(const Text& title, int error)
     return title + std::to_string(error) + " " + DescriptionOf(error);
 }
 
+void RunWithReport(const std::function<void()>& routine, const Text& report)
+{
+    MessageScript boxes;
+    if (!report.empty()) {
+        boxes.Expect(report);
+    }
+    routine();
+    QVERIFY(boxes.AllShown());
+}
+
 } // namespace
 
 const std::vector<SavedFile>& SavedFiles()
@@ -225,9 +236,15 @@ void AddFileRows()
     }
 }
 
+const SavedFile& FetchedFile()
+{
+    QFETCH(int, file);
+    return SavedFiles()[static_cast<std::size_t>(file)];
+}
+
 Text WriteReport(const SavedFile& file, int error)
 {
-    return Report(file.writeTitle, error);
+    return error == 0 ? Text() : Report(file.writeTitle, error);
 }
 
 Text ReadReport(const SavedFile& file, int error)
@@ -237,6 +254,16 @@ Text ReadReport(const SavedFile& file, int error)
     }
     return file.descriptionOnly ? file.readTitle + DescriptionOf(error) + " Liste Percorso"
                                 : Report(file.readTitle, error);
+}
+
+void WriteFor(const SavedFile& file, int error)
+{
+    RunWithReport(file.write, WriteReport(file, error));
+}
+
+void ReadFor(const SavedFile& file, int error)
+{
+    RunWithReport(file.read, ReadReport(file, error));
 }
 
 QByteArray WrongAfterCut(const SavedFile& file, const std::vector<std::string>& filed, std::size_t available)

@@ -33,9 +33,16 @@ const std::vector<SavedFile>& SavedFiles();
 /// A row of test data for each file and the column "file", its place in SavedFiles().
 void AddFileRows();
 
-/// The report of a failed write or read, or the empty text when there is none.
+/// The file of the row of test data at hand.
+const SavedFile& FetchedFile();
+
+/// The report of a failed write or read, or the empty text when there is none or `error` is 0.
 Text WriteReport(const SavedFile& file, int error);
 Text ReadReport(const SavedFile& file, int error);
+
+/// Writes or reads a file; the report of `error`, if it is not 0 and has one, must come up and nothing else.
+void WriteFor(const SavedFile& file, int error);
+void ReadFor(const SavedFile& file, int error);
 
 /// Compares what is in memory after a read over forgotten values that got no further than `available` bytes: the
 /// values that lie wholly in them are the file's, the one in hand may be, the rest is as before. Empty when it is so,
