@@ -398,7 +398,7 @@ void ValueFileTest::ValuesAcrossTheBufferEdge_data()
 {
     QTest::addColumn<int>("edge");
     QTest::addColumn<int>("shift");
-    for (const int edge : {1 << 16, 1 << 18}) {
+    for (const int edge : {1 << 15, 1 << 16, 1 << 18}) {
         for (int shift = -14; shift <= 2; ++shift) {
             QTest::addRow("%d%+d", edge, shift) << edge << shift;
         }

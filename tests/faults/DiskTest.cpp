@@ -353,7 +353,7 @@ constexpr ChangeRow kChanges[] = {
 };
 
 constexpr off_t kCutAt = 300000;
-constexpr std::size_t kRead = 1 << 18; // As much as the reader takes at a time.
+constexpr std::size_t kRead = 1 << 15; // As much as the reader takes at a time.
 
 void Make(Change change, const std::string& path)
 {

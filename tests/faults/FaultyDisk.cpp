@@ -37,7 +37,7 @@ std::map<int, std::string>& ListedFolders()
 }
 
 // As much as a reader asks for at a time. A stream of one's own making takes that in one call only from a buffer.
-constexpr size_t kPiece = 1 << 18;
+constexpr size_t kPiece = 1 << 15;
 
 /// A file that is open while a disk watches.
 struct Stream {

@@ -54,7 +54,7 @@ namespace
 
 // As much as the routines hand to the system at a time, and take from it.
 constexpr std::size_t kWritten = 1 << 16;
-constexpr std::size_t kRead = 1 << 18;
+constexpr std::size_t kRead = 1 << 15;
 
 struct Failure {
     Call call;
