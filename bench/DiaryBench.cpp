@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads and writes a year's diary: the sample one, and one with every field filled.
+// Reads and writes a year's diary: the sample one, one with every field filled, and the sample with one note that
+// grows.
 #include "bench/Measure.h"
 #include "core/DiaryFile.h"
 #include "core/Files.h"
@@ -20,6 +21,7 @@ using namespace zelvia;
 using namespace zelvia::bench;
 
 constexpr int kRounds = 400;
+constexpr std::size_t kNotes[] = {10, 1'000, 100'000, 1'000'000}; ///< Bytes of the note.
 
 std::string BytesOf(const std::string& path)
 {
@@ -113,6 +115,10 @@ int main(int argc, char* argv[])
     Module1::AzzeraAnno();
     Module1::CaricaDiario(SystemPath(argv[1]));
     Measure("sample", argv[2]);
+    for (const std::size_t length : kNotes) {
+        Module1::Giorni[100].Note[3] = Text(length, 'n');
+        Measure("note " + std::to_string(length), argv[2]);
+    }
     FillEveryField();
     Measure("full", argv[2]);
     return 0;

@@ -55,7 +55,7 @@ Samples Alternate(int rounds, Measured&& measured, Baseline&& baseline)
 /// Prints a row of the table: name, measured, baseline, their ratio, the figure to hold.
 inline void PrintRow(const char* name, double measured, double baseline, const char* unit, const char* figure)
 {
-    std::printf("%-42s %9.3f %s %9.3f %s %7.2f   %s\n", name, measured, unit, baseline, unit, measured / baseline,
+    std::printf("%-46s %9.3f %s %9.3f %s %7.2f   %s\n", name, measured, unit, baseline, unit, measured / baseline,
                 figure);
     std::fflush(stdout);
 }
