@@ -49,6 +49,7 @@ Actions::Actions(Desk& desk, Dice& dice, Trail& trail, Boxes& boxes)
                                        {"enter a field", 6, kPage, &Actions::EnterField},
                                        {"enter a run", 5, kPage, &Actions::EnterRun},
                                        {"enter splits", 3, kPage, &Actions::EnterSplits},
+                                       {"enter a number", 5, kPage, &Actions::EnterNumber},
                                        {"write a note", 3, kPage, &Actions::WriteNote},
                                        {"menu", 14, kPage, &Actions::OpenMenu},
                                        {"exit", 1, kPage, &Actions::Exit},
@@ -84,7 +85,6 @@ Actions::Action& Actions::Throw(const QWidget& window)
 
 void Actions::Run()
 {
-    steppedDate_ = false;
     if (QWidget* window = AnyWindow()) {
         Action& action = Throw(*window);
         trail_.Note(QLatin1String(action.name) + QLatin1Char(':'));
@@ -115,7 +115,6 @@ void Actions::StepDate(QWidget& /*window*/)
         hand_.Click(*page->lblData);
         return;
     }
-    steppedDate_ = true;
     hand_.Step(spin, upper);
 }
 
@@ -228,6 +227,20 @@ void Actions::EnterRun(QWidget& /*window*/)
         desk_.Settle();
     }
     hand_.Key(Qt::Key_Escape);
+}
+
+/// Runners, weight or repetitions.
+void Actions::EnterNumber(QWidget& /*window*/)
+{
+    const int which = dice_.Below(5);
+    const int keys = dice_.Between(1, 6);
+    const frmMain* page = desk_.Page();
+    if (page == nullptr) {
+        return;
+    }
+    Label* values[] = {page->lblImmisCorridori, page->lblImmisPeso, page->lblRipetizioniVolte,
+                       page->lblRipetizioniQuante, page->lblRipetizioniDistanza};
+    UseGroup(*values[which], keys);
 }
 
 void Actions::EnterSplits(QWidget& /*window*/)

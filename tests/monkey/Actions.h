@@ -30,9 +30,6 @@ public:
     };
     std::vector<Count> Counts() const;
 
-    /// True when the last action was one step of the date and nothing else.
-    bool SteppedDate() const { return steppedDate_; }
-
 private:
     struct Action {
         const char* name;
@@ -76,6 +73,7 @@ private:
     void OpenMenu(QWidget& window);
     void EnterRun(QWidget& window);
     void EnterSplits(QWidget& window);
+    void EnterNumber(QWidget& window);
 
     // On other windows.
     void ChooseTable(QWidget& window);
@@ -104,7 +102,6 @@ private:
     Hand hand_;
     std::vector<Action> table_;
     int weights_ = 0;
-    bool steppedDate_ = false;
 };
 
 } // namespace zelvia::monkey

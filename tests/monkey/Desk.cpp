@@ -82,6 +82,9 @@ void Desk::Start()
     if (!page_->FormLoad()) {
         qFatal("the folder is locked");
     }
+    if (Made) {
+        Made(*page_);
+    }
     page_->show();
     Activate(*page_);
     QTRY_VERIFY_WITH_TIMEOUT(page_->isActiveWindow(), kPatience);

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 
 namespace zelvia::monkey
@@ -30,6 +31,8 @@ public:
     const test::ProgramFolderCopy folder;
     CalendarDate today{2026, 5, 20};
     bool printerBroken = false;
+    /// Runs for each new page, before it is shown.
+    std::function<void(frmMain&)> Made;
 
     /// Starts the program; once more when it has ended.
     void Start();

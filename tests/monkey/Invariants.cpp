@@ -33,19 +33,40 @@ constexpr int kMostWindows = 40;
 Invariants::Invariants(Desk& desk, Boxes& boxes) : desk_(desk), boxes_(boxes), files_(desk.folder)
 {
     boxes_.Meanwhile = [this] { meanwhile_ += files_.Look(desk_.Page()); };
+    desk_.Made = [this](frmMain& page) { WatchSteps(page); };
 }
 
-void Invariants::Begin()
+/// Puts a look before and after each step of the date, by whatever way it comes.
+void Invariants::WatchSteps(frmMain& page)
 {
-    before_.reset();
-    if (const frmMain* page = desk_.Page()) {
-        before_ = {DataCorrente, GiornoCorrente.value(), CommittedFrom(*page, Giorni[GiornoCorrente])};
+    for (UpDown* spin : {page.upGiorno, page.upMese}) {
+        for (std::function<void()>* click : {&spin->UpClick, &spin->DownClick}) {
+            *click = [this, &page, step = *click] { Step(page, step); };
+        }
     }
 }
 
-QString Invariants::Check(const Actions& actions, long number)
+/// A step of the date takes the page into the record of its day and shows the next one.
+void Invariants::Step(frmMain& page, const std::function<void()>& step)
 {
-    for (const QString& wrong : {CheckAtRest(), CheckMemory(), CheckFiles(), CheckDays(actions, number)}) {
+    const i16 slot = GiornoCorrente;
+    const RecordGiorno committed = CommittedFrom(page, Giorni[slot]);
+    const bool whole = page.lstListaKM->ListCount() <= decltype(committed.ListaKm)::kLast + 1;
+    step();
+    const auto note = [this](const char* what, const QString& wrong) {
+        meanwhile_ += wrong.isEmpty() ? wrong : QLatin1String(what) + wrong;
+    };
+    const RecordGiorno& shown = Giorni[GiornoCorrente];
+    if (whole) {
+        note("the day that was left: ", DayDifference(Giorni[slot], committed));
+    }
+    note("the day that is shown: ", DayDifference(CommittedFrom(page, shown), Visited(shown, DataCorrente)));
+    note("the counters: ", CounterFault(page));
+}
+
+QString Invariants::Check(long number)
+{
+    for (const QString& wrong : {CheckAtRest(), CheckMemory(), CheckFiles(), CheckDays(number)}) {
         if (!wrong.isEmpty()) {
             return wrong;
         }
@@ -160,7 +181,7 @@ bool Invariants::Replaced() const
     return desk_.Carried("start") || desk_.Carried("frmMain.mnuFileOpen") || desk_.Carried("frmMain.mnuFileNuovo");
 }
 
-QString Invariants::CheckDays(const Actions& actions, long number)
+QString Invariants::CheckDays(long number)
 {
     const frmMain* page = desk_.Page();
     if (page == nullptr) {
@@ -170,7 +191,7 @@ QString Invariants::CheckDays(const Actions& actions, long number)
         return CheckReplaced();
     }
     worked_[static_cast<std::size_t>(GiornoCorrente.value())] = true;
-    const QString wrong = CheckMove(actions);
+    const QString wrong = CheckCommitted();
     return wrong.isEmpty() && number % kOtherDaysEvery == 0 ? CheckOtherDays() : wrong;
 }
 
@@ -185,27 +206,21 @@ QString Invariants::CheckReplaced()
     return read && desk_.Commands().size() == 1 ? files_.DiaryDifference(page.NomeFile) : QString();
 }
 
-/// A step of the date takes the page into the record of its day and shows the next one.
-QString Invariants::CheckMove(const Actions& actions) const
+/// A command that saves or counts has taken the page into the record of its day.
+QString Invariants::CheckCommitted() const
 {
-    if (!before_ || !actions.SteppedDate()) {
-        return {};
-    }
+    static constexpr const char* committing[] = {
+        "frmMain.mnuFileSave",  "frmMain.mnuFileSaveAs", "frmMain.mnuMedie",      "frmMain.mnuPercorso",
+        "frmMain.mnuLunghezza", "frmMain.mnuKm",         "frmMain.mnuAndatura",   "frmMain.mnuFondo",
+        "frmMain.mnuTipo",      "frmMain.mnuStagione",   "frmMain.mnuMeteo",      "frmMain.mnuTemperatura",
+        "frmMain.mnuCorridori", "frmMain.mnuPeso",       "frmMain.mnuRipetizioni"};
     const frmMain& page = *desk_.Page();
-    const bool moved = DataCorrente != before_->date;
-    if (moved) {
-        const QString lost = DayDifference(Giorni[before_->slot], before_->committed);
-        if (!lost.isEmpty()) {
-            return QStringLiteral("the day that was left: ") + lost;
-        }
-        const RecordGiorno& day = Giorni[GiornoCorrente];
-        const QString shown = DayDifference(CommittedFrom(page, day), Visited(day, DataCorrente));
-        if (!shown.isEmpty()) {
-            return QStringLiteral("the day that is shown: ") + shown;
-        }
-        return CounterFault(page);
-    }
-    return {};
+    const RecordGiorno& day = Giorni[GiornoCorrente];
+    const bool due = desk_.Commands().size() == 1 && page.lstListaKM->ListCount() <= decltype(day.ListaKm)::kLast + 1 &&
+                     std::any_of(std::begin(committing), std::end(committing),
+                                 [this](const char* command) { return desk_.Carried(command); });
+    const QString lost = due ? DayDifference(day, CommittedFrom(page, day)) : QString();
+    return lost.isEmpty() ? lost : QStringLiteral("the day that was saved or counted: ") + lost;
 }
 
 /// Days that were not on the page are as they were, but for what showing and leaving them makes of them.
