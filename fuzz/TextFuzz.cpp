@@ -39,7 +39,8 @@ void CheckPath(const Text& path)
     Require(CAPTIONPATH(path, path) == 0 && boxes.Shown().size() <= 1, "a path lies where it lies");
     const Text name = NomeSenzaCartella(path);
     Require(name.find('\\') == Text::npos && InStr(path, name) > 0, "a name without its folder");
-    RequireError(RaisedBy([&] { NativePath(path); }), {Errore::PercorsoNonTrovato});
+    RequireError(RaisedBy([&] { NativePath(path); }),
+                 {path.find('\0') == Text::npos ? Errore::PercorsoNonTrovato : Errore::NomeFileNonValido});
 }
 
 void CheckCharacters(const Text& text)

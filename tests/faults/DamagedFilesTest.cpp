@@ -71,7 +71,7 @@ std::vector<std::string> LinesIn(const std::string& bytes)
 bool IsTried(std::size_t at, std::size_t size, std::size_t small)
 {
     const auto middle = size / 2;
-    return size <= small || at < 200 || at + 60 > size || (at > middle && at < middle + 60) || at % (size / 20) == 0;
+    return size <= small || at < 60 || at + 30 > size || (at > middle && at < middle + 30) || at % (size / 8) == 0;
 }
 
 /// What a read over other values must come to.

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <filesystem>
 #include <span>
+#include <utility>
 
 using namespace zelvia;
 using namespace zelvia::test;
@@ -29,6 +30,8 @@ private Q_SLOTS:
     void init();
     void Writing_data();
     void Writing();
+    void Opening_data() { AddFileRows(); }
+    void Opening();
     void Reading_data();
     void Reading();
     void MakingAFolder_data();
@@ -63,20 +66,34 @@ struct Failure {
 };
 
 constexpr Failure kWriteFailures[] = {
-    {Call::Open, EACCES, 75},  {Call::Open, ENOENT, 76},       {Call::Write, ENOSPC, 61}, {Call::Write, EIO, 57},
-    {Call::Close, EIO, 57},    {Call::Open, ELOOP, 75},        {Call::Open, EPERM, 75},   {Call::Open, EROFS, 75},
-    {Call::Open, EISDIR, 75},  {Call::Open, ENOTDIR, 76},      {Call::Open, ENOSPC, 61},  {Call::Open, EDQUOT, 61},
-    {Call::Open, EMFILE, 67},  {Call::Open, ENFILE, 67},       {Call::Open, EIO, 57},     {Call::Open, EBUSY, 70},
-    {Call::Open, ETXTBSY, 70}, {Call::Open, ENAMETOOLONG, 52}, {Call::Write, EDQUOT, 61}, {Call::Write, EFBIG, 61},
-    {Call::Close, ENOSPC, 61}, {Call::Close, EDQUOT, 61},
+    {Call::Open, EACCES, 75}, {Call::Open, ENOENT, 76}, {Call::Write, ENOSPC, 61},
+    {Call::Write, EIO, 57},   {Call::Close, EIO, 57},
 };
 
 constexpr Failure kReadFailures[] = {
-    {Call::Open, EACCES, 75},  {Call::Open, ENOENT, 53},       {Call::Read, EIO, 57},    {Call::Close, EIO, 0},
-    {Call::Open, EROFS, 75},   {Call::Open, ELOOP, 75},        {Call::Open, EPERM, 75},  {Call::Open, EISDIR, 75},
-    {Call::Open, ENOTDIR, 76}, {Call::Open, EMFILE, 67},       {Call::Open, ENFILE, 67}, {Call::Open, EIO, 57},
-    {Call::Open, EBUSY, 70},   {Call::Open, ENAMETOOLONG, 52}, {Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70},
+    {Call::Open, EACCES, 75},
+    {Call::Open, ENOENT, 53},
+    {Call::Read, EIO, 57},
+    {Call::Close, EIO, 0},
 };
+
+// The reasons why a file can't be opened, but for ENOENT.
+constexpr std::pair<int, int> kOpenReasons[] = {
+    {EACCES, 75}, {EPERM, 75},  {EROFS, 75},  {EISDIR, 75}, {ELOOP, 75}, {ENOTDIR, 76}, {ENOSPC, 61},
+    {EDQUOT, 61}, {EMFILE, 67}, {ENFILE, 67}, {EIO, 57},    {EBUSY, 70}, {ETXTBSY, 70}, {ENAMETOOLONG, 52},
+};
+
+// The other reasons of the calls behind it, for one file: the numbers are found in one place for all.
+constexpr const char* kFileOfReasons = "CalendarioGare";
+
+constexpr Failure kWriteReasons[] = {
+    {Call::Write, EDQUOT, 61},
+    {Call::Write, EFBIG, 61},
+    {Call::Close, ENOSPC, 61},
+    {Call::Close, EDQUOT, 61},
+};
+
+constexpr Failure kReadReasons[] = {{Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70}};
 
 constexpr Failure kFolderFailures[] = {
     {Call::Make, EACCES, 75}, {Call::Make, EPERM, 75},   {Call::Make, EROFS, 75},
@@ -126,14 +143,18 @@ void AddFailures(std::span<const Failure> failures)
     }
 }
 
-void AddFilesWithFailures(std::span<const Failure> failures)
+void AddFilesWithFailures(std::span<const Failure> failures, std::span<const Failure> reasons = {})
 {
     QTest::addColumn<int>("file");
     AddColumns();
     for (std::size_t i = 0; i < SavedFiles().size(); ++i) {
         const QByteArray name = SavedFiles()[i].name;
-        for (const Failure& failure : failures) {
+        const auto add = [&](const Failure& failure) {
             QTest::newRow((name + ": " + NameOf(failure)).constData()) << static_cast<int>(i) << failure;
+        };
+        std::for_each(failures.begin(), failures.end(), add);
+        if (name == kFileOfReasons) {
+            std::for_each(reasons.begin(), reasons.end(), add);
         }
     }
 }
@@ -152,7 +173,7 @@ void FileFaultsTest::init()
 
 void FileFaultsTest::Writing_data()
 {
-    AddFilesWithFailures(kWriteFailures);
+    AddFilesWithFailures(kWriteFailures, kWriteReasons);
 }
 
 /// Writes over an old file and returns what is there then.
@@ -204,9 +225,30 @@ void FileFaultsTest::Writing()
     QCOMPARE(Difference(WriteOnce(saved, {kind, none, reason, {}, {}}, 0), whole), QByteArray());
 }
 
+/// Neither the file nor what is in memory changes, whatever the reason.
+void FileFaultsTest::Opening()
+{
+    const SavedFile& saved = FetchedFile();
+    saved.forget();
+    const std::vector<std::string> before = saved.lines();
+    folder_.Write(saved.name, "vecchio");
+    const int descriptors = OpenDescriptors();
+    for (const auto& [reason, error] : kOpenReasons) {
+        const FaultyDisk disk(folder_.Native(), {Call::Open, 1, reason, {}, {}});
+        WriteFor(saved, error);
+        QVERIFY2(disk.Struck(), strerrorname_np(reason));
+        const FaultyDisk another(folder_.Native(), {Call::Open, 1, reason, {}, {}});
+        ReadFor(saved, error);
+        QVERIFY2(another.Struck(), strerrorname_np(reason));
+        QCOMPARE(folder_.Read(saved.name), Text("vecchio"));
+        QVERIFY2(saved.lines() == before, strerrorname_np(reason));
+    }
+    QCOMPARE(OpenDescriptors(), descriptors);
+}
+
 void FileFaultsTest::Reading_data()
 {
-    AddFilesWithFailures(kReadFailures);
+    AddFilesWithFailures(kReadFailures, kReadReasons);
 }
 
 /// Reads over other values.

@@ -193,11 +193,13 @@ void EntryPage::TakeFront() const
 
 void EntryPage::AwaitFront(const QWidget& window)
 {
-    QTRY_VERIFY(window.isActiveWindow());
-    QTRY_VERIFY(QGuiApplication::focusWindow() == window.windowHandle());
+    // On a busy machine the manager takes its time.
+    constexpr int patience = 20000;
+    QTRY_VERIFY_WITH_TIMEOUT(window.isActiveWindow(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::focusWindow() == window.windowHandle(), patience);
     if (hand::OnX11()) {
         // The manager hears of it later than the window, and until then it may take a click for itself.
-        QTRY_COMPARE(ActiveOnDisplay(), QByteArray::number(window.winId()));
+        QTRY_COMPARE_WITH_TIMEOUT(ActiveOnDisplay(), QByteArray::number(window.winId()), patience);
     }
 }
 
