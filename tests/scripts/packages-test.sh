@@ -6,10 +6,10 @@
 . "$source_folder/packaging/packages.sh"
 
 # The list itself: each package once, under a section, with its reason.
-expect "sections" "$(grep -o '^\[[a-z]*\]' "$PACKAGE_LIST" | tr -d '\n')" "[run][build][package][display][test]"
+expect "sections" "$(grep -o '^\[[a-z]*\]' "$PACKAGE_LIST" | tr -d '\n')" "[run][build][package][display][test][coverage]"
 expect "lines without a reason" \
   "$(grep -vE '^(#.*|\[[a-z]+\].*|[a-z0-9][a-z0-9+.-]+ +# .+|)$' "$PACKAGE_LIST" || true)" ""
-expect "packages named twice" "$(packages_in run build package display test | sort | uniq -d)" ""
+expect "packages named twice" "$(packages_in run build package display test coverage | sort | uniq -d)" ""
 expect "packages not installed when the tests run" "$(packages_missing run build package display test)" ""
 
 # The reader.
