@@ -208,9 +208,11 @@ void PageTest::save()
             QVERIFY2(IsSame(file, struck) ? IsLeftOf(left, file, failure.call) : left == SavedBytes(file), file.file);
         }
         QVERIFY(Module1::FileModificato == 0);
-        // The first box has the toolkit open files of its own.
-        QVERIFY(descriptors == 0 || OpenDescriptors() == descriptors);
-        descriptors = OpenDescriptors();
+        // The first box has the toolkit open files of its own, and its threads hold one for a moment.
+        if (descriptors == 0) {
+            descriptors = OpenDescriptors();
+        }
+        QTRY_COMPARE_LE(OpenDescriptors(), descriptors);
     }
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
