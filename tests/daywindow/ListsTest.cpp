@@ -38,6 +38,8 @@ private Q_SLOTS:
     void theControlsOfAField();
     void opens_data();
     void opens();
+    void opensByItsRoutine_data() { AddFields(); }
+    void opensByItsRoutine();
     void closes_data();
     void closes();
     void whatIsTypedJoinsTheList_data() { AddFields(); }
@@ -104,6 +106,20 @@ void ListsTest::opens()
         QCOMPARE(page.IsOpen(other), other == number);
     }
     VERIFY_SCRIPT(page.script);
+}
+
+void ListsTest::opensByItsRoutine()
+{
+    QFETCH(int, number);
+    constexpr void (frmMain::*routines[])() = {
+        &frmMain::ImmisPercorso, &frmMain::ImmisLunghezza, &frmMain::ImmisModo,     &frmMain::ImmisFondo,
+        &frmMain::ImmisTipo,     &frmMain::ImmisStagione,  &frmMain::ImmisTempoAtm, &frmMain::ImmisTemperatura};
+    EntryPage page;
+    page.Start();
+    (page.Page().*routines[number - 1])();
+    QTRY_VERIFY(page.IsOpen(number));
+    QTRY_COMPARE(EntryPage::Focused(), Named("txt", number));
+    QCOMPARE(page.Hands(), kHands);
 }
 
 void ListsTest::closes_data()
