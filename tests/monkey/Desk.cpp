@@ -58,10 +58,10 @@ Desk::Desk()
 Desk::~Desk()
 {
     qApp->removeEventFilter(this);
-    // The windows go before the page, and some take others with them.
-    order_.removeAll(page_.data());
-    for (const QPointer<QWidget>& window : order_) {
-        if (qobject_cast<Form*>(window) != nullptr) {
+    // The windows go before the page, those too that were never shown; and some take others with them.
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QPointer<QWidget>& window : QList<QPointer<QWidget>>(widgets.begin(), widgets.end())) {
+        if (window != page_ && qobject_cast<Form*>(window) != nullptr) {
             delete window;
         }
     }
