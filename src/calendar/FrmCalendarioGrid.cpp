@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race calendar's controls: what stands where, and the events of its boxes.
 #include "calendar/FrmCalendario.h"
-#include "toolkit/Fonts.h"
 #include "toolkit/Colours.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
 

@@ -3,8 +3,8 @@
 // The search window's controls: where they stand, how they look and what they set off.
 #include "core/Conversions.h"
 #include "statistics/FrmRicercheStatistiche.h"
-#include "toolkit/Fonts.h"
 #include "toolkit/Colours.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 

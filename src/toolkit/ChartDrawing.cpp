@@ -3,8 +3,8 @@
 #include "toolkit/ChartDrawing.h"
 
 #include "core/Conversions.h"
-#include "toolkit/Fonts.h"
 #include "toolkit/ChartLabels.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 

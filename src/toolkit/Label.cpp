@@ -28,7 +28,8 @@ Text Label::Caption() const
 
 void Label::SetCaption(TextView caption)
 {
-    // QLabel lays the text of a label that takes the focus out in a document of its own, which plain text has no use for.
+    // QLabel lays the text of a label that takes the focus out in a document of its own, which plain text has no use
+    // for.
     const Qt::FocusPolicy reach = focusPolicy();
     setFocusPolicy(Qt::NoFocus);
     setText(ToQString(caption));

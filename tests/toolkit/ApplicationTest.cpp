@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "toolkit/Fonts.h"
-
 #include "core/MessageBox.h"
 #include "support/BoxAnswer.h"
 #include "support/WindowTest.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/SampleForm.h"
 
 #include <QAbstractButton>
