@@ -4,6 +4,9 @@
 #include "routes/FrmDesPercorso.h"
 #include "support/EntryPage.h"
 
+#include <array>
+#include <cstddef>
+
 namespace zelvia::test
 {
 namespace
@@ -108,15 +111,19 @@ void ListsTest::opens()
     VERIFY_SCRIPT(page.script);
 }
 
+constexpr std::array<void (*)(frmMain&), 8> kOpeners = {
+    [](frmMain& page) { page.ImmisPercorso(); }, [](frmMain& page) { page.ImmisLunghezza(); },
+    [](frmMain& page) { page.ImmisModo(); },     [](frmMain& page) { page.ImmisFondo(); },
+    [](frmMain& page) { page.ImmisTipo(); },     [](frmMain& page) { page.ImmisStagione(); },
+    [](frmMain& page) { page.ImmisTempoAtm(); }, [](frmMain& page) { page.ImmisTemperatura(); },
+};
+
 void ListsTest::opensByItsRoutine()
 {
     QFETCH(int, number);
-    constexpr void (frmMain::*routines[])() = {
-        &frmMain::ImmisPercorso, &frmMain::ImmisLunghezza, &frmMain::ImmisModo,     &frmMain::ImmisFondo,
-        &frmMain::ImmisTipo,     &frmMain::ImmisStagione,  &frmMain::ImmisTempoAtm, &frmMain::ImmisTemperatura};
     EntryPage page;
     page.Start();
-    (page.Page().*routines[number - 1])();
+    kOpeners[static_cast<std::size_t>(number - 1)](page.Page());
     QTRY_VERIFY(page.IsOpen(number));
     QTRY_COMPARE(EntryPage::Focused(), Named("txt", number));
     QCOMPARE(page.Hands(), kHands);
