@@ -22,7 +22,8 @@ constexpr std::size_t kChunk = 1 << 9;
 constexpr std::size_t kChunk = 1 << 15;
 #endif
 
-// Far more than any text of a diary. A file without end, or one with a hole, must not fill the memory.
+// Far more than any text of a diary. A file without end, or one with a hole, must not fill the memory. Each reading on
+// doubles the buffer, so that it ends at twice as much.
 constexpr std::size_t kLongestValue = 1 << 26;
 
 bool IsBlank(char c)

@@ -118,6 +118,25 @@ void Correct(TextBox& box, const QString& text)
     QTRY_COMPARE(box.text(), text);
 }
 
+void LeaveByTab(DayPage& page, TextBox& box, const Outcome& outcome, const ExpectedBox& refusal)
+{
+    const auto hasFocus = [&box] { return QApplication::focusWidget() == &box; };
+    if (outcome.refused) {
+        page.script.Expect(refusal);
+        hand::Key(Qt::Key_Tab);
+        QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+        EntryPage::AwaitFront(*box.window());
+        QTRY_VERIFY2(hasFocus(), qPrintable(box.objectName()));
+        QCOMPARE(box.text(), outcome.Shown());
+        Correct(box, QStringLiteral("1"));
+    }
+    hand::Key(Qt::Key_Tab);
+    QTRY_VERIFY2(!hasFocus(), qPrintable(box.objectName()));
+    if (!outcome.refused) {
+        QCOMPARE(box.text(), outcome.Left());
+    }
+}
+
 void PressForeignKeys()
 {
     QApplication::clipboard()->setText(QStringLiteral("7"));

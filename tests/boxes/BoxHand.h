@@ -20,6 +20,9 @@ void Fill(TextBox& box, const BadInput& input);
 /// Types over what a box with the focus holds.
 void Correct(TextBox& box, const QString& text);
 
+/// Leaves a box by Tab. Where the outcome says so the box comes up and keeps the focus, and is then put right.
+void LeaveByTab(DayPage& page, TextBox& box, const Outcome& outcome, const ExpectedBox& refusal);
+
 /// Presses keys that are none of a list or of a spin control: letters, signs, digits, pasting and deleting ones.
 void PressForeignKeys();
 

@@ -5,16 +5,6 @@
 
 namespace zelvia::test
 {
-namespace
-{
-
-ExpectedBox Exclamation(const QString& text)
-{
-    return {text, QMessageBox::Warning};
-}
-
-} // namespace
-
 class PeriodFieldsTest : public QObject
 {
     Q_OBJECT
@@ -123,7 +113,7 @@ void PeriodFieldsTest::aValueBeyondTheLimitHoldsTheFocus()
     TextBox& other =
         *desk->campiPeriodo[place == CampoPeriodo::GiornoInizio ? CampoPeriodo::MeseFine : CampoPeriodo::GiornoInizio];
     for (int way = 0; way < 6; ++way) {
-        desk.script.Expect(Exclamation(message));
+        desk.script.Expect(Warning(message));
         switch (way) {
         case 0: hand::Key(Qt::Key_Return); break;
         case 1: hand::Key(Qt::Key_Tab); break;
@@ -201,7 +191,7 @@ void PeriodFieldsTest::aCheckRepairsAndTells()
     desk.StartSearch();
     desk.TypePeriod(boxes);
     for (const QString& message : messages) {
-        desk.script.Expect(Exclamation(message));
+        desk.script.Expect(Warning(message));
     }
     desk.Run();
     desk.AwaitBoxes();
@@ -217,7 +207,7 @@ void PeriodFieldsTest::aRefusalLeavesTheResult()
     QTRY_VERIFY(desk.ShowsResult());
     const QByteArray totals = desk.Totals();
     desk.TypePeriod("5|5|2026|4|5|2026");
-    desk.script.Expect(Exclamation(QStringLiteral("DATA FINE MINORE DELLA DATA INIZIO                 ")));
+    desk.script.Expect(Warning(QStringLiteral("DATA FINE MINORE DELLA DATA INIZIO                 ")));
     desk.Run();
     desk.AwaitBoxes();
     QVERIFY(desk.ShowsResult());

@@ -191,4 +191,9 @@ ExpectedBox Report(const QString& text)
     return {text};
 }
 
+ExpectedBox Warning(const QString& text)
+{
+    return {text, QMessageBox::Warning};
+}
+
 } // namespace zelvia::test

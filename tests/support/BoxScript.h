@@ -72,6 +72,8 @@ private:
 
 /// A plain box of one button, as errors are reported.
 ExpectedBox Report(const QString& text);
+/// The same with the exclamation mark.
+ExpectedBox Warning(const QString& text);
 
 } // namespace zelvia::test
 

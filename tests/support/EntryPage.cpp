@@ -7,7 +7,6 @@
 #include "toolkit/FocusController.h"
 
 #include <QMenu>
-#include <QProcess>
 #include <QTimer>
 #include <QWindow>
 
@@ -17,15 +16,6 @@ namespace
 {
 
 constexpr int kSeason = 6;
-
-/// The number of the window that the manager of the display holds for the active one.
-QByteArray ActiveOnDisplay()
-{
-    QProcess xdotool;
-    xdotool.start(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
-    xdotool.waitForFinished();
-    return xdotool.readAllStandardOutput().trimmed();
-}
 
 /// Waits for a pop-up, notes what it shows and presses a key in it.
 class PopUpAnswer : public QObject
@@ -199,7 +189,7 @@ void EntryPage::AwaitFront(const QWidget& window)
     QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::focusWindow() == window.windowHandle(), patience);
     if (hand::OnX11()) {
         // The manager hears of it later than the window, and until then it may take a click for itself.
-        QTRY_COMPARE_WITH_TIMEOUT(ActiveOnDisplay(), QByteArray::number(window.winId()), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(hand::ManagersActiveWindow(), window.winId(), patience);
     }
 }
 
@@ -229,11 +219,6 @@ QByteArrayList TwoHundredNames()
         names << 'R' + QByteArray::number(place);
     }
     return names;
-}
-
-ExpectedBox Warning(const QString& text)
-{
-    return {text, QMessageBox::Warning};
 }
 
 } // namespace zelvia::test

@@ -66,6 +66,4 @@ QByteArray RouteFileOf(const QByteArrayList& names);
 /// 200 names, "R1" to "R200".
 QByteArrayList TwoHundredNames();
 
-ExpectedBox Warning(const QString& text);
-
 } // namespace zelvia::test

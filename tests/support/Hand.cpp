@@ -94,6 +94,20 @@ std::optional<QByteArray> Output(const QStringList& words)
     return xdotool.readAllStandardOutput();
 }
 
+/// Waits until the manager and the program hold the same window for the active one. Where a box has just gone they
+/// don't for a moment, and the manager may keep a click for itself. Another program may have the keyboard: then it goes
+/// on.
+void AwaitAgreement()
+{
+    constexpr int patience = 2000;
+    (void)QTest::qWaitFor(
+        [] {
+            const QWidget* active = QApplication::activeWindow();
+            return active != nullptr && active->internalWinId() == ManagersActiveWindow();
+        },
+        patience);
+}
+
 QStringList PointAt(QWidget& widget, QPoint position)
 {
     const QPoint inWindow = widget.mapTo(widget.window(), position);
@@ -189,6 +203,7 @@ void Press(QWidget& widget, QPoint position, Qt::MouseButton button)
 {
     const SingleClicks single;
     if (OnX11()) {
+        AwaitAgreement();
         Do(PointAt(widget, position) + QStringList{QStringLiteral("mousedown"), ButtonNumber(button)},
            QEvent::MouseButtonPress);
     } else {
@@ -210,6 +225,7 @@ void Click(QWidget& widget, QPoint position, Qt::MouseButton button)
 {
     const SingleClicks single;
     if (OnX11()) {
+        AwaitAgreement();
         Do(PointAt(widget, position) + QStringList{QStringLiteral("mousedown"), ButtonNumber(button),
                                                    QStringLiteral("mouseup"), ButtonNumber(button)},
            QEvent::MouseButtonRelease);
@@ -226,6 +242,7 @@ void Click(QWidget& widget, Qt::MouseButton button)
 void DoubleClick(QWidget& widget, QPoint position)
 {
     if (OnX11()) {
+        AwaitAgreement();
         Do(PointAt(widget, position) + QStringList{QStringLiteral("click"), QStringLiteral("--repeat"),
                                                    QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("20"),
                                                    QStringLiteral("1")},

@@ -167,7 +167,7 @@ void TableDesk::TryToLeave(TextBox& box, const QString& message)
                                           [this] { hand::Click(Box(TableGrid::Km, 9)); },
                                           [this] { hand::Click(*Editor()->cmdOK); }};
     for (const auto& leave : ways) {
-        script.Expect(Exclamation(message));
+        script.Expect(Warning(message));
         leave();
         AwaitBoxes();
         QTRY_COMPARE(Focused(), box.objectName().toLatin1());
@@ -350,11 +350,6 @@ ExpectedDialog TableDesk::SaveTableDialog(const QString& preset, const QString& 
             folder.Native(QStringLiteral("prova")),
             preset,
             choose};
-}
-
-ExpectedBox Exclamation(const QString& text)
-{
-    return {text, QMessageBox::Warning};
 }
 
 } // namespace zelvia::test

@@ -107,8 +107,6 @@ private:
     }
 };
 
-ExpectedBox Exclamation(const QString& text);
-
 // The colours of the editor.
 inline const QByteArray kGrey = "#c0c0c0";
 inline const QByteArray kWhite = "#ffffff";

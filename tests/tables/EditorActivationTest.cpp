@@ -23,7 +23,7 @@ const CalendarDate kBeforehand(2026, 3, 1);
 
 ExpectedBox DateNeeded()
 {
-    return Exclamation(QStringLiteral(" INSERIRE ' DATA INIZIO ' ALLENAMENTO     "));
+    return Warning(QStringLiteral(" INSERIRE ' DATA INIZIO ' ALLENAMENTO     "));
 }
 
 ExpectedBox ReplaceQuestion(QMessageBox::StandardButton press)

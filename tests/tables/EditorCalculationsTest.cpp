@@ -14,14 +14,14 @@ using namespace TableGrid;
 
 ExpectedBox TwoValuesNeeded(int row)
 {
-    return Exclamation(QStringLiteral("GIORNO %1 : IMMETTERE 2 VALORI PER CALCOLARNE IL 3%2       ")
-                           .arg(row)
-                           .arg(QChar(char16_t{0xB0})));
+    return Warning(QStringLiteral("GIORNO %1 : IMMETTERE 2 VALORI PER CALCOLARNE IL 3%2       ")
+                       .arg(row)
+                       .arg(QChar(char16_t{0xB0})));
 }
 
 ExpectedBox TooSlow(int row)
 {
-    return Exclamation(QStringLiteral("GIORNO %1: OLTRE 60 MINUTI                 ").arg(row));
+    return Warning(QStringLiteral("GIORNO %1: OLTRE 60 MINUTI                 ").arg(row));
 }
 
 /// Types into distance, time and average of a row what is given for them, parted by "|".

@@ -157,7 +157,7 @@ void EditorDatesTest::okRepairsTheDate()
     desk.WriteStart(typed[0], typed[1], typed[2]);
     // Each message once, whatever the number of rows that are read after it.
     for (const QString& message : messages) {
-        desk.script.Expect(Exclamation(message));
+        desk.script.Expect(Warning(message));
     }
     hand::Click(*desk.Editor()->cmdOK);
     desk.AwaitBoxes();
@@ -196,7 +196,7 @@ void EditorDatesTest::everyCommandRepairsTheDate()
         hand::Click(desk.Box(Km, 1));
     }
 
-    desk.script.Expect(Exclamation(kMinYear));
+    desk.script.Expect(Warning(kMinYear));
     if (command == "cmdSalva") {
         desk.script.Expect(desk.SaveTableDialog(QStringLiteral("Senza data.tab")));
     }

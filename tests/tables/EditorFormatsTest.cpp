@@ -152,7 +152,7 @@ void EditorFormatsTest::theDotFollowsTheDigits()
 
     // What is refused is not dotted.
     desk.Write(box, QStringLiteral("10000"));
-    desk.script.Expect(Exclamation(QStringLiteral("MAX 9.999                   ")));
+    desk.script.Expect(Warning(QStringLiteral("MAX 9.999                   ")));
     hand::Key(Qt::Key_Tab);
     desk.AwaitBoxes();
     QCOMPARE(box.text(), QStringLiteral("10000"));

@@ -24,7 +24,7 @@ void VerifyStillRefuses(TableDesk& desk, int row)
 {
     const QByteArray name = "txtMinuti(" + QByteArray::number(row) + ')';
     QTRY_COMPARE(TableDesk::Focused(), name);
-    desk.script.Expect(Exclamation(kMaxMinutes));
+    desk.script.Expect(Warning(kMaxMinutes));
     hand::Key(Qt::Key_Tab);
     desk.AwaitBoxes();
     QTRY_COMPARE(TableDesk::Focused(), name);
@@ -175,7 +175,7 @@ void EditorKeysTest::aRefusedPressDoesNotFire()
     const QByteArray enabled = desk.Enabled();
     // The button is pressed once more when it already was in vain.
     for (int i = 0; i < 2; ++i) {
-        desk.script.Expect(Exclamation(kMaxMinutes));
+        desk.script.Expect(Warning(kMaxMinutes));
         hand::Click(*desk.Editor()->findChild<Button*>(QLatin1String(button)));
         desk.AwaitBoxes();
         QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtMinuti(3)"));

@@ -171,7 +171,7 @@ void PlanToTheEndTest::ComputeAndAccept(Runner& desk)
 {
     const frmAllenamento& editor = *desk.Editor();
     // The last row's distance stands alone.
-    desk.script.Expect(Exclamation(QStringLiteral("GIORNO 31 : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       ")));
+    desk.script.Expect(Warning(QStringLiteral("GIORNO 31 : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       ")));
     hand::Click(*editor.cmdCalcoloMedie);
     TRY_SCRIPT(desk.script);
     QCOMPARE(desk.Row(1), QByteArray("10|||50||5|0|000,00||||||"));

@@ -106,7 +106,7 @@ void TableListTest::anEmptyFolder()
     desk.OpenList();
     QCOMPARE(desk.Entries(), QByteArrayList());
     for (Button* button : {desk.List()->cmdOK, desk.List()->cmdCancellaTab}) {
-        desk.script.Expect(Exclamation(kChoose));
+        desk.script.Expect(Warning(kChoose));
         hand::Click(*button);
         TRY_SCRIPT(desk.script);
         QCOMPARE(desk.Editor(), nullptr);
@@ -137,7 +137,7 @@ void TableListTest::nothingSelected()
     desk.Begin();
     desk.OpenList();
     Module1::NomeTabellaAperta = "da prima";
-    desk.script.Expect(Exclamation(kChoose));
+    desk.script.Expect(Warning(kChoose));
     hand::Click(deletes ? *desk.List()->cmdCancellaTab : *desk.List()->cmdOK);
     TRY_SCRIPT(desk.script);
     QCOMPARE(desk.Editor(), nullptr);
@@ -473,7 +473,7 @@ void TableListTest::theFolderGoesMeanwhile()
     TRY_SCRIPT(desk.script);
     QCOMPARE(desk.Entries(), QByteArrayList());
     QCOMPARE(desk.Request(), QByteArray("0"));
-    desk.script.Expect(Exclamation(kChoose));
+    desk.script.Expect(Warning(kChoose));
     hand::Click(*desk.List()->cmdOK);
     TRY_SCRIPT(desk.script);
 }
