@@ -41,7 +41,7 @@ void CampoLista::Connect()
     controlli_.lbl->OnClick(trapped("lbl", &CampoLista::LeaveBox), KeyReach::MouseOnly);
     controlli_.txt->LostFocus = trapped("txt", &CampoLista::Chiudi);
     controlli_.txt->Click = trapped("txt", &CampoLista::LeaveBox);
-    controlli_.txt->KeyPress = [this, leave = controlli_.txt->Click](int& keyAscii) {
+    controlli_.txt->KeyPress = [leave = controlli_.txt->Click](int& keyAscii) {
         if (keyAscii == kEnter || keyAscii == kEscape) {
             leave();
         }

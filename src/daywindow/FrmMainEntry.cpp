@@ -144,6 +144,10 @@ void frmMain::ConnectGroups()
     const auto addGroup = [this](GruppoSpin::Dati dati) {
         gruppi_.push_back(std::make_unique<GruppoSpin>(*this, std::move(dati)));
     };
+    const auto addSpin = [addGroup](Label* caption, const char* name, const char* title, UpDown* spin, Label* value,
+                                    const char* valueName) {
+        addGroup({{{caption, spin, name, title}}, value, valueName, {spin}, spin, {}, {}});
+    };
     const auto recompute = [this](bool timesToo) {
         const i16 esito = ControlloTempiKm();
         if (esito == 1) {
@@ -177,22 +181,11 @@ void frmMain::ConnectGroups()
               upOraFine,
               {},
               times});
-    addGroup({{{lblImmisCorridori, upCorridori, "lblImmisCorridori", "ImmisCorridori"}},
-              lblCorridori,
-              "lblCorridori",
-              {upCorridori},
-              upCorridori,
-              {},
-              {}});
+    addSpin(lblImmisCorridori, "lblImmisCorridori", "ImmisCorridori", upCorridori, lblCorridori, "lblCorridori");
     addGroup(
         {{{lblImmisPeso, upPeso, "lblImmisPeso", "ImmisPeso"}}, lblPeso, "lblPeso", {upPeso}, upPeso, lastWeight, {}});
-    addGroup({{{lblRipetizioniVolte, upRipetizioni, "lblRipetizioniVolte", "RipetizioniVolte"}},
-              lblRipetizioni,
-              "lblRipetizioni",
-              {upRipetizioni},
-              upRipetizioni,
-              {},
-              {}});
+    addSpin(lblRipetizioniVolte, "lblRipetizioniVolte", "RipetizioniVolte", upRipetizioni, lblRipetizioni,
+            "lblRipetizioni");
     addGroup({{{lblRipetizioniQuante, upRipetizioniQuante, "lblRipetizioniQuante", "RipetizioniQuante"}},
               lblRipetizioni,
               "lblRipetizioni",
@@ -200,13 +193,8 @@ void frmMain::ConnectGroups()
               upRipetizioniQuante,
               {},
               {}});
-    addGroup({{{lblRipetizioniDistanza, upRipetizioniDistanza, "lblRipetizioniDistanza", "RipetizioniDistanza"}},
-              lblRipetizioni,
-              "lblRipetizioni",
-              {upRipetizioniDistanza},
-              upRipetizioniDistanza,
-              {},
-              {}});
+    addSpin(lblRipetizioniDistanza, "lblRipetizioniDistanza", "RipetizioniDistanza", upRipetizioniDistanza,
+            lblRipetizioni, "lblRipetizioni");
     addGroup({{{lblImmisTempoKM, upTempoKM, "lblImmisTempoKm", "ImmisTempoKm"},
                {lblImmisTempoMinuti, upTempoMinuti, "lblImmisTempoMinuti", "ImmisTempoMinuti"}},
               lblTempoKm,

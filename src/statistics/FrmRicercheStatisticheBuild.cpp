@@ -88,8 +88,8 @@ void DrawEmptyForm(QPainter& painter, const QRectF& area)
 {
     painter.setPen(QPen(Ink::Rule, 1));
     painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
-    constexpr double rule = 28;
-    for (double y = rule; y < area.height() - 4; y += rule) {
+    constexpr int rule = 28;
+    for (int y = rule; y < area.height() - 4; y += rule) {
         painter.drawLine(QPointF(8, y + 0.5), QPointF(area.width() - 8, y + 0.5));
     }
 }

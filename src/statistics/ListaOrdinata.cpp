@@ -153,7 +153,12 @@ void ListaOrdinata::RiempiListalst()
             } else if (Len(VociMedia[i]) == 5) {
                 media = "  " + VociMedia[i];
             }
-            CasellaLista->AggiungiRiga(posto + "   " + TempoDi(i) + media + "   " + PlainText(VociData[i]));
+            Text riga = posto + "   ";
+            riga += TempoDi(i);
+            riga += media;
+            riga += "   ";
+            riga += PlainText(VociData[i]);
+            CasellaLista->AggiungiRiga(riga);
         }
     });
 }
