@@ -1,17 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The two slow ends of a training table: the step of a day that walks it along a whole year, and the editor's opening.
-#include "bench/BareWindow.h"
-#include "bench/Measure.h"
-#include "bench/PageCount.h"
-#include "bench/PaintWatch.h"
-#include "core/Files.h"
+#include "bench/PageBench.h"
 #include "core/MessageBox.h"
 #include "core/Module1.h"
 #include "core/Workspace.h"
-#include "daywindow/FrmMain.h"
 #include "tables/TableModel.h"
-#include "toolkit/Application.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -69,39 +63,19 @@ private:
 
 void MeasureSteps(frmMain& page, const std::string& platform)
 {
-    PaintWatch onPage(*page.lblData);
-    page.show();
-    page.lblData_Click();
-    onPage.Wait();
-
-    // Below the page: an X server paints nothing of a window that another one covers.
-    QWidget bare;
-    PaintWatch onBare(bare);
-    FillBareWindow(bare, ControlsOf(page), page.size());
-    bare.move(0, page.height());
-    bare.show();
-    onBare.Wait();
-
+    ShownPage shown(page);
     // From the last day of the year to the one before and back: the last one itself can't be left upwards.
-    const UpDown& arrow = *page.upGiorno;
-    const QPointF up(arrow.width() / 2.0, arrow.height() / 4.0);
-    const QPointF down(arrow.width() / 2.0, arrow.height() * 3 / 4.0);
     bool back = false;
     const Samples samples = Alternate(
         kSteps,
         [&] {
             back = !back;
             return MillisecondsOf([&] {
-                Click(*page.upGiorno, back ? down : up);
-                onPage.Wait();
+                Click(shown.arrow, back ? shown.down : shown.up);
+                shown.onPage.Wait();
             });
         },
-        [&] {
-            return MillisecondsOf([&] {
-                bare.update();
-                onBare.Wait();
-            });
-        });
+        [&] { return shown.RepaintBare(); });
     // Each step walked the table to the end of the year, and none of its rows was met.
     if (Module1::GiornoCorrente < 364 || Module1::IndiceTabella != 1 || page.lblKmTab->Caption() != "99,999") {
         std::cerr << "plan_bench: the table was not walked\n";
@@ -110,19 +84,6 @@ void MeasureSteps(frmMain& page, const std::string& platform)
     PrintMedians(("Step at the year's end, plan, " + platform).c_str(), samples, "ms", "measured <= 16 ms");
     PrintRow(("The same, slowest 5%, " + platform).c_str(), Quantile(samples.measured, 0.95),
              Quantile(samples.baseline, 0.95), "ms", "measured <= 16 ms");
-}
-
-template <typename Window>
-Window& OpenWindow()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* window = qobject_cast<Window*>(widget);
-        if (window != nullptr && window->isVisible()) {
-            return *window;
-        }
-    }
-    std::cerr << "plan_bench: a window did not open\n";
-    std::exit(1);
 }
 
 double OpenBareWindow(int labels, QSize size)
@@ -140,7 +101,7 @@ double OpenBareWindow(int labels, QSize size)
 void MeasureEditor(frmMain& page, const std::string& platform)
 {
     page.mnuAllenamenti_Click();
-    auto& list = OpenWindow<frmTabAllenamenti>();
+    auto& list = Shown<frmTabAllenamenti>();
     PaintWatch(list).Wait();
     int controls = 0;
     QSize size;
@@ -148,9 +109,9 @@ void MeasureEditor(frmMain& page, const std::string& platform)
         list.flbListaTabelle->SetListIndex(0);
         const double time = MillisecondsOf([&] {
             list.cmdOK_Click();
-            PaintWatch(OpenWindow<frmAllenamento>()).Wait();
+            PaintWatch(Shown<frmAllenamento>()).Wait();
         });
-        auto& editor = OpenWindow<frmAllenamento>();
+        auto& editor = Shown<frmAllenamento>();
         controls = ControlsOf(editor);
         size = editor.size();
         editor.Unload();
@@ -174,23 +135,17 @@ void MeasureEditor(frmMain& page, const std::string& platform)
 /// it runs.
 int main(int argc, char* argv[])
 {
-    if (argc < 3) {
-        return 2;
-    }
-    Application application(argc, argv);
-    SetMsgBoxHandler([](const MsgRequest& request) {
-        std::cerr << request.text << '\n';
-        std::exit(1);
-        return MsgAnswer::OK;
+    const auto prepare = [](const char* folder) {
+        SetMsgBoxHandler([](const MsgRequest& request) {
+            std::cerr << request.text << '\n';
+            std::exit(1);
+            return MsgAnswer::OK;
+        });
+        SetClock([] { return CalendarDate(2026, 12, 31); });
+        return std::make_unique<ActivePlan>(folder);
+    };
+    return RunOnPage(argc, argv, prepare, [](frmMain& page, const std::string& platform) {
+        MeasureSteps(page, platform);
+        MeasureEditor(page, platform);
     });
-    SetClock([] { return CalendarDate(2026, 12, 31); });
-    SetProgramFolder(SystemPath(argv[2]));
-    const ActivePlan plan(argv[2]);
-    frmMain page;
-    if (!page.FormLoad()) {
-        return 1;
-    }
-    MeasureSteps(page, argv[1]);
-    MeasureEditor(page, argv[1]);
-    return 0;
 }

@@ -1,18 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Searches a full year and opens its charts with clicks on the buttons, each to the finished window.
-#include "bench/BareWindow.h"
-#include "bench/Measure.h"
-#include "bench/PageCount.h"
-#include "bench/PaintWatch.h"
+#include "bench/PageBench.h"
 #include "core/Conversions.h"
-#include "core/Files.h"
 #include "core/Module1.h"
-#include "daywindow/FrmMain.h"
-#include "toolkit/Application.h"
 
-#include <cstdlib>
-#include <iostream>
 #include <string>
 
 namespace
@@ -35,20 +27,6 @@ void FillEveryDay()
         giorno.TempoImpiegato = "1:02:" + Format(i32(day % 60), "00");
         giorno.MediaKm = "5:" + Format(i32(day % 60), "00");
     }
-}
-
-/// The shown window of that kind; ends the program when there is none.
-template <typename Window>
-Window& Shown()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* window = qobject_cast<Window*>(widget);
-        if (window != nullptr && window->isVisible()) {
-            return *window;
-        }
-    }
-    std::cerr << "search_bench: a window is not there\n";
-    std::exit(1);
 }
 
 void Close(Form& window)
@@ -129,15 +107,5 @@ void Measure(frmMain& page, const std::string& platform)
 /// Takes the platform's name for the table and the program folder with a diary.
 int main(int argc, char* argv[])
 {
-    if (argc < 3) {
-        return 2;
-    }
-    Application application(argc, argv);
-    SetProgramFolder(SystemPath(argv[2]));
-    frmMain page;
-    if (!page.FormLoad()) {
-        return 1;
-    }
-    Measure(page, argv[1]);
-    return 0;
+    return RunOnPage(argc, argv, Measure);
 }

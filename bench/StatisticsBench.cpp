@@ -1,15 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opens the statistic of the routes on a full year with clicks on its entry of the menu, each to the finished window.
-#include "bench/BareWindow.h"
-#include "bench/Measure.h"
-#include "bench/PageCount.h"
-#include "bench/PaintWatch.h"
+#include "bench/PageBench.h"
 #include "core/Conversions.h"
-#include "core/Files.h"
 #include "core/Module1.h"
-#include "daywindow/FrmMain.h"
-#include "toolkit/Application.h"
 
 #include <QMenu>
 
@@ -93,15 +87,5 @@ void Measure(frmMain& page, const std::string& platform)
 /// Takes the platform's name for the table and the program folder with a diary.
 int main(int argc, char* argv[])
 {
-    if (argc < 3) {
-        return 2;
-    }
-    Application application(argc, argv);
-    SetProgramFolder(SystemPath(argv[2]));
-    frmMain page;
-    if (!page.FormLoad()) {
-        return 1;
-    }
-    Measure(page, argv[1]);
-    return 0;
+    return RunOnPage(argc, argv, Measure);
 }

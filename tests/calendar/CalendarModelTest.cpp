@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
 
@@ -39,7 +40,7 @@ private Q_SLOTS:
     void GarbledLine_data();
     void GarbledLine();
     void AQuoteInANameEndsInTheReport();
-    void FailuresAreReported_data();
+    void FailuresAreReported_data() { test::AddFolderFailures(); }
     void FailuresAreReported();
     void AFullDiskIsReported();
     void WritingReplacesTheFile();
@@ -284,26 +285,13 @@ void CalendarModelTest::AQuoteInANameEndsInTheReport()
     QVERIFY(KmGara[3] == 0);
 }
 
-void CalendarModelTest::FailuresAreReported_data()
-{
-    QTest::addColumn<QByteArray>("folder"); // Below the temporary one; "-" for none known.
-    QTest::addColumn<int>("reading");
-    QTest::addColumn<int>("writing");
-    QTest::newRow("missing file") << QByteArray("vuota") << 53 << 0;
-    QTest::newRow("missing folder") << QByteArray("manca") << 76 << 76;
-    QTest::newRow("a folder in its place") << QByteArray("occupata") << 75 << 75;
-    QTest::newRow("no folder known") << QByteArray("-") << 76 << 76;
-}
-
 void CalendarModelTest::FailuresAreReported()
 {
     QFETCH(QByteArray, folder);
     QFETCH(int, reading);
     QFETCH(int, writing);
     const TempFolder temp;
-    temp.MakeFolder("vuota");
-    temp.MakeFolder("occupata/CalendarioGare");
-    CartellaDiario = folder == "-" ? Text() : temp.Path(folder.toStdString());
+    CartellaDiario = test::MakeFailingFolder(temp, folder, "CalendarioGare");
     MessageScript boxes;
     boxes.ExpectError("ERRORE : ", reading);
     LeggiCalendario();

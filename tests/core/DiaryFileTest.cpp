@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
 
@@ -41,7 +42,7 @@ private Q_SLOTS:
     void AMissingFileIsSilent();
     void ReadingFailsWithAReport_data();
     void ReadingFailsWithAReport();
-    void WritingFailsWithAReport_data();
+    void WritingFailsWithAReport_data() { AddWriteFailures(); }
     void WritingFailsWithAReport();
     void AWriteThatFailsHalfWayLeavesAShortFile();
     void AnExistingFileIsReplaced();
@@ -339,25 +340,14 @@ void DiaryFileTest::ReadingFailsWithAReport()
     QVERIFY(AllDays() == days);
 }
 
-void DiaryFileTest::WritingFailsWithAReport_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("error");
-    QTest::newRow("missing folder") << QByteArray("manca/prova.zlv") << 76;
-    QTest::newRow("a folder") << QByteArray("cartella") << 75;
-    QTest::newRow("full disk") << QByteArray("pieno") << 61;
-    QTest::newRow("no name at all") << QByteArray() << 76;
-}
-
 void DiaryFileTest::WritingFailsWithAReport()
 {
     QFETCH(QByteArray, name);
     QFETCH(int, error);
-    folder_.MakeFolder("cartella");
-    folder_.FullDisk();
+    const Text path = MakeFailingFile(folder_, name);
     MessageScript boxes;
     boxes.ExpectError("ERRORE : ", error);
-    Module1::SalvaDiario(name.isEmpty() ? Text() : folder_.Path(name.toStdString()));
+    Module1::SalvaDiario(path);
     QVERIFY(boxes.AllShown());
 }
 

@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
 
@@ -39,7 +40,7 @@ private Q_SLOTS:
     void CutAtEveryLineOfSomeRoutes();
     void GarbledLine_data();
     void GarbledLine();
-    void FailuresAreReported_data();
+    void FailuresAreReported_data() { test::AddFolderFailures(); }
     void FailuresAreReported();
     void AFullDiskIsReported();
 
@@ -292,26 +293,13 @@ void RouteModelTest::GarbledLine()
     QCOMPARE(Difference(Lines(RouteLines()), Lines(expected)), QByteArray());
 }
 
-void RouteModelTest::FailuresAreReported_data()
-{
-    QTest::addColumn<QByteArray>("folder"); // Below the temporary one; "-" for none known.
-    QTest::addColumn<int>("reading");
-    QTest::addColumn<int>("writing");
-    QTest::newRow("missing file") << QByteArray("vuota") << 53 << 0;
-    QTest::newRow("missing folder") << QByteArray("manca") << 76 << 76;
-    QTest::newRow("a folder in its place") << QByteArray("occupata") << 75 << 75;
-    QTest::newRow("no folder known") << QByteArray("-") << 76 << 76;
-}
-
 void RouteModelTest::FailuresAreReported()
 {
     QFETCH(QByteArray, folder);
     QFETCH(int, reading);
     QFETCH(int, writing);
     const TempFolder temp;
-    temp.MakeFolder("vuota");
-    temp.MakeFolder("occupata/ListePercorso");
-    CartellaDiario = folder == "-" ? Text() : temp.Path(folder.toStdString());
+    CartellaDiario = test::MakeFailingFolder(temp, folder, "ListePercorso");
     FillRoute(5);
     const std::vector<std::string> before = RouteLines();
     MessageScript boxes;

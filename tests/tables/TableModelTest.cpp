@@ -6,6 +6,7 @@
 #include "core/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
 
@@ -40,7 +41,7 @@ private Q_SLOTS:
     void GarbledLine();
     void ReadingFailsWithAReport_data();
     void ReadingFailsWithAReport();
-    void WritingFailsWithAReport_data();
+    void WritingFailsWithAReport_data() { test::AddWriteFailures(); }
     void WritingFailsWithAReport();
 
 private:
@@ -299,25 +300,14 @@ void TableModelTest::ReadingFailsWithAReport()
     QVERIFY(TableLines() == before);
 }
 
-void TableModelTest::WritingFailsWithAReport_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("error");
-    QTest::newRow("missing folder") << QByteArray("manca/x.tab") << 76;
-    QTest::newRow("a folder") << QByteArray("cartella") << 75;
-    QTest::newRow("full disk") << QByteArray("pieno") << 61;
-    QTest::newRow("no name at all") << QByteArray() << 76;
-}
-
 void TableModelTest::WritingFailsWithAReport()
 {
     QFETCH(QByteArray, name);
     QFETCH(int, error);
-    folder_.MakeFolder("cartella");
-    folder_.FullDisk();
+    const Text path = test::MakeFailingFile(folder_, name);
     MessageScript boxes;
     boxes.ExpectError("ERRORE : ", error);
-    ScriviTabella(name.isEmpty() ? Text() : folder_.Path(name.toStdString()));
+    ScriviTabella(path);
     QVERIFY(boxes.AllShown());
 }
 
