@@ -165,6 +165,7 @@ private Q_SLOTS:
     void lists();
     void notes_data();
     void notes();
+    void doubleQuotesInANote();
     void keysThatAreNoneOfASpin_data();
     void keysThatAreNoneOfASpin();
     void allAtTheirLimits();
@@ -336,6 +337,38 @@ void PageTest::notes()
         QCOMPARE(Module1::Giorni[slot].Note[line], held);
         ++slot;
     }
+    VERIFY_SCRIPT(page.script);
+}
+
+/// A file can't hold them: what was typed is written as it stands, and reading it ends behind that day.
+void PageTest::doubleQuotesInANote()
+{
+    constexpr int line = 4;
+    const QString typed = QStringLiteral("dice \"ciao\" a tutti");
+    EntryPage page;
+    page.Start();
+    const ControlliNota& note = page->note[line];
+    page.Open(*note.lbl);
+    QTRY_COMPARE(EntryPage::Focused(), note.txt->objectName().toLatin1());
+    hand::Type(typed);
+    QTRY_COMPARE(note.txt->text(), typed);
+    hand::Key(Qt::Key_Escape);
+    QTRY_COMPARE(note.lbl->text(), typed);
+    Save(page);
+    QCOMPARE(Written(page).Line(kFirstSlot, DiaryBytes::Notes + line - 1), '"' + typed.toLatin1() + '"');
+
+    // The days behind keep what they hold.
+    Module1::Giorni[kFirstSlot + 1].Km = 6;
+    const QString name = QStringLiteral("prova.zlv");
+    page.script.Expect(page.OpenDialog(name, name));
+    page.script.Expect(Report(QStringLiteral("**ERRORE : 13 Tipo non corrispondente")));
+    page.Menu("mnuFile", Qt::Key_A);
+    VERIFY_SCRIPT(page.script);
+    QVERIFY(Module1::GiornoCorrente == kFirstSlot);
+    QCOMPARE(note.lbl->text(), QStringLiteral("dice "));
+    QCOMPARE(page->note[line + 1].lbl->text(), QStringLiteral("ciao\" a tutti\""));
+    page.Up(*page->upGiorno);
+    QCOMPARE(page->upKM->Value().value(), 6);
     VERIFY_SCRIPT(page.script);
 }
 
