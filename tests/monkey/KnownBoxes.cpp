@@ -94,7 +94,8 @@ bool IsMissing(const Text& file)
     }
 }
 
-/// True when the program holds the name of a table that has been deleted, or that lies in another diary's folder.
+/// True when the program holds the name of a table that has been deleted, or that lies in another diary's folder. One
+/// chosen while the editor was open waits for the next editor.
 bool TableMissing(const Situation& situation)
 {
     const auto* list = situation.desk.Window<frmTabAllenamenti>();
@@ -105,7 +106,8 @@ bool TableMissing(const Situation& situation)
             return true;
         }
     }
-    return !Module1::NomeTabellaAttiva.empty() && IsMissing(Module1::NomeTabellaAttiva);
+    const auto gone = [](const Text& table) { return !table.empty() && IsMissing(table); };
+    return gone(Module1::NomeTabellaAttiva) || gone(Module1::NomeTabellaAperta);
 }
 
 bool FolderOrTableMissing(const Situation& situation)

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void theEditorLoadsAListThatWasClosed();
     void openedAgainItComesToTheFront();
     void anOpenEditorKeepsItsTable();
+    void aTableThatWaitedForTheEditorHasGone();
     void theFolderHasGone();
     void theFolderGoesMeanwhile();
     void theProgramEndsWithItsWindows();
@@ -418,9 +419,7 @@ void TableListTest::anOpenEditorKeepsItsTable()
     desk.OpenList();
     desk.OpenTable("Alfa.tab");
     const QPointer<frmAllenamento> editor = desk.Editor();
-    desk.List()->raise();
-    desk.List()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(desk.List()));
+    TableDesk::ToFront(*desk.List());
     desk.OpenTable("Beta.tab");
     QVERIFY(!editor.isNull() && desk.Editor() == editor);
     QCOMPARE(desk.Held(TableGrid::Km, 1), QByteArray("7"));
@@ -432,6 +431,29 @@ void TableListTest::anOpenEditorKeepsItsTable()
     desk.LeaveEditor();
     desk.OpenNew();
     QCOMPARE(desk.Held(TableGrid::Km, 1), QByteArray());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void TableListTest::aTableThatWaitedForTheEditorHasGone()
+{
+    PlanDesk desk;
+    PutTwoTables(desk);
+    desk.Begin();
+    desk.OpenList();
+    desk.OpenTable("Alfa.tab");
+    TableDesk::ToFront(*desk.List());
+    desk.OpenTable("Beta.tab");
+    desk.LeaveEditor();
+    desk.Select(1);
+    desk.script.Expect(DeleteQuestion(QStringLiteral("Beta.tab"), QMessageBox::Yes));
+    hand::Click(*desk.List()->cmdCancellaTab);
+    TRY_SCRIPT(desk.script);
+    desk.script.Expect(Report(QStringLiteral("ERRORE : 53 File non trovato")));
+    desk.OpenNew();
+    QCOMPARE(desk.Row(1), kBlankRow);
+    desk.LeaveEditor();
+    desk.OpenNew();
+    QCOMPARE(desk.Row(1), kBlankRow);
     VERIFY_SCRIPT(desk.script);
 }
 
