@@ -114,15 +114,13 @@ TextView Content(TextView line, Kind kind)
 /// A date line #2007-03-03# as `pattern` has it, or the line as it stands.
 Text DateText(TextView line, TextView pattern)
 {
-    Text text(line);
-    TrapWith(
-        [&] {
-            if (line.size() == 12) {
-                text = Format(DateValue(Mid(line, 10, 2) + "/" + Mid(line, 7, 2) + "/" + Mid(line, 2, 4)), pattern);
-            }
-        },
+    if (line.size() != 12) {
+        return Text(line);
+    }
+    return TrapValueWith(
+        Text(line),
+        [&] { return Format(DateValue(Mid(line, 10, 2) + "/" + Mid(line, 7, 2) + "/" + Mid(line, 2, 4)), pattern); },
         [](const ErroreRunTime&) {});
-    return text;
 }
 
 Text DayName(TextView line, int slot)

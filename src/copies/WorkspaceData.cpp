@@ -49,8 +49,8 @@ std::vector<fs::path> RegularFiles(const fs::path& folder)
 /// none or one of another folder.
 Text StartDiary(TextView folder)
 {
-    Text diary;
-    TrapWith([&] { diary = ReadPointer(Text(folder) + Text(kStartPointer)); }, [](const ErroreRunTime&) {});
+    const Text diary = TrapValueWith(
+        Text(), [&] { return ReadPointer(Text(folder) + Text(kStartPointer)); }, [](const ErroreRunTime&) {});
     const Text prefix = Text(folder) + "\\";
     if (!diary.starts_with(prefix) || InStr(diary, "\\..") != 0) {
         return Text(kDefaultDiary);

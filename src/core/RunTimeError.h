@@ -83,6 +83,28 @@ void Trap(TextView title, Block&& block)
     TrapWith(std::forward<Block>(block), [&](const ErroreRunTime& error) { ReportError(title, error); });
 }
 
+/// Runs a block that yields a value under its error trap: after a run-time error, which goes to `onError`, the value is
+/// the fallback. A block that assigned to a variable outside instead would be at the optimiser's mercy: GCC 12 drops
+/// `value = fallback` in front of `value = Call()`, though a call that throws assigns nothing.
+template <typename Value, typename Block, typename OnError>
+Value TrapValueWith(Value fallback, Block&& block, OnError&& onError)
+{
+    try {
+        return std::forward<Block>(block)();
+    } catch (...) {
+        std::forward<OnError>(onError)(CurrentError());
+    }
+    return fallback;
+}
+
+/// As TrapValueWith, with the uniform report under `title`.
+template <typename Value, typename Block>
+Value TrapValue(TextView title, Value fallback, Block&& block)
+{
+    return TrapValueWith(std::move(fallback), std::forward<Block>(block),
+                         [&](const ErroreRunTime& error) { ReportError(title, error); });
+}
+
 /// The title of the routines that report under no name of their own.
 inline constexpr TextView kBareTitle = "ERRORE : ";
 

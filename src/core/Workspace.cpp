@@ -42,28 +42,23 @@ namespace Module1
 
 Text CAPTIONDIR(TextView path)
 {
-    Text folder;
-    Trap("CAPTIONDIR - ERRORE : ", [&] {
+    return TrapValue("CAPTIONDIR - ERRORE : ", Text(), [&] {
         const auto word = InStr(path, kDiaryFolder);
         if (word == 0) {
-            folder = NomeSenzaEstensione(path);
-            return;
+            return NomeSenzaEstensione(path);
         }
         // The word and the backslash behind it.
         const auto name = word + Len(kDiaryFolder) + 1;
-        folder = Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
+        return Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
     });
-    return folder;
 }
 
 i16 CAPTIONPATH(TextView a, TextView b)
 {
-    i16 result = 0;
-    Trap("CAPTIONPATH - ERRORE : ", [&] {
+    return TrapValue("CAPTIONPATH - ERRORE : ", i16(0), [&] {
         const auto prefix = [](TextView path) { return Left(path, InStr(path, kDiaryFolder) + Len(kDiaryFolder) - 1); };
-        result = TextCompare(prefix(b), prefix(a));
+        return TextCompare(prefix(b), prefix(a));
     });
-    return result;
 }
 
 namespace

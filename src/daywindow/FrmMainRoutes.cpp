@@ -32,9 +32,7 @@ void frmMain::SalvaNomePercorso()
 
 i16 frmMain::NumeroPercorso()
 {
-    i16 numero = 0;
-    Trap("NumeroPercorso - ERRORE : ", [&] { numero = PostoPercorso(PercorsoCorrente).value_or(0); });
-    return numero;
+    return TrapValue("NumeroPercorso - ERRORE : ", i16(0), [] { return PostoPercorso(PercorsoCorrente).value_or(0); });
 }
 
 void frmMain::mnuDescrizionePercorso_Click()

@@ -89,9 +89,7 @@ private:
 /// A piece of a row's text as a number; one that can't be read is reported and counts as 0.
 i16 Scomponi(TextView errore, i16 (*pezzo)(TextView), TextView testo)
 {
-    i16 numero = 0;
-    Trap(errore, [&] { numero = pezzo(testo); });
-    return numero;
+    return TrapValue(errore, i16(0), [&] { return pezzo(testo); });
 }
 
 /// What the sheet shows of the slots 1..60.

@@ -129,8 +129,8 @@ namespace Module1
 
 void ControlloAllenamento(i16 giorno, i16 riga, i16& esito)
 {
-    Trap("ControlloAllenamento - ERRORE : ",
-         [&] { esito = ConfrontaAllenamento(Giorni[giorno], RigaDellaTabella(riga)); });
+    esito = TrapValue("ControlloAllenamento - ERRORE : ", esito,
+                      [&] { return ConfrontaAllenamento(Giorni[giorno], RigaDellaTabella(riga)); });
 }
 
 EsitoCammino CamminaTabella()

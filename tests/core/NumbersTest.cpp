@@ -115,9 +115,7 @@ void NumbersTest::ArithmeticOfShorts()
     QCOMPARE(int{(i16(9) * i16(3600)).value()}, 32400);
     QCOMPARE(RaisedBy([&] { (void)(i16(10) * i16(3600)); }), 6);
     // Also when the result is meant for a wider field.
-    i32 wide = 0;
-    QCOMPARE(RaisedBy([&] { wide = i16(10) * i16(3600); }), 6);
-    QCOMPARE(wide.value(), 0);
+    QCOMPARE(RaisedBy([&] { (void)i32(i16(10) * i16(3600)); }), 6);
     // A plain number takes the width of its partner.
     QCOMPARE(RaisedBy([&] { (void)(i16(33) * 1000); }), 6);
 }

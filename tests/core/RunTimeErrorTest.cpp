@@ -3,6 +3,7 @@
 #include "core/RunTimeError.h"
 
 #include "core/MessageBox.h"
+#include "core/Numbers.h"
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
 
@@ -14,6 +15,22 @@
 
 using namespace zelvia;
 using namespace zelvia::test;
+
+namespace
+{
+
+/// A call whose outcome the optimiser can't foresee: an odd number comes back, an even one raises error 5.
+i16 RefuseEven(int number)
+{
+    if (number % 2 == 0) {
+        throw ErroreRunTime(Errore::ArgomentoNonValido);
+    }
+    return number;
+}
+
+i16 (*volatile Odd)(int) = RefuseEven;
+
+} // namespace
 
 class RunTimeErrorTest : public QObject
 {
@@ -27,6 +44,10 @@ private Q_SLOTS:
     void TrapIsSilentWithoutAnError();
     void ForeignExceptionsBecomeRunTimeErrors();
     void TrapWithHandsTheErrorOn();
+    void TrapValueYieldsTheValue();
+    void TrapValueYieldsTheFallbackAfterAnError();
+    void TrapValueKeepsWhatTheVariableHeld();
+    void TrapValueWithHandsTheErrorOn();
     void ErrorWithADescriptionOfItsOwn();
     void NestedTrapsReportOnce();
     void MsgBoxHandsEverythingToTheHandler();
@@ -107,6 +128,52 @@ void RunTimeErrorTest::TrapWithHandsTheErrorOn()
     TrapWith([] { throw ErroreRunTime(Errore::Annullato); },
              [&](const ErroreRunTime& error) { number = error.Number(); });
     QCOMPARE(number, 32755);
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void RunTimeErrorTest::TrapValueYieldsTheValue()
+{
+    MessageScript boxes;
+    QCOMPARE(TrapValue(kBareTitle, i16(7), [] { return Odd(3); }).value(), 3);
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void RunTimeErrorTest::TrapValueYieldsTheFallbackAfterAnError()
+{
+    MessageScript boxes;
+    boxes.ExpectError("ScomponiKm - ERRORE : ", 5);
+    QCOMPARE(TrapValue("ScomponiKm - ERRORE : ", i16(7), [] { return Odd(4); }).value(), 7);
+    boxes.ExpectError("CAPTIONDIR - ERRORE : ", 9);
+    const auto fails = []() -> Text { throw ErroreRunTime(Errore::Indice); };
+    QCOMPARE(Bytes(TrapValue("CAPTIONDIR - ERRORE : ", Text("prima"), fails)), QByteArray("prima"));
+    QVERIFY(boxes.AllShown());
+}
+
+/// The sum would show a store that the optimiser drops.
+void RunTimeErrorTest::TrapValueKeepsWhatTheVariableHeld()
+{
+    MessageScript boxes;
+    i16 last = 0;
+    int sum = 0;
+    for (int number = 1; number <= 6; ++number) {
+        if (number % 2 == 0) {
+            boxes.ExpectError(kBareTitle, 5);
+        }
+        last = TrapValue(kBareTitle, last, [&] { return Odd(number); });
+        sum = 10 * sum + last.value();
+    }
+    QCOMPARE(sum, 113355);
+    QVERIFY(boxes.AllShown());
+}
+
+void RunTimeErrorTest::TrapValueWithHandsTheErrorOn()
+{
+    MessageScript boxes;
+    int error = 0;
+    const i16 value = TrapValueWith(
+        i16(7), [] { return Odd(2); }, [&](const ErroreRunTime& raised) { error = raised.Number(); });
+    QCOMPARE(value.value(), 7);
+    QCOMPARE(error, 5);
     QCOMPARE(boxes.Shown(), 0);
 }
 

@@ -153,10 +153,11 @@ inline QByteArrayList LinesOf(const QByteArray& title, const std::vector<PlainRo
     return lines;
 }
 
-/// Whether the row of a value leads to the day: runners and weights alone decide, and case counts.
+/// Whether the row of a value leads to the day: runners and weights alone decide, and case counts. The empty value is
+/// that of a day with none.
 inline bool IsOf(const QByteArray& title, const QByteArray& value, const PlainDay& day)
 {
-    return title == "Corridori" ? QByteArray::number(day.runners) == value : ValueOf(title, day) == value;
+    return title == "Corridori" ? QByteArray::number(day.runners) == value : ValueOf(title, day).value_or(QByteArray()) == value;
 }
 
 /// The classification of the days whose value is spelt like that: place, time, average, date, parted by "|".

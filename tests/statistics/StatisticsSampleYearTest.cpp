@@ -9,8 +9,6 @@ namespace zelvia::test
 namespace
 {
 
-constexpr int kLastDay = 365;
-
 const std::pair<const char*, const char*> kEntries[] = {{"mnuPercorso", "Percorso"},
                                                         {"mnuLunghezza", "Lunghezza"},
                                                         {"mnuAndatura", "Andatura"},
@@ -24,13 +22,13 @@ const std::pair<const char*, const char*> kEntries[] = {{"mnuPercorso", "Percors
                                                         {"mnuKm", "Km"},
                                                         {"mnuRipetizioni", "Ripetizioni"}};
 
-/// The days of the file, the one on show as its commit leaves it.
-std::vector<PlainDay> SampleDays()
+/// The days of the file up to the one on show, this one as its commit leaves it.
+std::vector<PlainDay> SampleDays(const QDate& shown)
 {
     DiaryBytes diary(SampleFile(QStringLiteral("ZelviaFile/prova.zlv")));
-    diary.Visit(kLastDay, QDate(2026, 12, 31));
+    diary.Visit(shown.dayOfYear(), shown);
     std::vector<PlainDay> days;
-    for (int slot = 1; slot <= kLastDay; ++slot) {
+    for (int slot = 1; slot <= shown.dayOfYear(); ++slot) {
         days.push_back(PlainDayOf(diary, slot));
     }
     return days;
@@ -45,6 +43,7 @@ class StatisticsSampleYearTest : public QObject
 private Q_SLOTS:
     void fromTheMenuToTheTimes_data();
     void fromTheMenuToTheTimes();
+    void noRowSelectedUnderRepetitions();
 };
 
 void StatisticsSampleYearTest::fromTheMenuToTheTimes_data()
@@ -59,7 +58,7 @@ void StatisticsSampleYearTest::fromTheMenuToTheTimes()
 {
     QFETCH(QByteArray, entry);
     const QByteArray title = QTest::currentDataTag();
-    const std::vector<PlainDay> days = SampleDays();
+    const std::vector<PlainDay> days = SampleDays(QDate(2026, 12, 31));
     const std::vector<PlainRow> rows = Ranked(title, days);
     StatisticsDesk desk(CalendarDate(2026, 12, 31));
     desk.Start();
@@ -78,6 +77,28 @@ void StatisticsSampleYearTest::fromTheMenuToTheTimes()
         QTRY_VERIFY(!desk.Window()->lvListaOrdinata->isVisible());
     }
     desk.Leave();
+    VERIFY_SCRIPT(desk.script);
+}
+
+/// The two routines that can't find their piece count as 0, so the days without repetitions are listed.
+void StatisticsSampleYearTest::noRowSelectedUnderRepetitions()
+{
+    StatisticsDesk desk(CalendarDate(2026, 5, 20));
+    desk.Start();
+    desk.Choose("mnuRipetizioni");
+    for (const char* routine : {"ScomponiDistanza", "ScomponiQuante"}) {
+        desk.script.Expect(Report(QLatin1String(routine) + QStringLiteral(" - ERRORE : 5 Argomento non valido")));
+    }
+    QCOMPARE(desk.Window()->lstStatistica->ListIndex(), -1);
+    desk.PressTimes();
+    QTRY_VERIFY(desk.script.Problems().isEmpty());
+    // 79 days with a time, and 13 without one that take the time before them.
+    QTRY_COMPARE(desk.Times().size(), 92);
+    const QByteArrayList times = desk.Times();
+    QCOMPARE(
+        std::count_if(times.begin(), times.end(), [](const QByteArray& row) { return row.split('|')[2].isEmpty(); }),
+        13);
+    QCOMPARE(times, TimesOf("Ripetizioni", "", SampleDays(QDate(2026, 5, 20))));
     VERIFY_SCRIPT(desk.script);
 }
 
