@@ -58,25 +58,27 @@ bool HasDistance(const R& giorno)
 }
 
 template <Text R::*field>
-constexpr Statistica TextStatistic(TextView titolo, TextView errore)
+constexpr Statistica TextStatistic(TextView titolo, TextView errore, TextView erroreLista)
 {
-    return {titolo, errore, Filled<field>, TextOf<field>};
+    return {titolo, errore, erroreLista, Filled<field>, TextOf<field>};
 }
 
 /// In the order of the categories.
 constexpr Statistica kStatistiche[] = {
-    TextStatistic<&R::Percorso>("Percorso", "StatisPercorso - ERRORE : "),
-    TextStatistic<&R::Lunghezza>("Lunghezza", "StatisLunghezza - ERRORE : "),
-    {"Km", "StatisKm - ERRORE : ", HasDistance, TestoKm},
-    TextStatistic<&R::Modo>("Andatura", "SatisAndatura - ERRORE : "),
-    TextStatistic<&R::Fondo>("Terreno", "StatisFondo - ERRORE : "),
-    TextStatistic<&R::Tipo>("Tipo", "StatisTipo - ERRORE : "),
-    TextStatistic<&R::Stagione>("Stagione", "StatisStagione - ERRORE : "),
-    TextStatistic<&R::TempoAtm>("Meteo", "StatisMeteo - ERRORE : "),
-    TextStatistic<&R::Temperatura>("Temperatura", "StatisTemperatura - ERRORE : "),
-    {"Corridori", "StatisCorridori - ERRORE : ", HasDistance, nullptr, NumberOf<&R::Corridori>},
-    {"Peso", "StatisPeso - ERRORE : ", NotZero<&R::Peso>, nullptr, NumberOf<&R::Peso>},
-    {"Ripetizioni", "StatisRipetizioni - ERRORE : ", NotZero<&R::Ripetizioni>, TestoRipetizioni},
+    TextStatistic<&R::Percorso>("Percorso", "StatisPercorso - ERRORE : ", "Lista Percorso - ERRORE : "),
+    TextStatistic<&R::Lunghezza>("Lunghezza", "StatisLunghezza - ERRORE : ", "Lista Lunghezza - ERRORE : "),
+    {"Km", "StatisKm - ERRORE : ", "Lista Km - ERRORE : ", HasDistance, TestoKm},
+    TextStatistic<&R::Modo>("Andatura", "SatisAndatura - ERRORE : ", "Lista Andatura - ERRORE : "),
+    TextStatistic<&R::Fondo>("Terreno", "StatisFondo - ERRORE : ", "Lista Fondo - ERRORE : "),
+    TextStatistic<&R::Tipo>("Tipo", "StatisTipo - ERRORE : ", "Lista Tipo - ERRORE : "),
+    TextStatistic<&R::Stagione>("Stagione", "StatisStagione - ERRORE : ", "Lista Stagione - ERRORE : "),
+    TextStatistic<&R::TempoAtm>("Meteo", "StatisMeteo - ERRORE : ", "Lista Meteo - ERRORE : "),
+    TextStatistic<&R::Temperatura>("Temperatura", "StatisTemperatura - ERRORE : ", "Lista Temperatura - ERRORE : "),
+    {"Corridori", "StatisCorridori - ERRORE : ", "Lista Corridori - ERRORE : ", HasDistance, nullptr,
+     NumberOf<&R::Corridori>},
+    {"Peso", "StatisPeso - ERRORE : ", "Lista Peso - ERRORE : ", NotZero<&R::Peso>, nullptr, NumberOf<&R::Peso>},
+    {"Ripetizioni", "StatisRipetizioni - ERRORE : ", "Lista Ripetizioni - ERRORE : ", NotZero<&R::Ripetizioni>,
+     TestoRipetizioni},
 };
 
 bool SameValue(const Text& slot, const Text& value)

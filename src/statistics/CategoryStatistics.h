@@ -36,14 +36,15 @@ inline constexpr std::array<Categoria, 12> kTutteLeCategorie = {
 /// What one category's statistic has of its own.
 struct Statistica {
     TextView titolo;                                     ///< The word that names the category.
-    TextView errore;                                     ///< In front of an error's description.
+    TextView errore;                                     ///< Title of the statistic's error report.
+    TextView erroreLista;                                ///< The same for the list of the search.
     bool (*contato)(const RecordGiorno& giorno);         ///< Whether the day counts.
     Text (*testo)(const RecordGiorno& giorno);           ///< Its value, null where that is a number.
     i32 (*numero)(const RecordGiorno& giorno) = nullptr; ///< Its value, null where that is a text.
 };
 
 const Statistica& StatisticaDi(Categoria categoria);
-/// By its title, case minded; null when there is none.
+/// By its title, case-sensitive; null when there is none.
 const Statistica* StatisticaDi(TextView titolo);
 
 /// The most values that a statistic can tell apart.

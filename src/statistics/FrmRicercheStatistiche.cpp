@@ -66,7 +66,7 @@ void frmRicercheStatistiche::cmdCategoria_Click(Categoria categoria)
 void frmRicercheStatistiche::Lista(Categoria categoria)
 {
     const Statistica& statistica = StatisticaDi(categoria);
-    Trap("Lista " + Text(statistica.titolo) + " - ERRORE : ", [&] {
+    Trap(statistica.erroreLista, [&] {
         CategoriaLista = Text(statistica.titolo);
         ContaValori(statistica);
         for (int i = 1; i <= kMaxCategorie; ++i) {

@@ -45,7 +45,7 @@ void AddStatistics()
     add("Lunghezza", "StatisLunghezza", "Lunghezza");
     add("Km", "StatisKm", "Km");
     add("Andatura", "SatisAndatura", "Andatura");
-    add("Fondo", "StatisFondo", "Terreno");
+    add("Fondo", "StatisFondo", "Fondo");
     add("Tipo", "StatisTipo", "Tipo");
     add("Stagione", "StatisStagione", "Stagione");
     add("Meteo", "StatisMeteo", "Meteo");

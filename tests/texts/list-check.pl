@@ -78,10 +78,8 @@ for my $entry (@entries) {
     if ($entry->{kind} eq 'error') {
         my $title = $entry->{text};
         my $name = $title =~ /^(.*) - ERRORE : $/ ? $1 : undef;
-        my $word = $name // '';
-        $word =~ s/^Lista //;
         Texts::complain("\"$title\" is in no source")
-            unless $literal{$title} || defined $name && (is_made($name) || $word ne $name && is_made($word));
+            unless $literal{$title} || defined $name && is_made($name);
         next;
     }
     for my $part (Texts::parts($entry->{text})) {
