@@ -9,6 +9,7 @@
 #include "toolkit/Printer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zelvia
 {
@@ -162,17 +163,32 @@ void frmRicercheStatistiche::RicercaMedie()
 {
     const EsitoRicerca esito = CercaCorse(Giorni, GiornoCorrente, condizioni, totali);
     totali = esito.totali;
-    lstMedie->AddItems(std::vector<TextView>(esito.righe.begin(), esito.righe.end()));
+    auto listed = esito.righe.begin();
+    const auto list = [&](std::size_t count) {
+        const auto end = esito.righe.begin() + static_cast<std::ptrdiff_t>(count);
+        lstMedie->AddItems(std::vector<TextView>(std::exchange(listed, end), end));
+    };
+    // A box finds the list as far as it was when its error arose.
     for (const ErroreRicerca& errore : esito.errori) {
+        list(errore.righe);
         ReportError(errore.titolo, errore.errore);
     }
-    if (esito.interrotta) {
-        return;
+    list(esito.righe.size());
+    if (!esito.interrotta) {
+        AddUp();
     }
+}
+
+/// Shows each total as soon as it is known: a box finds those before it on show.
+void frmRicercheStatistiche::AddUp()
+{
+    Trap("SommaKm - ERRORE : ", [this] { SommaKm(totali); });
     VisualLblTotali();
     lblTcorse->SetCaption(TestoCorse(totali));
     lblTkm->SetCaption(TestoDistanza(totali));
+    Trap("Tempi Totali - ERRORE : ", [this] { TempiTotali(totali); });
     lblTtempi->SetCaption(TestoTempi(totali));
+    Trap("Media Totali - ERRORE : ", [this] { MediaTotali(totali); });
     lblTmedia->SetCaption(TestoMedia(totali));
 }
 

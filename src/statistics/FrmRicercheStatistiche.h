@@ -115,6 +115,7 @@ private:
     bool LimitHolds(CampoPeriodo::Campo campo);
     void MoveOn(CampoPeriodo::Campo campo);
     void Lista(Categoria categoria);
+    void AddUp();
     void NascondiMedie();
     void ShowHeads(bool visible);
     void ShowTotals(bool visible);

@@ -65,7 +65,7 @@ bool Attempt(EsitoRicerca& esito, TextView titolo, Block&& block)
     bool passed = true;
     TrapWith(std::forward<Block>(block), [&](const ErroreRunTime& errore) {
         passed = false;
-        esito.errori.push_back({titolo, errore});
+        esito.errori.push_back({titolo, errore, esito.righe.size()});
     });
     return passed;
 }
@@ -107,11 +107,6 @@ EsitoRicerca CercaCorse(const BoundedArray<RecordGiorno, 0, 366>& giorni, i16 ul
             }
         }
     });
-    if (!esito.interrotta) {
-        Attempt(esito, "SommaKm - ERRORE : ", [&] { SommaKm(esito.totali); });
-        Attempt(esito, "Tempi Totali - ERRORE : ", [&] { TempiTotali(esito.totali); });
-        Attempt(esito, "Media Totali - ERRORE : ", [&] { MediaTotali(esito.totali); });
-    }
     return esito;
 }
 

@@ -65,6 +65,7 @@ inline constexpr std::array<CondizioneCategoria, 12> kCondizioni = {{
 struct ErroreRicerca {
     TextView titolo;
     ErroreRunTime errore;
+    std::size_t righe; ///< How many lines were listed before it.
 };
 
 struct EsitoRicerca {
@@ -74,8 +75,9 @@ struct EsitoRicerca {
     bool interrotta = false;           ///< The search ended before the totals, with the last of the errors.
 };
 
-/// Finds the runs among the days 1..`ultimo` and adds them up. `totali` are those of the search before, emptied. A time
-/// or an average that can't be read is told and left out; a period that is no date ends the search.
+/// Finds the runs among the days 1..`ultimo` and adds them up; the sums are not carried over yet. `totali` are those of
+/// the search before, emptied. A time or an average that can't be read is told and left out; a period that is no date
+/// ends the search.
 EsitoRicerca CercaCorse(const BoundedArray<RecordGiorno, 0, 366>& giorni, i16 ultimo,
                         const CondizioniRicerca& condizioni, const TotaliRicerca& totali);
 

@@ -37,9 +37,18 @@ void PutRuns(int last)
     }
 }
 
+/// A search with its sums carried over, as the window does it.
+EsitoRicerca AddedUp(EsitoRicerca result)
+{
+    SommaKm(result.totali);
+    TempiTotali(result.totali);
+    MediaTotali(result.totali);
+    return result;
+}
+
 EsitoRicerca Find(int last, const CondizioniRicerca& conditions = {})
 {
-    return CercaCorse(Giorni, last, conditions, {});
+    return AddedUp(CercaCorse(Giorni, last, conditions, {}));
 }
 
 /// The days of the runs found, from the dates of their lines.

@@ -310,10 +310,15 @@ void SearchWindowTest::unreadableTimesAreTold()
     PutRuns(3);
     Module1::Giorni[2].TempoImpiegato = "1:0000:59";
     Module1::Giorni[3].MediaKm = "1234:56";
+    std::vector<int> listed; // while each of the boxes is up
+    const auto note = [&] { listed.push_back(desk->lstMedie->count()); };
     desk.script.Expect(Report(QStringLiteral("Somma Tempi - ERRORE : 5 Argomento non valido")));
+    desk.script.Meanwhile(note);
     desk.script.Expect(Report(QStringLiteral("Somma Media - ERRORE : 5 Argomento non valido")));
+    desk.script.Meanwhile(note);
     desk.Run();
     QTRY_VERIFY(desk.ShowsResult());
+    QCOMPARE(listed, (std::vector<int>{1, 2}));
     // 600 seconds of average over three runs.
     QCOMPARE(desk.Totals(), QByteArray(" 3| 30| 1:40:00| 3:20"));
     QCOMPARE(desk->lstMedie->count(), 3);
@@ -344,10 +349,15 @@ void SearchWindowTest::moreMinutesThanTheTotalHolds()
         Module1::Giorni[slot].Km = 1;
         Module1::Giorni[slot].TempoImpiegato = "0:327:327";
     }
+    QByteArray shown; // while the box is up
     desk.script.Expect(Report(QStringLiteral("Tempi Totali - ERRORE : 6 Numero oltre i limiti")));
+    desk.script.Meanwhile([&] { shown = desk.Totals(); });
     desk.Run();
     desk.AwaitBoxes();
     QVERIFY(desk.ShowsResult());
+    QCOMPARE(shown, QByteArray(" 100| 100||"));
+    // The seconds were carried over, 545 minutes of them; the minutes stand as they are.
+    QCOMPARE(desk.Totals(), QByteArray(" 100| 100| 0:32700:00| 0:00"));
 }
 
 void SearchWindowTest::escLeavesAndAFreshOneComes()

@@ -155,7 +155,10 @@ int Compare(const PlainQuery& query)
         lines << Bytes(line);
     }
     QTest::qCompare(lines, expected.lines, "lines", "expected", __FILE__, __LINE__);
-    const TotaliRicerca& totals = result.totali;
+    TotaliRicerca totals = result.totali;
+    SommaKm(totals);
+    TempiTotali(totals);
+    MediaTotali(totals);
     QTest::qCompare(
         Bytes(TestoCorse(totals) + "|" + TestoDistanza(totals) + "|" + TestoTempi(totals) + "|" + TestoMedia(totals)),
         expected.totals, "totals", "expected", __FILE__, __LINE__);
