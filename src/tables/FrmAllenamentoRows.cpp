@@ -18,13 +18,16 @@ using namespace TableGrid;
 namespace
 {
 
-struct NumberColumn {
+/// The values behind a column of boxes: numbers or texts.
+struct ColumnValues {
     Column column;
-    ColonnaTabella<i16>* values;
-    TextView pattern; ///< Empty for plain digits.
+    ColonnaTabella<i16>* numeri;
+    TextView pattern; ///< Of numbers, empty for plain digits.
+    ColonnaTabella<Text>* testi = nullptr;
 };
 
-const NumberColumn kNumbers[] = {
+/// In the order in which a row is taken, so that a box that fails leaves those before it taken.
+const ColumnValues kValues[] = {
     {Km, &TabKm, {}},
     {Metri, &TabMetri, "000"},
     {Ore, &TabOre, {}},
@@ -33,20 +36,29 @@ const NumberColumn kNumbers[] = {
     {MediaMinuti, &TabMediaMinuti, {}},
     {MediaSecondi, &TabMediaSecondi, "00"},
     {MediaMillesimi, &TabMediaMillesimi, "000"},
+    {Andatura, nullptr, {}, &TabAndatura},
+    {Fondo, nullptr, {}, &TabFondo},
     {RipetVolte, &TabRipetVolte, {}},
     {RipetDistanza, &TabRipetDistanza, {}},
     {RipetQuante, &TabRipetQuante, {}},
     {RipetTempi, &TabRipetTempi, "00"},
 };
 
-struct TextColumn {
-    Column column;
-    ColonnaTabella<Text>* values;
-};
-
-const TextColumn kTexts[] = {{Andatura, &TabAndatura}, {Fondo, &TabFondo}};
-
 const CalendarDate kNoStartDate(2000, 1, 1);
+
+/// What the box of a column shows of a row; nothing for 0.
+Text TextOf(const ColumnValues& colonna, int riga)
+{
+    if (colonna.testi != nullptr) {
+        return (*colonna.testi)[riga];
+    }
+    const i16 value = (*colonna.numeri)[riga];
+    if (value == 0) {
+        return {};
+    }
+    const Text testo = colonna.pattern.empty() ? PlainText(value) : Format(value, colonna.pattern);
+    return colonna.column == RipetDistanza ? ConPuntoMigliaia(testo) : testo;
+}
 
 } // namespace
 
@@ -74,12 +86,13 @@ CalendarDate frmAllenamento::DateOfBoxes() const
 void frmAllenamento::AssignColumns(i16 destinazione, i16 sorgente, bool dotIsThousands)
 {
     const int row = sorgente.value();
-    for (const NumberColumn& colonna : kNumbers) {
-        (*colonna.values)[destinazione] =
-            dotIsThousands ? Number(colonna.column, row) : RoundTo<i16>(Val(Content(colonna.column, row)));
-    }
-    for (const TextColumn& colonna : kTexts) {
-        (*colonna.values)[destinazione] = Content(colonna.column, row);
+    for (const ColumnValues& colonna : kValues) {
+        if (colonna.testi != nullptr) {
+            (*colonna.testi)[destinazione] = Content(colonna.column, row);
+        } else {
+            (*colonna.numeri)[destinazione] =
+                dotIsThousands ? Number(colonna.column, row) : RoundTo<i16>(Val(Content(colonna.column, row)));
+        }
     }
 }
 
@@ -100,45 +113,33 @@ void frmAllenamento::CopiaRiga(i16 destinazione, i16 sorgente)
 
 void frmAllenamento::AzzeraRiga(i16 riga)
 {
-    for (const NumberColumn& colonna : kNumbers) {
-        (*colonna.values)[riga] = 0;
-    }
-    for (const TextColumn& colonna : kTexts) {
-        (*colonna.values)[riga].clear();
+    for (const ColumnValues& colonna : kValues) {
+        if (colonna.testi != nullptr) {
+            (*colonna.testi)[riga].clear();
+        } else {
+            (*colonna.numeri)[riga] = 0;
+        }
     }
 }
 
 void frmAllenamento::ShowRow(int riga)
 {
-    for (const NumberColumn& colonna : kNumbers) {
-        const i16 value = (*colonna.values)[riga];
-        if (value == 0) {
+    for (const ColumnValues& colonna : kValues) {
+        const Text testo = TextOf(colonna, riga);
+        if (testo.empty()) {
             continue;
         }
-        Text testo = colonna.pattern.empty() ? PlainText(value) : Format(value, colonna.pattern);
-        if (colonna.column == RipetDistanza) {
-            testo = ConPuntoMigliaia(testo);
-        } else if (colonna.column == RipetVolte) {
+        if (colonna.column == RipetVolte) {
             StripOf(LblRipetizioni, riga)->SetCaption(kRepetitionStrip);
         }
         Box(colonna.column, riga)->SetContent(testo);
-    }
-    for (const TextColumn& colonna : kTexts) {
-        if (!(*colonna.values)[riga].empty()) {
-            Box(colonna.column, riga)->SetContent((*colonna.values)[riga]);
-        }
     }
 }
 
 void frmAllenamento::EmptyBlankBoxes(int riga)
 {
-    for (const NumberColumn& colonna : kNumbers) {
-        if ((*colonna.values)[riga] == 0) {
-            Box(colonna.column, riga)->SetContent({});
-        }
-    }
-    for (const TextColumn& colonna : kTexts) {
-        if ((*colonna.values)[riga].empty()) {
+    for (const ColumnValues& colonna : kValues) {
+        if (TextOf(colonna, riga).empty()) {
             Box(colonna.column, riga)->SetContent({});
         }
     }
@@ -169,17 +170,14 @@ void frmAllenamento::TabAssegnaTxt()
 
 bool frmAllenamento::RowDiffers(int riga) const
 {
-    for (const NumberColumn& colonna : kNumbers) {
-        if (Number(colonna.column, riga) != (*colonna.values)[riga]) {
-            return true;
-        }
+    bool differs = false;
+    for (const ColumnValues& colonna : kValues) {
+        // Each box is read, so that one that can't be is told.
+        const bool same = colonna.testi != nullptr ? Content(colonna.column, riga) == (*colonna.testi)[riga]
+                                                   : Number(colonna.column, riga) == (*colonna.numeri)[riga];
+        differs = differs || !same;
     }
-    for (const TextColumn& colonna : kTexts) {
-        if (Content(colonna.column, riga) != (*colonna.values)[riga]) {
-            return true;
-        }
-    }
-    return false;
+    return differs;
 }
 
 i16 frmAllenamento::ControllaSaveTab()

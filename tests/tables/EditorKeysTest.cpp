@@ -287,11 +287,16 @@ void EditorKeysTest::aNumberBeyondAllLimitsIsReported()
     TableDesk desk;
     desk.StartNew();
     desk.Write(desk.Box(Km, 2), QStringLiteral("8"));
+    desk.Write(desk.Box(Andatura, 1), QStringLiteral("Lento"));
+    desk.Write(desk.Box(Fondo, 1), QStringLiteral("Erba"));
+    desk.Write(desk.Box(RipetVolte, 1), QStringLiteral("5"));
+    desk.Write(desk.Box(RipetQuante, 1), QStringLiteral("2"));
     desk.Write(desk.Box(RipetDistanza, 1), QStringLiteral("40000"));
     desk.script.Expect(Report(QStringLiteral("AssegnaTab - ERRORE : 6 Numero oltre i limiti")));
     (void)desk.RowMenu(2, Qt::Key_I);
     desk.AwaitBoxes();
-    // The other rows were moved all the same.
+    // What stands before the distance was taken, nothing from it on; the other rows were moved all the same.
+    QTRY_COMPARE(desk.Row(1), QByteArray("||||||||Lento|Erba|5|||"));
     QTRY_COMPARE(desk.Row(3), QByteArray("8|||||||||||||"));
     QCOMPARE(desk.Row(2), QByteArray("|||||||||||||"));
     QVERIFY(desk.Editor()->TabellaModificata == 1);
