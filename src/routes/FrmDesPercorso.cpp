@@ -48,6 +48,15 @@ i32 Parsed(const TextBox& box)
     return RoundTo<i32>(Val(box.Content()));
 }
 
+std::array<i32, kRows> Parsed(const BoundedArray<TextBox*, 1, kRows>& boxes)
+{
+    std::array<i32, kRows> numbers;
+    for (int j = 1; j <= kRows; ++j) {
+        numbers[static_cast<std::size_t>(j - 1)] = Parsed(*boxes[j]);
+    }
+    return numbers;
+}
+
 Text EmptyForZero(i32 number)
 {
     return number == 0 ? Text() : PlainText(number);
@@ -168,16 +177,13 @@ void frmDesPercorso::CalcolaDistanza()
 {
     Trap("CalcolaDistanza - ERRORE : ", [this] {
         TotaleKm = TotaleMetri = RestoMetri = 0;
-        std::array<i32, kRows> km;
-        std::array<i32, kRows> metri;
-        for (int j = 1; j <= kRows; ++j) {
-            km[static_cast<std::size_t>(j - 1)] = Parsed(*txtKm[j]);
-            metri[static_cast<std::size_t>(j - 1)] = Parsed(*txtMetri[j]);
-            TotaleMetri += metri[static_cast<std::size_t>(j - 1)];
-        }
-        const LunghezzaPercorso totale = SommaTratti(km, metri);
+        // The kilometres are on show before the metres are added: these may be too many.
+        TotaleKm = SommaTratti(Parsed(txtKm));
+        txtDistanzaKm->SetContent(PlainText(TotaleKm));
+        TotaleMetri = SommaTratti(Parsed(txtMetri));
+        const LunghezzaPercorso totale = Lunghezza(TotaleKm, TotaleMetri);
         TotaleKm = totale.km;
-        if (TotaleMetri >= 1000) {
+        if (TotaleMetri != totale.metri) {
             RestoMetri = totale.metri;
         }
         txtDistanzaKm->SetContent(PlainText(totale.km));

@@ -5,29 +5,26 @@
 #include "core/Conversions.h"
 #include "routes/RouteModel.h"
 
+#include <numeric>
+
 namespace zelvia
 {
 
 using namespace Module1;
 
-LunghezzaPercorso SommaTratti(std::span<const i32> km, std::span<const i32> metri)
+i32 SommaTratti(std::span<const i32> tratti)
 {
-    const auto sum = [](std::span<const i32> parts) {
-        i32 total = 0;
-        for (const i32 part : parts) {
-            total += part;
-        }
-        return total;
-    };
-    i32 totaleKm = sum(km);
-    i32 totaleMetri = sum(metri);
+    return std::accumulate(tratti.begin(), tratti.end(), i32(0));
+}
+
+LunghezzaPercorso Lunghezza(i32 km, i32 metri)
+{
     constexpr int metresPerKm = 1000;
-    if (totaleMetri >= metresPerKm) {
-        const i32 interi = totaleMetri.value() / metresPerKm;
-        totaleKm += interi;
-        totaleMetri -= interi * metresPerKm;
+    if (metri < metresPerKm) {
+        return {km, metri};
     }
-    return {totaleKm, totaleMetri};
+    const i32 interi = metri.value() / metresPerKm;
+    return {km + interi, metri - interi * metresPerKm};
 }
 
 std::optional<i16> PostoPercorso(TextView nome)

@@ -16,12 +16,14 @@ inline constexpr TextView kTooManyRoutes = " DESCRIZIONE MAX PER 200 PERCORSI ";
 /// The length of a route.
 struct LunghezzaPercorso {
     i32 km;
-    i32 metri; ///< 0..999
+    i32 metri; ///< Below 1000.
 };
 
-/// Adds up stretches of kilometres and metres; whole thousands of metres go over to the kilometres.
-/// Raises error 6 when a sum is out of range.
-LunghezzaPercorso SommaTratti(std::span<const i32> km, std::span<const i32> metri);
+/// Adds up the kilometres, or the metres, of the stretches. Raises error 6 when the sum is out of range.
+i32 SommaTratti(std::span<const i32> tratti);
+
+/// Carries whole thousands of metres over to the kilometres. Raises error 6 when these are out of range.
+LunghezzaPercorso Lunghezza(i32 km, i32 metri);
 
 /// The place of a route's name among the descriptions, case ignored: 0 when it has none but a place is free, nothing
 /// when all 200 are taken. The empty name is that of the first free place.

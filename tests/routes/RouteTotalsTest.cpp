@@ -52,6 +52,11 @@ void TakeAllPlaces()
     }
 }
 
+LunghezzaPercorso TotalOf(const std::vector<i32>& km, const std::vector<i32>& metres)
+{
+    return Lunghezza(SommaTratti(km), SommaTratti(metres));
+}
+
 /// The place as a plain number, -1 for nothing.
 int PlaceOf(TextView name)
 {
@@ -99,8 +104,7 @@ void RouteTotalsTest::Totals()
     QFETCH(Lengths, metres);
     QFETCH(int, totalKm);
     QFETCH(int, totalMetres);
-    const auto total =
-        SommaTratti(std::vector<i32>(km.begin(), km.end()), std::vector<i32>(metres.begin(), metres.end()));
+    const auto total = TotalOf({km.begin(), km.end()}, {metres.begin(), metres.end()});
     QCOMPARE(total.km.value(), totalKm);
     QCOMPARE(total.metri.value(), totalMetres);
 }
@@ -118,9 +122,7 @@ void RouteTotalsTest::TotalsOutOfRange()
 {
     QFETCH(Lengths, km);
     QFETCH(Lengths, metres);
-    const std::vector<i32> kmParts(km.begin(), km.end());
-    const std::vector<i32> metreParts(metres.begin(), metres.end());
-    QCOMPARE(RaisedBy([&] { SommaTratti(kmParts, metreParts); }), 6);
+    QCOMPARE(RaisedBy([&] { TotalOf({km.begin(), km.end()}, {metres.begin(), metres.end()}); }), 6);
 }
 
 /// Whatever the 20 boxes can hold: the total in metres is that of the stretches, and the rest stays below a kilometre.
@@ -138,7 +140,7 @@ void RouteTotalsTest::RandomTotals()
             metres.push_back(metrePart);
             length += kmPart * 1000 + metrePart;
         }
-        const auto total = SommaTratti(km, metres);
+        const auto total = TotalOf(km, metres);
         QCOMPARE(std::int64_t{total.km.value()}, length / 1000);
         QCOMPARE(std::int64_t{total.metri.value()}, length % 1000);
     }

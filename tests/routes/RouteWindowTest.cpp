@@ -39,6 +39,7 @@ private Q_SLOTS:
     void aRouteWithoutAPlaceUsesRowZero();
     void moreThan200AtOpeningAndClosing();
     void thePageIsBlocked();
+    void moreThanTheTotalHolds_data();
     void moreThanTheTotalHolds();
     void moreThanTheDistanceHolds();
 };
@@ -269,16 +270,35 @@ void RouteWindowTest::thePageIsBlocked()
     VERIFY_SCRIPT(page.script);
 }
 
+void RouteWindowTest::moreThanTheTotalHolds_data()
+{
+    QTest::addColumn<QList<int>>("km");
+    QTest::addColumn<QList<int>>("metres");
+    QTest::addColumn<QString>("shown"); // of the kilometres
+    QTest::newRow("kilometres") << QList<int>{2000000000, 2000000000} << QList<int>{1, 1} << QString();
+    QTest::newRow("metres") << QList<int>{7, 5} << QList<int>{2000000000, 2000000000} << QStringLiteral("12");
+    QTest::newRow("kilometres with those of the metres")
+        << QList<int>{2147483640, 7} << QList<int>{600, 400} << QStringLiteral("2147483647");
+}
+
+/// No box takes so much, but a file does.
 void RouteWindowTest::moreThanTheTotalHolds()
 {
+    QFETCH(QList<int>, km);
+    QFETCH(QList<int>, metres);
+    QFETCH(QString, shown);
     EntryPage page;
     page.Start();
-    Module1::TrattoKm[1][1] = Module1::TrattoKm[1][2] = 2'000'000'000;
+    for (int stretch = 0; stretch < 2; ++stretch) {
+        Module1::TrattoKm[1][stretch + 1] = km[stretch];
+        Module1::TrattoMetri[1][stretch + 1] = metres[stretch];
+    }
     page.script.Expect(Report(QStringLiteral("CalcolaDistanza - ERRORE : 6 Numero oltre i limiti")));
     OpenEntry(page, 0);
     QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
-    QCOMPARE(page.RouteWindow()->txtKm[2]->text(), QStringLiteral("2000000000"));
-    QCOMPARE(page.RouteWindow()->txtDistanzaKm->text(), QString());
+    QCOMPARE(page.RouteWindow()->txtKm[2]->text(), QString::number(km[1]));
+    QCOMPARE(page.RouteWindow()->txtDistanzaKm->text(), shown);
+    QCOMPARE(page.RouteWindow()->txtDistanzaMetri->text(), QString());
 }
 
 void RouteWindowTest::moreThanTheDistanceHolds()
