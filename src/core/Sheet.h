@@ -6,6 +6,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 
+#include <functional>
 #include <variant>
 #include <vector>
 
@@ -58,8 +59,9 @@ struct SheetBox {
 struct SheetPicture {
     int x;
     int y;
+    std::function<void()> copy; ///< Puts it there, when the printer has come to it; empty when it is there already.
 
-    friend bool operator==(const SheetPicture&, const SheetPicture&) = default;
+    friend bool operator==(const SheetPicture& a, const SheetPicture& b) { return a.x == b.x && a.y == b.y; }
 };
 
 struct SheetPageBreak {
@@ -87,7 +89,10 @@ public:
     void PrintNumber(int x, int y, i32 number);
     void Line(int x1, int y1, int x2, int y2) { operations_.emplace_back(SheetLine{x1, y1, x2, y2}); }
     void Box(int x1, int y1, int x2, int y2) { operations_.emplace_back(SheetBox{x1, y1, x2, y2}); }
-    void PaintClipboard(int x, int y) { operations_.emplace_back(SheetPicture{x, y}); }
+    void PaintClipboard(int x, int y, std::function<void()> copy = {})
+    {
+        operations_.emplace_back(SheetPicture{x, y, std::move(copy)});
+    }
     void NewPage() { operations_.emplace_back(SheetPageBreak{}); }
 
     Orientation Paper() const { return orientation_; }

@@ -29,6 +29,24 @@ constexpr int kMargin = 26;
 constexpr int kGap = 13;
 constexpr QSize kButton{120, 36};
 
+/// The top of the buttons in a window of a size.
+constexpr int ButtonTop(const QSize& window)
+{
+    return window.height() - kMargin - kButton.height();
+}
+
+/// The top of the rule over the buttons.
+constexpr int RuleTop(const QSize& window)
+{
+    return ButtonTop(window) - kGap - 2;
+}
+
+constexpr QRect ChartPlace(const QSize& window)
+{
+    constexpr int border = 6; // over the margin
+    return {kMargin - border, kFrame + 4, window.width() - 2 * (kMargin - border), RuleTop(window) - kFrame - kGap};
+}
+
 Button* MakeButton(QWidget* parent, const char* name, TextView caption)
 {
     auto* button = new Button(parent, QLatin1String(name), caption);
@@ -70,12 +88,11 @@ frmGrafici::frmGrafici()
 void frmGrafici::resizeEvent(QResizeEvent* event)
 {
     Form::resizeEvent(event);
-    const int buttonTop = height() - kMargin - kButton.height();
+    const int buttonTop = ButtonTop(size());
     const int right = width() - kMargin;
     cmdEsci->setGeometry({QPoint(right - kButton.width(), buttonTop), kButton});
     cmdStampa->setGeometry({QPoint(cmdEsci->x() - kGap - kButton.width(), buttonTop), kButton});
-    const int ruleTop = buttonTop - kGap - 2;
-    MSChart1->setGeometry(kMargin - 6, kFrame + 4, right - kMargin + 12, ruleTop - kFrame - kGap);
+    MSChart1->setGeometry(ChartPlace(size()));
 
     // The frame, the rule over the buttons, and a stroke in front of each of these.
     const int inner = width() - 2 * kFrame;
@@ -87,7 +104,7 @@ void frmGrafici::resizeEvent(QResizeEvent* event)
                             {kFrame, kFrame + foot - 1, inner, 1},
                             {kFrame, kFrame, 1, foot},
                             {kFrame + inner - 1, kFrame, 1, foot},
-                            {kMargin, ruleTop, right - kMargin, 2},
+                            {kMargin, RuleTop(size()), right - kMargin, 2},
                             before(*cmdStampa),
                             before(*cmdEsci)};
     for (std::size_t i = 0; i < shapes_.size(); ++i) {
@@ -99,9 +116,10 @@ void frmGrafici::cmdStampa_Click()
 {
     QClipboard& clipboard = *QGuiApplication::clipboard();
     const bool printed = PrintByButton(*cmdStampa, [&] {
-        clipboard.clear();
-        MSChart1->EditCopy();
-        return ChartSheet(DataCorrente);
+        return ChartSheet(DataCorrente, [&] {
+            clipboard.clear();
+            MSChart1->EditCopy(ChartPlace(kSize).size());
+        });
     });
     // After a fault the picture stays.
     if (printed) {

@@ -5,6 +5,7 @@
 #include "core/Conversions.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zelvia
 {
@@ -163,13 +164,13 @@ Sheet SearchSheet(const SearchSheetTexts& ricerca)
     return sheet;
 }
 
-Sheet ChartSheet(CalendarDate data)
+Sheet ChartSheet(CalendarDate data, std::function<void()> copia)
 {
     Sheet sheet(Orientation::Landscape, {.name = kDateFont.name, .size = kDateSize, .bold = true});
     sheet.Print(125, 0, data);
     sheet.SetFontSize(kTitleSize);
     sheet.Box(2, 1, 132, 47);
-    sheet.PaintClipboard(15, 3);
+    sheet.PaintClipboard(15, 3, std::move(copia));
     return sheet;
 }
 

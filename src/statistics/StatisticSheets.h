@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -39,7 +40,7 @@ struct SearchSheetTexts {
 /// The sheet of a search, over as many pages as its runs take.
 Sheet SearchSheet(const SearchSheetTexts& ricerca);
 
-/// The sheet of a chart, whose picture is on the clipboard.
-Sheet ChartSheet(CalendarDate data);
+/// The sheet of a chart, whose picture `copia` puts on the clipboard.
+Sheet ChartSheet(CalendarDate data, std::function<void()> copia);
 
 } // namespace zelvia

@@ -52,16 +52,16 @@ void Chart::Show(const ChartData& shown)
     update();
 }
 
-void Chart::EditCopy() const
+void Chart::EditCopy(const QSize& size) const
 {
-    QImage picture(size() * kPictureScale, QImage::Format_RGB32);
+    QImage picture(size * kPictureScale, QImage::Format_RGB32);
     picture.fill(Qt::white);
     const int perMetre = qRound(kPixelsPerMetre * kPictureScale);
     picture.setDotsPerMeterX(perMetre);
     picture.setDotsPerMeterY(perMetre);
     QPainter painter(&picture);
     painter.scale(kPictureScale, kPictureScale);
-    parts_.DrawChart(painter, rect(), data_);
+    parts_.DrawChart(painter, QRect({}, size), data_);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
 }

@@ -24,8 +24,9 @@ public:
     const ChartData& Shown() const { return data_; }
     void Show(const ChartData& shown);
 
-    /// Puts a picture of the chart as it stands on the clipboard, on white and as large on paper as on the screen.
-    void EditCopy() const;
+    /// Puts a picture of the chart on the clipboard, drawn on white at a size in logical pixels, whatever its size in
+    /// the window; on paper it is as large as on the screen.
+    void EditCopy(const QSize& size) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

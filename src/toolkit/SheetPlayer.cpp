@@ -65,6 +65,9 @@ public:
 
     void operator()(const SheetPicture& picture)
     {
+        if (picture.copy) {
+            picture.copy();
+        }
         const QImage image = QGuiApplication::clipboard()->image();
         const auto onPaper = [](int dots, int dotsPerMetre) {
             return dots * kInchesPerMetre * kDotsPerInch / std::max(dotsPerMetre, 1);

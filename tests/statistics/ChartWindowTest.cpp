@@ -218,7 +218,7 @@ void ChartWindowTest::copies()
     desk.Start();
     desk.Bars(Categoria::Percorso);
     const Chart& chart = *desk.Charts()->MSChart1;
-    chart.EditCopy();
+    chart.EditCopy(chart.size());
     const QImage picture = QGuiApplication::clipboard()->image();
     QCOMPARE(picture.size(), chart.size() * 2);
     QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::white));

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void aPrinterThatFailsLeavesTheButtonOff();
     void aChartGoesByWayOfTheClipboard();
     void aChartThatFails();
+    void anEnlargedChartPrintsInItsFirstSize();
 };
 
 namespace
@@ -97,7 +98,7 @@ void SearchPrintTest::aChartGoesByWayOfTheClipboard()
     SearchDesk::AwaitFront(*desk.Charts());
     Clipboard().setText(QStringLiteral("quello di prima"));
     QImage copied;
-    tray.whilePrinting = [&] {
+    tray.atTheEnd = [&] {
         copied = Clipboard().image();
         QVERIFY(!desk.Charts()->cmdStampa->isEnabled());
     };
@@ -124,10 +125,37 @@ void SearchPrintTest::aChartThatFails()
     QTRY_VERIFY(desk.Charts() != nullptr);
     SearchDesk::AwaitFront(*desk.Charts());
     tray.broken = true;
+    Clipboard().setText(QStringLiteral("quello di prima"));
     desk.script.Expect(Report(QLatin1String(kPrinterReport)));
     hand::Click(*desk.Charts()->cmdStampa);
     QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
     QVERIFY(!desk.Charts()->cmdStampa->isEnabled());
+    // The printer is asked for before the clipboard is touched.
+    QCOMPARE(Clipboard().text(), QStringLiteral("quello di prima"));
+}
+
+void SearchPrintTest::anEnlargedChartPrintsInItsFirstSize()
+{
+    SearchDesk desk;
+    PrinterTray tray;
+    desk.StartSearch();
+    desk.Run();
+    hand::Click(*desk->cmGrafico);
+    QTRY_VERIFY(desk.Charts() != nullptr);
+    frmGrafici& window = *desk.Charts();
+    SearchDesk::AwaitFront(window);
+    const QSize first = window.MSChart1->size();
+    window.resize(window.size() + QSize(300, 120));
+    QTRY_COMPARE(window.MSChart1->size(), first + QSize(300, 120));
+    QImage copied;
+    tray.atTheEnd = [&] { copied = Clipboard().image(); };
+    hand::Click(*window.cmdStampa);
+    QCOMPARE(copied.size(), first * 2);
+    // At (15, 3) it stays inside the frame, whose far corner is (132, 47): cells of 1/12 by 1/6 inch.
+    const double inchesPerDot = 1 / (copied.dotsPerMeterX() * 0.0254);
+    QVERIFY(15 + copied.width() * inchesPerDot * 12 < 132);
+    QVERIFY(3 + copied.height() * inchesPerDot * 6 < 47);
+    VERIFY_SCRIPT(desk.script);
 }
 
 } // namespace zelvia::test

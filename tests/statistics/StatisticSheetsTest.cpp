@@ -231,7 +231,7 @@ private Q_SLOTS:
 
     void aChartComesFromTheClipboard()
     {
-        const Sheet sheet = ChartSheet(kDay);
+        const Sheet sheet = ChartSheet(kDay, {});
         QVERIFY(sheet.Paper() == Orientation::Landscape);
         QCOMPARE(SheetLines(sheet),
                  (QByteArrayList{"125,0 Times New Roman 8 bold|20/05/2026", "box 2,1 132,47", "picture 15,3"}));

@@ -12,7 +12,7 @@
 namespace zelvia::test
 {
 
-/// Takes the printer's place while it lives: keeps what is printed, or refuses it.
+/// Takes the printer's place while it lives: keeps what is printed, or has none and refuses it.
 class PrinterTray
 {
 public:
@@ -24,6 +24,14 @@ public:
             }
             if (broken) {
                 throw ErroreRunTime(Errore::Stampante);
+            }
+            for (const SheetOperation& operation : sheet.Operations()) {
+                if (const auto* picture = std::get_if<SheetPicture>(&operation); picture != nullptr && picture->copy) {
+                    picture->copy();
+                }
+            }
+            if (atTheEnd) {
+                atTheEnd();
             }
             sheets.push_back(sheet);
         });
@@ -37,7 +45,8 @@ public:
 
     std::vector<Sheet> sheets;
     bool broken = false;
-    std::function<void()> whilePrinting;
+    std::function<void()> whilePrinting; ///< Before anything is drawn.
+    std::function<void()> atTheEnd;      ///< When all is drawn, a picture of the clipboard too.
 };
 
 /// The report of a printer that failed.

@@ -381,7 +381,7 @@ void ChartTest::TheCopyIsAPicture()
     const ChartData data = Bars({QStringLiteral("Uno"), QStringLiteral("Due")}, {40, 20});
     chart.Show(data);
     QGuiApplication::clipboard()->setText(QStringLiteral("prima"));
-    chart.EditCopy();
+    chart.EditCopy(kSize);
     const QImage picture = QGuiApplication::clipboard()->image();
     QVERIFY(picture.convertToFormat(QImage::Format_RGB32) == Drawn(data, 2));
     QGuiApplication::clipboard()->clear();
