@@ -70,7 +70,8 @@ Sheet CalendarSheet(const CalendarSheetTexts& pagina)
     constexpr int titleSize = 12;
     constexpr int textSize = 10;
     constexpr int firstLine = 7;
-    Sheet sheet(Orientation::Landscape, {.name = "Times New Roman", .size = dateSize});
+    Sheet sheet(Orientation::Landscape, {.name = "Times New Roman", .size = dateSize},
+                JobName("calendario", pagina.data));
     sheet.Print(124, 0, pagina.data);
     sheet.SetFontSize(titleSize);
     PrintFrame(sheet);

@@ -7,6 +7,11 @@
 namespace zelvia
 {
 
+Text JobName(TextView sheet, CalendarDate date)
+{
+    return "Zelvia, " + Text(sheet) + ", " + PlainText(date);
+}
+
 void Sheet::Print(int x, int y, TextView text)
 {
     if (!text.empty()) {

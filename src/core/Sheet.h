@@ -70,12 +70,18 @@ struct SheetPageBreak {
 
 using SheetOperation = std::variant<SheetText, SheetLine, SheetBox, SheetPicture, SheetPageBreak>;
 
+/// The name of a print job: the program, what is printed, and the date on it.
+Text JobName(TextView sheet, CalendarDate date);
+
 /// What goes to the printer: the paper is A4, the rest is a list of draw operations. A text takes the font that is set
 /// when it is printed.
 class Sheet
 {
 public:
-    Sheet(Orientation orientation, SheetFont font) : orientation_(orientation), font_(std::move(font)) {}
+    Sheet(Orientation orientation, SheetFont font, Text job = "Zelvia")
+        : orientation_(orientation), font_(std::move(font)), job_(std::move(job))
+    {
+    }
 
     void SetFontName(TextView name) { font_.name = name; }
     void SetFontSize(int points) { font_.size = points; }
@@ -96,11 +102,13 @@ public:
     void NewPage() { operations_.emplace_back(SheetPageBreak{}); }
 
     Orientation Paper() const { return orientation_; }
+    const Text& Job() const { return job_; }
     const std::vector<SheetOperation>& Operations() const { return operations_; }
 
 private:
     Orientation orientation_;
     SheetFont font_;
+    Text job_;
     std::vector<SheetOperation> operations_;
 };
 

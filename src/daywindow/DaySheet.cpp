@@ -85,7 +85,7 @@ Sheet DaySheet(const DaySheetTexts& giorno)
     constexpr int footLine = 40;
     constexpr int footValues = 21;
     const SheetFont head{.name = "Times New Roman", .size = headSize};
-    Sheet sheet(Orientation::Portrait, head);
+    Sheet sheet(Orientation::Portrait, head, JobName("giorno", giorno.data));
     sheet.Box(3, 1, 94, 48);
     sheet.Print(40, 2, giorno.data);
 

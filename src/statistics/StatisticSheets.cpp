@@ -129,7 +129,7 @@ Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const Statist
 {
     constexpr std::size_t column = 30;
     constexpr int firstLine = 5;
-    Sheet sheet(Orientation::Portrait, kDateFont);
+    Sheet sheet(Orientation::Portrait, kDateFont, JobName("statistica", data));
     sheet.Print(80, 0, data);
     sheet.SetFontSize(kTitleSize);
     sheet.Box(10, 1, 87, 66);
@@ -152,7 +152,7 @@ Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const Statist
 
 Sheet SearchSheet(const SearchSheetTexts& ricerca)
 {
-    Sheet sheet(Orientation::Portrait, kDateFont);
+    Sheet sheet(Orientation::Portrait, kDateFont, JobName("ricerca", ricerca.data));
     sheet.Print(80, 0, ricerca.data);
     sheet.SetFontSize(kTitleSize);
     sheet.Box(1, 3, 85, 18);
@@ -166,7 +166,8 @@ Sheet SearchSheet(const SearchSheetTexts& ricerca)
 
 Sheet ChartSheet(CalendarDate data, std::function<void()> copia)
 {
-    Sheet sheet(Orientation::Landscape, {.name = kDateFont.name, .size = kDateSize, .bold = true});
+    Sheet sheet(Orientation::Landscape, {.name = kDateFont.name, .size = kDateSize, .bold = true},
+                JobName("grafico", data));
     sheet.Print(125, 0, data);
     sheet.SetFontSize(kTitleSize);
     sheet.Box(2, 1, 132, 47);

@@ -98,7 +98,7 @@ Sheet TableSheet(const TableSheetTexts& tabella)
     constexpr int dateSize = 8;
     constexpr int titleSize = 12;
     constexpr int textSize = 10;
-    Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = dateSize});
+    Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = dateSize}, JobName("tabella", tabella.data));
     sheet.Print(80, 0, tabella.data);
     PrintFrame(sheet);
     sheet.SetFontSize(titleSize);

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QLibrary>
 #include <QPainter>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -101,6 +102,15 @@ bool SpoolTookIt()
     return lastError == nullptr || lastError() <= lastGoodStatus;
 }
 
+/// Asks for the printer's high quality. Qt hands attributes of a job over to the spool, names and values in turn, but
+/// has no public name for the property that takes them.
+void DemandHighQuality(QPrinter& printer)
+{
+    constexpr auto jobAttributes = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+    const QString high = QStringLiteral("5"); // RFC 8011
+    printer.printEngine()->setProperty(jobAttributes, QStringList{QStringLiteral("print-quality"), high});
+}
+
 QPageLayout::Orientation LayoutOf(Orientation orientation)
 {
     return orientation == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape;
@@ -121,7 +131,8 @@ void PlaySheet(const Sheet& sheet)
     printer.setPageOrientation(LayoutOf(sheet.Paper()));
     // As wide as the printer's own margins allow: the grid begins at the printable corner.
     printer.setPageMargins(printer.pageLayout().minimumMargins(), printer.pageLayout().units());
-    printer.setDocName(QStringLiteral("Zelvia"));
+    printer.setDocName(ToQString(sheet.Job()));
+    DemandHighQuality(printer);
     QPainter painter;
     if (!painter.begin(&printer)) {
         Refuse();

@@ -44,6 +44,13 @@ private Q_SLOTS:
         QVERIFY(sheet.Operations().empty());
     }
 
+    void aJobIsNamedAfterItsSheetAndDate()
+    {
+        const CalendarDate date(2026, 5, 20);
+        const Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = 8}, JobName("giorno", date));
+        QCOMPARE(QByteArray::fromStdString(sheet.Job()), QByteArray("Zelvia, giorno, 20/05/2026"));
+    }
+
     void rulesPicturesAndPagesStandInTheirOrder()
     {
         Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = 8});

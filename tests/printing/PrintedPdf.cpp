@@ -116,6 +116,13 @@ PrintedPdf::PrintedPdf(QString path) : path_(std::move(path))
             pages_.last().words.append({left, right, top, xml.readElementText()});
         }
     }
+    QFile job(path_.chopped(4) + QStringLiteral(".job"));
+    if (!job.open(QIODevice::ReadOnly)) {
+        qFatal("the job has no name");
+    }
+    const QStringList lines = QString::fromUtf8(job.readAll()).split(u'\n');
+    job_ = lines.value(0);
+    attributes_ = lines.value(1).split(u' ', Qt::SkipEmptyParts);
 }
 
 QByteArrayList PrintedPdf::Fonts() const

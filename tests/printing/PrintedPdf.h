@@ -9,6 +9,7 @@
 #include <QList>
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 namespace zelvia::test
 {
@@ -41,6 +42,10 @@ public:
     /// A page as a picture of `dotsPerInch`, grey.
     QImage Picture(int page, int dotsPerInch) const;
     const QString& Path() const { return path_; }
+    /// The name of the job, as the print server has it.
+    const QString& Job() const { return job_; }
+    /// Its attributes, such as "media=A4".
+    const QStringList& Attributes() const { return attributes_; }
 
     /// What is wrong with the place of the sheet's texts and rules on the paper, a line each; empty when each text
     /// begins within a quarter of a cell of its place and each rule is drawn.
@@ -51,6 +56,8 @@ private:
     QString TextFault(int page, const SheetText& text) const;
 
     QString path_;
+    QString job_;
+    QStringList attributes_;
     QList<PrintedPage> pages_;
 };
 

@@ -60,6 +60,15 @@ Printed Print(const std::function<void()>& press)
     return {tray.sheets.front(), PrintedPdf::Next()};
 }
 
+/// The name of the job; every job is to be printed in high quality.
+QString JobOf(const Printed& printed)
+{
+    const QStringList& attributes = printed.pdf.Attributes();
+    return attributes.contains(QStringLiteral("print-quality=5"))
+               ? printed.pdf.Job()
+               : QStringLiteral("not in high quality: ") + attributes.join(u' ');
+}
+
 /// The word that begins at a cell of the first page.
 QString At(const Printed& printed, int x, int y)
 {
@@ -114,6 +123,7 @@ void SheetsTest::aDay()
     QCOMPARE(At(printed, 48, 4), QStringLiteral("ALLENAMENTO"));
     QCOMPARE(At(printed, 56, 20), QStringLiteral("Bene"));
     QCOMPARE(At(printed, 21, 40), QStringLiteral("140"));
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, giorno, 20/05/2026"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -128,6 +138,7 @@ void SheetsTest::aRaceDay()
     QCOMPARE(At(printed, 62, 8), QStringLiteral("1.234"));
     QCOMPARE(At(printed, 62, 10), QStringLiteral("0:49:06"));
     QCOMPARE(At(printed, 62, 12), QStringLiteral("10,0"));
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, giorno, 31/05/2026"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -144,6 +155,7 @@ void SheetsTest::aTrainingTable()
     QCOMPARE(At(printed, 26, 1), QStringLiteral("Tabella"));
     QCOMPARE(At(printed, 33, 7), QStringLiteral("Media"));
     QCOMPARE(At(printed, 20, 40), QStringLiteral("2026"));
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, tabella, 20/05/2026"));
     VERIFY_SCRIPT(desk.script);
 }
 
@@ -160,6 +172,7 @@ void SheetsTest::aPageOfTheCalendar()
     QCOMPARE(At(printed, 3, 7), QStringLiteral("8"));
     QCOMPARE(At(printed, 13, 7), QStringLiteral("Corrida"));
     QCOMPARE(At(printed, 78, 9), QStringLiteral("1.843"));
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, calendario, 20/05/2026"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -172,6 +185,7 @@ void SheetsTest::aStatistic()
     QVERIFY(IsPortrait(printed));
     QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
     QCOMPARE(printed.pdf.Fonts(), kUpright);
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, statistica, 31/12/2026"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -189,6 +203,7 @@ void SheetsTest::aSearchOverSeveralPages()
     QVERIFY(printed.pdf.Pages().size() >= 1 + (runs - 22 + 30) / 31);
     QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
     QCOMPARE(printed.pdf.Fonts(), kWithItalics);
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, ricerca, 31/12/2026"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -217,6 +232,7 @@ void SheetsTest::aChart()
         }
     }
     QVERIFY(inked > picture.width());
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, grafico, 31/12/2026"));
     VERIFY_SCRIPT(page.script);
 }
 

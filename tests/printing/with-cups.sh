@@ -5,8 +5,9 @@
 # Runs a command with a print server of its own: with-cups.sh COMMAND [ARGUMENT...]
 #
 # The server listens on a socket in a folder made for it, knows one queue, "zelvia", which is the default printer, and
-# lays each job as it comes, a PDF named after the number of the job, into $ZELVIA_PRINTED. Nothing of the machine's own
-# print server is touched. More than three jobs that wait are too many for the spool.
+# lays each job as it comes, a PDF named after the number of the job, into $ZELVIA_PRINTED, and beside it a file .job with
+# the job's name and its attributes, a line each. Nothing of the machine's own print server is touched. More than three
+# jobs that wait are too many for the spool.
 set -euo pipefail
 
 support=$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")
@@ -38,7 +39,8 @@ if [ $# -eq 0 ]; then
   echo 'file zelvia "Unknown" "Sheets"'
   exit
 fi
-cp "$6" "${DEVICE_URI#zelvia:}/.$1" && chmod 666 "${DEVICE_URI#zelvia:}/.$1" &&
+printf '%s\n%s\n' "$3" "$5" > "${DEVICE_URI#zelvia:}/$1.job" && chmod 666 "${DEVICE_URI#zelvia:}/$1.job" &&
+  cp "$6" "${DEVICE_URI#zelvia:}/.$1" && chmod 666 "${DEVICE_URI#zelvia:}/.$1" &&
   mv "${DEVICE_URI#zelvia:}/.$1" "${DEVICE_URI#zelvia:}/$1.pdf"
 END
 chmod 755 "$folder/bin/backend/zelvia"
