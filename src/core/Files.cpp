@@ -132,6 +132,36 @@ Text SystemPath(std::string_view native)
     return path;
 }
 
+Text PathOnDisk(TextView path)
+{
+    return SystemPath(Utf8Of(ResolveCase(FromSystem(path))));
+}
+
+Text PathWithin(TextView path, TextView folder)
+{
+    const fs::path wanted = ResolveCase(FromSystem(folder));
+    const fs::path native = FromSystem(path);
+    fs::path rest = native.filename();
+    for (fs::path parent = native.parent_path(); parent.has_relative_path(); parent = parent.parent_path()) {
+        std::error_code ignored;
+        if (fs::equivalent(parent, wanted, ignored)) {
+            return Text(folder) + "\\" + SystemPath(Utf8Of(rest));
+        }
+        rest = parent.filename() / rest;
+    }
+    return Text(path);
+}
+
+bool CanBeFolder(TextView path)
+{
+    fs::path part = ResolveCase(FromSystem(path));
+    while (!Exists(part) && part.has_relative_path()) {
+        part = part.parent_path();
+    }
+    std::error_code ignored;
+    return fs::is_directory(part, ignored);
+}
+
 int ErrorOfErrno(int errnoValue)
 {
     switch (errnoValue) {

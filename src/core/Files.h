@@ -24,6 +24,16 @@ std::filesystem::path NativePath(TextView path);
 /// A path of the machine (UTF-8) in backslash form.
 Text SystemPath(std::string_view native);
 
+/// `path` as the disk spells it: what is absent falls back as in NativePath, and stays as it is when nothing is there.
+Text PathOnDisk(TextView path);
+
+/// `path` as one that begins with `folder`, when it lies in that folder on the disk however either is spelled; any
+/// other path as it is.
+Text PathWithin(TextView path, TextView folder);
+
+/// True when there is a folder at `path` or one could be made: the nearest part of it that exists is a folder.
+bool CanBeFolder(TextView path);
+
 enum class OpenMode { Input, Output };
 
 struct FileCloser {

@@ -33,6 +33,10 @@ private Q_SLOTS:
     void OutputGoesToTheEntryOfOtherCase();
     void AccentedNames();
     void SystemPathTurnsSlashes();
+    void PathOnDiskSpellsAsTheDiskDoes();
+    void PathWithinAFolder();
+    void WhatCanBeAFolder_data();
+    void WhatCanBeAFolder();
     void FindFolderTellsFoldersOnly();
     void FilesInCountsVisibleRegularFiles();
     void FilesInAnAbsentFolder();
@@ -237,6 +241,67 @@ void FilesTest::SystemPathTurnsSlashes()
              QByteArray("\\home\\anna\\Zelvia\\ZelviaFile\\prova.zlv"));
     QCOMPARE(Bytes(SystemPath("/home/anna/Citt\u00E0")), QByteArray("\\home\\anna\\Citt\xE0"));
     QCOMPARE(Bytes(SystemPath("")), QByteArray());
+}
+
+void FilesTest::PathOnDiskSpellsAsTheDiskDoes()
+{
+    const TempFolder folder;
+    folder.MakeFolder("Prova");
+    folder.Write("Prova/Piano.tab", "x");
+    QCOMPARE(PathOnDisk(folder.Path("PROVA/piano.TAB")), folder.Path("Prova/Piano.tab"));
+    QCOMPARE(PathOnDisk(folder.Path("prova/altro.tab")), folder.Path("Prova/altro.tab"));
+    QCOMPARE(PathOnDisk(folder.Path("manca/Piano.tab")), folder.Path("manca/Piano.tab"));
+    folder.Write("Prova/PIANO.tab", "x");
+    QCOMPARE(PathOnDisk(folder.Path("Prova/piano.tab")), folder.Path("Prova/piano.tab"));
+    QCOMPARE(PathOnDisk("\\nometab"), Text("\\nometab"));
+    QCOMPARE(PathOnDisk(""), Text());
+}
+
+void FilesTest::PathWithinAFolder()
+{
+    const TempFolder folder;
+    folder.MakeFolder("prova/dentro");
+    folder.MakeFolder("altra");
+    std::filesystem::create_directory_symlink(folder.Native("prova"), folder.Native("legame"));
+    const Text given = folder.Path("PROVA");
+    QCOMPARE(PathWithin(folder.Path("prova/Piano.tab"), given), given + "\\Piano.tab");
+    QCOMPARE(PathWithin(folder.Path("prova/dentro/Piano.tab"), given), given + "\\dentro\\Piano.tab");
+    QCOMPARE(PathWithin(folder.Path("legame/Piano.tab"), given), given + "\\Piano.tab");
+    for (const char* other : {"altra/Piano.tab", "Piano.tab", "manca/Piano.tab"}) {
+        QCOMPARE(PathWithin(folder.Path(other), given), folder.Path(other));
+    }
+    QCOMPARE(PathWithin(folder.Path("prova/Piano.tab"), folder.Path("manca")), folder.Path("prova/Piano.tab"));
+    QCOMPARE(PathWithin(folder.Path("prova/Piano.tab"), ""), folder.Path("prova/Piano.tab"));
+    // Two folders that differ in case alone are two.
+    folder.MakeFolder("PROVA");
+    QCOMPARE(PathWithin(folder.Path("prova/Piano.tab"), given), folder.Path("prova/Piano.tab"));
+}
+
+void FilesTest::WhatCanBeAFolder_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<bool>("can");
+    QTest::newRow("a folder") << QByteArray("cartella") << true;
+    QTest::newRow("in other letters") << QByteArray("CARTELLA") << true;
+    QTest::newRow("nothing") << QByteArray("manca") << true;
+    QTest::newRow("nothing in nothing") << QByteArray("manca/manca") << true;
+    QTest::newRow("a link to a folder") << QByteArray("legame") << true;
+    QTest::newRow("a file") << QByteArray("file") << false;
+    QTest::newRow("a file in other letters") << QByteArray("FILE") << false;
+    QTest::newRow("below a file") << QByteArray("file/dentro") << false;
+    QTest::newRow("a link that leads nowhere") << QByteArray("perso") << false;
+}
+
+void FilesTest::WhatCanBeAFolder()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(bool, can);
+    const TempFolder folder;
+    folder.MakeFolder("cartella");
+    folder.Write("file", "x");
+    std::filesystem::create_directory_symlink(folder.Native("cartella"), folder.Native("legame"));
+    std::filesystem::create_symlink(folder.Native("altrove"), folder.Native("perso"));
+    QCOMPARE(CanBeFolder(folder.Path(name.toStdString())), can);
 }
 
 void FilesTest::FindFolderTellsFoldersOnly()
