@@ -6,6 +6,8 @@
 #include "core/Module1.h"
 #include "core/Workspace.h"
 
+#include <algorithm>
+
 using namespace zelvia;
 using namespace zelvia::fuzz;
 using namespace zelvia::Module1;
@@ -13,7 +15,10 @@ using namespace zelvia::Module1;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Scratch& scratch = Scratch::Instance();
-    const auto expected = Reference(InputText(data, size)).NextText();
+    auto expected = Reference(InputText(data, size)).NextText();
+    if (expected) {
+        std::replace(expected->begin(), expected->end(), '/', '\\');
+    }
     CartellaDiario = scratch.Folder();
 
     scratch.Write("nomeload", InputText(data, size));

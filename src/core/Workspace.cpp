@@ -7,6 +7,8 @@
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 
+#include <algorithm>
+
 namespace zelvia
 {
 
@@ -15,6 +17,7 @@ Text ReadPointer(TextView path)
     ValueReader file(path);
     Text value;
     file.Input(value);
+    std::replace(value.begin(), value.end(), '/', '\\');
     return value;
 }
 
@@ -37,20 +40,23 @@ Text NomeSenzaEstensione(TextView path)
     return dot == 0 ? Text() : Left(path, dot - 1);
 }
 
+Text FolderOfDiary(TextView path)
+{
+    const auto word = InStr(path, kDiaryFolder);
+    if (word == 0) {
+        return NomeSenzaEstensione(path);
+    }
+    // The word and the backslash behind it.
+    const auto name = word + Len(kDiaryFolder) + 1;
+    return Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
+}
+
 namespace Module1
 {
 
 Text CAPTIONDIR(TextView path)
 {
-    return TrapValue("CAPTIONDIR - ERRORE : ", Text(), [&] {
-        const auto word = InStr(path, kDiaryFolder);
-        if (word == 0) {
-            return NomeSenzaEstensione(path);
-        }
-        // The word and the backslash behind it.
-        const auto name = word + Len(kDiaryFolder) + 1;
-        return Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
-    });
+    return TrapValue("CAPTIONDIR - ERRORE : ", Text(), [&] { return FolderOfDiary(path); });
 }
 
 i16 CAPTIONPATH(TextView a, TextView b)

@@ -11,7 +11,7 @@ namespace zelvia
 /// The folder beside the program in which all diaries lie.
 inline constexpr TextView kDiaryFolder = "ZelviaFile";
 
-/// A pointer file holds one text value.
+/// A pointer file holds one text value, a path; ordinary slashes in it are read as backslashes.
 Text ReadPointer(TextView path);
 void WritePointer(TextView path, TextView value);
 
@@ -20,6 +20,9 @@ Text NomeSenzaCartella(TextView path);
 
 /// A path up to its last dot, "" when it has none.
 Text NomeSenzaEstensione(TextView path);
+
+/// The folder that belongs to a diary, as Module1::CAPTIONDIR; raises error 5 for a dot in a folder ahead of its name.
+Text FolderOfDiary(TextView path);
 
 namespace Module1
 {

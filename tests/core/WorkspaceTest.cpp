@@ -170,6 +170,11 @@ void WorkspaceTest::ReadingAPointerFails_data()
     QTest::newRow("an empty line is an empty text") << QByteArray("\r\n") << QByteArray() << 0;
     QTest::newRow("without quotes") << QByteArray("C:\\X\\a.zlv\n") << QByteArray("C:\\X\\a.zlv") << 0;
     QTest::newRow("more lines") << QByteArray("\"a\"\r\n\"b\"\r\n") << QByteArray("a") << 0;
+    // As who writes the file by hand on this system may well do.
+    QTest::newRow("ordinary slashes") << QByteArray("\"/home/anna/a.zlv\"\r\n") << QByteArray("\\home\\anna\\a.zlv")
+                                      << 0;
+    QTest::newRow("both") << QByteArray("\"C:\\X/ZelviaFile/a.zlv\"\r\n") << QByteArray("C:\\X\\ZelviaFile\\a.zlv")
+                          << 0;
 }
 
 void WorkspaceTest::ReadingAPointerFails()

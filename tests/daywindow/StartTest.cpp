@@ -81,6 +81,7 @@ class StartTest : public QObject
 private Q_SLOTS:
     void theDiaryOfThePointer_data();
     void theDiaryOfThePointer();
+    void pointersWithOrdinarySlashes();
     void theSampleIsShown();
     void firstUseWritesTheSet();
     void folderWithoutFilesIsFilled_data();
@@ -135,6 +136,32 @@ void StartTest::theDiaryOfThePointer()
     QCOMPARE(QString::fromStdString(page->NomeBaseFile), shown);
     QCOMPARE(page->upKM->Value().value(), 16);
     QCOMPARE(page.folder.Exists(folder + QStringLiteral("/ListePercorso")), true);
+}
+
+void StartTest::pointersWithOrdinarySlashes()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.folder.Write(QStringLiteral("ZelviaFile/maria.zlv"), SampleFile(kDiary));
+    const QStringList files = FullSet() + QStringList{QStringLiteral("Base 10 km.tab")};
+    for (const QString& file : files) {
+        page.folder.Write(QStringLiteral("maria/") + file, SampleFile(QStringLiteral("prova/") + file));
+    }
+    const auto pointer = [&](const QString& path) { return '"' + page.folder.Native(path).toLatin1() + "\"\r\n"; };
+    page.folder.Write(QStringLiteral("nomeload"), pointer(QStringLiteral("ZelviaFile/maria.zlv")));
+    page.folder.Write(QStringLiteral("maria/nometab"), pointer(QStringLiteral("maria/Base 10 km.tab")));
+    page.Start();
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(page->NomeFile, page.folder.System(QStringLiteral("ZelviaFile/maria.zlv")));
+    QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("maria"));
+    QCOMPARE(Module1::CartellaDiario, page.folder.System(QStringLiteral("maria")));
+    QCOMPARE(page->upKM->Value().value(), 16);
+    QCOMPARE(Module1::NomeTabellaAttiva, page.folder.System(QStringLiteral("maria/Base 10 km.tab")));
+    QCOMPARE(page.Caption("lblTabNomeFile"), QStringLiteral("Base 10 km"));
+    // The rule of the folder holds it for the same one.
+    page.script.Expect(page.SaveDialog(QStringLiteral("maria.zlv"), QStringLiteral("copia")));
+    page.Menu("mnuFile", Qt::Key_V);
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(page.folder.Files(QStringLiteral("copia")), FullSet());
 }
 
 void StartTest::theSampleIsShown()
