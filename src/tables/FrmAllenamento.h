@@ -117,6 +117,7 @@ private:
     void PaintDate(const QColor& back);
     void AcceptAllRows();
     void RecolourAllRows();
+    void SaveUnderName();
     bool ChooseActivePath();
     TableSheetTexts SheetTexts() const;
 

@@ -51,31 +51,36 @@ void frmAllenamento::cmdSalva_Click()
         if (IsActiveTable()) {
             PaintDate(TableColours::Active);
         }
-        SalvaTabellaConNome(tabCommonDialog);
+        SaveUnderName();
         if (FlagTabellaSalvata == 1) {
             return;
         }
-        percorsoSalvato_ = tabCommonDialog.FileName;
         TabellaModificata = 0;
         setWindowTitle(ToQString("Tabella allenamento : " + NomeSenzaCartella(tabCommonDialog.FileName)));
     });
 }
 
-/// Makes sure that this window's table has a path, saving it under one if need be; false when the user cancelled.
+void frmAllenamento::SaveUnderName()
+{
+    if (SalvaTabellaConNome(tabCommonDialog)) {
+        percorsoSalvato_ = tabCommonDialog.FileName;
+    } else if (FlagTabellaSalvata != 1) {
+        // A file that may be half written must not be activated.
+        percorsoSalvato_.clear();
+    }
+}
+
+/// Makes sure that this window's table has a file, saving it if need be; false when none was written.
 bool frmAllenamento::ChooseActivePath()
 {
     if (!NomeFileForm.empty()) {
         return true;
     }
     if (percorsoSalvato_.empty()) {
-        SalvaTabellaConNome(tabCommonDialog);
-        if (FlagTabellaSalvata == 1) {
-            return false;
-        }
-        percorsoSalvato_ = tabCommonDialog.FileName;
+        SaveUnderName();
     }
     NomeFileForm = percorsoSalvato_;
-    return true;
+    return !NomeFileForm.empty();
 }
 
 TableSheetTexts frmAllenamento::SheetTexts() const

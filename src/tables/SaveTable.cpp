@@ -15,9 +15,10 @@ namespace zelvia
 
 using namespace Module1;
 
-void SalvaTabellaConNome(CommonDialog& dialog)
+bool SalvaTabellaConNome(CommonDialog& dialog)
 {
     bool riprova = false;
+    bool scritta = false;
     TrapWith(
         [&] {
             FlagTabellaSalvata = 0;
@@ -30,7 +31,7 @@ void SalvaTabellaConNome(CommonDialog& dialog)
             const Text cartella =
                 Left(dialog.FileName, std::max<std::ptrdiff_t>(InStrRev(dialog.FileName, "\\") - 1, 0));
             if (cartella == CartellaDiario) {
-                ScriviTabella(dialog.FileName);
+                scritta = ScriviTabella(dialog.FileName);
                 return;
             }
             dialog.FileName = NomeSenzaCartella(dialog.FileName);
@@ -45,9 +46,10 @@ void SalvaTabellaConNome(CommonDialog& dialog)
             }
             FlagTabellaSalvata = 1;
             if (riprova) {
-                SalvaTabellaConNome(dialog);
+                scritta = SalvaTabellaConNome(dialog);
             }
         });
+    return scritta;
 }
 
 } // namespace zelvia

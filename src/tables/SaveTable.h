@@ -8,7 +8,7 @@ namespace zelvia
 {
 
 /// Runs the save dialog until the user picks a name in CartellaDiario, and writes the table in memory there, or
-/// cancels: FlagTabellaSalvata is then 1. Reports its own failure.
-void SalvaTabellaConNome(CommonDialog& dialog);
+/// cancels: FlagTabellaSalvata is then 1. Reports its own failure. True when the file was written.
+bool SalvaTabellaConNome(CommonDialog& dialog);
 
 } // namespace zelvia

@@ -65,8 +65,9 @@ void AzzeraTabella()
     });
 }
 
-void ScriviTabella(TextView path)
+bool ScriviTabella(TextView path)
 {
+    bool written = false;
     Trap(kBareTitle, [&] {
         ValueWriter file(path);
         for (int row = 1; row <= kRows; ++row) {
@@ -74,7 +75,9 @@ void ScriviTabella(TextView path)
         }
         file.Write(TabDataInizio);
         file.Close();
+        written = true;
     });
+    return written;
 }
 
 void LeggiTabella(TextView path)

@@ -35,8 +35,9 @@ extern CalendarDate TabDataInizio;            ///< Start date of the table in me
 /// Makes the table in memory blank, its start date the placeholder 01/01/2007.
 void AzzeraTabella();
 
-/// Writes the table in memory to `path`, 466 values. Reports its own failure; the file may then be half written.
-void ScriviTabella(TextView path);
+/// Writes the table in memory to `path`, 466 values. Reports its own failure, and returns false; the file may then be
+/// half written.
+bool ScriviTabella(TextView path);
 
 /// Reads `path` into the table in memory, by position only. Reports its own failure; what was read is kept.
 void LeggiTabella(TextView path);

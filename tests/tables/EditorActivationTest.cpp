@@ -87,6 +87,9 @@ private Q_SLOTS:
     void replacesTheActiveTable();
     void anUnsavedTableIsSavedFirst_data();
     void anUnsavedTableIsSavedFirst();
+    void aTableThatIsNotWrittenIsNotActive_data();
+    void aTableThatIsNotWrittenIsNotActive();
+    void afterAFailedSaveItIsSavedFirst();
     void theFolderRuleHoldsForAnUnsavedTable();
     void aTableSavedHereNeedsNoDialog();
     void aTableOpenedHereKeepsItsPath();
@@ -287,6 +290,92 @@ void EditorActivationTest::anUnsavedTableIsSavedFirst()
         QVERIFY(desk.Editor()->TabellaModificata == 1);
         QCOMPARE(desk.Editor()->windowTitle(), QStringLiteral("Tabella allenamento "));
     }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorActivationTest::aTableThatIsNotWrittenIsNotActive_data()
+{
+    QTest::addColumn<bool>("another");
+    QTest::addColumn<bool>("full");
+    for (const bool another : {false, true}) {
+        for (const bool full : {true, false}) {
+            QTest::addRow("%s, %s", another ? "another one active" : "none active", full ? "disk full" : "no folder")
+                << another << full;
+        }
+    }
+}
+
+void EditorActivationTest::aTableThatIsNotWrittenIsNotActive()
+{
+    QFETCH(bool, another);
+    QFETCH(bool, full);
+    TableDesk desk(kBeforehand);
+    if (another) {
+        desk.SetActive(kOther);
+    }
+    desk.StartNew();
+    const QString none = desk.Caption("lblTabNomeFile");
+    desk.WriteStart("5", "4", "2026");
+    Accept(desk);
+    TypeLastOfYear(QStringLiteral("7"));
+    desk.Editor()->TabellaModificata = 1;
+    const QByteArray date = desk.DateBack();
+    const QString file = QStringLiteral("nuova.tab");
+    const QString native = desk.folder.Native(QStringLiteral("prova/nuova.tab"));
+    if (full) {
+        QVERIFY(QFile::link(QStringLiteral("/dev/full"), native));
+    } else {
+        desk.folder.Dangle(QStringLiteral("prova/nuova.tab"));
+    }
+    if (another) {
+        desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+    }
+    desk.script.Expect(desk.SaveTableDialog(QString(), QStringLiteral("nuova")));
+    if (full) {
+        desk.script.Expect(desk.OverwriteQuestion(QStringLiteral("Salva Tabella con nome"), file, QMessageBox::Yes));
+    }
+    desk.script.Expect(BareReport(full ? QStringLiteral("61 Disco pieno") : kNoFolder));
+    Activate(desk);
+    QCOMPARE(desk.Enabled(), QByteArray("cmdAttiva"));
+    QCOMPARE(desk.Nometab(), another ? desk.Pointer(kOther) : kNoPointer);
+    QCOMPARE(Bytes(Module1::NomeTabellaAttiva), another ? desk.PathOf(kOther) : QByteArray());
+    QCOMPARE(desk.Caption("lblTabNomeFile"), none);
+    QCOMPARE(desk.GridBack(), kWhite);
+    QCOMPARE(desk.DateBack(), date);
+    QCOMPARE(StartInMemory(), QByteArray("05/04/2026"));
+    QVERIFY(desk.Editor()->TabellaModificata == 1);
+    QCOMPARE(desk.Editor()->NomeFileForm, Text());
+    // There is still no file of its own, so the next try asks again.
+    if (another) {
+        desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+    }
+    desk.script.Expect(desk.SaveTableDialog(file, QStringLiteral("buona")));
+    Activate(desk);
+    VerifyActive(desk, "buona.tab", QStringLiteral("buona"));
+    QCOMPARE(desk.ReadTable("buona.tab"), TableLines::Blank().SetDate("2027-04-05").Bytes());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorActivationTest::afterAFailedSaveItIsSavedFirst()
+{
+    TableDesk desk(kBeforehand);
+    desk.StartNew();
+    desk.WriteStart("5", "4", "2026");
+    desk.script.Expect(desk.SaveTableDialog(QString(), QStringLiteral("prima")));
+    hand::Click(*desk.Editor()->cmdSalva);
+    desk.AwaitBoxes();
+    desk.folder.Dangle(QStringLiteral("prova/persa.tab"));
+    desk.script.Expect(desk.SaveTableDialog(QStringLiteral("prima.tab"), QStringLiteral("persa")));
+    desk.script.Expect(BareReport(kNoFolder));
+    hand::Click(*desk.Editor()->cmdSalva);
+    desk.AwaitBoxes();
+    Accept(desk);
+    desk.script.Expect(desk.SaveTableDialog(QStringLiteral("persa.tab")));
+    Activate(desk);
+    QCOMPARE(desk.Nometab(), kNoPointer);
+    desk.script.Expect(desk.SaveTableDialog(QStringLiteral("persa.tab"), QStringLiteral("buona")));
+    Activate(desk);
+    VerifyActive(desk, "buona.tab", QStringLiteral("buona"));
     VERIFY_SCRIPT(desk.script);
 }
 
