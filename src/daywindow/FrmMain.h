@@ -284,10 +284,11 @@ private:
     // Files.
     KeptState KeepAndReset();
     void PutBack(const KeptState& kept);
-    void PrepareDialog(TextView title, TextView filter, int flags);
-    /// Raises error 32755 after the refusal's box when `scelto` lies in another folder than `diario`; the dialog then
-    /// holds `diario` again and `riprova` is set.
-    void ApplyFolderRule(const Text& diario, const Text& scelto, TextView rifiuto, bool& riprova);
+    /// `diario` is the one whose folder the choice has to lie in.
+    void PrepareDialog(TextView title, FileDialogMode mode, const Text& diario);
+    /// Raises error 32755 after the refusal's box when the dialog's FileName lies in another folder than `diario`; the
+    /// dialog then holds `diario` again and `riprova` is set.
+    void ApplyFolderRule(FileDialogMode mode, const Text& diario, bool& riprova);
     /// Writes the lists, the routes and the calendar.
     void SaveCompanions();
     /// Reads the diary named by NomeFile with its companions and shows it.

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Open, New, Save and Save As.
+// Save and Save As, the question whether to save, and what all file dialogs have in common.
 #include "calendar/CalendarModel.h"
+#include "core/Conversions.h"
 #include "core/DiaryFile.h"
 #include "core/Files.h"
 #include "core/RunTimeError.h"
@@ -9,7 +10,7 @@
 #include "daywindow/FrmMain.h"
 #include "routes/RouteModel.h"
 
-#include <optional>
+#include <utility>
 
 namespace zelvia
 {
@@ -26,6 +27,21 @@ constexpr int kSaveFlags = DialogFlags::OverwritePrompt | DialogFlags::NoChangeD
 constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   ";
 constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
 
+/// Why a diary can't be kept under the path chosen, or nothing: its folder has to be one.
+Text RefusalOfFolder(const Text& diario, const Text& scelto)
+{
+    Text cartella;
+    // What lies in another folder is refused behind the dialog.
+    if (CAPTIONPATH(diario, scelto) == 0) {
+        TrapWith([&] { cartella += FolderOfDiary(scelto); }, [](const ErroreRunTime&) {});
+    }
+    if (cartella.empty() || CanBeFolder(cartella)) {
+        return {};
+    }
+    return " LA CARTELLA DEL DIARIO AVREBBE IL NOME DI UN FILE CHE C'E' GIA' :  " +
+           Mid(cartella, InStrRev(cartella, "\\") + 1) + "   ";
+}
+
 /// Points CartellaDiario somewhere else for as long as it lives.
 class OtherFolder
 {
@@ -41,95 +57,24 @@ private:
 
 } // namespace
 
-/// What a cancelled Open or New puts back.
-struct frmMain::KeptState {
-    i16 flagTabellaSalvata;
-    Text nomeTabellaAperta;
-    i16 ultimoPeso;
-    i32 kmAnno;
-    i16 giorniCorseAnno;
-    i16 gareAnno;
-    i16 noteAperte;
-    i16 listaAperta;
-    i16 fileModificato;
-    i16 giornoCorrente;
-    i16 giornoMese;
-    i16 meseCorrente;
-    i16 annoCorrente;
-    Text nomeFile;
-    Text nomeBaseFile;
-    Text nomeTabellaAttiva;
-    Text percorsoCorrente;
-    Text esitoDir;
-    Text cartellaDiario;
-    i16 indiceTabella;
-};
-
-/// Keeps the state and resets it as at start; UltimoPeso and KmAnno stay.
-frmMain::KeptState frmMain::KeepAndReset()
+void frmMain::PrepareDialog(TextView title, FileDialogMode mode, const Text& diario)
 {
-    return {std::exchange(FlagTabellaSalvata, 0),
-            std::exchange(NomeTabellaAperta, {}),
-            UltimoPeso,
-            KmAnno,
-            std::exchange(GiorniCorseAnno, 0),
-            std::exchange(GareAnno, 0),
-            std::exchange(NoteAperte, 0),
-            std::exchange(ListaAperta, 0),
-            std::exchange(FileModificato, 0),
-            std::exchange(GiornoCorrente, 0),
-            std::exchange(GiornoMese, 1),
-            std::exchange(MeseCorrente, 1),
-            std::exchange(AnnoCorrente, 1),
-            std::exchange(NomeFile, {}),
-            std::exchange(NomeBaseFile, {}),
-            std::exchange(NomeTabellaAttiva, {}),
-            std::exchange(PercorsoCorrente, {}),
-            std::exchange(EsitoDir, {}),
-            std::exchange(CartellaDiario, {}),
-            std::exchange(IndiceTabella, 0)};
-}
-
-void frmMain::PutBack(const KeptState& kept)
-{
-    FlagTabellaSalvata = kept.flagTabellaSalvata;
-    NomeTabellaAperta = kept.nomeTabellaAperta;
-    UltimoPeso = kept.ultimoPeso;
-    KmAnno = kept.kmAnno;
-    GiorniCorseAnno = kept.giorniCorseAnno;
-    GareAnno = kept.gareAnno;
-    NoteAperte = kept.noteAperte;
-    ListaAperta = kept.listaAperta;
-    FileModificato = kept.fileModificato;
-    GiornoCorrente = kept.giornoCorrente;
-    GiornoMese = kept.giornoMese;
-    MeseCorrente = kept.meseCorrente;
-    AnnoCorrente = kept.annoCorrente;
-    NomeFile = kept.nomeFile;
-    NomeBaseFile = kept.nomeBaseFile;
-    NomeTabellaAttiva = kept.nomeTabellaAttiva;
-    PercorsoCorrente = kept.percorsoCorrente;
-    EsitoDir = kept.esitoDir;
-    CartellaDiario = kept.cartellaDiario;
-    IndiceTabella = kept.indiceTabella;
-}
-
-void frmMain::PrepareDialog(TextView title, TextView filter, int flags)
-{
+    const bool opens = mode == FileDialogMode::Open;
     dlgCommonDialog.CancelError = true;
-    dlgCommonDialog.Flags = flags;
+    dlgCommonDialog.Flags = opens ? kOpenFlags : kSaveFlags;
     dlgCommonDialog.InitDir = ProgramFolder() + "\\" + Text(kDiaryFolder);
-    dlgCommonDialog.Filter = filter;
+    dlgCommonDialog.Filter = opens ? kOpenFilter : kSaveFilter;
     dlgCommonDialog.DialogTitle = title;
+    dlgCommonDialog.Refusal = [diario](const Text& scelto) { return RefusalOfFolder(diario, scelto); };
 }
 
-void frmMain::ApplyFolderRule(const Text& diario, const Text& scelto, TextView rifiuto, bool& riprova)
+void frmMain::ApplyFolderRule(FileDialogMode mode, const Text& diario, bool& riprova)
 {
-    if (CAPTIONPATH(diario, scelto) == 0) {
+    if (CAPTIONPATH(diario, dlgCommonDialog.FileName) == 0) {
         return;
     }
     dlgCommonDialog.FileName = diario;
-    MsgBox(rifiuto, MsgButtons::OK, MsgIcon::Critical);
+    MsgBox(mode == FileDialogMode::Open ? kRefusedOpen : kRefusedSave, MsgButtons::OK, MsgIcon::Critical);
     riprova = true;
     throw ErroreRunTime(Errore::Annullato);
 }
@@ -163,12 +108,12 @@ void frmMain::mnuFileSave_Click()
     TrapWith(
         [&] {
             AssegnaCampi();
-            PrepareDialog("Salva con nome", kSaveFilter, kSaveFlags);
+            PrepareDialog("Salva con nome", FileDialogMode::Save, NomeFile);
             if (dlgCommonDialog.FileName.empty()) {
                 dlgCommonDialog.ShowSave();
             }
+            ApplyFolderRule(FileDialogMode::Save, NomeFile, riprova);
             const Text scelto = dlgCommonDialog.FileName;
-            ApplyFolderRule(NomeFile, scelto, kRefusedSave, riprova);
             puntatore.SetPointer(MousePointer::Hourglass);
             SalvaDiario(scelto);
             FileModificato = 0;
@@ -190,10 +135,10 @@ void frmMain::mnuFileSaveAs_Click()
     TrapWith(
         [&] {
             AssegnaCampi();
-            PrepareDialog("Salva con nome", kSaveFilter, kSaveFlags);
+            PrepareDialog("Salva con nome", FileDialogMode::Save, NomeFile);
             dlgCommonDialog.ShowSave();
+            ApplyFolderRule(FileDialogMode::Save, NomeFile, riprova);
             const Text scelto = dlgCommonDialog.FileName;
-            ApplyFolderRule(NomeFile, scelto, kRefusedSave, riprova);
             puntatore.SetPointer(MousePointer::Hourglass);
             SalvaDiario(scelto);
             FileModificato = 0;
@@ -211,136 +156,6 @@ void frmMain::mnuFileSaveAs_Click()
                 ReportError("mnuFileSaveAs - ERRORE : ", error);
             } else if (riprova) {
                 mnuFileSaveAs_Click();
-            }
-        });
-}
-
-void frmMain::mnuFileOpen_Click()
-{
-    std::optional<KeptState> kept;
-    bool riprova = false;
-    TrapWith(
-        [&] {
-            i16 annullato;
-            ChiediSalvataggio(annullato);
-            if (annullato == 1) {
-                return;
-            }
-            kept = KeepAndReset();
-            PrepareDialog("Apri", kOpenFilter, kOpenFlags);
-            dlgCommonDialog.ShowOpen();
-            const Text scelto = dlgCommonDialog.FileName;
-            ApplyFolderRule(kept->nomeFile, scelto, kRefusedOpen, riprova);
-            NomeFile = scelto;
-            ReadOpenedDiary();
-        },
-        [&](const ErroreRunTime& error) {
-            if (error.Number() != Errore::Annullato) {
-                ReportError("mnuFileOpen - ERRORE : ", error);
-                return;
-            }
-            if (kept) {
-                PutBack(*kept);
-            }
-            if (riprova) {
-                mnuFileOpen_Click();
-            }
-        });
-}
-
-void frmMain::ReadOpenedDiary()
-{
-    CaricaDiario(NomeFile);
-    AzzeraPercorsi();
-    AzzeraCalendario();
-    SetToday();
-    Data();
-    CartellaDiario = CAPTIONDIR(NomeFile);
-    WriteFirstSet();
-    VisualizzaGiorno();
-    DatiAnno();
-    NomeFleListe();
-    lblNomeFile->SetCaption(NomeBaseFile);
-    NessunaTabella();
-    CaricaNomeTabella();
-    lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
-    if (!NomeTabellaAttiva.empty()) {
-        ShowActiveTable();
-    }
-    CaricaListe();
-    CaricaPercorsi();
-    AzzeraCalendario();
-    LeggiCalendario();
-    AssegnaGara();
-}
-
-void frmMain::mnuFileNuovo_Click()
-{
-    Trap("mnuFileNuovo - ERRORE : ", [this] {
-        i16 annullato;
-        ChiediSalvataggio(annullato);
-        if (annullato == 1) {
-            return;
-        }
-        const KeptState kept = KeepAndReset();
-        DataMinima = CalendarDate(2001, 1, 1);
-        DataMassima = CalendarDate(2099, 12, 31);
-        NuovoFile(kept.nomeFile);
-        if (NuovoAnnullato == 1) {
-            PutBack(kept);
-            // A cancelled dialog leaves no name, and the next save asks for one. A name that was chosen in vain gives
-            // way to the old diary, over which the next save then writes.
-            if (!dlgCommonDialog.FileName.empty()) {
-                dlgCommonDialog.FileName = NomeFile;
-            }
-            return;
-        }
-        AzzeraPercorsi();
-        AzzeraCalendario();
-        SetToday();
-        Data();
-        NessunaTabella();
-        lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
-        InizializzaListe();
-        AzzeraCampi();
-        VisualizzaGiorno();
-        DatiAnno();
-    });
-}
-
-void frmMain::NuovoFile(const Text& percorso)
-{
-    SalvaFileNuovo(percorso);
-}
-
-void frmMain::SalvaFileNuovo(const Text& percorso)
-{
-    bool riprova = false;
-    TrapWith(
-        [&] {
-            PrepareDialog("Nuovo file", kSaveFilter, kSaveFlags);
-            dlgCommonDialog.FileName.clear();
-            dlgCommonDialog.ShowSave();
-            const Text scelto = dlgCommonDialog.FileName;
-            ApplyFolderRule(percorso, scelto, kRefusedSave, riprova);
-            NomeFile = scelto;
-            AzzeraAnno();
-            setCursor(Qt::WaitCursor);
-            FileModificato = 0;
-            NomeFleListe();
-            lblNomeFile->SetCaption(NomeBaseFile);
-            CartellaDiario = CAPTIONDIR(NomeFile);
-            EsitoDir = FindFolder(CartellaDiario);
-            unsetCursor();
-        },
-        [&](const ErroreRunTime& error) {
-            if (error.Number() != Errore::Annullato) {
-                ReportError("SalvaFileNuovo - ERRORE : ", error);
-                return;
-            }
-            NuovoAnnullato = 1;
-            if (riprova) {
-                SalvaFileNuovo(percorso);
             }
         });
 }

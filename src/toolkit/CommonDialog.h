@@ -27,9 +27,12 @@ struct CommonDialog {
     Text Filter; ///< Description and pattern, each followed by a bar.
     Text DialogTitle;
     Text FileName;
+    /// Why a path can't be chosen, as the text of a box, or nothing when it can. Asked while the dialog is up, which
+    /// stays after a refusal.
+    std::function<Text(const Text& path)> Refusal;
 
-    /// Shows the dialog and takes the chosen path into FileName. Raises error 32755 on Cancel when CancelError is on,
-    /// 52 when the chosen name can't be written in the character set.
+    /// Shows the dialog and takes the chosen path into FileName; one in the folder of InitDir begins with that. Raises
+    /// error 32755 on Cancel when CancelError is on.
     void ShowOpen();
     void ShowSave();
 };

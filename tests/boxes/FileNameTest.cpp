@@ -14,7 +14,6 @@ namespace
 {
 
 const QString kPreset = QStringLiteral("prova.zlv");
-const QString kBadName = QStringLiteral("52 Nome di file non valido");
 
 // A name takes 255 bytes.
 constexpr int kLongest = 255;
@@ -41,22 +40,41 @@ QString Pasted(const QString& text)
 void AddNames()
 {
     QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("file");     // Without its suffix, none when it is not written.
-    QTest::addColumn<QString>("error");    // Why it is not.
-    QTest::addColumn<bool>("inItsWriter"); // Reported by the routine that writes, not by the command.
-    const auto row = [](const char* name, const QString& typed, const QString& file, const QString& error = {},
-                        bool inItsWriter = false) { QTest::newRow(name) << typed << file << error << inItsWriter; };
+    QTest::addColumn<QString>("file");    // Without its suffix, none when it is refused.
+    QTest::addColumn<QString>("refusal"); // What the dialog says then.
+    const auto row = [](const char* name, const QString& typed, const QString& file, const QString& refusal = {}) {
+        QTest::newRow(name) << typed << file << refusal;
+    };
     const QString accented = QStringLiteral("Città è già €");
     row("accented letters", accented, accented);
     const QString marks = QStringLiteral("l'anno (2), [a] & 50% #1; x=y+z! ~$@^{}");
     row("marks", marks, marks);
     row("blanks around", QStringLiteral("  Lago  "), QStringLiteral("  Lago  "));
     row("a minus sign", QStringLiteral("-1e9"), QStringLiteral("-1e9"));
-    row("outside the set", QStringLiteral("Жλ"), {}, kBadName);
+    const QString characters = QStringLiteral(" IL NOME CONTIENE CARATTERI NON AMMESSI   ");
+    row("outside the set", QStringLiteral("Жλ"), {}, characters);
+    row("a backslash", QStringLiteral("a\\b"), {}, characters);
+    row("a quote", QStringLiteral("a\"b\""), {}, characters);
+    row("hidden", QStringLiteral(".x"), {}, QStringLiteral(" IL NOME NON PUO' COMINCIARE CON UN PUNTO   "));
     row("the longest", Long(kLongest - kSuffix), Long(kLongest - kSuffix));
-    // The dialog counts characters, the system bytes.
-    row("one byte more", Long((kLongest - kSuffix + 1) / 2, u'è'), {}, kBadName, true);
-    row("a backslash", QStringLiteral("a\\b"), {}, kNoFolder, true);
+    const QString longer = QStringLiteral(" IL NOME E' TROPPO LUNGO   ");
+    row("a character more", Long(kLongest - kSuffix + 1), {}, longer);
+    row("a byte more", Long((kLongest - kSuffix + 1) / 2, u'è'), {}, longer);
+    row("a folder that is not there", QStringLiteral("manca/x"), {}, QStringLiteral(" LA CARTELLA NON ESISTE   "));
+}
+
+/// A name for the dialog; one that is refused is given up.
+void Choose(BoxScript& script, const ExpectedDialog& dialog, const QString& refusal)
+{
+    script.Expect(dialog);
+    if (refusal.isEmpty()) {
+        return;
+    }
+    script.Expect({refusal, QMessageBox::Critical});
+    ExpectedDialog again = dialog;
+    again.preset = dialog.choose;
+    again.choose = QString();
+    script.Expect(again);
 }
 
 } // namespace
@@ -71,42 +89,32 @@ private Q_SLOTS:
     void saveTable_data() { AddNames(); }
     void saveTable();
     void megabytes();
-    void theDialogTakesNoLongerName();
 };
 
 void FileNameTest::saveAs()
 {
     QFETCH(QString, typed);
     QFETCH(QString, file);
-    QFETCH(QString, error);
-    QFETCH(bool, inItsWriter);
+    QFETCH(QString, refusal);
     DayPage page;
     page.Start();
-    const QStringList before = page.folder.Files(QStringLiteral("ZelviaFile"));
-    page.script.Expect(page.SaveDialog(kPreset, typed));
-    if (inItsWriter) {
-        page.script.Expect(BareReport(error));
-    }
-    if (error == kNoFolder || (!error.isEmpty() && !inItsWriter)) {
-        page.script.Expect(Report(QStringLiteral("mnuFileSaveAs - ERRORE : ") + error));
-    }
+    const QStringList before = page.folder.Files();
+    Choose(page.script, page.SaveDialog(kPreset, typed), refusal);
     page.Menu("mnuFile", Qt::Key_V);
     QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
     QStringList after = before;
     if (!file.isEmpty()) {
-        after << file + QStringLiteral(".zlv");
-        QCOMPARE(page.folder.Files(file), FullSet());
+        after << QStringLiteral("ZelviaFile/") + file + QStringLiteral(".zlv");
+        for (const QString& companion : FullSet()) {
+            after << file + QLatin1Char('/') + companion;
+        }
     }
     after.sort();
-    QCOMPARE(page.folder.Files(QStringLiteral("ZelviaFile")), after);
+    QCOMPARE(page.folder.Files(), after);
     // The diary is the one it was, and is saved as ever.
     QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("prova"));
     page->upKM->SetValue(17);
     page.Up(*page->upGiorno);
-    if (inItsWriter) {
-        // Saving goes to the name chosen last.
-        page.script.Expect(BareReport(error));
-    }
     page.Menu("mnuFile", Qt::Key_S);
     QTRY_VERIFY(Module1::FileModificato == 0);
     VERIFY_SCRIPT(page.script);
@@ -116,21 +124,12 @@ void FileNameTest::saveTable()
 {
     QFETCH(QString, typed);
     QFETCH(QString, file);
-    QFETCH(QString, error);
+    QFETCH(QString, refusal);
     TableDesk desk;
     desk.StartNew();
     const QStringList before = desk.folder.Files(QStringLiteral("prova"));
     desk.Write(desk.Box(TableGrid::Km, 1), QStringLiteral("9"));
-    desk.script.Expect(desk.SaveTableDialog({}, typed));
-    const bool refused = error == kNoFolder;
-    if (refused) {
-        // The backslash parts folders: it is none of the diary's. The dialog comes again.
-        desk.script.Expect(
-            {QStringLiteral(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   "), QMessageBox::Critical});
-        desk.script.Expect(desk.SaveTableDialog(QStringLiteral("b")));
-    } else if (!error.isEmpty()) {
-        desk.script.Expect(BareReport(error));
-    }
+    Choose(desk.script, desk.SaveTableDialog({}, typed), refusal);
     hand::Click(*desk.Editor()->cmdSalva);
     desk.AwaitBoxes();
     QStringList after = before;
@@ -171,18 +170,6 @@ void FileNameTest::megabytes()
     QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
     QVERIFY(held > 0 && held <= most);
     QVERIFY(page.folder.Exists(QStringLiteral("ZelviaFile/copia.zlv")));
-}
-
-void FileNameTest::theDialogTakesNoLongerName()
-{
-    DayPage page;
-    page.Start();
-    ExpectedDialog dialog = page.SaveDialog(kPreset, Long(kLongest - kSuffix + 1));
-    dialog.takesIt = false;
-    page.script.Expect(dialog);
-    page.Menu("mnuFile", Qt::Key_V);
-    VERIFY_SCRIPT(page.script);
-    QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("prova"));
 }
 
 } // namespace zelvia::test

@@ -43,6 +43,9 @@ private Q_SLOTS:
     void theQuestionBefore();
     void overAnExistingFile_data();
     void overAnExistingFile();
+    void aNameInOtherLetters();
+    void aNameOfAFile_data();
+    void aNameOfAFile();
 };
 
 void NewTest::newDiaryInMemoryOnly()
@@ -266,6 +269,61 @@ void NewTest::overAnExistingFile()
     QVERIFY(Module1::Giorni[60].Km == (replaces ? 0 : 16));
     QVERIFY(page.folder.Read(kDiary) == SampleFile(kDiary));
     QCOMPARE(page->NomeFile, page.folder.System(kDiary));
+}
+
+void NewTest::aNameInOtherLetters()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.Start();
+    page.script.Expect(page.NewDialog(QStringLiteral("PROVA")));
+    page.script.Expect(page.OverwriteQuestion(QStringLiteral("Nuovo file"), kPreset, QMessageBox::Yes));
+    page.Menu("mnuFile", Qt::Key_N);
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(page->NomeFile, page.folder.System(kDiary));
+    QCOMPARE(Module1::CartellaDiario, page.folder.System(QStringLiteral("prova")));
+    page.Menu("mnuFile", Qt::Key_S);
+    VERIFY_SCRIPT(page.script);
+    QVERIFY(page.folder.Read(kDiary) == BlankYearVisited(60).Bytes());
+    QVERIFY(!page.folder.Exists(QStringLiteral("ZelviaFile/PROVA.zlv")));
+}
+
+void NewTest::aNameOfAFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("folder"); // The name that its folder would have.
+    QTest::newRow("the program") << "zelvia"
+                                 << "zelvia";
+    QTest::newRow("the pointer") << "nomeload"
+                                 << "nomeload";
+    QTest::newRow("in other letters") << "NomeLoad"
+                                      << "NomeLoad";
+    QTest::newRow("up to the first dot") << "nomeload.2027"
+                                         << "nomeload";
+    QTest::newRow("a link that leads nowhere") << "perso"
+                                               << "perso";
+}
+
+void NewTest::aNameOfAFile()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, folder);
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.folder.Write(QStringLiteral("zelvia"), "the program");
+    page.folder.Dangle(QStringLiteral("perso"));
+    page.Start();
+    const QStringList files = page.folder.Files();
+    page.script.Expect(page.NewDialog(name));
+    page.script.Expect(FolderNameRefusal(folder));
+    ExpectedDialog again = page.NewDialog(QStringLiteral("nuova"));
+    again.preset = name;
+    page.script.Expect(again);
+    page.Menu("mnuFile", Qt::Key_N);
+    VERIFY_SCRIPT(page.script);
+    // The dialog was not cancelled meanwhile: the new diary is there.
+    QVERIFY(page->NuovoAnnullato == 0);
+    QCOMPARE(page->NomeFile, page.folder.System(kNew));
+    QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("nuova"));
+    QCOMPARE(page.folder.Files(), files);
 }
 
 } // namespace zelvia::test

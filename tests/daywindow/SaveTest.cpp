@@ -63,6 +63,11 @@ private Q_SLOTS:
     void saveAsCopiesTheNameOfTheTable();
     void saveAsOntoItself();
     void saveAsOverwriteRefused();
+    void saveAsInOtherLetters_data();
+    void saveAsInOtherLetters();
+    void saveAsWithDotsInTheName();
+    void saveAsFromItsOwnFolder();
+    void saveAsANameOfAFile();
     void saveAsOtherFolder_data();
     void saveAsOtherFolder();
     void saveAsCancelled();
@@ -202,6 +207,92 @@ void SaveTest::saveAsOverwriteRefused()
     page.Menu("mnuFile", Qt::Key_V);
     VERIFY_SCRIPT(page.script);
     QVERIFY(page.folder.Read(kDiary) == SampleFile(kDiary));
+}
+
+void SaveTest::saveAsInOtherLetters_data()
+{
+    QTest::addColumn<bool>("replaces");
+    QTest::newRow("replaced") << true;
+    QTest::newRow("not replaced") << false;
+}
+
+void SaveTest::saveAsInOtherLetters()
+{
+    QFETCH(bool, replaces);
+    DayPage page(CalendarDate(2026, 3, 1));
+    const QString maria = QStringLiteral("ZelviaFile/maria.zlv");
+    const QByteArray before = DiaryBytes::Blank(2025).Bytes();
+    page.folder.Write(maria, before);
+    page.folder.Write(QStringLiteral("maria/nometab"), "untouched");
+    page.Start();
+    const QStringList files = page.folder.Files();
+    page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("Maria")));
+    page.script.Expect(
+        page.OverwriteQuestion(kSaveTitle, QStringLiteral("maria.zlv"), replaces ? QMessageBox::Yes : QMessageBox::No));
+    if (!replaces) {
+        page.script.Expect(page.SaveDialog(QStringLiteral("Maria")));
+    }
+    page.Menu("mnuFile", Qt::Key_V);
+    VERIFY_SCRIPT(page.script);
+    if (!replaces) {
+        QCOMPARE(page.folder.Files(), files);
+        QVERIFY(page.folder.Read(maria) == before);
+        return;
+    }
+    // What was asked about is what is written, with its folder.
+    QVERIFY(page.folder.Read(maria) == SampleWithKm("16").Bytes());
+    QVERIFY(!page.folder.Exists(QStringLiteral("ZelviaFile/Maria.zlv")));
+    QVERIFY(!page.folder.Exists(QStringLiteral("Maria")));
+    QCOMPARE(page.folder.Files(QStringLiteral("maria")), FullSet());
+    QCOMPARE(page.folder.Read(QStringLiteral("maria/nometab")), QByteArray("untouched"));
+    QCOMPARE(page->dlgCommonDialog.FileName, page.folder.System(maria));
+}
+
+void SaveTest::saveAsWithDotsInTheName()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.Start();
+    page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("gara 6.10")));
+    page.Menu("mnuFile", Qt::Key_V);
+    VERIFY_SCRIPT(page.script);
+    const QString file = QStringLiteral("gara 6.10.zlv");
+    QVERIFY(page.folder.Read(QStringLiteral("ZelviaFile/") + file) == SampleWithKm("16").Bytes());
+    QVERIFY(!page.folder.Exists(QStringLiteral("ZelviaFile/gara 6.10")));
+    // Its folder is named up to the first dot.
+    QCOMPARE(page.folder.Files(QStringLiteral("gara 6")), FullSet());
+    page.script.Expect(page.OpenDialog(file, QStringLiteral("gara 6.10")));
+    page.Menu("mnuFile", Qt::Key_A);
+    VERIFY_SCRIPT(page.script);
+    QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("gara 6.10"));
+}
+
+void SaveTest::saveAsFromItsOwnFolder()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.folder.MakeFolder(QStringLiteral("maria"));
+    page.Start();
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(page.folder.Native()));
+    page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("maria")));
+    page.Menu("mnuFile", Qt::Key_V);
+    QVERIFY(QDir::setCurrent(before));
+    VERIFY_SCRIPT(page.script);
+    QVERIFY(page.folder.Read(QStringLiteral("ZelviaFile/maria.zlv")) == SampleWithKm("16").Bytes());
+    QVERIFY(!page.folder.Exists(QStringLiteral("ZelviaFile/maria")));
+    QCOMPARE(page.folder.Files(QStringLiteral("maria")), FullSet());
+}
+
+void SaveTest::saveAsANameOfAFile()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.Start();
+    page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("nomeload")));
+    page.script.Expect(FolderNameRefusal(QStringLiteral("nomeload")));
+    page.script.Expect(page.SaveDialog(QStringLiteral("nomeload"), QStringLiteral("copia")));
+    page.Menu("mnuFile", Qt::Key_V);
+    VERIFY_SCRIPT(page.script);
+    QVERIFY(!page.folder.Exists(QStringLiteral("ZelviaFile/nomeload.zlv")));
+    QCOMPARE(page.folder.Files(QStringLiteral("copia")), FullSet());
 }
 
 void SaveTest::saveAsOtherFolder_data()

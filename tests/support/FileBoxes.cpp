@@ -74,4 +74,10 @@ ExpectedBox OpenRefusal()
     return {QStringLiteral(" NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   "), QMessageBox::Critical};
 }
 
+ExpectedBox FolderNameRefusal(const QString& name)
+{
+    return {QStringLiteral(" LA CARTELLA DEL DIARIO AVREBBE IL NOME DI UN FILE CHE C'E' GIA' :  %1   ").arg(name),
+            QMessageBox::Critical};
+}
+
 } // namespace zelvia::test

@@ -33,5 +33,7 @@ void ExpectNoFolder(BoxScript& script);
 ExpectedBox SaveQuestion(QMessageBox::StandardButton press);
 ExpectedBox SaveRefusal();
 ExpectedBox OpenRefusal();
+/// The refusal of a diary whose folder would carry the name of a file.
+ExpectedBox FolderNameRefusal(const QString& name);
 
 } // namespace zelvia::test

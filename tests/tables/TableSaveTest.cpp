@@ -42,8 +42,11 @@ private Q_SLOTS:
     void onlyTheLastRow();
     void overAnExistingTable_data();
     void overAnExistingTable();
+    void inOtherLetters();
+    void withDotsInTheName();
     void anotherFolder_data();
     void anotherFolder();
+    void theFolderInOtherLetters();
 };
 
 void TableSaveTest::onlyTheLastRow()
@@ -97,6 +100,34 @@ void TableSaveTest::overAnExistingTable()
     VERIFY_SCRIPT(desk.script);
 }
 
+void TableSaveTest::inOtherLetters()
+{
+    PlanDesk desk;
+    const QString file = QStringLiteral("Piano.tab");
+    desk.folder.Write(QStringLiteral("prova/Piano.tab"), CountedTable(QDate(2026, 5, 1)).Bytes());
+    WriteLastRow(desk);
+    desk.script.Expect(desk.SaveTableDialog(QString(), QStringLiteral("PIANO")));
+    desk.script.Expect(desk.OverwriteQuestion(kTitle, file, QMessageBox::Yes));
+    hand::Click(*desk.Editor()->cmdSalva);
+    TRY_SCRIPT(desk.script);
+    QCOMPARE(desk.folder.Read(QStringLiteral("prova/Piano.tab")), LastRow());
+    QCOMPARE(desk.folder.Files(QStringLiteral("prova")).filter(QStringLiteral(".tab")), QStringList{file});
+    QCOMPARE(desk.Editor()->windowTitle(), QStringLiteral("Tabella allenamento : Piano"));
+}
+
+void TableSaveTest::withDotsInTheName()
+{
+    PlanDesk desk;
+    WriteLastRow(desk);
+    desk.script.Expect(desk.SaveTableDialog(QString(), QStringLiteral("Ripetute 1.500")));
+    hand::Click(*desk.Editor()->cmdSalva);
+    TRY_SCRIPT(desk.script);
+    QCOMPARE(desk.folder.Read(QStringLiteral("prova/Ripetute 1.500.tab")), LastRow());
+    QCOMPARE(desk.Editor()->windowTitle(), QStringLiteral("Tabella allenamento : Ripetute 1.500"));
+    desk.LeaveEditor();
+    QCOMPARE(desk.Entries(), QByteArrayList{"Ripetute 1.500.tab"});
+}
+
 void TableSaveTest::anotherFolder_data()
 {
     QTest::addColumn<QString>("folder");
@@ -131,6 +162,34 @@ void TableSaveTest::anotherFolder()
     if (!cancels) {
         QCOMPARE(desk.folder.Read(QStringLiteral("prova/Piano 2.tab")), LastRow());
     }
+    VERIFY_SCRIPT(desk.script);
+}
+
+/// The pointer of the start names the diary in capitals; on the disk its folder has small letters.
+void TableSaveTest::theFolderInOtherLetters()
+{
+    PlanDesk desk;
+    const Text diary = desk.folder.System(QStringLiteral("ZelviaFile/PROVA.zlv"));
+    desk.folder.Write(QStringLiteral("nomeload"), '"' + QByteArray::fromStdString(diary) + "\"\r\n");
+    const QString file = QStringLiteral("Piano.tab");
+    desk.folder.Write(QStringLiteral("prova/Piano.tab"), CountedTable(QDate(2026, 5, 1)).Bytes());
+    WriteLastRow(desk);
+    QCOMPARE(Module1::CartellaDiario, desk.folder.System(QStringLiteral("PROVA")));
+    // One of the files that the dialog shows, and a new one.
+    desk.script.Expect(desk.SaveTableDialog(QString(), file));
+    desk.script.Expect(desk.OverwriteQuestion(kTitle, file, QMessageBox::Yes));
+    hand::Click(*desk.Editor()->cmdSalva);
+    TRY_SCRIPT(desk.script);
+    desk.AwaitBoxes();
+    desk.script.Expect(desk.SaveTableDialog(file, QStringLiteral("Altro")));
+    hand::Click(*desk.Editor()->cmdSalva);
+    TRY_SCRIPT(desk.script);
+    QVERIFY(Module1::FlagTabellaSalvata == 0);
+    QCOMPARE(desk.folder.Read(QStringLiteral("prova/Piano.tab")), LastRow());
+    QCOMPARE(desk.folder.Read(QStringLiteral("prova/Altro.tab")), LastRow());
+    QVERIFY(!desk.folder.Exists(QStringLiteral("PROVA")));
+    desk.LeaveEditor();
+    QCOMPARE(desk.Entries(), (QByteArrayList{"Altro.tab", "Piano.tab"}));
     VERIFY_SCRIPT(desk.script);
 }
 

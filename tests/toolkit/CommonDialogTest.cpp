@@ -10,6 +10,7 @@
 #include "toolkit/SampleForm.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QLineEdit>
@@ -31,11 +32,21 @@ private Q_SLOTS:
     void ItOpensAsItIsSet();
     void TheFilterIsShownAsGivenAndMindsNoCase();
     void TheChosenPathComesInBackslashForm();
-    void ANameWithoutSuffixGetsTheFilters();
+    void ANameGetsTheSuffixOfTheFilter_data();
+    void ANameGetsTheSuffixOfTheFilter();
+    void AFolderIsGoneInto();
+    void OpenFindsANameWithoutSuffix_data();
+    void OpenFindsANameWithoutSuffix();
+    void OpenTellsOfAMissingFile();
     void AnExistingFileIsAskedForInItalian();
+    void AFileInOtherLettersIsAskedFor();
+    void TwoFilesInOtherLettersAreLeftAlone();
     void CancelRaisesItsErrorWhenAskedTo();
     void CancelKeepsTheNameAndSaysNothingOtherwise();
-    void ANameOutsideTheCharacterSetIsRefused();
+    void ANameThatCannotBeKeptIsRefused_data();
+    void ANameThatCannotBeKeptIsRefused();
+    void WhoAsksMayRefuse();
+    void TheFolderInOtherLettersIsTheSame();
     void TheNameSurvivesFromOneToTheNext();
     void ADialogIsNoLostFocus();
     void AHandlerTakesItsPlace();
@@ -168,14 +179,118 @@ void CommonDialogTest::TheChosenPathComesInBackslashForm()
     QCOMPARE(settings_.FileName, settings_.InitDir + "\\Citt\xE0.zlv");
 }
 
-void CommonDialogTest::ANameWithoutSuffixGetsTheFilters()
+void CommonDialogTest::ANameGetsTheSuffixOfTheFilter_data()
 {
-    WhenOpen([](QFileDialog& dialog) { Enter(dialog, QStringLiteral("nuovo")); });
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("file");
+    const auto row = [](const char* typed, const char* file) {
+        QTest::newRow(typed) << QString::fromLatin1(typed) << QString::fromLatin1(file);
+    };
+    row("nuovo", "nuovo.zlv");
+    row("nuovo.zlv", "nuovo.zlv");
+    row("gara.ZLV", "gara.ZLV");
+    row("gara 6.10", "gara 6.10.zlv");
+    row("altro.tab", "altro.tab.zlv");
+    row("fine.", "fine..zlv");
+    row("./qui", "qui.zlv");
+    row("dentro/nuovo", "dentro/nuovo.zlv");
+    // There are a folder and a file of these names where the program was started from.
+    row("maria", "maria.zlv");
+    row("luca", "luca.zlv");
+}
+
+void CommonDialogTest::ANameGetsTheSuffixOfTheFilter()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, file);
+    QVERIFY(QDir(folder_->path()).mkdir(QStringLiteral("dentro")));
+    const QTemporaryDir start;
+    QVERIFY(QDir(start.path()).mkdir(QStringLiteral("maria")));
+    QVERIFY(QFile(start.filePath(QStringLiteral("luca"))).open(QIODevice::WriteOnly));
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(start.path()));
+    WhenOpen([&](QFileDialog& dialog) { Enter(dialog, typed); });
     settings_.ShowSave();
-    QCOMPARE(settings_.FileName, settings_.InitDir + "\\nuovo.zlv");
-    WhenOpen([](QFileDialog& dialog) { Enter(dialog, QStringLiteral("altro.tab")); });
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(settings_.FileName, SystemPath(folder_->filePath(file).toStdString()));
+}
+
+void CommonDialogTest::AFolderIsGoneInto()
+{
+    QVERIFY(QDir(folder_->path()).mkpath(QStringLiteral("dentro/piano.zlv")));
+    WhenOpen([this](QFileDialog& dialog) {
+        Enter(dialog, folder_->filePath(QStringLiteral("dentro")));
+        QCOMPARE(dialog.directory().path(), folder_->filePath(QStringLiteral("dentro")));
+        Enter(dialog, QStringLiteral(".."));
+        QCOMPARE(dialog.directory().path(), folder_->path());
+        Enter(dialog, QStringLiteral("dentro/"));
+        QCOMPARE(dialog.directory().path(), folder_->filePath(QStringLiteral("dentro")));
+        Enter(dialog, QStringLiteral("PIANO"));
+        QCOMPARE(dialog.directory().path(), folder_->filePath(QStringLiteral("dentro/piano.zlv")));
+        QVERIFY(dialog.isVisible());
+    });
     settings_.ShowSave();
-    QCOMPARE(settings_.FileName, settings_.InitDir + "\\altro.tab");
+    QCOMPARE(opened_, 1);
+    QCOMPARE(settings_.FileName, Text());
+}
+
+void CommonDialogTest::OpenFindsANameWithoutSuffix_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("no suffix") << "prova"
+                               << "prova.zlv";
+    QTest::newRow("a dot in the name") << "gara 6.10"
+                                       << "gara 6.10.zlv";
+    QTest::newRow("other letters") << "PROVA"
+                                   << "prova.zlv";
+    QTest::newRow("both") << "Gara 6.10"
+                          << "gara 6.10.zlv";
+    // Written by hand, or by a program of another kind.
+    QTest::newRow("a file without suffix") << "vecchia 2.0"
+                                           << "vecchia 2.0";
+}
+
+void CommonDialogTest::OpenFindsANameWithoutSuffix()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, file);
+    for (const char* name : {"prova.zlv", "gara 6.10.zlv", "vecchia 2.0"}) {
+        MakeFile(QString::fromLatin1(name));
+    }
+    settings_.Flags = DialogFlags::FileMustExist;
+    // By Enter, and by the button.
+    WhenOpen([&](QFileDialog& dialog) { Enter(dialog, typed); });
+    settings_.ShowOpen();
+    QCOMPARE(settings_.FileName, SystemPath(folder_->filePath(file).toStdString()));
+    settings_.FileName.clear();
+    WhenOpen([&](QFileDialog& dialog) {
+        auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QTRY_VERIFY(dialog.isActiveWindow());
+        edit->setFocus();
+        hand::Type(typed);
+        QTRY_COMPARE(edit->text(), typed);
+        auto* open = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
+        QVERIFY(open->isEnabled());
+        open->click();
+    });
+    settings_.ShowOpen();
+    QCOMPARE(settings_.FileName, SystemPath(folder_->filePath(file).toStdString()));
+}
+
+void CommonDialogTest::OpenTellsOfAMissingFile()
+{
+    settings_.Flags = DialogFlags::FileMustExist;
+    const BoxAnswer answer;
+    WhenOpen([](QFileDialog& dialog) {
+        Enter(dialog, QStringLiteral("manca"));
+        QVERIFY(dialog.isVisible());
+        QVERIFY(!dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->isEnabled());
+    });
+    settings_.ShowOpen();
+    QCOMPARE(answer.Texts().size(), 1);
+    QVERIFY2(answer.Texts().constFirst().contains(QStringLiteral("manca")), qPrintable(answer.Texts().constFirst()));
+    QCOMPARE(settings_.FileName, Text());
 }
 
 void CommonDialogTest::AnExistingFileIsAskedForInItalian()
@@ -207,6 +322,51 @@ void CommonDialogTest::AnExistingFileIsAskedForInItalian()
     QCOMPARE(answer.Texts().size(), 1);
 }
 
+void CommonDialogTest::AFileInOtherLettersIsAskedFor()
+{
+    MakeFile(QStringLiteral("maria.zlv"));
+    settings_.Flags = DialogFlags::OverwritePrompt;
+    for (const QMessageBox::StandardButton press : {QMessageBox::No, QMessageBox::Yes}) {
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
+        QString title;
+        QMessageBox::StandardButtons buttons;
+        const BoxAnswer answer(press, [&](QMessageBox& box) {
+            icon = box.icon();
+            title = box.windowTitle();
+            buttons = box.standardButtons();
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            QVERIFY(box.defaultButton() == box.button(QMessageBox::No));
+        });
+        QString kept;
+        WhenOpen([&](QFileDialog& dialog) {
+            Enter(dialog, QStringLiteral("Maria"));
+            kept = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+        });
+        settings_.ShowSave();
+        QCOMPARE(
+            answer.Texts(),
+            QStringList{
+                QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(QStringLiteral("maria.zlv"))});
+        QCOMPARE(icon, QMessageBox::Warning);
+        QCOMPARE(title, QStringLiteral("Apri"));
+        QCOMPARE(buttons, QMessageBox::Yes | QMessageBox::No);
+        QCOMPARE(kept, QStringLiteral("Maria"));
+        QCOMPARE(settings_.FileName, press == QMessageBox::Yes ? settings_.InitDir + "\\maria.zlv" : Text());
+    }
+}
+
+void CommonDialogTest::TwoFilesInOtherLettersAreLeftAlone()
+{
+    MakeFile(QStringLiteral("maria.zlv"));
+    MakeFile(QStringLiteral("MARIA.zlv"));
+    settings_.Flags = DialogFlags::OverwritePrompt;
+    const BoxAnswer answer;
+    WhenOpen([&](QFileDialog& dialog) { Enter(dialog, QStringLiteral("Maria")); });
+    settings_.ShowSave();
+    QCOMPARE(answer.Texts(), QStringList());
+    QCOMPARE(settings_.FileName, settings_.InitDir + "\\Maria.zlv");
+}
+
 void CommonDialogTest::CancelRaisesItsErrorWhenAskedTo()
 {
     settings_.CancelError = true;
@@ -230,12 +390,101 @@ void CommonDialogTest::CancelKeepsTheNameAndSaysNothingOtherwise()
     QCOMPARE(settings_.FileName, Text("\\altrove\\prova.zlv"));
 }
 
-void CommonDialogTest::ANameOutsideTheCharacterSetIsRefused()
+void CommonDialogTest::ANameThatCannotBeKeptIsRefused_data()
 {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("refusal");
+    const QString characters = QStringLiteral(" IL NOME CONTIENE CARATTERI NON AMMESSI   ");
+    QTest::newRow("outside the set") << QStringLiteral("corsa\u2192.zlv") << characters;
+    // Between folders, and around the path in a pointer file.
+    QTest::newRow("a backslash") << QStringLiteral("a\\b") << characters;
+    QTest::newRow("a quote") << QStringLiteral("a\"b") << characters;
+    QTest::newRow("in quotes") << QStringLiteral("\"prova\"") << characters;
+    const QString hidden = QStringLiteral(" IL NOME NON PUO' COMINCIARE CON UN PUNTO   ");
+    QTest::newRow("hidden") << QStringLiteral(".nascosta") << hidden;
+    QTest::newRow("nothing but the suffix") << QStringLiteral(".zlv") << hidden;
+    const QString longer = QStringLiteral(" IL NOME E' TROPPO LUNGO   ");
+    QTest::newRow("too long with its suffix") << QString(252, u'n') << longer;
+    QTest::newRow("too many bytes") << QString(126, u'\u00E8') << longer;
+    QTest::newRow("no such folder") << QStringLiteral("manca/uno") << QStringLiteral(" LA CARTELLA NON ESISTE   ");
+}
+
+void CommonDialogTest::ANameThatCannotBeKeptIsRefused()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, refusal);
     settings_.FileName = "\\altrove\\prova.zlv";
-    WhenOpen([](QFileDialog& dialog) { Enter(dialog, QStringLiteral("corsa\u2192.zlv")); });
-    QCOMPARE(ErrorOf([this] { settings_.ShowSave(); }), 52);
+    settings_.CancelError = true;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    const QWidget* under = nullptr;
+    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) {
+        icon = box.icon();
+        under = box.parentWidget();
+    });
+    WhenOpen([&](QFileDialog& dialog) {
+        Enter(dialog, typed);
+        QCOMPARE(answer.Texts(), QStringList{refusal});
+        QVERIFY(under == &dialog);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), typed);
+    });
+    QCOMPARE(ErrorOf([this] { settings_.ShowSave(); }), 32755);
+    QCOMPARE(answer.Texts(), QStringList{refusal});
+    QCOMPARE(icon, QMessageBox::Critical);
     QCOMPARE(settings_.FileName, Text("\\altrove\\prova.zlv"));
+}
+
+void CommonDialogTest::WhoAsksMayRefuse()
+{
+    std::vector<Text> asked;
+    settings_.Refusal = [&](const Text& path) {
+        asked.push_back(path);
+        return path.ends_with("zelvia.zlv") ? Text(" NO   ") : Text();
+    };
+    for (const bool throws : {false, true}) {
+        asked.clear();
+        const BoxAnswer answer;
+        WhenOpen([&](QFileDialog& dialog) {
+            Enter(dialog, QStringLiteral("zelvia"));
+            QVERIFY(dialog.isVisible());
+            Enter(dialog, QStringLiteral("altra"));
+        });
+        settings_.ShowSave();
+        QVERIFY(asked == (std::vector<Text>{settings_.InitDir + "\\zelvia.zlv", settings_.InitDir + "\\altra.zlv"}));
+        QCOMPARE(answer.Texts(), QStringList{throws ? QStringLiteral("ERRORE : 57 ") : QStringLiteral(" NO   ")});
+        QCOMPARE(settings_.FileName, settings_.InitDir + "\\altra.zlv");
+        // An error of its own is reported, and the dialog stays.
+        settings_.Refusal = [&](const Text& path) {
+            asked.push_back(path);
+            if (path.ends_with("zelvia.zlv")) {
+                throw ErroreRunTime(57, "");
+            }
+            return Text();
+        };
+    }
+}
+
+void CommonDialogTest::TheFolderInOtherLettersIsTheSame()
+{
+    QVERIFY(QDir(folder_->path()).mkpath(QStringLiteral("prova/dentro")));
+    const QString native = folder_->filePath(QStringLiteral("prova"));
+    settings_.InitDir += "\\PROVA";
+    const std::pair<QString, Text> rows[] = {{QStringLiteral("uno"), "\\uno.zlv"},
+                                             {QStringLiteral("dentro/uno"), "\\dentro\\uno.zlv"},
+                                             {native + QStringLiteral("/due"), "\\due.zlv"}};
+    for (const auto& [typed, file] : rows) {
+        QString shown;
+        WhenOpen([&](QFileDialog& dialog) {
+            shown = dialog.directory().path();
+            Enter(dialog, typed);
+        });
+        settings_.ShowSave();
+        QCOMPARE(shown, native);
+        QCOMPARE(settings_.FileName, settings_.InitDir + file);
+    }
+    WhenOpen([&](QFileDialog& dialog) { Enter(dialog, folder_->filePath(QStringLiteral("tre"))); });
+    settings_.ShowSave();
+    QCOMPARE(settings_.FileName, SystemPath(folder_->filePath(QStringLiteral("tre.zlv")).toStdString()));
 }
 
 void CommonDialogTest::TheNameSurvivesFromOneToTheNext()
