@@ -12,6 +12,8 @@
 #include "toolkit/Printer.h"
 #include "toolkit/QtText.h"
 
+#include <utility>
+
 namespace zelvia
 {
 
@@ -42,9 +44,25 @@ void frmCalendario::Load()
     PrimaGaraPagina = 0;
     AzzeraCalendario();
     LeggiCalendario();
+    ShowPage();
+    setWindowTitle(QStringLiteral("Calendario Gare       di  "));
+}
+
+void frmCalendario::ShowPage()
+{
     AzzeraPaginaGare();
     VisualizzaCalendarioGare();
-    setWindowTitle(QStringLiteral("Calendario Gare       di  "));
+}
+
+void frmCalendario::ShowOtherDiary()
+{
+    CalendarioModificato = 0;
+    PrimaGaraPagina = 0;
+    // This is no turning of the page: the boxes hold the races of the diary before.
+    const auto turned = std::exchange(upPaginaGare->Change, {});
+    upPaginaGare->SetValue(0);
+    upPaginaGare->Change = turned;
+    ShowPage();
 }
 
 void frmCalendario::AzzeraPaginaGare()
@@ -137,8 +155,7 @@ void frmCalendario::upPaginaGare_Change()
     ControllaSaveGar(CalendarioModificato);
     AssegnaPaginaGare();
     PrimaGaraPagina = i16(upPaginaGare->Value());
-    AzzeraPaginaGare();
-    VisualizzaCalendarioGare();
+    ShowPage();
 }
 
 void frmCalendario::cmdSalva_Click()
@@ -196,6 +213,7 @@ bool frmCalendario::QueryUnload()
         annullata = doppie == 1;
         if (!annullata) {
             ScriviCalendario();
+            CalendarioModificato = 0;
         }
     });
     return annullata;

@@ -31,6 +31,10 @@ public:
 
     /// Corrects the dates of the page, with a message for each correction and for each part that is missing.
     void ContrData();
+    /// Asks for changes that are not saved, as closing does; true when the user wants to stay.
+    bool QueryUnload() override;
+    /// Shows the calendar in memory, another diary's, from its first page on.
+    void ShowOtherDiary();
     /// Copies six boxes of each row to the hidden labels that the print-out takes.
     void AllineaLbl();
 
@@ -53,7 +57,6 @@ public:
     Button* cmdEsci = nullptr;
 
 protected:
-    bool QueryUnload() override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -70,6 +73,7 @@ private:
     int RaceOf(int riga) const { return PrimaGaraPagina.value() + riga; }
 
     void Load();
+    void ShowPage();
     void VisualizzaCalendarioGare();
     void AssegnaPaginaGare();
     void AzzeraPaginaGare();

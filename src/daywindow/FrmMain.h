@@ -291,6 +291,11 @@ private:
     void ApplyFolderRule(FileDialogMode mode, const Text& diario, bool& riprova);
     /// Writes the lists, the routes and the calendar.
     void SaveCompanions();
+    /// True when the calendar's window is open with changes and the user wants to stay with them.
+    bool CalendarStays();
+    void OpenDiary();
+    /// Has the other windows that are open show the calendar and the tables of the diary that is open now.
+    void ShowOtherDiary();
     /// Reads the diary named by NomeFile with its companions and shows it.
     void ReadOpenedDiary();
 

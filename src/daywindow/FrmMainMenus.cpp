@@ -102,7 +102,7 @@ void frmMain::DispatchCommand(TextView key)
 void frmMain::mnuAllenamenti_Click()
 {
     Trap("mnuAllenamenti - ERRORE : ", [this] {
-        frmTabAllenamenti& list = tables_.List();
+        frmTabAllenamenti& list = tables_.CurrentList();
         list.show();
         list.raise();
         list.activateWindow();

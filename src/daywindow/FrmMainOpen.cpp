@@ -90,10 +90,33 @@ void frmMain::PutBack(const KeptState& kept)
     IndiceTabella = kept.indiceTabella;
 }
 
+bool frmMain::CalendarStays()
+{
+    return calendario_.Loaded() && calendario_.Load().QueryUnload();
+}
+
+void frmMain::ShowOtherDiary()
+{
+    if (calendario_.Loaded()) {
+        calendario_.Load().ShowOtherDiary();
+    }
+    tables_.ShowOtherDiary();
+}
+
 void frmMain::mnuFileOpen_Click()
+{
+    Trap("mnuFileOpen - ERRORE : ", [this] {
+        if (!CalendarStays()) {
+            OpenDiary();
+        }
+    });
+}
+
+void frmMain::OpenDiary()
 {
     std::optional<KeptState> kept;
     bool riprova = false;
+    bool aperto = false;
     TrapWith(
         [&] {
             i16 annullato;
@@ -106,6 +129,7 @@ void frmMain::mnuFileOpen_Click()
             dlgCommonDialog.ShowOpen();
             ApplyFolderRule(FileDialogMode::Open, kept->nomeFile, riprova);
             NomeFile = dlgCommonDialog.FileName;
+            aperto = true;
             ReadOpenedDiary();
         },
         [&](const ErroreRunTime& error) {
@@ -117,9 +141,13 @@ void frmMain::mnuFileOpen_Click()
                 PutBack(*kept);
             }
             if (riprova) {
-                mnuFileOpen_Click();
+                OpenDiary();
             }
         });
+    // Also when reading it has failed half-way: what the other windows hold must not be saved there.
+    if (aperto) {
+        ShowOtherDiary();
+    }
 }
 
 void frmMain::ReadOpenedDiary()
@@ -151,6 +179,9 @@ void frmMain::ReadOpenedDiary()
 void frmMain::mnuFileNuovo_Click()
 {
     Trap("mnuFileNuovo - ERRORE : ", [this] {
+        if (CalendarStays()) {
+            return;
+        }
         i16 annullato;
         ChiediSalvataggio(annullato);
         if (annullato == 1) {
@@ -179,6 +210,7 @@ void frmMain::mnuFileNuovo_Click()
         AzzeraCampi();
         VisualizzaGiorno();
         DatiAnno();
+        ShowOtherDiary();
     });
 }
 

@@ -13,6 +13,8 @@
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 
+#include <algorithm>
+
 namespace zelvia
 {
 
@@ -56,10 +58,25 @@ frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
     cmdNuovaTab->Click = [this] { cmdNuovaTab_Click(); };
     cmdCancellaTab->Click = [this] { cmdCancellaTab_Click(); };
     cmdEsci->Click = [this] { Unload(); };
+    Reload();
+}
+
+void frmTabAllenamenti::Reload()
+{
     Trap("Load - ERRORE : ", [this] {
+        const Text before = Selected();
         RefreshList();
+        Select(before);
         SelectActive();
     });
+}
+
+void frmTabAllenamenti::ShowOtherDiary()
+{
+    flbListaTabelle->Clear();
+    if (!FindFolder(CartellaDiario).empty()) {
+        Reload();
+    }
 }
 
 void frmTabAllenamenti::RefreshList()
@@ -81,6 +98,13 @@ void frmTabAllenamenti::SelectActive()
             return;
         }
     }
+}
+
+void frmTabAllenamenti::Select(const Text& voce)
+{
+    const std::vector<Text> voci = flbListaTabelle->Items();
+    const auto found = std::find(voci.begin(), voci.end(), voce);
+    flbListaTabelle->SetListIndex(found == voci.end() ? -1 : static_cast<int>(found - voci.begin()));
 }
 
 Text frmTabAllenamenti::Selected() const

@@ -26,6 +26,10 @@ public:
     void cmdNuovaTab_Click();
     void cmdCancellaTab_Click();
 
+    /// Reads the folder again and selects the active table; with none what was selected stays so. Reports its failure.
+    void Reload();
+    /// The same for another diary, which may have no folder yet: then it has no tables.
+    void ShowOtherDiary();
     /// Reads the folder again. Raises error 76 or 75 when it cannot be read; the list is then empty.
     void RefreshList();
     /// Selects the first entry that is the active table, case ignored; with none the selection stays.
@@ -39,6 +43,7 @@ public:
 
 private:
     Text Selected() const;
+    void Select(const Text& voce);
     void ShowEditor();
 
     TableWindows& windows_;

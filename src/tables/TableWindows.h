@@ -19,6 +19,21 @@ public:
 
     TablePage& Page() { return page_; }
     frmTabAllenamenti& List() { return list_.Load(*this); }
+    /// The list as its folder is now.
+    frmTabAllenamenti& CurrentList()
+    {
+        if (list_.Loaded()) {
+            List().Reload();
+        }
+        return List();
+    }
+    /// Has a list that is loaded show the tables of the diary that is open now.
+    void ShowOtherDiary()
+    {
+        if (list_.Loaded()) {
+            List().ShowOtherDiary();
+        }
+    }
     frmAllenamento& Editor() { return editor_.Load(*this); }
     void UnloadEditor() { editor_.Unload(); }
     void UnloadList() { list_.Unload(); }

@@ -24,12 +24,6 @@ QByteArray SelectedEntry(const PlanDesk& desk)
     return QByteArray::fromStdString(list.List(list.ListIndex()));
 }
 
-QByteArrayList Sorted(QByteArrayList names)
-{
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 const QByteArray kBlankRow = "|||||||||||||";
 
 } // namespace
@@ -58,6 +52,11 @@ private Q_SLOTS:
     void theEditorsEndSelectsTheActiveTable();
     void theEditorLoadsAListThatWasClosed();
     void openedAgainItComesToTheFront();
+    void openedAgainItShowsWhatIsThere();
+    void openedAgainWithoutAFolder();
+    void anotherDiaryHasOtherTables_data();
+    void anotherDiaryHasOtherTables();
+    void aNewDiaryHasNone();
     void anOpenEditorKeepsItsTable();
     void aTableThatWaitedForTheEditorHasGone();
     void theFolderHasGone();
@@ -85,8 +84,7 @@ void TableListTest::captions()
 void TableListTest::listsTheTablesWhateverTheCase()
 {
     PlanDesk desk;
-    const QByteArrayList tables = {"ALFA.TAB", "Beta 2.0.Tab", "Et\xE0.tab", "gamma.tab"};
-    for (const QByteArray& name : tables) {
+    for (const char* name : {"gamma.tab", "Beta 2.0.Tab", "Et\xE0.tab", "ALFA.TAB"}) {
         desk.PutTable(QString::fromLatin1(name), TableBytes(kStart));
     }
     for (const char* other : {"tab", ".tab", ".nascosta.tab", "gamma.tabx", "gamma.tab.bak", "gammatab", "delta.txt",
@@ -95,7 +93,7 @@ void TableListTest::listsTheTablesWhateverTheCase()
     }
     desk.Begin();
     desk.OpenList();
-    QCOMPARE(Sorted(desk.Entries()), tables);
+    QCOMPARE(desk.Entries(), (QByteArrayList{"ALFA.TAB", "Beta 2.0.Tab", "Et\xE0.tab", "gamma.tab"}));
     QCOMPARE(desk.List()->flbListaTabelle->ListIndex(), -1);
     VERIFY_SCRIPT(desk.script);
 }
@@ -407,6 +405,99 @@ void TableListTest::openedAgainItComesToTheFront()
     QVERIFY(!list.isNull() && desk.List() == list);
     QCOMPARE(SelectedEntry(desk), QByteArray("Beta.tab"));
     VERIFY_SCRIPT(desk.script);
+}
+
+void TableListTest::openedAgainItShowsWhatIsThere()
+{
+    PlanDesk desk;
+    PutTwoTables(desk);
+    desk.Begin();
+    desk.OpenList();
+    desk.Select(1);
+    desk.PutTable(QStringLiteral("Altra.tab"), TableBytes(kStart));
+    TableDesk::ToFront(desk.Page());
+    desk.OpenList();
+    QCOMPARE(desk.Entries(), (QByteArrayList{"Alfa.tab", "Altra.tab", "Beta.tab"}));
+    QCOMPARE(SelectedEntry(desk), QByteArray("Beta.tab"));
+    // The active table goes before what the user selected.
+    Module1::NomeTabellaAttiva = desk.folder.System(QStringLiteral("prova/Alfa.tab"));
+    desk.folder.Remove(QStringLiteral("prova/Altra.tab"));
+    TableDesk::ToFront(desk.Page());
+    desk.OpenList();
+    QCOMPARE(desk.Entries(), (QByteArrayList{"Alfa.tab", "Beta.tab"}));
+    QCOMPARE(SelectedEntry(desk), QByteArray("Alfa.tab"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void TableListTest::openedAgainWithoutAFolder()
+{
+    PlanDesk desk;
+    PutTwoTables(desk);
+    desk.Begin();
+    desk.OpenList();
+    desk.folder.Remove(QStringLiteral("prova"));
+    TableDesk::ToFront(desk.Page());
+    // As when it opens.
+    desk.script.Expect(Report(QStringLiteral("Load - ERRORE : ") + kNoFolder));
+    desk.OpenList();
+    TRY_SCRIPT(desk.script);
+    QCOMPARE(desk.Entries(), QByteArrayList());
+}
+
+void TableListTest::anotherDiaryHasOtherTables_data()
+{
+    QTest::addColumn<QByteArray>("active");
+    QTest::addColumn<QByteArray>("selected");
+    QTest::newRow("one of them is active") << QByteArray("Gamma.tab") << QByteArray("Gamma.tab");
+    QTest::newRow("none is active") << QByteArray() << QByteArray();
+}
+
+void TableListTest::anotherDiaryHasOtherTables()
+{
+    QFETCH(QByteArray, active);
+    QFETCH(QByteArray, selected);
+    PlanDesk desk;
+    PutTwoTables(desk);
+    const QByteArray gamma = QByteArray::fromStdString(desk.folder.System(QStringLiteral("seconda/Gamma.tab")));
+    desk.PutSecondDiary(active.isEmpty() ? PlanDesk::kNoPointer : PlanDesk::PointerOf(gamma));
+    for (const char* name : {"seconda/Gamma.tab", "seconda/Alfa.tab"}) {
+        desk.folder.Write(QLatin1String(name), TableBytes(kStart).SetRow(1, "9").Bytes());
+    }
+    desk.Begin();
+    desk.OpenList();
+    desk.Select(0);
+    const QPointer<frmTabAllenamenti> list = desk.List();
+    TableDesk::ToFront(desk.Page());
+    desk.script.Expect(desk.OpenDialog(QStringLiteral("prova.zlv"), QStringLiteral("seconda.zlv")));
+    desk.OpenSecondDiary();
+    TRY_SCRIPT(desk.script);
+    QVERIFY(!list.isNull() && desk.List() == list);
+    QCOMPARE(desk.Entries(), (QByteArrayList{"Alfa.tab", "Gamma.tab"}));
+    QCOMPARE(SelectedEntry(desk), selected);
+    TableDesk::ToFront(*list);
+    desk.OpenTable("Alfa.tab");
+    QCOMPARE(desk.Held(TableGrid::Km, 1), QByteArray("9"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+/// It has no folder yet either; nothing is said of that.
+void TableListTest::aNewDiaryHasNone()
+{
+    PlanDesk desk;
+    PutTwoTables(desk);
+    desk.Activate("Beta.tab");
+    desk.Begin();
+    desk.OpenList();
+    TableDesk::ToFront(desk.Page());
+    desk.script.Expect(desk.NewDialog(QStringLiteral("nuova")));
+    desk.Menu("mnuFile", Qt::Key_N);
+    TRY_SCRIPT(desk.script);
+    QCOMPARE(desk.Caption("lblNomeFile"), QStringLiteral("nuova"));
+    QCOMPARE(desk.Entries(), QByteArrayList());
+    TableDesk::ToFront(*desk.List());
+    desk.script.Expect(Warning(kChoose));
+    hand::Click(*desk.List()->cmdOK);
+    TRY_SCRIPT(desk.script);
 }
 
 /// An editor that is open already is not loaded a second time: it gets the caption of what was asked for, and the next
