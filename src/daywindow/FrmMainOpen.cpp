@@ -193,6 +193,7 @@ void frmMain::mnuFileNuovo_Click()
         NuovoFile(kept.nomeFile);
         if (NuovoAnnullato == 1) {
             PutBack(kept);
+            lblNomeFile->SetCaption(NomeBaseFile);
             // A cancelled dialog leaves no name, and the next save asks for one. A name that was chosen in vain gives
             // way to the old diary, over which the next save then writes.
             if (!dlgCommonDialog.FileName.empty()) {

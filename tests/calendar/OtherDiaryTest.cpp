@@ -268,6 +268,7 @@ void OtherDiaryTest::aNewThatCountsAsCancelled()
     desk.Take(false);
     desk.script.Expect(desk.NewDialog(QStringLiteral("nuova")));
     desk.Take(false);
+    QCOMPARE(desk.Caption("lblNomeFile"), QStringLiteral("prova"));
     QCOMPARE(desk.Row(1), QByteArray("8|2|2026|Corrida||||||||||"));
     desk.ToCalendar();
     desk.Leave();

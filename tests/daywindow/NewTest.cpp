@@ -204,6 +204,7 @@ void NewTest::aRefusalSpoilsEveryLaterNew()
     QCOMPARE(Module1::CartellaDiario, page.folder.System(QStringLiteral("prova")));
     QVERIFY(Module1::GiornoCorrente == 60);
     QVERIFY(Module1::Giorni[59].Km == 0);
+    QCOMPARE(page.Caption("lblNomeFile"), QStringLiteral("prova"));
     // The page shows on as before, and a save writes it with the blanked year over the old diary.
     QCOMPARE(page->upKM->Value().value(), 16);
     page.Menu("mnuFile", Qt::Key_S);
