@@ -1,11 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sheet of a page of the calendar, from its boxes.
+#include "support/Bytes.h"
 #include "support/CalendarDesk.h"
 #include "support/PrinterTray.h"
 
 namespace zelvia::test
 {
+
+namespace
+{
+
+/// What stands in a row of the sheet printed last from a column on.
+QByteArrayList RightOf(const PrinterTray& tray, int y, int column)
+{
+    QByteArrayList row = tray.Row(y);
+    row.removeIf([column](const QByteArray& text) { return text.left(text.indexOf('|')).toInt() < column; });
+    return row;
+}
+
+} // namespace
 
 class CalendarPrintTest : public QObject
 {
@@ -16,6 +30,7 @@ private Q_SLOTS:
     void anotherPage();
     void aPageWithoutRaces();
     void aPrinterThatFailsLeavesTheButtonOff();
+    void theSheetOfARaceDayWithAPlan();
 };
 
 void CalendarPrintTest::thePageOnTheScreen()
@@ -83,6 +98,36 @@ void CalendarPrintTest::aPrinterThatFailsLeavesTheButtonOff()
     desk.OpenCalendar();
     desk.Click(*desk.Window()->cmdStampa);
     QCOMPARE(tray.sheets.size(), std::size_t(1));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void CalendarPrintTest::theSheetOfARaceDayWithAPlan()
+{
+    CalendarBytes file;
+    file.SetRow(3, "20|5|2026|Corrida|Lago|10|50|1234|592|0|49|6|MM45|84");
+    CalendarDesk desk(file);
+    desk.folder.Write(QStringLiteral("prova/nometab"),
+                      '"' + Bytes(desk.folder.System(QStringLiteral("prova/Base 10 km.tab"))) + "\"\r\n");
+    PrinterTray tray;
+    desk.Start();
+    QCOMPARE(desk.Caption("lblTabNomeFile"), QStringLiteral("Base 10 km"));
+    desk.Menu("mnuFile", Qt::Key_T);
+    QCOMPARE(tray.sheets.size(), std::size_t(1));
+    constexpr int right = 48;
+    QCOMPARE(RightOf(tray, 4, right), (QByteArrayList{"48|GARA :  ", "62|Corrida"}));
+    QCOMPARE(RightOf(tray, 6, right), (QByteArrayList{"48|Localit\xE0 ", "62|Lago"}));
+    QCOMPARE(RightOf(tray, 8, right), (QByteArrayList{"48|Partecipanti", "62|1.234"}));
+    QCOMPARE(RightOf(tray, 10, right), (QByteArrayList{"48|Tempo Impiegato", "62|0:49:06"}));
+    QCOMPARE(RightOf(tray, 12, right), (QByteArrayList{"48|Lunghezza", "62|10,50"}));
+    QCOMPARE(RightOf(tray, 14, right), (QByteArrayList{"48|Risultato", "62|592"}));
+    QCOMPARE(RightOf(tray, 16, right), (QByteArrayList{"48|Categoria", "62|MM45"}));
+    QCOMPARE(RightOf(tray, 18, right), (QByteArrayList{"48|Risultato", "62|84"}));
+    // The plan has its row again on the next day.
+    desk.Up(*desk->upGiorno);
+    desk.Menu("mnuFile", Qt::Key_T);
+    QCOMPARE(RightOf(tray, 4, right), (QByteArrayList{"48|ALLENAMENTO :  Base 10 km"}));
+    QCOMPARE(RightOf(tray, 6, right), (QByteArrayList{"48|Km", "62|6,0"}));
+    QCOMPARE(RightOf(tray, 18, right), QByteArrayList());
     VERIFY_SCRIPT(desk.script);
 }
 

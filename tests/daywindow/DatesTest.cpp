@@ -159,6 +159,9 @@ void DatesTest::arrowsMoveTheDate()
     DayPage page(Parsed(from));
     page.Start();
     page.Click(*page->lblData);
+    // Committed by the step, also by one that is undone.
+    const i16 slot = Module1::GiornoCorrente;
+    page->upKM->SetValue(137);
     UpDown& spin = arrow.startsWith(QLatin1String("giorno")) ? *page->upGiorno : *page->upMese;
     if (arrow.endsWith(QLatin1String("up"))) {
         page.Up(spin);
@@ -166,6 +169,8 @@ void DatesTest::arrowsMoveTheDate()
         page.Down(spin);
     }
     QCOMPARE(QString::fromStdString(PlainText(Module1::DataCorrente)), to);
+    QVERIFY(Module1::Giorni[slot].Km == 137);
+    QVERIFY(page->upKM->Value() == Module1::Giorni[Module1::GiornoCorrente].Km);
     const CalendarDate date = Parsed(to);
     QVERIFY(Module1::GiornoCorrente == date.DayOfYear());
     QVERIFY(page->GiornoMese == date.Day());

@@ -48,6 +48,37 @@ ExpectedBox Question(const char* text)
     return {QLatin1String(text), QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel};
 }
 
+/// The window of that name, or null.
+QWidget* Window(const QString& name)
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == name) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// Notes the windows of the program that close, in order.
+class Closings : public QObject
+{
+public:
+    Closings() { qApp->installEventFilter(this); }
+    const QStringList& Names() const { return names_; }
+
+protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::Close && qobject_cast<Form*>(receiver) != nullptr) {
+            names_ << receiver->objectName();
+        }
+        return false;
+    }
+
+private:
+    QStringList names_;
+};
+
 QWidget* InfoWindow()
 {
     QWidget* found = nullptr;
@@ -82,6 +113,7 @@ private Q_SLOTS:
     void infoWindow();
     void exitUnloads_data();
     void exitUnloads();
+    void exitUnloadsEveryWindowInOrder();
 };
 
 void MenusTest::entries_data()
@@ -313,6 +345,36 @@ void MenusTest::exitUnloads()
             QVERIFY2(page.folder.Read(file) == SampleFile(file), qPrintable(file));
         }
     }
+}
+
+void MenusTest::exitUnloadsEveryWindowInOrder()
+{
+    DayPage page;
+    page.Start();
+    page.TakeEntry("mnuStatistiche", "mnuMedie");
+    page.TakeEntry("mnuStatistiche", "mnuTipo");
+    page.Click(*Window(QStringLiteral("frmStatistiche1"))->findChild<QWidget*>(QStringLiteral("cmGrafico")));
+    page.Menu("mnuTabelle", Qt::Key_A);
+    page.Click(*Window(QStringLiteral("frmTabAllenamenti"))->findChild<QWidget*>(QStringLiteral("cmdNuovaTab")));
+    page.Menu("mnuTabelle", Qt::Key_G);
+    page.Menu("mnuHelp", Qt::Key_I);
+    // Last, since it blocks the page.
+    page->mnuDescrizionePercorso_Click();
+    const QStringList inOrder = {QStringLiteral("frmAllenamento"),         QStringLiteral("frmTabAllenamenti"),
+                                 QStringLiteral("frmDesPercorso"),         QStringLiteral("frmCalendario"),
+                                 QStringLiteral("frmStatistiche1"),        QStringLiteral("frmGrafici"),
+                                 QStringLiteral("frmRicercheStatistiche"), QStringLiteral("frmInfo")};
+    for (const QString& name : inOrder) {
+        QTRY_VERIFY2(Window(name) != nullptr && Window(name)->isVisible(), qPrintable(name));
+    }
+    const Closings closings;
+    page->close();
+    QCOMPARE(closings.Names(), QStringList(QStringLiteral("frmMain")) + inOrder);
+    QTRY_VERIFY(page.Gone());
+    for (const QString& name : inOrder) {
+        QTRY_VERIFY2(Window(name) == nullptr, qPrintable(name));
+    }
+    VERIFY_SCRIPT(page.script);
 }
 
 } // namespace zelvia::test

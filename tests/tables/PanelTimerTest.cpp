@@ -39,6 +39,7 @@ class PanelTimerTest : public QObject
 private Q_SLOTS:
     void theEditorsEndAsksForAReading();
     void anotherTableInTheEditor();
+    void daysWithAnotherTableInTheEditor();
     void whatWasNotSavedDoesNotReachTheDiary();
     void whatWasSavedDoes();
     void noReadingWithoutARequest();
@@ -90,6 +91,37 @@ void PanelTimerTest::anotherTableInTheEditor()
     desk.LeaveList();
     desk.GoTo(141);
     QCOMPARE(desk.Panel(), Panel("Alfa", 7));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void PanelTimerTest::daysWithAnotherTableInTheEditor()
+{
+    // The editor shares the rows, so the walk of each step goes along them until the editor closes: 10 km on the first
+    // day meet the first row of both tables.
+    PlanDesk desk;
+    desk.PutTable(QStringLiteral("Alfa.tab"), TableBytes(kStart).SetRow(1, "7").SetRow(2, "17"));
+    desk.PutTable(QStringLiteral("Beta.tab"), TableBytes(kStart).SetRow(1, "8").SetRow(2, "18"));
+    desk.Activate("Alfa.tab");
+    desk.Run(140, 10);
+    desk.Begin();
+    desk.OpenList();
+    desk.OpenTable("Beta.tab");
+    QCOMPARE(desk.Panel(), Panel("Alfa", 7));
+    desk.Up(*desk->upGiorno);
+    QVERIFY(Module1::GiornoCorrente == 141);
+    QCOMPARE(desk.Panel(), Panel("Alfa", 18));
+    desk.Down(*desk->upGiorno);
+    QCOMPARE(desk.Panel(), Panel("Alfa", 8));
+    desk.Up(*desk->upMese);
+    QVERIFY(Module1::DataCorrente == CalendarDate(2026, 6, 20));
+    QCOMPARE(desk.Panel(), Panel("Alfa", 18));
+    // The steps leave what the editor shows alone.
+    QCOMPARE(desk.Row(1).left(2), QByteArray("8|"));
+    QCOMPARE(Module1::NomeTabellaAttiva, FromQString(QString::fromLatin1(desk.PathOf("Alfa.tab"))));
+    TableDesk::ToFront(*desk.Editor());
+    desk.LeaveEditor();
+    QTRY_COMPARE(desk.Panel(), Panel("Alfa", 17));
+    QCOMPARE(desk.Pointer(), desk.PointerTo("Alfa.tab"));
     VERIFY_SCRIPT(desk.script);
 }
 
