@@ -330,6 +330,7 @@ void MakeNotes(PageControls& controls, QWidget* page)
         nota.txt = new TextBox(page, Numbered("txtNote", line), kNoteLimit);
         DressInput(*nota.txt, Note(line));
         nota.txt->setAccessibleName(spoken);
+        nota.txt->SetEntry(BoxEntry::CaretAtEnd);
         nota.txt->SetVisible(false);
     }
 }

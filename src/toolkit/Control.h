@@ -32,6 +32,9 @@ public:
     /// Asked before the focus goes to another control of the same window; true refuses.
     std::function<bool()> Validate;
 
+    /// The focus was given by a key, by program or by an opening, not with the mouse.
+    virtual void OnFocusGiven() {}
+
 protected:
     explicit Control(QWidget* widget);
     virtual ~Control();

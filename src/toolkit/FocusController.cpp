@@ -170,6 +170,7 @@ void FocusController::SetFocus(Control& control)
         return;
     }
     control.Widget().setFocus(Qt::OtherFocusReason);
+    control.OnFocusGiven();
     Enqueue(&control);
 }
 

@@ -49,6 +49,7 @@ void Form::showEvent(QShowEvent* event)
 {
     if (focusWidget() == nullptr) {
         FocusSink().Widget().setFocus(Qt::OtherFocusReason);
+        FocusSink().OnFocusGiven();
     }
     QWidget::showEvent(event);
 }

@@ -65,6 +65,24 @@ void TextBox::SetContent(TextView text)
     setCursorPosition(0);
 }
 
+void TextBox::OnFocusGiven()
+{
+    if (entry_ == BoxEntry::SelectAll) {
+        selectAll();
+    } else {
+        end(false);
+    }
+}
+
+void TextBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+        OnFocusGiven();
+    }
+}
+
 int TextBox::Room() const
 {
     if (limit_ == 0) {

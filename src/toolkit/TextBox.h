@@ -10,6 +10,12 @@
 namespace zelvia
 {
 
+/// What a box does with its text when it gets the focus other than with the mouse.
+enum class BoxEntry {
+    SelectAll, ///< What is typed takes the text's place.
+    CaretAtEnd ///< What is typed goes on behind it.
+};
+
 /// A single-line edit box. What is typed outside the character set is refused, what is pasted outside it becomes "?".
 /// The length limits typing and pasting, not what the program sets.
 class TextBox : public QLineEdit, public Control
@@ -23,6 +29,8 @@ public:
     Text Content() const;
     void SetContent(TextView text);
     int Limit() const { return limit_; }
+    void SetEntry(BoxEntry entry) { entry_ = entry; }
+    void OnFocusGiven() override;
 
     /// Sees each character before it is entered, Enter as 13, Escape as 27 and Backspace as 8; setting it to 0 throws
     /// the key away.
@@ -38,6 +46,7 @@ public Q_SLOTS:
     void paste();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -52,6 +61,7 @@ private:
     int Room() const;
 
     int limit_;
+    BoxEntry entry_ = BoxEntry::SelectAll;
     bool pressed_ = false;
 };
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void lengthsAndDigits();
     void formatsOnLeaving();
     void enterGoesAlong();
+    void typingTakesTheTextsPlace();
     void enterInTheLastBoxStays();
     void theDashesComeWithTheDay();
 };
@@ -160,6 +161,23 @@ void BoxesTest::enterGoesAlong()
     // Tab takes the same way.
     hand::Key(Qt::Key_Tab);
     QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtAnnoGara(2)"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void BoxesTest::typingTakesTheTextsPlace()
+{
+    CalendarBytes file;
+    file.SetRow(1, "7|6|2026|Notturna|Lecco|10|50|1234|87|1|45|30|S50|9");
+    CalendarDesk desk(file);
+    desk.StartOpen();
+    // The opening gives the focus to the first box, Enter to each of the others.
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtGiornoGara(1)"));
+    for (const char* value : {"21", "12", "2027", "Diurna", "Como", "9", "120", "50", "34", "2", "5", "6", "MM", "1"}) {
+        hand::Type(QString::fromLatin1(value));
+        hand::Key(Qt::Key_Return);
+    }
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtGiornoGara(2)"));
+    QCOMPARE(desk.Row(1), QByteArray("21|12|2027|Diurna|Como|9|120|50|34|2|05|06|MM|1"));
     VERIFY_SCRIPT(desk.script);
 }
 

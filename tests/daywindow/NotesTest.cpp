@@ -54,6 +54,8 @@ class NotesTest : public QObject
 private Q_SLOTS:
     void aClickOpensWithTheCaption_data();
     void aClickOpensWithTheCaption();
+    void theCaretStandsAtTheEnd_data();
+    void theCaretStandsAtTheEnd();
     void leavingTakesTheText_data() { AddLines(); }
     void leavingTakesTheText();
     void enterMovesDownOneLine_data() { AddLines(); }
@@ -95,6 +97,40 @@ void NotesTest::aClickOpensWithTheCaption()
     QCOMPARE(page->note[line].txt->text(), QStringLiteral("sulla riga"));
     QVERIFY(page->LunghezzaNota == 0);
     QCOMPARE(page.Hands(), 0);
+    VERIFY_SCRIPT(page.script);
+}
+
+void NotesTest::theCaretStandsAtTheEnd_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"mouse", "Enter", "the line above", "Tab"}) {
+        QTest::newRow(way) << QString::fromLatin1(way);
+    }
+}
+
+void NotesTest::theCaretStandsAtTheEnd()
+{
+    QFETCH(QString, way);
+    EntryPage page;
+    page.Start();
+    page->note[5].lbl->SetCaption("vento");
+    page->note[5].txt->SetContent("vento");
+    if (way == QLatin1String("the line above")) {
+        OpenLine(page, 4);
+        hand::Key(Qt::Key_Return);
+    } else if (way == QLatin1String("Tab")) {
+        page->note[5].txt->SetVisible(true);
+        OpenLine(page, 4);
+        // By way of the label that the box lies over.
+        hand::Key(Qt::Key_Tab);
+        hand::Key(Qt::Key_Tab);
+    } else {
+        page.Open(*page->note[5].lbl, way == QLatin1String("mouse") ? Way::Mouse : Way::Enter);
+    }
+    QTRY_COMPARE(EntryPage::Focused(), Box(5));
+    QCOMPARE(page->note[5].txt->selectedText(), QString());
+    hand::Type(QStringLiteral(" e sole"));
+    QTRY_COMPARE(page->note[5].txt->text(), QStringLiteral("vento e sole"));
     VERIFY_SCRIPT(page.script);
 }
 

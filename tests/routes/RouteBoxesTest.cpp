@@ -13,6 +13,7 @@ class RouteBoxesTest : public QObject
 
 private Q_SLOTS:
     void enterWalksThroughTheRows();
+    void typingTakesTheTextsPlace();
     void onlyDigitsPass_data();
     void onlyDigitsPass();
     void everyKeyCountsAsAChange_data();
@@ -42,6 +43,28 @@ void RouteBoxesTest::enterWalksThroughTheRows()
     hand::Type(QStringLiteral("5"));
     QTRY_COMPARE(window.txtMetri[20]->text(), QStringLiteral("5"));
     QVERIFY(window.txtMetri[20]->hasFocus());
+    page.CloseRouteWindow();
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteBoxesTest::typingTakesTheTextsPlace()
+{
+    // "Beta" holds 1 km and 2 m in its first stretch, "t". Each box is entered by the opening or by Enter.
+    EntryPage page;
+    page.Start();
+    OpenEntry(page, 1);
+    const frmDesPercorso& window = Opened(page);
+    QTRY_VERIFY(window.txtTratto[1]->hasFocus());
+    hand::Type(QStringLiteral("ponte"));
+    hand::Key(Qt::Key_Return);
+    QTRY_VERIFY(window.txtKm[1]->hasFocus());
+    hand::Type(QStringLiteral("21"));
+    hand::Key(Qt::Key_Return);
+    QTRY_VERIFY(window.txtMetri[1]->hasFocus());
+    hand::Type(QStringLiteral("34"));
+    QTRY_COMPARE(window.txtMetri[1]->text(), QStringLiteral("34"));
+    QCOMPARE(window.txtKm[1]->text(), QStringLiteral("21"));
+    QCOMPARE(window.txtTratto[1]->text(), QStringLiteral("ponte"));
     page.CloseRouteWindow();
     VERIFY_SCRIPT(page.script);
 }

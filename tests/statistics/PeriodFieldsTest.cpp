@@ -13,6 +13,7 @@ private Q_SLOTS:
     void aButtonShowsAndEmptiesThem();
     void theyTakeDigitsUpToTheirLength();
     void enterWalksThroughThem();
+    void typingTakesTheTextsPlace();
     void aValueBeyondTheLimitHoldsTheFocus_data();
     void aValueBeyondTheLimitHoldsTheFocus();
     void aValueAtTheLimitPasses_data();
@@ -75,6 +76,21 @@ void PeriodFieldsTest::enterWalksThroughThem()
     }
     QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdPercorso"));
     QCOMPARE(desk.Period(), QByteArray("1|2|2026||12|2027"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void PeriodFieldsTest::typingTakesTheTextsPlace()
+{
+    SearchDesk desk;
+    desk.StartSearch();
+    desk.TypePeriod("6|4|2025|7|5|2025");
+    hand::Click(*desk->campiPeriodo[CampoPeriodo::GiornoInizio]);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("txtGiornoInizio"));
+    for (const char* value : {"1", "2026", "21", "12", "2026"}) {
+        hand::Key(Qt::Key_Return);
+        hand::Type(QString::fromLatin1(value));
+    }
+    QTRY_COMPARE(desk.Period(), QByteArray("6|1|2026|21|12|2026"));
     VERIFY_SCRIPT(desk.script);
 }
 

@@ -38,6 +38,9 @@ class EditorKeysTest : public QObject
 
 private Q_SLOTS:
     void enterGoesAlongTheRow();
+    void typingTakesTheTextsPlace_data();
+    void typingTakesTheTextsPlace();
+    void theFirstBoxIsReadyToBeTypedOver();
     void enterEndsWithTheGrid();
     void enterGoesAlongTheDate();
     void tabGoesAlongTheRow();
@@ -80,6 +83,49 @@ void EditorKeysTest::enterGoesAlongTheRow()
     }
     QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtKm(9)"));
     QCOMPARE(desk.Row(8), QByteArray("|||||||||||||"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorKeysTest::typingTakesTheTextsPlace_data()
+{
+    QTest::addColumn<bool>("tab");
+    QTest::newRow("Enter") << false;
+    QTest::newRow("Tab") << true;
+}
+
+void EditorKeysTest::typingTakesTheTextsPlace()
+{
+    QFETCH(bool, tab);
+    TableDesk desk;
+    desk.StartNew();
+    const char* const old[] = {"3",  "340",   "6",      "34", "34",    "6", "34",
+                               "34", "Media", "Strada", "4",  "1.500", "6", "34"};
+    for (int column = 0; column < kColumns; ++column) {
+        desk.Box(static_cast<Column>(column), 7).SetContent(old[column]);
+    }
+    // Into the first box from the one before it.
+    hand::Click(desk.Box(RipetTempi, 6));
+    const Qt::Key onward = tab ? Qt::Key_Tab : Qt::Key_Return;
+    for (const char* typed :
+         {"21", "120", "1", "50", "5", "5", "5", "500", "Lenta", "Pista", "10", "2000", "1", "59"}) {
+        hand::Key(onward);
+        hand::Type(QLatin1String(typed));
+    }
+    hand::Key(onward);
+    QTRY_COMPARE(desk.Row(7), QByteArray("21|120|1|50|05|5|05|500|Lenta|Pista|10|2.000|1|59"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorKeysTest::theFirstBoxIsReadyToBeTypedOver()
+{
+    TableDesk desk;
+    desk.Start();
+    desk.OpenList();
+    desk.OpenTable("Base 10 km.tab");
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtKm(1)"));
+    QCOMPARE(desk.Held(Km, 1), QByteArray("6"));
+    hand::Type(QStringLiteral("21"));
+    QTRY_COMPARE(desk.Held(Km, 1), QByteArray("21"));
     VERIFY_SCRIPT(desk.script);
 }
 

@@ -23,6 +23,13 @@ private Q_SLOTS:
     void init();
     void cleanup() { form_.reset(); }
 
+    void TheProgramSelectsTheText();
+    void TheMouseSelectsNothing();
+    void AKeySelectsTheText();
+    void AnOpeningSelectsTheText();
+    void AnotherProgramLeavesTheCaret();
+    void ABoxMayHaveItsCaretAtTheEnd_data();
+    void ABoxMayHaveItsCaretAtTheEnd();
     void TypingStopsAtTheLimit();
     void PastingIsCutAtTheLimit();
     void ASelectionMakesRoom();
@@ -71,6 +78,97 @@ void TextBoxTest::Commit(const QString& text)
     QInputMethodEvent event;
     event.setCommitString(text);
     QApplication::sendEvent(box_, &event);
+}
+
+void TextBoxTest::TheProgramSelectsTheText()
+{
+    form_->txtUno->SetContent("Colle");
+    form_->Start(*form_->txtUno);
+    QCOMPARE(form_->txtUno->selectedText(), QStringLiteral("Colle"));
+    hand::Type(QStringLiteral("Lago"));
+    QTRY_COMPARE(form_->txtUno->text(), QStringLiteral("Lago"));
+    // Given to the box that has it, the focus selects anew.
+    form_->txtUno->SetFocus();
+    hand::Type(QStringLiteral("x"));
+    QTRY_COMPARE(form_->txtUno->text(), QStringLiteral("x"));
+}
+
+void TextBoxTest::TheMouseSelectsNothing()
+{
+    form_->txtUno->SetContent("Colle");
+    hand::Click(*form_->txtUno, {140, 14});
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));
+    QCOMPARE(form_->txtUno->selectedText(), QString());
+    QCOMPARE(form_->txtUno->cursorPosition(), 5);
+}
+
+void TextBoxTest::AKeySelectsTheText()
+{
+    form_->txtDue->SetContent("Colle");
+    form_->Start(*form_->txtUno);
+    hand::Key(Qt::Key_Tab);
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtDue"));
+    QCOMPARE(form_->txtDue->selectedText(), QStringLiteral("Colle"));
+}
+
+void TextBoxTest::AnOpeningSelectsTheText()
+{
+    class BoxForm : public Form
+    {
+    public:
+        BoxForm() : Form(QStringLiteral("frmCasella")), box(new TextBox(this, QStringLiteral("txtCasella")))
+        {
+            box->SetContent("Colle");
+        }
+        Control& FocusSink() override { return *box; }
+        TextBox* box;
+    };
+    BoxForm form;
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTRY_VERIFY(form.box->hasFocus());
+    QCOMPARE(form.box->selectedText(), QStringLiteral("Colle"));
+}
+
+void TextBoxTest::AnotherProgramLeavesTheCaret()
+{
+    form_->txtUno->SetContent("Colle");
+    form_->Start(*form_->txtUno);
+    hand::Key(Qt::Key_End);
+    QTRY_COMPARE(form_->txtUno->selectedText(), QString());
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    form_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(form_.get()));
+    QTRY_VERIFY(form_->txtUno->hasFocus());
+    QCOMPARE(form_->txtUno->selectedText(), QString());
+    QCOMPARE(form_->txtUno->cursorPosition(), 5);
+}
+
+void TextBoxTest::ABoxMayHaveItsCaretAtTheEnd_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("by program") << false;
+    QTest::newRow("by key") << true;
+}
+
+void TextBoxTest::ABoxMayHaveItsCaretAtTheEnd()
+{
+    QFETCH(bool, byKey);
+    form_->txtDue->SetContent("Colle");
+    form_->txtDue->SetEntry(BoxEntry::CaretAtEnd);
+    form_->Start(*form_->txtUno);
+    if (byKey) {
+        hand::Key(Qt::Key_Tab);
+    } else {
+        form_->txtDue->SetFocus();
+    }
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtDue"));
+    QCOMPARE(form_->txtDue->selectedText(), QString());
+    QCOMPARE(form_->txtDue->cursorPosition(), 5);
 }
 
 void TextBoxTest::TypingStopsAtTheLimit()
