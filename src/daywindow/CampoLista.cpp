@@ -109,9 +109,10 @@ void CampoLista::OnListDblClick()
 
 void CampoLista::OnListKeyPress(int keyAscii)
 {
-    if (keyAscii == kEnter) {
+    if (keyAscii == kEnter && controlli_.lst->ListIndex() >= 0) {
         controlli_.lst->DblClick();
-    } else if (keyAscii == kEscape) {
+    } else if (keyAscii == kEnter || keyAscii == kEscape) {
+        // With nothing selected Enter too closes the field on the text of its box.
         controlli_.txt->SetFocus();
         controlli_.txt->Click();
     }

@@ -55,7 +55,10 @@ private Q_SLOTS:
     void aDoubleClickTakesTheEntry();
     void keysOfTheList_data();
     void keysOfTheList();
-    void enterWithoutASelectionTakesTheEmptyText();
+    void typingTakesTheTextsPlace_data();
+    void typingTakesTheTextsPlace();
+    void enterWithoutASelectionClosesOnTheText_data() { AddFields(); }
+    void enterWithoutASelectionClosesOnTheText();
     void aListOfOneEntryIsPickedByKeys();
     void otherKeysAreTheLists();
     void onlyTheBoxCloses();
@@ -314,18 +317,54 @@ void ListsTest::keysOfTheList()
     VERIFY_SCRIPT(page.script);
 }
 
-void ListsTest::enterWithoutASelectionTakesTheEmptyText()
+void ListsTest::typingTakesTheTextsPlace_data()
 {
+    opens_data();
+}
+
+void ListsTest::typingTakesTheTextsPlace()
+{
+    QFETCH(int, number);
+    QFETCH(int, way);
     EntryPage page;
     page.Start();
-    page.Open(5);
-    page.TypeOver(*page.Field(5).txt, QStringLiteral("Beta"));
+    page.Field(number).lblImmis->SetCaption("Colle");
+    page.Field(number).txt->SetContent("Colle");
+    page.Open(*page.Field(number).lblImmis, Way(way));
+    QTRY_VERIFY(page.Field(number).txt->hasFocus());
+    QCOMPARE(page.Field(number).txt->selectedText(), QStringLiteral("Colle"));
+    hand::Type(QStringLiteral("beta"));
+    QTRY_COMPARE(page.Field(number).txt->text(), QStringLiteral("beta"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void ListsTest::enterWithoutASelectionClosesOnTheText()
+{
+    QFETCH(int, number);
+    EntryPage page;
+    page.Start();
+    const QString entry = EntryPage::Entries(number).at(1);
+    // A run of the route that a search would find.
+    RecordGiorno& run = Module1::Giorni[100];
+    run.Percorso = FromQString(entry);
+    run.Lunghezza = "Lungo";
+    run.Fondo = "Strada";
+    run.Km = 12;
+    page.Open(number);
+    page.TypeOver(*page.Field(number).txt, entry);
     hand::Key(Qt::Key_Tab);
-    QTRY_COMPARE(EntryPage::Focused(), QByteArray("lstTipo"));
-    QCOMPARE(page.Field(5).lst->ListIndex(), -1);
+    QTRY_COMPARE(EntryPage::Focused(), Named("lst", number));
+    QCOMPARE(page.Field(number).lst->ListIndex(), -1);
     hand::Key(Qt::Key_Return);
-    QTRY_VERIFY(!page.IsOpen(5));
-    QCOMPARE(page.Field(5).lblImmis->text(), QString());
+    QTRY_VERIFY(!page.IsOpen(number));
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    QCOMPARE(page.Field(number).lblImmis->text(), entry);
+    QCOMPARE(page.Field(number).txt->text(), entry);
+    QCOMPARE(Module1::PercorsoCorrente, number == kRoute ? FromQString(entry) : Text());
+    QCOMPARE(page->upKM->Value().value(), 0);
+    for (int other = 1; other <= 8; ++other) {
+        QCOMPARE(page.Field(other).lblImmis->text(), other == number ? entry : QString());
+    }
     VERIFY_SCRIPT(page.script);
 }
 
