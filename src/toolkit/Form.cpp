@@ -9,6 +9,8 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace zelvia
 {
 
@@ -31,9 +33,31 @@ Form* Form::Of(QWidget* widget)
     return widget == nullptr ? nullptr : qobject_cast<Form*>(widget->window());
 }
 
+void Form::RunUnblocked(std::function<void()> action)
+{
+    if (blocked_) {
+        waiting_.push_back(std::move(action));
+    } else {
+        action();
+    }
+}
+
+void Form::NoteBlocking(QEvent::Type type)
+{
+    if (type == QEvent::WindowBlocked) {
+        blocked_ = true;
+    } else if (type == QEvent::WindowUnblocked) {
+        blocked_ = false;
+        for (const std::function<void()>& action : std::exchange(waiting_, {})) {
+            action();
+        }
+    }
+}
+
 /// A key comes here when no control of the window had a use for it.
 bool Form::event(QEvent* event)
 {
+    NoteBlocking(event->type());
     const auto& helpKey = Application::Instance().HelpKey;
     if (event->type() == QEvent::KeyPress && helpKey) {
         const auto& key = static_cast<const QKeyEvent&>(*event);

@@ -4,10 +4,12 @@
 
 #include "toolkit/Control.h"
 
+#include <QEvent>
 #include <QPointer>
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 namespace zelvia
 {
@@ -32,6 +34,9 @@ public:
     /// True from its unloading on; it is released a moment later.
     bool Unloaded() const { return unloaded_; }
 
+    /// Runs `action` at once or, while another window blocks this one, as soon as that has closed.
+    void RunUnblocked(std::function<void()> action);
+
     /// The window that `widget` lies in, or null when that is no window of the program.
     static Form* Of(QWidget* widget);
 
@@ -45,8 +50,12 @@ protected:
     virtual void OnUnload() {}
 
 private:
+    void NoteBlocking(QEvent::Type type);
+
     Control* sink_;
     bool unloaded_ = false;
+    bool blocked_ = false;
+    std::vector<std::function<void()>> waiting_; ///< For the end of the blocking.
 };
 
 /// The place of a window that is created when first opened and released when it closes.

@@ -3,13 +3,13 @@
 #include "toolkit/ListBox.h"
 
 #include "toolkit/Events.h"
+#include "toolkit/FocusController.h"
+#include "toolkit/Form.h"
 #include "toolkit/QtText.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-
-#include <utility>
 
 namespace zelvia
 {
@@ -72,21 +72,43 @@ void ListBox::SetListIndex(int index)
     setCurrentRow(index, index < 0 ? QItemSelectionModel::Clear : QItemSelectionModel::ClearAndSelect);
 }
 
+void ListBox::TellClick()
+{
+    FocusController::Instance().Flush();
+    if (Form* form = Form::Of(this)) {
+        form->RunUnblocked([this] { Fire(Click); });
+    }
+}
+
+/// Tells the click when another entry than `before` has come to be the selected one.
+void ListBox::TellNewChoice(int before)
+{
+    if (ListIndex() >= 0 && ListIndex() != before) {
+        TellClick();
+    }
+}
+
 void ListBox::mousePressEvent(QMouseEvent* event)
 {
-    pressed_ = event->button() == Qt::LeftButton;
+    const int before = ListIndex();
     QListWidget::mousePressEvent(event);
+    const QListWidgetItem* pressed = itemAt(event->position().toPoint());
+    // The entry that is selected already can be chosen anew: the list keeps its selection while it is closed.
+    const bool again = event->button() == Qt::LeftButton && pressed != nullptr && pressed->isSelected();
+    TellNewChoice(again ? -1 : before);
+}
+
+void ListBox::mouseMoveEvent(QMouseEvent* event)
+{
+    const int before = ListIndex();
+    QListWidget::mouseMoveEvent(event);
+    TellNewChoice(before);
 }
 
 void ListBox::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::RightButton) {
         QListWidget::mouseReleaseEvent(event);
-        // The second release of a double click is none of its own.
-        if (event->button() == Qt::LeftButton && std::exchange(pressed_, false) &&
-            itemAt(event->position().toPoint()) != nullptr) {
-            Fire(Click);
-        }
     }
     Fire([&] {
         if (MouseUp) {
@@ -122,9 +144,7 @@ void ListBox::keyPressEvent(QKeyEvent* event)
     } else {
         QListWidget::keyPressEvent(event);
     }
-    if (ListIndex() != before) {
-        Fire(Click);
-    }
+    TellNewChoice(before);
 }
 
 void ListBox::contextMenuEvent(QContextMenuEvent* event)

@@ -33,7 +33,8 @@ public:
     int ListIndex() const;
     void SetListIndex(int index);
 
-    /// An entry was chosen, with the mouse or the arrow keys.
+    /// An entry was chosen: pressed with the mouse, whatever becomes of the press, or selected by a key. It is told
+    /// behind the change of focus that the press made and, if that opened a window over this one, once that has closed.
     std::function<void()> Click;
     std::function<void()> DblClick;
 
@@ -43,13 +44,15 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    bool pressed_ = false;
+    void TellNewChoice(int before);
+    void TellClick();
 };
 
 } // namespace zelvia

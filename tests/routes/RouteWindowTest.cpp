@@ -37,6 +37,7 @@ private Q_SLOTS:
     void anEmptyDescriptionSetsTheDistanceToZero();
     void anEmptyCurrentRouteTakesTheFirstFreePlace();
     void aRouteWithoutAPlaceUsesRowZero();
+    void aRowPressedBehindANewName();
     void moreThan200AtOpeningAndClosing();
     void thePageIsBlocked();
     void moreThanTheTotalHolds_data();
@@ -233,6 +234,46 @@ void RouteWindowTest::aRouteWithoutAPlaceUsesRowZero()
     QCOMPARE(Module1::NomiPercorso[2], Text());
     QCOMPARE(Module1::TrattoDescrizione[2][1], Text());
     QCOMPARE(page->upKM->Value().value(), 3);
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::aRowPressedBehindANewName()
+{
+    // The press closes the box, which opens the description of the new name. The row is the current route only when
+    // that has closed: until then what is typed belongs to the new name.
+    EntryPage page;
+    page.Start();
+    page.Open(kRoute);
+    page.TypeOver(*page.Field(kRoute).txt, QStringLiteral("Delta"));
+    ListBox& list = *page.Field(kRoute).lst;
+    hand::Press(*list.viewport(), EntryPage::RowAt(list, 1));
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : Delta"));
+    QCOMPARE(list.ListIndex(), 1);
+    QCOMPARE(Module1::PercorsoCorrente, Text("Delta"));
+    if (hand::OnX11()) {
+        hand::Raw({QStringLiteral("mouseup"), QStringLiteral("1")});
+    } else {
+        hand::Release(*list.viewport(), EntryPage::RowAt(list, 1));
+    }
+    TypeInto(*window.txtTratto[1], QStringLiteral("dal ponte"));
+    TypeInto(*window.txtKm[1], QStringLiteral("4"));
+    page.CloseRouteWindow();
+    QTRY_COMPARE(Module1::PercorsoCorrente, Text("Beta"));
+    QCOMPARE(Module1::NomiPercorso[4], Text("Delta"));
+    QCOMPARE(Module1::TrattoDescrizione[4][1], Text("dal ponte"));
+    QVERIFY(Module1::DistanzePercorso[4] == 4000);
+    QCOMPARE(Module1::TrattoDescrizione[2][1], Text("t"));
+    QVERIFY(Module1::DistanzePercorso[2] == 1002);
+    // Both commands of the pop-up act on the row.
+    page.PopUp(list, Qt::Key_D, false);
+    QCOMPARE(Opened(page).windowTitle(), QStringLiteral("Percorso : Beta"));
+    QCOMPARE(Opened(page).txtTratto[1]->text(), QStringLiteral("t"));
+    page.CloseRouteWindow();
+    page.PopUp(list, Qt::Key_C);
+    QCOMPARE(Module1::NomiPercorso[2], Text());
+    QCOMPARE(Module1::NomiPercorso[4], Text("Delta"));
+    QVERIFY(Module1::DistanzePercorso[4] == 4000);
     VERIFY_SCRIPT(page.script);
 }
 

@@ -17,6 +17,11 @@ private Q_SLOTS:
     void cleanup() { form_.reset(); }
 
     void AClickChooses();
+    void APressChooses_data();
+    void APressChooses();
+    void APressOnTheSelectedEntryChoosesIt();
+    void TheDrawnSelectionIsChosen();
+    void AnotherWindowPutsTheChoiceOff();
     void AClickBelowTheEntriesChoosesNothing();
     void ARightPressNeitherSelectsNorFocuses();
     void MouseUpTellsTheButton_data();
@@ -51,6 +56,76 @@ void ListBoxTest::AClickChooses()
     QCOMPARE(list_->List(2), Text("Lungo"));
     hand::Click(*list_, RowCentre(*list_, 0));
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +lstUno click2 click0"));
+}
+
+void ListBoxTest::APressChooses_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::newRow("on the entry") << "entry";
+    QTest::newRow("below the entries") << "below";
+    QTest::newRow("outside") << "outside";
+    QTest::newRow("behind another button") << "button";
+}
+
+void ListBoxTest::APressChooses()
+{
+    QFETCH(QString, end);
+    const QPoint row = RowCentre(*list_, 2);
+    hand::Press(*list_, row);
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno +lstUno click2"));
+    QCOMPARE(list_->ListIndex(), 2);
+    if (end == QLatin1String("button")) {
+        hand::Click(*list_, row, Qt::RightButton);
+    }
+    hand::Release(*list_, end == QLatin1String("below")     ? QPoint(60, 120)
+                          : end == QLatin1String("outside") ? QPoint(400, 300)
+                                                            : row);
+    QVERIFY(StaysFalse([this] { return form_->told != "-txtUno +lstUno click2"; }));
+    QCOMPARE(list_->ListIndex(), 2);
+}
+
+void ListBoxTest::APressOnTheSelectedEntryChoosesIt()
+{
+    list_->SetListIndex(2);
+    hand::Press(*list_, RowCentre(*list_, 2));
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno +lstUno click2"));
+    hand::Release(*list_, RowCentre(*list_, 2));
+    QVERIFY(StaysFalse([this] { return form_->told != "-txtUno +lstUno click2"; }));
+}
+
+void ListBoxTest::TheDrawnSelectionIsChosen()
+{
+    form_->Start(*list_);
+    hand::Press(*list_, RowCentre(*list_, 0));
+    QTRY_COMPARE(form_->told, QByteArray("click0"));
+    hand::MoveTo(*list_->viewport(), list_->viewport()->mapFrom(list_, RowCentre(*list_, 1)));
+    QTRY_COMPARE(form_->told, QByteArray("click0 click1"));
+    hand::Release(*list_, RowCentre(*list_, 1));
+    QVERIFY(StaysFalse([this] { return form_->told != "click0 click1"; }));
+}
+
+void ListBoxTest::AnotherWindowPutsTheChoiceOff()
+{
+    // Leaving the box opens a window over this one: what was chosen is told when that has closed.
+    Form over(QStringLiteral("frmSopra"), form_.get());
+    over.setWindowModality(Qt::WindowModal);
+    form_->txtUno->LostFocus = [&] {
+        form_->Tell("-txtUno");
+        over.show();
+    };
+    hand::Press(*list_, RowCentre(*list_, 1));
+    QVERIFY(QTest::qWaitForWindowExposed(&over));
+    QTRY_VERIFY(form_->told.startsWith("-txtUno +lstUno"));
+    QVERIFY(StaysFalse([this] { return form_->told.contains("click"); }));
+    if (hand::OnX11()) {
+        hand::Raw({QStringLiteral("mouseup"), QStringLiteral("1")});
+    } else {
+        hand::Release(*list_, RowCentre(*list_, 1));
+    }
+    over.hide();
+    QTRY_COMPARE(form_->told.count("click1"), 1);
+    QCOMPARE(list_->ListIndex(), 1);
+    QVERIFY(StaysFalse([this] { return form_->told.count("click") != 1; }));
 }
 
 void ListBoxTest::AClickBelowTheEntriesChoosesNothing()
