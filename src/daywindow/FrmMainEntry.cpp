@@ -113,10 +113,12 @@ void frmMain::RemoveSelected(ListaScelta lista)
     if (selected < 0) {
         return;
     }
-    const i16 descrizione = lista == ListaScelta::Percorso ? NumeroPercorso() : i16(0);
+    const bool percorso = lista == ListaScelta::Percorso;
+    // A route without a description has been described at place 0, which must not hand it on to another one.
+    const i16 descrizione = percorso ? NumeroPercorso() : i16(0);
     campo.lst->RemoveItem(selected);
     campo.txt->SetContent({});
-    if (descrizione > 0) {
+    if (percorso) {
         AzzeraPercorso(descrizione);
     }
 }

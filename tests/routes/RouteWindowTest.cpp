@@ -37,6 +37,7 @@ private Q_SLOTS:
     void anEmptyDescriptionSetsTheDistanceToZero();
     void anEmptyCurrentRouteTakesTheFirstFreePlace();
     void aRouteWithoutAPlaceUsesRowZero();
+    void deletingARouteWithoutAPlaceBlanksRowZero();
     void aRowPressedBehindANewName();
     void moreThan200AtOpeningAndClosing();
     void thePageIsBlocked();
@@ -47,7 +48,7 @@ private Q_SLOTS:
 
 void RouteWindowTest::init()
 {
-    // Row 0, where ends what has no place, is emptied by nothing.
+    // Row 0, where what has no place ends, outlives a page.
     Module1::DistanzePercorso[0] = 0;
     Module1::TrattoDescrizione[0][1].clear();
     Module1::TrattoKm[0][1] = 0;
@@ -234,6 +235,37 @@ void RouteWindowTest::aRouteWithoutAPlaceUsesRowZero()
     QCOMPARE(Module1::NomiPercorso[2], Text());
     QCOMPARE(Module1::TrattoDescrizione[2][1], Text());
     QCOMPARE(page->upKM->Value().value(), 3);
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::deletingARouteWithoutAPlaceBlanksRowZero()
+{
+    EntryPage page;
+    page.Start();
+    Module1::AzzeraPercorso(2);
+    Module1::AzzeraPercorso(3); // "Beta" and "Gamma" stay in the list
+    OpenEntry(page, 1);
+    TypeInto(*Opened(page).txtTratto[1], QStringLiteral("nulla"));
+    TypeInto(*Opened(page).txtMetri[20], QStringLiteral("400"));
+    page.CloseRouteWindow();
+    QVERIFY(Module1::DistanzePercorso[0] == 400);
+    // The list is still open with "Beta" selected.
+    page.PopUp(*page.Field(kRoute).lst, Qt::Key_C);
+    QCOMPARE(page.ListOf(kRoute), QStringList({QStringLiteral("Alfa"), QStringLiteral("Gamma")}));
+    QVERIFY(Module1::DistanzePercorso[0] == 0);
+    QCOMPARE(Module1::TrattoDescrizione[0][1], Text());
+    QVERIFY(Module1::TrattoMetri[0][20] == 0);
+    QCOMPARE(Module1::NomiPercorso[1], Text("Alfa"));
+    QVERIFY(Module1::DistanzePercorso[1] == 1001);
+    // The next route without a place finds nothing there.
+    page.ClickRow(*page.Field(kRoute).lst, 1);
+    QTRY_COMPARE(Module1::PercorsoCorrente, Text("Gamma"));
+    page.PopUp(*page.Field(kRoute).lst, Qt::Key_D, false);
+    const frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : Gamma"));
+    QCOMPARE(window.txtTratto[1]->text(), QString());
+    QCOMPARE(window.txtDistanzaMetri->text(), QStringLiteral("0"));
+    page.CloseRouteWindow();
     VERIFY_SCRIPT(page.script);
 }
 
