@@ -5,8 +5,7 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "daywindow/FrmMain.h"
-
-#include <QMenu>
+#include "toolkit/Menu.h"
 
 namespace zelvia
 {
@@ -122,7 +121,7 @@ void CampoLista::OnListMouseUp(Qt::MouseButton button, const QPoint& position)
 {
     page_.ShowRouteEntries(HaTempiEDescrizione() && button == Qt::RightButton);
     if (button == Qt::RightButton) {
-        page_.mnuCancelladallaLista->exec(position);
+        OpenPopUp(*page_.mnuCancelladallaLista, position);
         page_.ShowRouteEntries(false);
     }
 }

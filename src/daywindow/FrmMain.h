@@ -309,6 +309,10 @@ private:
     // Entry.
     void Immis(ListaScelta lista);
     void RemoveSelected(ListaScelta lista);
+    /// The route's box holds a name that its list does not.
+    bool NewRouteTyped();
+    /// Closes the route's field if its box has the focus.
+    void LeaveRouteBox();
     Orario StartTime() const;
     Orario EndTime() const;
     Orario ShowTimeTaken();

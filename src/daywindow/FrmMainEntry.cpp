@@ -7,9 +7,13 @@
 #include "daywindow/FrmMain.h"
 #include "daywindow/GruppoSpin.h"
 #include "routes/RouteModel.h"
+#include "toolkit/FocusController.h"
+#include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
 
 #include <QMenu>
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -28,6 +32,13 @@ constexpr int kLastNote = 10;
 Text NoteName(TextView control, int riga)
 {
     return Text(control) + "Note" + PlainText(i32(riga)) + " - ERRORE : ";
+}
+
+/// True when an entry of the list is that text, whatever its case.
+bool Holds(const ListBox& lst, const Text& testo)
+{
+    const std::vector<Text> voci = lst.Items();
+    return std::any_of(voci.begin(), voci.end(), [&](const Text& voce) { return SameText(voce, testo); });
 }
 
 /// Digits with a leading 0 below 10.
@@ -72,11 +83,7 @@ i16 frmMain::AggiungiLista(TextBox& txt, ListBox& lst)
         if (!CampoNonVuoto(testo)) {
             return;
         }
-        for (int i = 0; i < lst.ListCount(); ++i) {
-            if (SameText(lst.List(i), testo)) {
-                presente = 1;
-            }
-        }
+        presente = Holds(lst, testo) ? 1 : 0;
         if (presente == 0) {
             lst.AddItem(testo);
             FileModificato = 1;
@@ -89,6 +96,21 @@ void frmMain::ShowRouteEntries(bool visible)
 {
     for (const char* name : {"mnuListaWOrdinata", "mnuDescrizionePercorso"}) {
         mnuCancelladallaLista->findChild<QAction*>(QLatin1String(name))->setVisible(visible);
+    }
+}
+
+bool frmMain::NewRouteTyped()
+{
+    const ControlliLista& campo = Campo(ListaScelta::Percorso);
+    const Text testo = Trim(campo.txt->Content());
+    return CampoNonVuoto(testo) && !Holds(*campo.lst, testo);
+}
+
+void frmMain::LeaveRouteBox()
+{
+    FocusController& focus = FocusController::Instance();
+    if (focus.Current() == Campo(ListaScelta::Percorso).txt) {
+        focus.LeaveField();
     }
 }
 
@@ -224,7 +246,7 @@ void frmMain::ConnectSplits()
         Trap("lstListaKm - ERRORE : ", [&] {
             ShowRouteEntries(false);
             if (button == Qt::RightButton) {
-                mnuCancelladallaLista->exec(position);
+                OpenPopUp(*mnuCancelladallaLista, position);
             }
         });
     };
@@ -256,11 +278,9 @@ void frmMain::cmdListaKM_Click()
             return;
         }
         const Text parziale = lblImmisTempoKM->Caption() + "      " + lblImmisTempoMinuti->Caption();
-        for (int i = 0; i < lstListaKM->ListCount(); ++i) {
-            if (SameText(lstListaKM->List(i), parziale)) {
-                MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
-                return;
-            }
+        if (Holds(*lstListaKM, parziale)) {
+            MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
         }
         lstListaKM->AddItem(parziale);
     });

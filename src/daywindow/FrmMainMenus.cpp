@@ -56,10 +56,17 @@ void frmMain::BuildMenus(QMenuBar& bar)
 
     mnuCancelladallaLista->setObjectName(QStringLiteral("mnuCancelladallaLista"));
     mnuCancelladallaLista->setTitle(QStringLiteral("&Cancella dalla Lista"));
+    const auto leaveNewRoute = [this] {
+        if (NewRouteTyped()) {
+            LeaveRouteBox();
+        }
+    };
+    // The description takes the focus in any case, and the route's box must not close behind it.
+    const auto leaveRoute = [this] { LeaveRouteBox(); };
     FillMenu(*mnuCancelladallaLista,
              {{"mnuCancella", "&Cancella", [this] { mnuCancella_Click(); }},
-              {"mnuListaWOrdinata", "&Tempi", [this] { mnuListaWOrdinata_Click(); }},
-              {"mnuDescrizionePercorso", "&Descrizione", [this] { mnuDescrizionePercorso_Click(); }}},
+              {"mnuListaWOrdinata", "&Tempi", [this] { mnuListaWOrdinata_Click(); }, {}, leaveNewRoute},
+              {"mnuDescrizionePercorso", "&Descrizione", [this] { mnuDescrizionePercorso_Click(); }, {}, leaveRoute}},
              MenuKind::PopUp);
 }
 

@@ -38,8 +38,16 @@ i16 frmMain::NumeroPercorso()
 void frmMain::mnuDescrizionePercorso_Click()
 {
     Trap("mnuDescrizionePercorso - ERRORE : ", [this] {
+        // Closing the field may have opened the description of the name typed there.
+        if (desPercorso_.Loaded()) {
+            return;
+        }
         const ListBox& lst = *Campo(ListaScelta::Percorso).lst;
-        ShowRoute(lst.List(lst.ListIndex()));
+        const Text nome = lst.List(lst.ListIndex());
+        if (!nome.empty()) {
+            PercorsoCorrente = nome;
+        }
+        ShowRoute(nome);
     });
 }
 

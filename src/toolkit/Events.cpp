@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 namespace zelvia
 {
 namespace
@@ -42,6 +44,13 @@ Routine::~Routine()
 bool Routine::Running()
 {
     return depth > 0;
+}
+
+RoutinePause::RoutinePause() : depth_(std::exchange(depth, 0)) {}
+
+RoutinePause::~RoutinePause()
+{
+    depth = depth_;
 }
 
 BoxUp::BoxUp() : owner_(BoxOwner())

@@ -23,6 +23,20 @@ public:
     static bool Running();
 };
 
+/// Alive while a pop-up menu waits for the user. The routine that opened it counts as ended meanwhile, so that an entry
+/// finds what an entry of the menu bar finds.
+class RoutinePause
+{
+public:
+    RoutinePause();
+    ~RoutinePause();
+    RoutinePause(const RoutinePause&) = delete;
+    RoutinePause& operator=(const RoutinePause&) = delete;
+
+private:
+    int depth_;
+};
+
 /// Alive while a message box or a dialog of the program's own is up. What a change of focus has hidden so far is
 /// hidden, and afterwards the window that was active is so again.
 class BoxUp

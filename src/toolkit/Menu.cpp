@@ -18,13 +18,22 @@ void FillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, MenuKind kind)
         QAction* action = entry.caption.empty() ? menu.addSeparator() : menu.addAction(ToQString(entry.caption));
         action->setObjectName(QLatin1String(entry.name));
         action->setShortcut(entry.shortcut);
-        QObject::connect(action, &QAction::triggered, &menu, [click = entry.click, kind] {
+        QObject::connect(action, &QAction::triggered, &menu, [click = entry.click, before = entry.before, kind] {
             if (kind == MenuKind::Bar) {
                 FocusController::Instance().LeaveField();
+            }
+            if (before) {
+                before();
             }
             Fire(click);
         });
     }
+}
+
+void OpenPopUp(QMenu& menu, const QPoint& globalPosition)
+{
+    const RoutinePause pause;
+    menu.exec(globalPosition);
 }
 
 QMenu& AddMenu(QMenuBar& bar, const char* name, TextView caption, const std::vector<MenuEntry>& entries)

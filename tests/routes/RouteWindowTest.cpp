@@ -39,6 +39,10 @@ private Q_SLOTS:
     void aRouteWithoutAPlaceUsesRowZero();
     void deletingARouteWithoutAPlaceBlanksRowZero();
     void aRowPressedBehindANewName();
+    void thePopUpBehindANewName_data();
+    void thePopUpBehindANewName();
+    void thePopUpBehindAListedName_data();
+    void thePopUpBehindAListedName();
     void moreThan200AtOpeningAndClosing();
     void thePageIsBlocked();
     void moreThanTheTotalHolds_data();
@@ -306,6 +310,89 @@ void RouteWindowTest::aRowPressedBehindANewName()
     QCOMPARE(Module1::NomiPercorso[2], Text());
     QCOMPARE(Module1::NomiPercorso[4], Text("Delta"));
     QVERIFY(Module1::DistanzePercorso[4] == 4000);
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::thePopUpBehindANewName_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<bool>("description");
+    QTest::newRow("description, nothing selected") << -1 << true;
+    QTest::newRow("description, an entry selected") << 1 << true;
+    QTest::newRow("times, nothing selected") << -1 << false;
+    QTest::newRow("times, an entry selected") << 1 << false;
+}
+
+void RouteWindowTest::thePopUpBehindANewName()
+{
+    QFETCH(int, row);
+    QFETCH(bool, description);
+    EntryPage page;
+    page.Start();
+    RecordGiorno& run = Module1::Giorni[100];
+    run.Percorso = "Beta";
+    run.TempoImpiegato = "0:50:00";
+    run.MediaKm = "5:00";
+    page.Open(kRoute);
+    if (row >= 0) {
+        QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtPercorso"));
+        page.ClickRow(*page.Field(kRoute).lst, row);
+        QTRY_COMPARE(Module1::PercorsoCorrente, Text("Beta"));
+        hand::Key(Qt::Key_Tab, Qt::ShiftModifier);
+    }
+    page.TypeOver(*page.Field(kRoute).txt, QStringLiteral("Delta"));
+    page.PopUp(*page.Field(kRoute).lst, description ? Qt::Key_D : Qt::Key_T, false);
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), QStringLiteral("Percorso : Delta"));
+    QVERIFY(!page.IsOpen(kRoute));
+    QCOMPARE(page.Caption("lblImmisPercorso"), QStringLiteral("Delta"));
+    QCOMPARE(page->lstListaOrdinata->isVisible(), !description);
+    QCOMPARE(page->lstListaOrdinata->ListCount(), !description && row >= 0 ? 1 : 0);
+    QCOMPARE(window.txtTratto[1]->text(), QString());
+    TypeInto(*window.txtTratto[1], QStringLiteral("dal ponte"));
+    page.CloseRouteWindow();
+    QCOMPARE(Module1::NomiPercorso[4], Text("Delta"));
+    QCOMPARE(Module1::TrattoDescrizione[4][1], Text("dal ponte"));
+    QCOMPARE(Module1::TrattoDescrizione[2][1], Text("t"));
+    QCOMPARE(Module1::TrattoDescrizione[0][1], Text());
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteWindowTest::thePopUpBehindAListedName_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("place");
+    // Without a selection it is the route of the box, and the caption has no name to show.
+    QTest::newRow("nothing selected") << -1 << "Percorso : " << 3;
+    QTest::newRow("another one selected") << 1 << "Percorso : Beta" << 2;
+}
+
+void RouteWindowTest::thePopUpBehindAListedName()
+{
+    QFETCH(int, row);
+    QFETCH(QString, title);
+    QFETCH(int, place);
+    EntryPage page;
+    page.Start();
+    page.Open(kRoute);
+    if (row >= 0) {
+        QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtPercorso"));
+        page.ClickRow(*page.Field(kRoute).lst, row);
+        QTRY_COMPARE(Module1::PercorsoCorrente, Text("Beta"));
+        hand::Key(Qt::Key_Tab, Qt::ShiftModifier);
+    }
+    page.TypeOver(*page.Field(kRoute).txt, QStringLiteral("Gamma"));
+    page.PopUp(*page.Field(kRoute).lst, Qt::Key_D, false);
+    frmDesPercorso& window = Opened(page);
+    QCOMPARE(window.windowTitle(), title);
+    QCOMPARE(window.txtMetri[1]->text(), QString::number(place));
+    TypeInto(*window.txtTratto[1], QStringLiteral("dal ponte"));
+    page.CloseRouteWindow();
+    for (int i = 1; i <= 3; ++i) {
+        QCOMPARE(Module1::TrattoDescrizione[i][1], i == place ? Text("dal ponte") : Text("t"));
+        QCOMPARE(Module1::TrattoMetri[i][1].value(), i);
+    }
     VERIFY_SCRIPT(page.script);
 }
 
