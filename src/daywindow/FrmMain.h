@@ -262,6 +262,8 @@ private:
 
     // Dates.
     void SetToday();
+    /// Closes the open field for a step of the date; false when that opened a route's description.
+    bool LeaveFieldForDate();
     void MoveDate(const UpDown& spin, TextView interval, int step);
 
     // Day.

@@ -4,6 +4,7 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "daywindow/FrmMain.h"
+#include "toolkit/FocusController.h"
 #include "toolkit/QtText.h"
 
 #include <algorithm>
@@ -34,6 +35,17 @@ void frmMain::Data()
 void frmMain::SetToday()
 {
     DataCorrente = std::clamp(Date(), DataMinima, DataMassima);
+}
+
+bool frmMain::LeaveFieldForDate()
+{
+    FocusController& focus = FocusController::Instance();
+    const Control* current = focus.Current();
+    const bool arrows = current == upGiorno || current == upMese;
+    if (current != nullptr && !arrows && current->Widget().window() == this) {
+        focus.LeaveField();
+    }
+    return !desPercorso_.Loaded();
 }
 
 void frmMain::MoveDate(const UpDown& spin, TextView interval, int step)

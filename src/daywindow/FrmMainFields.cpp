@@ -57,7 +57,13 @@ Text ClockText(const UpDown& first, std::initializer_list<const UpDown*> rest)
 void frmMain::ConnectControls()
 {
     lblData->OnClick([this] { lblData_Click(); });
-    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] { FocusSink().SetFocus(); });
+    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] {
+        lstListaOrdinata_LostFocus();
+        FocusSink().SetFocus();
+    });
+    for (UpDown* spin : {upGiorno, upMese}) {
+        spin->BeforeStep = [this] { return LeaveFieldForDate(); };
+    }
     upGiorno->DownClick = [this] { upGiorno_DownClick(); };
     upGiorno->UpClick = [this] { upGiorno_UpClick(); };
     upMese->DownClick = [this] { upMese_DownClick(); };

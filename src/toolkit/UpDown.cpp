@@ -61,6 +61,9 @@ UpDown::Half UpDown::HalfAt(const QPointF& position) const
 
 void UpDown::Step(Half half)
 {
+    if (half != Half::None && BeforeStep && !BeforeStep()) {
+        return;
+    }
     const int value = value_.value();
     if (half == Half::Upper) {
         Fire(UpClick);

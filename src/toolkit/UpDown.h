@@ -45,6 +45,9 @@ public:
     /// The value is another one than before, by hand or by program.
     std::function<void()> Change;
 
+    /// Asked ahead of a step by hand, while no routine runs; false refuses it.
+    std::function<bool()> BeforeStep;
+
     /// A step by hand, whatever the value does.
     std::function<void()> UpClick;
     std::function<void()> DownClick;

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The ways out of a field that is open, and what is none: under a window manager each is true input of the display.
+#include "core/Conversions.h"
+#include "routes/FrmDesPercorso.h"
 #include "support/DiaryBytes.h"
 #include "support/EntryPage.h"
 #include "toolkit/OtherProgram.h"
@@ -82,6 +84,20 @@ void VerifyStillOpen(const EntryPage& page, int kind)
     }
 }
 
+/// Brings the arrows of the date up, with the focus where it was at first.
+void ShowArrows(const EntryPage& page)
+{
+    hand::Click(*page->lblData);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upGiorno"));
+    page->FocusSink().SetFocus();
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+}
+
+void StepDate(UpDown& spin, bool up)
+{
+    hand::Click(spin, {spin.width() / 2, up ? spin.height() / 4 : spin.height() * 3 / 4});
+}
+
 /// Chooses an entry of a menu of the bar, with the mouse or by the keys of both names.
 void Choose(const EntryPage& page, const char* menu, Qt::Key menuKey, Qt::Key entryKey, bool byKeys)
 {
@@ -108,7 +124,13 @@ private Q_SLOTS:
     void tabCloses();
     void labelsAndTheBackgroundAreNoWayOut_data();
     void labelsAndTheBackgroundAreNoWayOut();
-    void aSpinOfTheDateIsNoWayOut();
+    void aStepOfTheDateClosesFirst_data();
+    void aStepOfTheDateClosesFirst();
+    void aStepOfTheDateComputesTheTime();
+    void aStepOfTheDateBehindTheBoxesOfAField();
+    void aStepOfTheDateWaitsForADescription_data();
+    void aStepOfTheDateWaitsForADescription();
+    void theArrowsKeepTheirFocus();
     void anotherWindowOfTheProgramCloses_data() { AddKinds(); }
     void anotherWindowOfTheProgramCloses();
     void anotherProgramIsNoWayOut_data() { AddKinds(); }
@@ -196,17 +218,149 @@ void FieldFocusTest::labelsAndTheBackgroundAreNoWayOut()
     VERIFY_SCRIPT(page.script);
 }
 
-void FieldFocusTest::aSpinOfTheDateIsNoWayOut()
+void FieldFocusTest::aStepOfTheDateClosesFirst_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("arrow");
+    QTest::addColumn<bool>("up");
+    QTest::addColumn<QString>("date");
+    const struct {
+        const char* arrow;
+        bool up;
+        const char* date;
+    } steps[] = {{"upGiorno", true, "21/05/2026"},
+                 {"upGiorno", false, "19/05/2026"},
+                 {"upMese", true, "20/06/2026"},
+                 {"upMese", false, "20/04/2026"}};
+    for (int i = 0; i < int(std::size(kKinds)); ++i) {
+        for (const auto& step : steps) {
+            QTest::addRow("%s, %s %s", kKinds[i].name, step.arrow, step.up ? "up" : "down")
+                << i << QString::fromLatin1(step.arrow) << step.up << QString::fromLatin1(step.date);
+        }
+    }
+}
+
+void FieldFocusTest::aStepOfTheDateClosesFirst()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, arrow);
+    QFETCH(bool, up);
+    QFETCH(QString, date);
+    EntryPage page;
+    page.Start();
+    ShowArrows(page);
+    OpenAndEnter(page, kind);
+    StepDate(*page->findChild<UpDown*>(arrow), up);
+    QTRY_COMPARE(QString::fromStdString(PlainText(Module1::DataCorrente)), date);
+    QVERIFY(!IsOpen(page, kind));
+    // What was entered is the value of the day that was left, and of no other one.
+    const RecordGiorno& left = Module1::Giorni[140];
+    QCOMPARE(left.Tipo, kind == List ? Text("ab") : Text());
+    QCOMPARE(left.Km.value(), kind == Spins ? 1 : 0);
+    QCOMPARE(left.Note[4], kind == Note ? Text("ab") : Text());
+    QCOMPARE(page.Caption("lblImmisTipo"), QString());
+    QCOMPARE(page->upKM->Value().value(), 0);
+    QCOMPARE(page.Caption("lblNote4"), QString());
+    QCOMPARE(page.ListOf(5).contains(QStringLiteral("ab")), kind == List);
+    QCOMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void FieldFocusTest::aStepOfTheDateComputesTheTime()
 {
     EntryPage page;
     page.Start();
-    page->upGiorno->SetVisible(true);
-    page.Open(*page->lblImmisMetri);
-    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upMetri"));
-    hand::Click(*page->upGiorno, {page->upGiorno->width() / 2, 4});
+    ShowArrows(page);
+    page->upKM->SetValue(10);
+    page->upOraFine->SetValue(1);
+    page.Open(*page->lblImmisOraFine);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upOraFine"));
+    StepDate(*page->upGiorno, true);
     QTRY_VERIFY(Module1::GiornoCorrente == 141);
-    QCOMPARE(EntryPage::Focused(), QByteArray("upMetri"));
-    QVERIFY(page->upMetri->isVisible());
+    QCOMPARE(Module1::Giorni[140].TempoImpiegato, Text("1:00:00"));
+    QCOMPARE(Module1::Giorni[140].MediaKm, Text("6:00"));
+    QCOMPARE(page.Caption("lblOutTempoImpiegato"), QStringLiteral("0:00:00"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void FieldFocusTest::aStepOfTheDateBehindTheBoxesOfAField()
+{
+    EntryPage page;
+    page.Start();
+    ShowArrows(page);
+    page->upKM->SetValue(10);
+    page->upOraInizio->SetValue(10);
+    page->upOraFine->SetValue(9);
+    page.Open(*page->lblImmisOraFine);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upOraFine"));
+    int shown = 0;
+    page.script.Expect(Warning(QStringLiteral("L'ORA FINE E' MINORE DELL'ORA INIZIO         ")));
+    page.script.Meanwhile([&] { shown = Module1::GiornoCorrente.value(); });
+    page.script.Expect(Report(QStringLiteral("MediaKm - ERRORE : 11 Divisione per zero")));
+    StepDate(*page->upGiorno, false);
+    QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+    QCOMPARE(shown, 140);
+    // One step, however long the boxes kept the arrow from being released.
+    QTRY_VERIFY(Module1::GiornoCorrente == 139);
+    constexpr int severalRepeats = 800;
+    QVERIFY(!QTest::qWaitFor([] { return Module1::GiornoCorrente != 139; }, severalRepeats));
+    QCOMPARE(Module1::Giorni[140].TempoImpiegato, Text("-1:00:00"));
+}
+
+void FieldFocusTest::aStepOfTheDateWaitsForADescription_data()
+{
+    QTest::addColumn<QString>("arrow");
+    QTest::newRow("day") << "upGiorno";
+    QTest::newRow("month") << "upMese";
+}
+
+void FieldFocusTest::aStepOfTheDateWaitsForADescription()
+{
+    QFETCH(QString, arrow);
+    EntryPage page;
+    page.Start();
+    ShowArrows(page);
+    page.Open(1);
+    page.TypeOver(*page.Field(1).txt, QStringLiteral("Nuova"));
+    auto* spin = page->findChild<UpDown*>(arrow);
+    StepDate(*spin, true);
+    QTRY_VERIFY(page.RouteWindow() != nullptr);
+    QCOMPARE(page.RouteWindow()->windowTitle(), QStringLiteral("Percorso : Nuova"));
+    QVERIFY(Module1::DataCorrente == CalendarDate(2026, 5, 20));
+    QCOMPARE(page.Caption("lblImmisPercorso"), QStringLiteral("Nuova"));
+    EntryPage::AwaitFront(*page.RouteWindow());
+    page.RouteWindow()->txtKm[1]->SetFocus();
+    hand::Type(QStringLiteral("7"));
+    page.CloseRouteWindow();
+    // The description's total belongs to the day that the route was typed on; then the day moves.
+    QCOMPARE(page->upKM->Value().value(), 7);
+    QVERIFY(Module1::DataCorrente == CalendarDate(2026, 5, 20));
+    StepDate(*spin, true);
+    QTRY_VERIFY(Module1::DataCorrente > CalendarDate(2026, 5, 20));
+    QCOMPARE(Module1::Giorni[140].Percorso, Text("Nuova"));
+    QVERIFY(Module1::Giorni[140].Km == 7);
+    VERIFY_SCRIPT(page.script);
+}
+
+void FieldFocusTest::theArrowsKeepTheirFocus()
+{
+    EntryPage page;
+    page.Start();
+    OpenAndEnter(page, List);
+    hand::Click(*page->lblData);
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("upGiorno"));
+    QTRY_VERIFY(!IsOpen(page, List));
+    StepDate(*page->upGiorno, true);
+    QTRY_VERIFY(Module1::GiornoCorrente == 141);
+    StepDate(*page->upMese, true);
+    QTRY_VERIFY(Module1::DataCorrente == CalendarDate(2026, 6, 21));
+    QCOMPARE(EntryPage::Focused(), QByteArray("upGiorno"));
+    QVERIFY(page->upGiorno->isVisible());
+    QVERIFY(page->upMese->isVisible());
+    QTRY_VERIFY(page->upGiorno->hasFocus());
+    hand::Key(Qt::Key_Down);
+    QTRY_VERIFY(Module1::DataCorrente == CalendarDate(2026, 6, 20));
+    QCOMPARE(Module1::Giorni[140].Tipo, Text("ab"));
     VERIFY_SCRIPT(page.script);
 }
 
