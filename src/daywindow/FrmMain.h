@@ -240,6 +240,7 @@ public:
     Text FileGuida; ///< The program's help file.
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void OnUnload() override;
 
 private:
@@ -279,6 +280,8 @@ private:
     // Panels.
     void ShowTablePanel(bool visible);
     void ShowRacePanel(bool visible);
+    /// Puts the sorted list over what was shown last, as long as it is open.
+    void RaiseOrderedList();
     void ShowActiveTable();
     void ShowTableRow(i16 riga);
     void EndTable();

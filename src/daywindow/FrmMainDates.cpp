@@ -51,6 +51,7 @@ bool frmMain::LeaveFieldForDate()
 void frmMain::MoveDate(const UpDown& spin, TextView interval, int step)
 {
     Trap(FromQString(spin.objectName()) + " - ERRORE : ", [&] {
+        lstListaOrdinata_LostFocus();
         AssegnaCampi();
         AzzeraCampi();
 

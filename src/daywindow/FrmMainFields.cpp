@@ -9,7 +9,10 @@
 #include "tables/TableModel.h"
 #include "tables/TableWalk.h"
 #include "toolkit/Application.h"
+#include "toolkit/Events.h"
 #include "toolkit/SpinKeys.h"
+
+#include <QKeyEvent>
 
 #include <array>
 
@@ -76,6 +79,16 @@ void frmMain::ConnectControls()
             lstListaOrdinata_LostFocus();
         }
     };
+}
+
+/// A key that no control of the page had a use for.
+void frmMain::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Fire([this] { lstListaOrdinata_LostFocus(); });
+    } else {
+        Form::keyPressEvent(event);
+    }
 }
 
 void frmMain::ConnectSpins()
@@ -208,6 +221,7 @@ void frmMain::ShowTablePanel(bool visible)
          {lblTabNomeFile, lblKmTab, lblTempoTab, lblMediaTab, lblAndaturaTab, lblFondoTab, lblRipetizioniTab}) {
         label->SetVisible(visible);
     }
+    RaiseOrderedList();
 }
 
 } // namespace zelvia

@@ -59,6 +59,7 @@ void frmMain::ShowRacePanel(bool visible)
                          lblCategoria, lblRisultatoCat}) {
         label->SetVisible(visible);
     }
+    RaiseOrderedList();
 }
 
 } // namespace zelvia

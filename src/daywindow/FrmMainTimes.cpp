@@ -162,6 +162,14 @@ void frmMain::mnuListaWOrdinata_Click()
     });
 }
 
+void frmMain::RaiseOrderedList()
+{
+    lstListaOrdinata->raise();
+    for (Button* head : cmdLO) {
+        head->raise();
+    }
+}
+
 void frmMain::lstListaOrdinata_LostFocus()
 {
     lstListaOrdinata->Clear();

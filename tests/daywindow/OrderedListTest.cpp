@@ -41,6 +41,25 @@ bool Hidden(const EntryPage& page)
            std::none_of(page->cmdLO.begin(), page->cmdLO.end(), [](const Button* head) { return head->isVisible(); });
 }
 
+/// What lies over the list or its heads on the screen.
+QByteArrayList Covering(const EntryPage& page)
+{
+    QByteArrayList names;
+    QWidget& paper = *page->lstListaOrdinata->parentWidget();
+    const QRect area = page->lstListaOrdinata->geometry() | page->cmdLO[0]->geometry() | page->cmdLO[3]->geometry();
+    constexpr int step = 5;
+    for (int x = area.left() + 1; x < area.right(); x += step) {
+        for (int y = area.top() + 1; y < area.bottom(); y += step) {
+            Control* found = ControlOf(paper.childAt(x, y));
+            const QByteArray name = found == nullptr ? QByteArray() : found->Widget().objectName().toLatin1();
+            if (!name.isEmpty() && name != "lstListaOrdinata" && !name.startsWith("cmdLO") && !names.contains(name)) {
+                names << name;
+            }
+        }
+    }
+    return names;
+}
+
 /// A run of 50 minutes on the day on show, whose distance is then opened and left.
 void RunToday(const EntryPage& page, TextView route)
 {
@@ -64,6 +83,12 @@ private Q_SLOTS:
     void theRunOnShowIsThePages();
     void aRunWithoutTimeIsNotListed();
     void escapeHidesIt();
+    void escapeOnThePageHidesIt_data();
+    void escapeOnThePageHidesIt();
+    void aStepOfTheDateHidesIt_data();
+    void aStepOfTheDateHidesIt();
+    void itLiesOverThePlan();
+    void itLiesOverTheRace();
     void leavingHidesIt();
     void itComesUpAnew();
     void theCommandListsTheStoredRuns();
@@ -146,6 +171,90 @@ void OrderedListTest::escapeHidesIt()
     QTRY_VERIFY(Hidden(page));
     QCOMPARE(Lines(page), QStringList());
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::escapeOnThePageHidesIt_data()
+{
+    QTest::addColumn<QString>("focus");
+    for (const char* focus : {"pctGiornoAnno", "lblImmisTipo", "upGiorno"}) {
+        QTest::newRow(focus) << QString::fromLatin1(focus);
+    }
+}
+
+void OrderedListTest::escapeOnThePageHidesIt()
+{
+    QFETCH(QString, focus);
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    if (focus == QLatin1String("upGiorno")) {
+        hand::Click(*page->lblData);
+    } else {
+        dynamic_cast<Control*>(page->findChild<QWidget*>(focus))->SetFocus();
+    }
+    QTRY_COMPARE(EntryPage::Focused(), focus.toLatin1());
+    QVERIFY(Shown(page));
+    hand::Key(Qt::Key_Escape);
+    QTRY_VERIFY(Hidden(page));
+    QCOMPARE(Lines(page), QStringList());
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::aStepOfTheDateHidesIt_data()
+{
+    QTest::addColumn<QString>("arrow");
+    QTest::addColumn<bool>("focused");
+    for (const char* arrow : {"upGiorno", "upMese"}) {
+        QTest::addRow("%s", arrow) << QString::fromLatin1(arrow) << false;
+        QTest::addRow("%s, from the list", arrow) << QString::fromLatin1(arrow) << true;
+    }
+}
+
+void OrderedListTest::aStepOfTheDateHidesIt()
+{
+    QFETCH(QString, arrow);
+    QFETCH(bool, focused);
+    EntryPage page;
+    page.Start();
+    hand::Click(*page->lblData);
+    QTRY_VERIFY(page->upMese->isVisible());
+    RunToday(page, "Alfa");
+    if (focused) {
+        page.ClickRow(*page->lstListaOrdinata, 0);
+        QTRY_COMPARE(EntryPage::Focused(), QByteArray("lstListaOrdinata"));
+    }
+    page.Up(*page->findChild<UpDown*>(arrow));
+    QTRY_VERIFY(Module1::GiornoCorrente > 140);
+    QVERIFY(Hidden(page));
+    QCOMPARE(Lines(page), QStringList());
+    QCOMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::itLiesOverThePlan()
+{
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    // The tick behind a table that was closed shows the plan's slip again.
+    page->lblTimerTab->SetCaption("1");
+    QTRY_COMPARE(page.Caption("lblTimerTab"), QStringLiteral("0"));
+    QVERIFY(page->lblTabNomeFile->isVisible());
+    QCOMPARE(Covering(page), QByteArrayList());
+    QVERIFY(Shown(page));
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::itLiesOverTheRace()
+{
+    EntryPage page;
+    page.Start();
+    RunToday(page, "Alfa");
+    page->MostraRiquadriGara();
+    QVERIFY(page->lblGara->isVisible());
+    QCOMPARE(Covering(page), QByteArrayList());
+    QVERIFY(Shown(page));
     VERIFY_SCRIPT(page.script);
 }
 
