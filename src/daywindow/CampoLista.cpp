@@ -62,8 +62,7 @@ void CampoLista::Apri()
         page_.FollowInTabOrder(*controlli_.lst);
         controlli_.txt->SetVisible(true);
         controlli_.lst->SetVisible(true);
-        controlli_.txt->SetFocus();
-        page_.CursoreMano();
+        page_.EnterField(*controlli_.txt);
     });
 }
 

@@ -151,6 +151,9 @@ public:
     i16 AggiungiLista(TextBox& txt, ListBox& lst);
     /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
     void FollowInTabOrder(QWidget& field);
+    /// Gives the focus to the control of a field that opens. The hand comes with it, behind the closing of another
+    /// field.
+    void EnterField(Control& control);
     /// Fills in what is known of a route from the last day of the year that holds it.
     void CopyLastRun(const Text& percorso);
     /// Shows or hides the two entries of the pop-up that belong to the route.

@@ -58,6 +58,15 @@ void frmMain::FollowInTabOrder(QWidget& field)
     sink.setFocusPolicy(Qt::NoFocus);
 }
 
+void frmMain::EnterField(Control& control)
+{
+    control.GotFocus = [this, &control] {
+        control.GotFocus = {};
+        CursoreMano();
+    };
+    control.SetFocus();
+}
+
 void frmMain::ConnectLists()
 {
     for (const ListaScelta lista : kTutteLeListe) {

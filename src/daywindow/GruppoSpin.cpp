@@ -57,11 +57,10 @@ void GruppoSpin::Apri(const Text& apertura)
 {
     Trap(apertura + " - ERRORE : ", [this] {
         Mostra(true);
-        dati_.fuoco->SetFocus();
+        page_.EnterField(*dati_.fuoco);
         if (dati_.aperto) {
             dati_.aperto();
         }
-        page_.CursoreMano();
     });
 }
 

@@ -120,6 +120,8 @@ class FieldFocusTest : public QObject
 private Q_SLOTS:
     void anotherFieldCloses_data() { AddKinds(); }
     void anotherFieldCloses();
+    void anotherFieldHasTheHand_data();
+    void anotherFieldHasTheHand();
     void tabCloses_data();
     void tabCloses();
     void labelsAndTheBackgroundAreNoWayOut_data();
@@ -161,6 +163,52 @@ void FieldFocusTest::anotherFieldCloses()
     QTRY_VERIFY(!IsOpen(page, kind));
     QVERIFY(IsOpen(page, other));
     QCOMPARE(Entered(page, kind), Expected(kind));
+    VERIFY_SCRIPT(page.script);
+}
+
+void FieldFocusTest::anotherFieldHasTheHand_data()
+{
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::addColumn<int>("hands");
+    // A note line has no hand of its own. No list covers the second of two.
+    const struct {
+        const char* first;
+        const char* second;
+        int hands;
+    } rows[] = {{"lblImmisLunghezza", "lblImmisStagione", 15},
+                {"lblImmisTipo", "lblImmisMetri", 15},
+                {"lblImmisTipo", "lblImmisPeso", 15},
+                {"lblImmisMetri", "lblImmisTipo", 15},
+                {"lblImmisMetri", "lblImmisOraFine", 15},
+                {"lblImmisMetri", "lblImmisTempoKM", 15},
+                {"lblImmisTempoKM", "lblImmisMetri", 15},
+                {"lblNote4", "lblImmisTipo", 15},
+                {"lblImmisTipo", "lblNote4", 0},
+                {"lblImmisMetri", "lblNote4", 0}};
+    for (const auto& row : rows) {
+        QTest::addRow("%s, %s", row.first, row.second)
+            << QString::fromLatin1(row.first) << QString::fromLatin1(row.second) << row.hands;
+    }
+}
+
+void FieldFocusTest::anotherFieldHasTheHand()
+{
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    QFETCH(int, hands);
+    EntryPage page;
+    page.Start();
+    page.Open(*page->findChild<Label*>(first));
+    QTRY_VERIFY(EntryPage::Focused() != "pctGiornoAnno");
+    const QByteArray before = EntryPage::Focused();
+    page.Open(*page->findChild<Label*>(second));
+    QTRY_VERIFY(EntryPage::Focused() != before);
+    QCOMPARE(page.Hands(), hands);
+    // Closing it takes the hand away.
+    page->FocusSink().SetFocus();
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
+    QCOMPARE(page.Hands(), 0);
     VERIFY_SCRIPT(page.script);
 }
 
