@@ -118,7 +118,8 @@ void FocusController::Flush()
 
 void FocusController::Tell(Control* next)
 {
-    const Control* old = std::exchange(current_, next);
+    Control* old = std::exchange(current_, next);
+    previous_ = old;
     deferring_ = true;
     if (old != nullptr) {
         Fire(old->LostFocus);
@@ -174,6 +175,31 @@ void FocusController::SetFocus(Control& control)
     Enqueue(&control);
 }
 
+void FocusController::Grey(Control& control)
+{
+    if (&control == Focused() && HoldsFocus(control)) {
+        displaced_ = &control;
+        SinkOf(control)->Widget().setFocus(Qt::OtherFocusReason);
+    }
+    control.Widget().setEnabled(false);
+}
+
+void FocusController::EndGrey(Control& control, bool enabled)
+{
+    control.Widget().setEnabled(enabled);
+    if (displaced_ != &control) {
+        return;
+    }
+    displaced_ = nullptr;
+    if (enabled) {
+        control.Widget().setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    const bool returns = previous_ != nullptr && previous_->Visible() && previous_->Widget().isEnabled() &&
+                         previous_->Widget().window() == control.Widget().window();
+    SetFocus(returns ? *previous_ : *SinkOf(control));
+}
+
 void FocusController::LeaveField()
 {
     Control* focused = Focused();
@@ -227,6 +253,9 @@ void FocusController::Forget(Control& control)
     }
     if (displaced_ == &control) {
         displaced_ = nullptr;
+    }
+    if (previous_ == &control) {
+        previous_ = nullptr;
     }
     std::erase(waiting_, &control);
     std::erase(deferred_, &control);

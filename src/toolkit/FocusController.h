@@ -49,6 +49,12 @@ public:
     /// Brings deferred visibilities to the screen now, because a box is about to open.
     void ShowDeferred();
 
+    /// Greys a control for as long as it works. Its focus waits in the sink of its window, and nobody is told.
+    void Grey(Control& control);
+
+    /// Ends what Grey began: the control has its focus back or, when it stays grey, the one that had the focus before.
+    void EndGrey(Control& control, bool enabled);
+
     /// Sends the focus of a control that is about to be hidden to the sink of its window.
     void LeaveHidden(Control& control);
 
@@ -67,9 +73,10 @@ private:
     bool FilterPress(QWidget* widget, QEvent* event);
 
     Control* current_ = nullptr;
+    Control* previous_ = nullptr; ///< The one that had the focus before `current_`.
     std::deque<Control*> waiting_;
     std::vector<Control*> deferred_;
-    Control* displaced_ = nullptr; ///< Hidden for the time of a box while the change that gave it the focus is told.
+    Control* displaced_ = nullptr; ///< Has the focus, which lies in the sink: hidden for the time of a box, or greyed.
     bool telling_ = false;
     bool deferring_ = false;
     bool validating_ = false;

@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "toolkit/Button.h"
+#include "toolkit/FocusController.h"
 #include "toolkit/LateParts.h"
 
 #include <utility>
@@ -37,12 +38,14 @@ void PrintSheet(const Sheet& sheet)
 
 bool PrintByButton(Button& button, const std::function<Sheet()>& make)
 {
+    bool printed = false;
+    FocusController::Instance().Grey(button);
     Trap(kPrintErrors, [&] {
-        button.setEnabled(false);
         PrintSheet(make());
-        button.setEnabled(true);
+        printed = true;
     });
-    return button.isEnabled();
+    FocusController::Instance().EndGrey(button, printed);
+    return printed;
 }
 
 } // namespace zelvia

@@ -19,7 +19,7 @@ inline constexpr TextView kPrintErrors = "STAMPA - ERRORE : ";
 void PrintSheet(const Sheet& sheet);
 
 /// What a button "Stampa" does: prints the sheet that `make` lays out, the button off meanwhile. A fault is reported
-/// and leaves the button off. True when all went well.
+/// and leaves the button off, with the focus where it was before. True when all went well.
 bool PrintByButton(Button& button, const std::function<Sheet()>& make);
 
 /// Takes the printer's place in a test; an empty function puts the printer back.

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void anotherPage();
     void aPageWithoutRaces();
     void aPrinterThatFailsLeavesTheButtonOff();
+    void theFocusComesBack_data();
+    void theFocusComesBack();
     void theSheetOfARaceDayWithAPlan();
 };
 
@@ -99,6 +101,32 @@ void CalendarPrintTest::aPrinterThatFailsLeavesTheButtonOff()
     desk.Click(*desk.Window()->cmdStampa);
     QCOMPARE(tray.sheets.size(), std::size_t(1));
     VERIFY_SCRIPT(desk.script);
+}
+
+void CalendarPrintTest::theFocusComesBack_data()
+{
+    QTest::addColumn<bool>("broken");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("printed") << false << QByteArray("cmdStampa");
+    QTest::newRow("failed") << true << QByteArray("txtGare(2)");
+}
+
+void CalendarPrintTest::theFocusComesBack()
+{
+    QFETCH(bool, broken);
+    QFETCH(QByteArray, focus);
+    CalendarDesk desk;
+    PrinterTray tray;
+    desk.StartOpen();
+    hand::Click(desk.Box(Casella::Gara, 2));
+    QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtGare(2)"));
+    tray.broken = broken;
+    if (broken) {
+        desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    }
+    hand::Click(*desk.Window()->cmdStampa);
+    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    QTRY_COMPARE(EntryPage::Focused(), focus);
 }
 
 void CalendarPrintTest::theSheetOfARaceDayWithAPlan()

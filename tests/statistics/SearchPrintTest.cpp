@@ -21,6 +21,10 @@ private Q_SLOTS:
     void aChartGoesByWayOfTheClipboard();
     void aChartThatFails();
     void anEnlargedChartPrintsInItsFirstSize();
+    void theFocusComesBack_data();
+    void theFocusComesBack();
+    void theFocusComesBackToTheChart_data();
+    void theFocusComesBackToTheChart();
 };
 
 namespace
@@ -156,6 +160,64 @@ void SearchPrintTest::anEnlargedChartPrintsInItsFirstSize()
     QVERIFY(15 + copied.width() * inchesPerDot * 12 < 132);
     QVERIFY(3 + copied.height() * inchesPerDot * 6 < 47);
     VERIFY_SCRIPT(desk.script);
+}
+
+void SearchPrintTest::theFocusComesBack_data()
+{
+    QTest::addColumn<bool>("broken");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("printed") << false << QByteArray("cmdStampa");
+    QTest::newRow("failed") << true << QByteArray("cmdAvvia");
+}
+
+void SearchPrintTest::theFocusComesBack()
+{
+    QFETCH(bool, broken);
+    QFETCH(QByteArray, focus);
+    SearchDesk desk;
+    PrinterTray tray;
+    desk.StartSearch();
+    desk.Run();
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdAvvia"));
+    tray.broken = broken;
+    if (broken) {
+        desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    }
+    hand::Click(*desk->cmdStampa);
+    desk.AwaitBoxes();
+    QTRY_COMPARE(SearchDesk::Focused(), focus);
+    VERIFY_SCRIPT(desk.script);
+}
+
+void SearchPrintTest::theFocusComesBackToTheChart_data()
+{
+    QTest::addColumn<bool>("broken");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("printed") << false << QByteArray("cmdStampa");
+    QTest::newRow("failed") << true << QByteArray("cmdEsci");
+}
+
+void SearchPrintTest::theFocusComesBackToTheChart()
+{
+    QFETCH(bool, broken);
+    QFETCH(QByteArray, focus);
+    SearchDesk desk;
+    PrinterTray tray;
+    desk.StartSearch();
+    desk.Run();
+    hand::Click(*desk->cmGrafico);
+    QTRY_VERIFY(desk.Charts() != nullptr);
+    SearchDesk::AwaitFront(*desk.Charts());
+    // "Esci" has had the focus before, and only then is it the one to have it again.
+    desk.Charts()->cmdEsci->SetFocus();
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdEsci"));
+    tray.broken = broken;
+    if (broken) {
+        desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    }
+    hand::Click(*desk.Charts()->cmdStampa);
+    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    QTRY_COMPARE(SearchDesk::Focused(), focus);
 }
 
 } // namespace zelvia::test

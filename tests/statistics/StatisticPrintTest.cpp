@@ -17,6 +17,8 @@ private Q_SLOTS:
     void numbers();
     void nothingCounted();
     void aPrinterThatFailsLeavesTheButtonOff();
+    void theFocusComesBack_data();
+    void theFocusComesBack();
 };
 
 void StatisticPrintTest::values()
@@ -88,6 +90,34 @@ void StatisticPrintTest::aPrinterThatFailsLeavesTheButtonOff()
     desk.Click(*desk.Window()->cmdStampa);
     QCOMPARE(tray.sheets.size(), std::size_t(1));
     VERIFY_SCRIPT(desk.script);
+}
+
+void StatisticPrintTest::theFocusComesBack_data()
+{
+    QTest::addColumn<bool>("broken");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("printed") << false << QByteArray("cmdStampa");
+    QTest::newRow("failed") << true << QByteArray("cmdTempiLO");
+}
+
+void StatisticPrintTest::theFocusComesBack()
+{
+    QFETCH(bool, broken);
+    QFETCH(QByteArray, focus);
+    StatisticsDesk desk;
+    PrinterTray tray;
+    desk.Start();
+    StatisticsDesk::PutRun(3, "Pista", "0:40:00", "5:00");
+    desk.Choose("mnuPercorso");
+    desk.Window()->cmdTempiLO->SetFocus();
+    QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("cmdTempiLO"));
+    tray.broken = broken;
+    if (broken) {
+        desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    }
+    hand::Click(*desk.Window()->cmdStampa);
+    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    QTRY_COMPARE(StatisticsDesk::Focused(), focus);
 }
 
 } // namespace zelvia::test

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void aNewTable();
     void theButtonIsOffMeanwhile();
     void aPrinterThatFailsLeavesTheButtonOff();
+    void theFocusComesBack_data();
+    void theFocusComesBack();
 };
 
 void EditorPrintTest::whatStandsInTheBoxes()
@@ -85,6 +87,38 @@ void EditorPrintTest::aPrinterThatFailsLeavesTheButtonOff()
     desk.OpenTable("Base 10 km.tab");
     desk.Click(*desk.Editor()->cmdStampa);
     QCOMPARE(tray.sheets.size(), std::size_t(1));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorPrintTest::theFocusComesBack_data()
+{
+    QTest::addColumn<bool>("broken");
+    QTest::addColumn<QByteArray>("focus");
+    QTest::newRow("printed") << false << QByteArray("cmdStampa");
+    QTest::newRow("failed") << true << QByteArray("txtFondo(3)");
+}
+
+void EditorPrintTest::theFocusComesBack()
+{
+    QFETCH(bool, broken);
+    QFETCH(QByteArray, focus);
+    TableDesk desk;
+    PrinterTray tray;
+    desk.StartWith("Base 10 km.tab");
+    hand::Click(desk.Box(Fondo, 3));
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtFondo(3)"));
+    tray.broken = broken;
+    if (broken) {
+        desk.script.Expect(Report(QLatin1String(kPrinterReport)));
+    }
+    hand::Click(*desk.Editor()->cmdStampa);
+    desk.AwaitBoxes();
+    QTRY_COMPARE(TableDesk::Focused(), focus);
+    // Enter, where it lies, closes nothing.
+    tray.broken = false;
+    hand::Key(Qt::Key_Return);
+    QTRY_COMPARE(tray.sheets.size(), std::size_t(broken ? 0 : 2));
+    QVERIFY(desk.Editor() != nullptr);
     VERIFY_SCRIPT(desk.script);
 }
 

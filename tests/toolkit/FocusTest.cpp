@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Who is told of a change of focus, when, and what is none.
+#include "core/MessageBox.h"
+#include "support/BoxAnswer.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/FocusController.h"
@@ -31,6 +33,10 @@ private Q_SLOTS:
     void AFieldThatItClosesLeavesTheFocusToAnotherWindow();
     void AWindowThatClosesGivesTheFocusBack();
     void TheFirstFocusIsTheSink();
+    void AButtonGreyedForAWhileKeepsTheFocus();
+    void AButtonThatStaysGreyHandsTheFocusBack_data();
+    void AButtonThatStaysGreyHandsTheFocusBack();
+    void AButtonGreyedWithoutTheFocusMovesNothing();
 
 private:
     std::unique_ptr<SampleForm> form_;
@@ -50,6 +56,63 @@ void FocusTest::cleanup()
 void FocusTest::TheFirstFocusIsTheSink()
 {
     QCOMPARE(form_->Focused(), QByteArray("pctFondo"));
+}
+
+void FocusTest::AButtonGreyedForAWhileKeepsTheFocus()
+{
+    form_->Start(*form_->txtUno);
+    form_->cmdVai->Click = [this] {
+        FocusController::Instance().Grey(*form_->cmdVai);
+        form_->Tell(form_->cmdVai->isEnabled() ? "on" : "off");
+        FocusController::Instance().EndGrey(*form_->cmdVai, true);
+    };
+    hand::Click(*form_->cmdVai);
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno +cmdVai off"));
+    QVERIFY(form_->cmdVai->isEnabled());
+    QCOMPARE(form_->Focused(), QByteArray("cmdVai"));
+    // Enter presses it again, and nobody was told of anything in between.
+    hand::Key(Qt::Key_Return);
+    QTRY_COMPARE(form_->told, QByteArray("-txtUno +cmdVai off off"));
+    QCOMPARE(form_->Focused(), QByteArray("cmdVai"));
+}
+
+void FocusTest::AButtonThatStaysGreyHandsTheFocusBack_data()
+{
+    QTest::addColumn<bool>("box");
+    QTest::newRow("at once") << false;
+    QTest::newRow("behind a box") << true;
+}
+
+void FocusTest::AButtonThatStaysGreyHandsTheFocusBack()
+{
+    QFETCH(bool, box);
+    const BoxAnswer answer;
+    form_->txtDue->SetContent("Colle");
+    form_->Start(*form_->txtDue);
+    form_->cmdVai->Click = [&] {
+        FocusController::Instance().Grey(*form_->cmdVai);
+        if (box) {
+            MsgBox("PROVA", MsgButtons::OK);
+        }
+        FocusController::Instance().EndGrey(*form_->cmdVai, false);
+    };
+    hand::Click(*form_->cmdVai);
+    QTRY_COMPARE(form_->told, QByteArray("-txtDue +cmdVai -cmdVai +txtDue"));
+    QVERIFY(!form_->cmdVai->isEnabled());
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtDue"));
+    QCOMPARE(answer.Texts().size(), box ? 1 : 0);
+    hand::Type(QStringLiteral("x"));
+    QTRY_COMPARE(form_->txtDue->text(), QStringLiteral("x"));
+}
+
+void FocusTest::AButtonGreyedWithoutTheFocusMovesNothing()
+{
+    form_->Start(*form_->txtUno);
+    FocusController::Instance().Grey(*form_->cmdVai);
+    FocusController::Instance().EndGrey(*form_->cmdVai, false);
+    QVERIFY(!form_->cmdVai->isEnabled());
+    QVERIFY(StaysFalse([this] { return !form_->told.isEmpty(); }));
+    QCOMPARE(form_->Focused(), QByteArray("txtUno"));
 }
 
 void FocusTest::TheOldControlIsToldBeforeTheNewOne()
