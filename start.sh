@@ -17,7 +17,8 @@ Compila Zelvia, lo installa nella CARTELLA (di solito Zelvia, nella cartella
 personale) e apre il diario. I dati che ci sono già non vengono toccati.
 
   --demo    apre un diario di prova con un anno già scritto, in una cartella
-            sua se non è indicata la CARTELLA
+            sua se non è indicata la CARTELLA; questa deve essere nuova, vuota
+            o di un diario di prova
   --help    mostra questo testo
 
 Senza uno schermo il diario si apre su uno schermo virtuale: la fotografia della
@@ -33,17 +34,11 @@ refuse() {
 
 # The demo's own folder: in the build folder, unless the program cannot live at that place.
 demo_folder() {
-  local folder
   if folder_check "$source_folder/build/demo" 2>/dev/null; then
     echo "$source_folder/build/demo"
     return
   fi
-  folder=/tmp/zelvia-demo-$(id -u)
-  if [ -e "$folder" ] && [ ! -O "$folder" ]; then
-    echo "«$folder» è di un altro utente: indicare una CARTELLA." >&2
-    return 2
-  fi
-  echo "$folder"
+  echo "/tmp/zelvia-demo-$(id -u)"
 }
 
 demo=
@@ -73,8 +68,11 @@ if [ -z "$folder_given" ]; then
     refuse "La cartella personale non è nota (HOME): indicare una CARTELLA."
   fi
 fi
+[ -z "$demo" ] || [ -z "$folder" ] || demo_check "$folder"
 folder_make "$folder"
 folder=$folder_path
+# Once more: in a place that others write too it may have become another one meanwhile.
+[ -z "$demo" ] || demo_claim "$folder"
 
 screen=
 [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || screen=yes

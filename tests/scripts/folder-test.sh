@@ -74,6 +74,51 @@ expect "a check makes nothing" "$(find "$work" | grep -vx "$work/errors" | sort)
 folder_make "$work/nuova/Zelvia"
 expect "a folder that is made is empty" "$(find "$work/nuova")" "$work/nuova"$'\n'"$work/nuova/Zelvia"
 
+# The sample year goes to no folder of a runner's own, and to none by a link. What is in it stays as it is.
+. "$source_folder/packaging/sample-year.sh"
+mkdir -p "$work/diario/ZelviaFile" "$work/diario/prova" "$work/nascosto" "$work/falso" "$work/segno/.zelvia-demo"
+echo mio >"$work/diario/ZelviaFile/prova.zlv"
+touch "$work/nascosto/.mio"
+ln -s ../un\ file "$work/falso/.zelvia-demo"
+ln -s vuota "$work/alla vuota"
+ln -s manca "$work/nel vuoto"
+before=$(find "$work" | sort)
+refused=(
+  "$work/diario" "non è vuota e non è di un diario di prova"
+  "diario/" "non è vuota e non è di un diario di prova"
+  "$work/nascosto" "non è vuota e non è di un diario di prova"
+  "$work/falso" "non è vuota e non è di un diario di prova"
+  "$work/segno" "non è vuota e non è di un diario di prova"
+  "$work/alla vuota" "è un collegamento"
+  "alla vuota" "è un collegamento"
+  "alla vuota//" "è un collegamento"
+  "$work/nel vuoto" "è un collegamento"
+  "$work/circolo-a" "è un collegamento"
+)
+[ "$(id -u)" -ne 0 ] || { mkdir "$work/altrui" && chown 65534 "$work/altrui" &&
+  before=$(find "$work" | sort) && refused+=("$work/altrui" "è di un altro utente"); }
+for ((i = 0; i < ${#refused[@]}; i += 2)); do
+  run "$source_folder/start.sh" --demo -- "${refused[i]}"
+  expect "demo in «${refused[i]}»: exit status" "$status" 2
+  expect "demo in «${refused[i]}»: output" "$output" ""
+  expect "demo in «${refused[i]}»: reason" "${errors%%.*}" \
+    "Il diario di prova non può stare in «${refused[i]}»: la cartella ${refused[i + 1]}"
+done
+expect "a refused demo leaves nothing behind" "$(find "$work" | sort)" "$before"
+expect "a diary there" "$(<"$work/diario/ZelviaFile/prova.zlv")" mio
+
+# Its own folder it takes again and again, whatever is in it by then.
+for folder in "$work/vuota" "$work/nuova/Zelvia" "vuota/"; do
+  run demo_claim "$folder"
+  expect "demo in «$folder»" "$status$errors" 0
+  touch "$folder/nomeload"
+  run demo_claim "$folder"
+  expect "demo in «$folder» again" "$status$errors" 0
+done
+run demo_check "$work/manca"
+expect "demo in a new folder" "$status$errors" 0
+expect "a check makes nothing" "$(ls -d "$work/manca" 2>/dev/null)" ""
+
 # The options, then the exit status and the first words.
 run "$source_folder/start.sh" --prova
 expect "an unknown option" "$status ${errors%%$'\n'*}" "2 Opzione sconosciuta: --prova"
