@@ -13,7 +13,7 @@ using namespace zelvia::fuzz;
 namespace
 {
 
-/// One or two digits, one or two digits, two to four digits, each with blanks around.
+/// One or two digits, one or two digits, then one, two or four digits, each with blanks around.
 bool HasTheForm(const Text& text)
 {
     std::size_t at = 0;
@@ -30,7 +30,7 @@ bool HasTheForm(const Text& text)
             ++digits;
         }
         skipBlanks();
-        if (digits < longest / 2 || digits < 1 || digits > longest) {
+        if (digits < 1 || digits == 3 || digits > longest) {
             return false;
         }
         const bool last = longest == 4;

@@ -20,7 +20,7 @@ constexpr std::array<TextView, 12> kMonthNames = {"gennaio",   "febbraio", "marz
                                                   "maggio",    "giugno",   "luglio",   "agosto",
                                                   "settembre", "ottobre",  "novembre", "dicembre"};
 
-// The last two-digit year that counts as of this century, as the Italian short date reads it.
+// The last short year that counts as of this century, as the Italian short date reads it.
 constexpr int kLastShortYear = 29;
 
 std::function<CalendarDate()>& Clock()
@@ -38,6 +38,17 @@ int DatePart(TextView text, std::size_t minDigits, std::size_t maxDigits)
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }
     return value;
+}
+
+/// The year of a date that was typed.
+int YearPart(TextView text)
+{
+    const int year = DatePart(text, 1, 4);
+    switch (text.size()) {
+    case 4: return year;
+    case 3: throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    default: return year + (year <= kLastShortYear ? 2000 : 1900);
+    }
 }
 
 Text FormatPart(CalendarDate date, char letter, std::size_t count)
@@ -107,11 +118,7 @@ CalendarDate DateValue(TextView text)
     }
     const int day = DatePart(Trim(text.substr(0, first)), 1, 2);
     const int month = DatePart(Trim(text.substr(first + 1, second - first - 1)), 1, 2);
-    const Text yearText = Trim(text.substr(second + 1));
-    int year = DatePart(yearText, 2, 4);
-    if (yearText.size() == 2) {
-        year += year <= kLastShortYear ? 2000 : 1900;
-    }
+    const int year = YearPart(Trim(text.substr(second + 1)));
     return {year, static_cast<unsigned>(month), static_cast<unsigned>(day)};
 }
 

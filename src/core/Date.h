@@ -80,8 +80,10 @@ CalendarDate Date();
 /// Replaces the clock behind Date(); an empty function puts the system's own back.
 void SetClock(std::function<CalendarDate()> clock);
 
-/// Reads day/month/year: one or two digits, one or two digits, two to four digits, blanks around each part allowed.
-/// A year of two digits stands for 1930..2029. Raises error 13 on anything else and on a day that does not exist.
+/// Reads day/month/year: one or two digits, one or two digits, then one, two or four digits, blanks around each part
+/// allowed. A year of one or two digits stands for 1930..2029: 30..99 are of the last century, 0..29 of this one.
+/// Raises error 13 on anything else, a year of three digits too, and on a day that does not exist. The boxes for dates
+/// correct a year before 2007 or 2008 first, so short years come from no box.
 CalendarDate DateValue(TextView text);
 
 /// `interval` "d" adds `number` days, "m" adds months. Raises error 5 for any other interval, 6 out of range.

@@ -60,7 +60,23 @@ void DateTest::DateValueReadsDayMonthYear_data()
     row("29/02/2008", "29/02/2008");
     row("29/02/2000", "29/02/2000");
     row("31/12/9999", "31/12/9999");
-    row("01/01/100", "01/01/0100");
+    row("01/01/0100", "01/01/0100");
+    // Short years.
+    row("01/03/0", "01/03/2000");
+    row("01/03/5", "01/03/2005");
+    row("01/03/ 9 ", "01/03/2009");
+    row("01/03/00", "01/03/2000");
+    row("01/03/08", "01/03/2008");
+    row("01/03/29", "01/03/2029");
+    row("01/03/30", "01/03/1930");
+    row("01/03/99", "01/03/1999");
+    row("29/02/0", "29/02/2000");
+    row("29/02/30", "");
+    row("01/03/126", "");
+    row("01/03/100", "");
+    row("01/03/008", "");
+    row("01/03/999", "");
+    row("01/03/0008", "");
     row("13/01/2008", "13/01/2008");
     row("", "");
     row(" ", "");
@@ -112,7 +128,7 @@ void DateTest::DateAddOfDays_data()
     QTest::newRow("back over the year") << QByteArray("01/01/2008") << -1 << QByteArray("31/12/2007");
     QTest::newRow("none") << QByteArray("15/06/2007") << 0 << QByteArray("15/06/2007");
     QTest::newRow("a leap year") << QByteArray("01/01/2008") << 366 << QByteArray("01/01/2009");
-    QTest::newRow("from the first to the last") << QByteArray("01/01/100") << 3615899 << QByteArray("31/12/9999");
+    QTest::newRow("from the first to the last") << QByteArray("01/01/0100") << 3615899 << QByteArray("31/12/9999");
 }
 
 void DateTest::DateAddOfDays()
