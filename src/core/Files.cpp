@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace zelvia
 {
@@ -100,6 +102,24 @@ std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
     return names;
 }
 
+/// Syncs an open file or folder; the errno of a failure, else 0. What has nothing to sync, as a device, is no failure.
+int SyncFailure(int descriptor)
+{
+    while (::fsync(descriptor) != 0) {
+        if (errno != EINTR) {
+            return errno == EINVAL || errno == ENOTSUP ? 0 : errno;
+        }
+    }
+    return 0;
+}
+
+void RaiseFailure(int errnoValue)
+{
+    if (errnoValue != 0) {
+        throw ErroreRunTime(ErrorOfErrno(errnoValue));
+    }
+}
+
 } // namespace
 
 const Text& ProgramFolder()
@@ -190,7 +210,7 @@ int ErrorOfErrno(int errnoValue)
     }
 }
 
-FileHandle OpenFile(TextView path, OpenMode mode)
+FileHandle OpenFile(TextView path, OpenMode mode, fs::path* newIn)
 {
     const fs::path native = NativePath(path);
     std::error_code ignored;
@@ -210,7 +230,27 @@ FileHandle OpenFile(TextView path, OpenMode mode)
         throw ErroreRunTime(ErrorOfErrno(reason));
     }
     std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    if (newIn != nullptr) {
+        *newIn = mode == OpenMode::Output && !fs::exists(status) ? native.parent_path() : fs::path();
+    }
     return file;
+}
+
+void SyncFile(std::FILE* file)
+{
+    RaiseFailure(SyncFailure(::fileno(file)));
+}
+
+void SyncNames(const fs::path& folder)
+{
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) {
+        RaiseFailure(errno == EACCES || errno == EPERM ? 0 : errno);
+        return;
+    }
+    const int failure = SyncFailure(descriptor);
+    ::close(descriptor);
+    RaiseFailure(failure);
 }
 
 Text FindFolder(TextView path)
@@ -265,6 +305,7 @@ void MakeFolder(TextView path)
     if (!fs::create_directory(native, failed)) {
         throw ErroreRunTime(failed ? ErrorOfErrno(failed.value()) : Errore::AccessoPercorso);
     }
+    SyncNames(native.parent_path());
 }
 
 } // namespace zelvia

@@ -43,8 +43,16 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Opens a file whole, unbuffered; Output creates or empties it at once. Raises error 53 for a missing file at Input,
 /// 76 for a missing folder, 75 for no permission and for anything but a file (at Output also a character device), and
-/// the others of ErrorOfErrno.
-FileHandle OpenFile(TextView path, OpenMode mode);
+/// the others of ErrorOfErrno. `newIn`, if given, is set to the folder in which Output has made the file, empty if it
+/// was there.
+FileHandle OpenFile(TextView path, OpenMode mode, std::filesystem::path* newIn = nullptr);
+
+/// Returns when what was written to the file is on the disk. What can't be synced, as a device, counts as written.
+/// Raises error 61 when the disk turns out to be full, 57 on another failure.
+void SyncFile(std::FILE* file);
+
+/// The same for the names in a folder, behind the making of a file in it. A folder that may not be read is left alone.
+void SyncNames(const std::filesystem::path& folder);
 
 /// The error number of a failed call of the system on a file: 52, 57, 61, 67, 70, 75 or 76.
 int ErrorOfErrno(int errnoValue);
@@ -63,7 +71,7 @@ std::vector<Text> ReadFolder(TextView folder);
 /// Deletes a file. Raises error 53 when it is absent, 75 for a folder or without permission.
 void DeleteFile(TextView path);
 
-/// Raises error 75 when the folder exists or can't be made, 76 when its parent is missing.
+/// Makes a folder and syncs its name. Raises error 75 when it exists or can't be made, 76 when its parent is missing.
 void MakeFolder(TextView path);
 
 } // namespace zelvia

@@ -100,7 +100,7 @@ int DateDigits(TextView text)
 
 } // namespace
 
-ValueWriter::ValueWriter(TextView path) : file_(OpenFile(path, OpenMode::Output)) {}
+ValueWriter::ValueWriter(TextView path) : file_(OpenFile(path, OpenMode::Output, &newIn_)) {}
 
 void ValueWriter::Append(const char* bytes, std::size_t count)
 {
@@ -164,9 +164,13 @@ void ValueWriter::Write(CalendarDate date)
 void ValueWriter::Close()
 {
     Flush();
+    SyncFile(file_.get());
     errno = 0;
     if (std::fclose(file_.release()) != 0) {
         throw ErroreRunTime(ErrorOfErrno(errno));
+    }
+    if (!newIn_.empty()) {
+        SyncNames(newIn_);
     }
 }
 

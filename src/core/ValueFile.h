@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstring>
+#include <filesystem>
 #include <string>
 
 namespace zelvia
@@ -39,8 +40,8 @@ public:
     void Write(i32 number) { WriteDigits(number.value()); }
     void Write(CalendarDate date);
 
-    /// Brings everything to the file and closes it. A writer destroyed without it leaves the file as far as it was
-    /// written.
+    /// Brings everything to the disk, a new file's name too, and closes the file. A writer destroyed without it leaves
+    /// the file as far as it was written.
     void Close();
 
 private:
@@ -49,6 +50,7 @@ private:
     void Append(const char* bytes, std::size_t count);
     void Flush();
 
+    std::filesystem::path newIn_; ///< The folder that the file is new in, else empty.
     FileHandle file_;
     std::array<char, 1 << 16> buffer_;
     std::size_t used_ = 0;

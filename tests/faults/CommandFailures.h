@@ -30,6 +30,8 @@ inline constexpr Failure kWriteFailures[] = {
     {"write, disk full", Call::Write, ENOSPC, "61 Disco pieno"},
     {"write, device", Call::Write, EIO, "57 Errore della periferica"},
     {"close", Call::Close, EDQUOT, "61 Disco pieno"},
+    {"sync, disk full", Call::Sync, ENOSPC, "61 Disco pieno"},
+    {"sync, device", Call::Sync, EIO, "57 Errore della periferica"},
 };
 
 inline constexpr Failure kReadFailures[] = {

@@ -36,6 +36,25 @@ std::map<int, std::string>& ListedFolders()
     return folders;
 }
 
+/// What can be synced while a disk watches, by descriptor.
+struct Syncable {
+    std::string path;
+    bool folder;
+};
+
+std::map<int, Syncable>& Syncables()
+{
+    static thread_local std::map<int, Syncable> open;
+    return open;
+}
+
+/// The descriptors of streams of one's own making, of which the C library knows none.
+std::map<std::FILE*, int>& StreamDescriptors()
+{
+    static thread_local std::map<std::FILE*, int> descriptors;
+    return descriptors;
+}
+
 // As much as a reader asks for at a time. A stream of one's own making takes that in one call only from a buffer.
 constexpr size_t kPiece = 1 << 15;
 
@@ -94,6 +113,8 @@ ssize_t WriteStream(void* cookie, const char* buffer, size_t size)
 int CloseStream(void* cookie)
 {
     const std::unique_ptr<Stream> stream(static_cast<Stream*>(cookie));
+    Syncables().erase(stream->descriptor);
+    std::erase_if(StreamDescriptors(), [&](const auto& open) { return open.second == stream->descriptor; });
     const int closed = close(stream->descriptor);
     return Allows(Call::Close, stream->path, stream->writes) ? closed : -1;
 }
@@ -110,6 +131,8 @@ std::FILE* OpenStream(const char* path, const char* mode)
     }
     auto* stream = new Stream{descriptor, path, !reads, std::vector<char>(reads ? kPiece : 0)};
     std::FILE* file = fopencookie(stream, mode, {ReadStream, WriteStream, nullptr, CloseStream});
+    Syncables()[descriptor] = {path, false};
+    StreamDescriptors()[file] = descriptor;
     if (reads) {
         std::setvbuf(file, stream->buffer.data(), _IOFBF, kPiece);
         BufferedStreams().insert(file);
@@ -136,6 +159,8 @@ FaultyDisk::~FaultyDisk()
     Current() = nullptr;
     ListedFolders().clear();
     BufferedStreams().clear();
+    Syncables().clear();
+    StreamDescriptors().clear();
 }
 
 FaultyDisk* FaultyDisk::Watching(const char* path)
@@ -194,6 +219,50 @@ int setvbuf(std::FILE* file, char* buffer, int mode, size_t size) noexcept
 {
     static const auto next = Next<int (*)(std::FILE*, char*, int, size_t)>("setvbuf");
     return BufferedStreams().contains(file) ? 0 : next(file, buffer, mode, size);
+}
+
+int fileno(std::FILE* file) noexcept
+{
+    static const auto next = Next<int (*)(std::FILE*)>("fileno");
+    const auto& streams = StreamDescriptors();
+    const auto found = streams.empty() ? streams.end() : streams.find(file);
+    return found == streams.end() ? next(file) : found->second;
+}
+
+/// How a folder is opened to be synced.
+int open(const char* path, int flags, ...)
+{
+    static const auto next = Next<int (*)(const char*, int, mode_t)>("open");
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    // The folder watched counts too.
+    const std::string below = std::string(path) + "/";
+    const bool folder = (flags & O_DIRECTORY) != 0 && FaultyDisk::Watching(below.c_str()) != nullptr;
+    if (folder && !Allows(Call::SyncFolder, below)) {
+        return -1;
+    }
+    const int descriptor = next(path, flags, mode);
+    // The number may be that of a folder that has been synced.
+    Syncables().erase(descriptor);
+    if (folder && descriptor >= 0) {
+        Syncables()[descriptor] = {below, true};
+    }
+    return descriptor;
+}
+
+int fsync(int descriptor)
+{
+    static const auto next = Next<int (*)(int)>("fsync");
+    const auto& syncables = Syncables();
+    const auto found = syncables.find(descriptor);
+    if (found == syncables.end()) {
+        return next(descriptor);
+    }
+    // What a test writes need not last, and its hundreds of syncs would take their time.
+    const auto [path, folder] = found->second;
+    return Allows(folder ? Call::SyncFolder : Call::Sync, path, !folder) ? 0 : -1;
 }
 
 /// How the standard library begins to list a folder.

@@ -10,9 +10,9 @@
 namespace zelvia::test
 {
 
-/// What is asked of the system for a file: opening it, reading, writing and closing it; listing a folder, the next of
-/// its names; making a folder; deleting a file; looking at what a path leads to.
-enum class Call { Open, Read, Write, Close, List, NextName, Make, Delete, Look };
+/// What is asked of the system for a file: opening it, reading, writing, closing and syncing it; listing a folder, the
+/// next of its names; making a folder, opening and syncing one; deleting a file; looking at what a path leads to.
+enum class Call { Open, Read, Write, Close, Sync, List, NextName, Make, SyncFolder, Delete, Look };
 
 /// A call as it came.
 struct Caught {

@@ -30,12 +30,17 @@ private Q_SLOTS:
     void init();
     void Writing_data();
     void Writing();
+    void WritingWhatCannotBeSynced_data();
+    void WritingWhatCannotBeSynced();
+    void WritingANewFile_data() { AddFileRows(); }
+    void WritingANewFile();
     void Opening_data() { AddFileRows(); }
     void Opening();
     void Reading_data();
     void Reading();
     void MakingAFolder_data();
     void MakingAFolder();
+    void SyncingAFoldersName();
     void Deleting_data();
     void Deleting();
     void ListingAFolder_data();
@@ -67,7 +72,7 @@ struct Failure {
 
 constexpr Failure kWriteFailures[] = {
     {Call::Open, EACCES, 75}, {Call::Open, ENOENT, 76}, {Call::Write, ENOSPC, 61},
-    {Call::Write, EIO, 57},   {Call::Close, EIO, 57},
+    {Call::Write, EIO, 57},   {Call::Close, EIO, 57},   {Call::Sync, EIO, 57},
 };
 
 constexpr Failure kReadFailures[] = {
@@ -87,11 +92,12 @@ constexpr std::pair<int, int> kOpenReasons[] = {
 constexpr const char* kFileOfReasons = "CalendarioGare";
 
 constexpr Failure kWriteReasons[] = {
-    {Call::Write, EDQUOT, 61},
-    {Call::Write, EFBIG, 61},
-    {Call::Close, ENOSPC, 61},
-    {Call::Close, EDQUOT, 61},
+    {Call::Write, EDQUOT, 61}, {Call::Write, EFBIG, 61}, {Call::Close, ENOSPC, 61}, {Call::Close, EDQUOT, 61},
+    {Call::Sync, ENOSPC, 61},  {Call::Sync, EDQUOT, 61}, {Call::Sync, EROFS, 75},
 };
+
+// A file system that can't sync says so, and a call that was interrupted is made again.
+constexpr Failure kNoFailures[] = {{Call::Sync, EINVAL, 0}, {Call::Sync, ENOTSUP, 0}, {Call::Sync, EINTR, 0}};
 
 constexpr Failure kReadReasons[] = {{Call::Read, EISDIR, 75}, {Call::Read, EAGAIN, 70}};
 
@@ -119,7 +125,8 @@ constexpr Failure kListFailures[] = {
 
 QByteArray NameOf(const Failure& failure)
 {
-    constexpr const char* calls[] = {"open", "read", "write", "close", "list", "next name", "make", "delete", "look"};
+    constexpr const char* calls[] = {"open",      "read", "write",   "close",  "sync", "list",
+                                     "next name", "make", "sync of", "delete", "look"};
     return QByteArray(calls[static_cast<int>(failure.call)]) + ", " + strerrorname_np(failure.reason);
 }
 
@@ -216,13 +223,58 @@ void FileFaultsTest::Writing()
         const std::size_t start = (n - 1) * kWritten;
         // A disk that fills up takes a part of the piece.
         const std::size_t taken = reason == EIO ? 0 : std::min(kWritten, whole.size() - start) / 2;
-        const std::string expected = writes                ? whole.substr(0, start + taken)
-                                     : kind == Call::Close ? whole
-                                                           : std::string("vecchio");
+        const std::string expected = writes               ? whole.substr(0, start + taken)
+                                     : kind == Call::Open ? std::string("vecchio")
+                                                          : whole;
         QCOMPARE(Difference(left, expected), QByteArray());
     }
     const int none = static_cast<int>(last) + 1;
     QCOMPARE(Difference(WriteOnce(saved, {kind, none, reason, {}, {}}, 0), whole), QByteArray());
+}
+
+void FileFaultsTest::WritingWhatCannotBeSynced_data()
+{
+    AddFilesWithFailures(kNoFailures);
+}
+
+void FileFaultsTest::WritingWhatCannotBeSynced()
+{
+    QFETCH(int, file);
+    QFETCH(int, reason);
+    const SavedFile& saved = FileOf(file);
+    saved.fill();
+    const FaultyDisk disk(folder_.Native(), {Call::Sync, 1, reason, {}, {}});
+    WriteFor(saved, 0);
+    QCOMPARE(disk.Calls(), std::vector<Caught>(reason == EINTR ? 2 : 1, Caught{saved.name, true}));
+    QCOMPARE(Difference(folder_.Read(saved.name), Lines(saved.lines())), QByteArray());
+}
+
+/// The name of a new file is synced as its bytes are, and the folder of an old one left alone.
+void FileFaultsTest::WritingANewFile()
+{
+    const SavedFile& saved = FetchedFile();
+    saved.fill();
+    const auto write = [&](int nth, int reason, int error, std::size_t calls) {
+        const int descriptors = OpenDescriptors();
+        const FaultyDisk disk(folder_.Native(), {Call::SyncFolder, nth, reason, {}, {}});
+        WriteFor(saved, error);
+        QCOMPARE(disk.Calls(), std::vector<Caught>(calls, Caught{}));
+        QCOMPARE(Difference(folder_.Read(saved.name), Lines(saved.lines())), QByteArray());
+        QCOMPARE(OpenDescriptors(), descriptors);
+    };
+    const auto writeNew = [&](int nth, int reason, int error, std::size_t calls) {
+        std::filesystem::remove(folder_.Native(saved.name));
+        write(nth, reason, error, calls);
+    };
+    constexpr int opening = 1;
+    constexpr int syncing = 2;
+    writeNew(opening, 0, 0, 2);
+    writeNew(opening, EMFILE, 67, 1);
+    writeNew(opening, EACCES, 0, 1);
+    writeNew(syncing, EIO, 57, 2);
+    writeNew(syncing, ENOSPC, 61, 2);
+    writeNew(syncing, EINVAL, 0, 2);
+    write(opening, EIO, 0, 0);
 }
 
 /// Neither the file nor what is in memory changes, whatever the reason.
@@ -311,6 +363,15 @@ void FileFaultsTest::MakingAFolder()
         QVERIFY(!folder.Has("nuova"));
         QCOMPARE(RaisedBy([&] { MakeFolder(folder.Path("nuova")); }), 0);
     }
+    QVERIFY(folder.Has("nuova"));
+}
+
+/// The folder is there even so.
+void FileFaultsTest::SyncingAFoldersName()
+{
+    const TempFolder folder;
+    const FaultyDisk disk(folder.Native(), {Call::SyncFolder, 2, EIO, {}, {}});
+    QCOMPARE(RaisedBy([&] { MakeFolder(folder.Path("nuova")); }), 57);
     QVERIFY(folder.Has("nuova"));
 }
 

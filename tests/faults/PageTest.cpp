@@ -162,6 +162,7 @@ class PageTest : public QObject
 private Q_SLOTS:
     void save_data() { AddFailures(kWriteFailures); }
     void save();
+    void saveIsOnTheDiskWhenItCounts();
     void open_data() { AddFailures(kReadFailures); }
     void open();
     void restoreTheLists_data() { AddFailures(kReadFailures); }
@@ -219,6 +220,30 @@ void PageTest::save()
     for (const FileTitle& file : kSaved) {
         QVERIFY2(page.folder.Read(PathOf(file)) == SavedBytes(file), file.file);
     }
+}
+
+/// The diary is synced before it counts as saved, and each of its companions before the command ends.
+void PageTest::saveIsOnTheDiskWhenItCounts()
+{
+    DayPage page(CalendarDate(2026, 3, 1));
+    page.Start();
+    Module1::FileModificato = 1;
+    bool modified = false;
+    QByteArray left;
+    const FaultyDisk disk(NativeOf(page), {Call::Sync, 1, 0, {}, [&] {
+                                               modified = Module1::FileModificato == 1;
+                                               left = page.folder.Read(PathOf(kSaved[0]));
+                                           }});
+    page.Menu("mnuFile", Qt::Key_S);
+    VERIFY_SCRIPT(page.script);
+    QVERIFY(modified);
+    QVERIFY(left == SavedBytes(kSaved[0]));
+    QVERIFY(Module1::FileModificato == 0);
+    std::vector<Caught> synced;
+    for (const FileTitle& file : kSaved) {
+        synced.push_back({file.file, true});
+    }
+    QVERIFY(disk.Calls() == synced);
 }
 
 void PageTest::open()

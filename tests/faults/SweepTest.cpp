@@ -213,21 +213,21 @@ constexpr int kNoNames = 3;
 
 constexpr Command kCommands[] = {
     {"start", "orcln", LaySample, nullptr, GiveStart, "Load - ERRORE : ", kSampleNames},
-    {"first use", "orwclnm", LayNoFolder, nullptr, GiveStart, "Load - ERRORE : ", kNoNames},
-    {"start, empty folder", "orwcln", LayEmptyFolder, nullptr, GiveStart, "Load - ERRORE : ", kNoNames},
-    {"save", "owc", LaySample, Begin, GiveSave, nullptr},
-    {"save as", "owclnm", LaySample, Begin, GiveSaveAs, "mnuFileSaveAs - ERRORE : "},
-    {"save as, empty folder", "owcln", LayEmptyCopy, Begin, GiveSaveAs, "mnuFileSaveAs - ERRORE : ", kNoNames},
+    {"first use", "orwsclnm", LayNoFolder, nullptr, GiveStart, "Load - ERRORE : ", kNoNames},
+    {"start, empty folder", "orwscln", LayEmptyFolder, nullptr, GiveStart, "Load - ERRORE : ", kNoNames},
+    {"save", "owsc", LaySample, Begin, GiveSave, nullptr},
+    {"save as", "owsclnm", LaySample, Begin, GiveSaveAs, "mnuFileSaveAs - ERRORE : "},
+    {"save as, empty folder", "owscln", LayEmptyCopy, Begin, GiveSaveAs, "mnuFileSaveAs - ERRORE : ", kNoNames},
     {"open", "orcln", LaySample, Begin, GiveOpen, "mnuFileOpen - ERRORE : ", kSampleNames},
-    {"save before open", "owc", LaySample, Begin, GiveSaveBeforeOpen, nullptr},
+    {"save before open", "owsc", LaySample, Begin, GiveSaveBeforeOpen, nullptr},
     {"lists as saved", "orc", LaySample, Begin, GiveRestore, nullptr},
     {"races", "orc", LaySample, Begin, GiveRaces, nullptr},
-    {"save of the races", "owc", LaySample, BeginWithRaces, GiveSaveOfRaces, nullptr},
+    {"save of the races", "owsc", LaySample, BeginWithRaces, GiveSaveOfRaces, nullptr},
     {"tables", "ln", LaySample, Begin, GiveTables, "Load - ERRORE : ", kSampleNames},
     {"table", "orc", LaySample, BeginWithList, GiveTable, nullptr},
-    {"delete a table", "owclnd", LaySample, BeginWithList, GiveDelete, "cmdCancellaTab - ERRORE : ", kSampleNames - 1},
-    {"deactivate a table", "owc", LaySample, BeginWithEditor, GiveDeactivate, nullptr},
-    {"save a table", "owcln", LaySample, BeginWithEditor, GiveSaveOfTable, nullptr},
+    {"delete a table", "owsclnd", LaySample, BeginWithList, GiveDelete, "cmdCancellaTab - ERRORE : ", kSampleNames - 1},
+    {"deactivate a table", "owsc", LaySample, BeginWithEditor, GiveDeactivate, nullptr},
+    {"save a table", "owscln", LaySample, BeginWithEditor, GiveSaveOfTable, nullptr},
     {"leave a table", "orcln", LaySample, BeginWithEditor, GiveLeave, "ERRORE : ", kSampleNames},
     {"hand pointer", "orc", LaySample, Begin, GiveHand, nullptr},
 };
@@ -246,6 +246,7 @@ constexpr Kind kKinds[] = {
     {'r', "read", Call::Read, EIO, "57 Errore della periferica"},
     {'w', "write", Call::Write, EIO, "57 Errore della periferica"},
     {'c', "close", Call::Close, EIO, "57 Errore della periferica"},
+    {'s', "sync", Call::Sync, EIO, "57 Errore della periferica"},
     {'l', "list", Call::List, EMFILE, "67 Troppi file aperti"},
     {'n', "next name", Call::NextName, EIO, "57 Errore della periferica"},
     {'m', "make", Call::Make, EROFS, "75 Errore di accesso al file o alla cartella"},
@@ -299,7 +300,7 @@ ExpectedBox ReportOf(const Caught& call, const char* error)
 std::optional<ExpectedBox> ReportOfReading(const Caught& written, Call failed)
 {
     const bool list = EndsWith(written, ".lsx");
-    if (failed == Call::Close || (failed == Call::Write && list) ||
+    if (failed == Call::Close || failed == Call::Sync || (failed == Call::Write && list) ||
         (failed == Call::Open && EndsWith(written, "nometab"))) {
         return std::nullopt;
     }
