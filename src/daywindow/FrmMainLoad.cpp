@@ -32,6 +32,15 @@ constexpr TextView kStartPointer = "\\nomeload";
 constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
 constexpr int kTickMilliseconds = 500;
 
+void BringToFront(QWidget* window)
+{
+    if (window != nullptr && window->isVisible()) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->raise();
+        window->activateWindow();
+    }
+}
+
 } // namespace
 
 frmMain::frmMain()
@@ -56,11 +65,17 @@ frmMain::frmMain()
     ConnectSplits();
     ConnectNotes();
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
+    Application::Instance().ShowAgain = [this] {
+        BringToFront(this);
+        // A box over the page, or over another window, stays in front.
+        BringToFront(QApplication::activeModalWidget());
+    };
 }
 
 frmMain::~frmMain()
 {
     Application::Instance().HelpKey = {};
+    Application::Instance().ShowAgain = {};
 }
 
 bool frmMain::FormLoad()

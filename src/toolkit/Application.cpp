@@ -21,8 +21,10 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
-#include <vector>
+#include <thread>
+#include <utility>
 
 namespace zelvia
 {
@@ -107,9 +109,18 @@ bool Application::TakeInstanceLock()
 {
     ReleaseInstanceLock();
     QString path = ToQString(ProgramFolder() + "\\.zelvia.lock");
-    lock_ = std::make_unique<QLockFile>(path.replace(QLatin1Char('\\'), QLatin1Char('/')));
-    lock_->setStaleLockTime(0);
-    return lock_->tryLock() || lock_->error() != QLockFile::LockFailedError;
+    auto lock = std::make_unique<InstanceLock>(path.replace(QLatin1Char('\\'), QLatin1Char('/')));
+    // Who looks whether the diary is open holds the lock for a moment, and a run that has just begun can't answer yet.
+    constexpr std::chrono::milliseconds pause(10);
+    for (int tries = 20; !lock->Take(); --tries) {
+        if (lock->Ask() || tries == 0) {
+            return false;
+        }
+        std::this_thread::sleep_for(pause);
+    }
+    lock->Answer([this] { Fire(ShowAgain); });
+    lock_ = std::move(lock);
+    return true;
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

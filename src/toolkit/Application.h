@@ -3,10 +3,10 @@
 #pragma once
 
 #include "core/Text.h"
+#include "toolkit/InstanceLock.h"
 
 #include <QApplication>
 #include <QCursor>
-#include <QLockFile>
 
 #include <functional>
 #include <memory>
@@ -27,9 +27,12 @@ public:
     static Application& Instance() { return *static_cast<Application*>(QCoreApplication::instance()); }
 
     /// Takes the lock of the program's folder for the life of the application, giving up one taken before. False when
-    /// another run holds it; a folder that can't be written counts as free.
+    /// another run holds it, which is then asked for its window; a folder that can't be written counts as free.
     bool TakeInstanceLock();
     void ReleaseInstanceLock() { lock_.reset(); }
+
+    /// Shows the program's window, for a run that has ended because this one holds the lock.
+    std::function<void()> ShowAgain;
 
     /// What F1 does in a window that has no menu entry of its own for it; the window's name goes with it.
     std::function<void(const QString& window)> HelpKey;
@@ -37,7 +40,7 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
 private:
-    std::unique_ptr<QLockFile> lock_;
+    std::unique_ptr<InstanceLock> lock_;
 };
 
 /// Reads a Windows cursor file with its hot spot. Raises error 53 or the like when it can't be opened, 481 when it

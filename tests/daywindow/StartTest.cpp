@@ -8,8 +8,11 @@
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
 
-#include <QLockFile>
 #include <QProcess>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace zelvia::test
 {
@@ -97,6 +100,7 @@ private Q_SLOTS:
     void theOtherPointerRoutineWritesTheName();
     void anotherRunHoldsTheFolder();
     void secondRunEndsAtOnce();
+    void secondRunBringsThePageBack();
 };
 
 void StartTest::theDiaryOfThePointer_data()
@@ -371,53 +375,105 @@ void StartTest::theOtherPointerRoutineWritesTheName()
     VERIFY_SCRIPT(page.script);
 }
 
+namespace
+{
+
+constexpr int kPatience = 60000;
+
+/// The lock of a program's folder, held by another.
+class OtherLock
+{
+public:
+    explicit OtherLock(const ProgramFolderCopy& folder)
+        : file_(::open(folder.Native(QStringLiteral(".zelvia.lock")).toLocal8Bit().constData(), O_RDWR | O_CREAT, 0600))
+    {
+        held_ = ::flock(file_, LOCK_EX | LOCK_NB) == 0;
+    }
+    ~OtherLock() { ::close(file_); }
+    OtherLock(const OtherLock&) = delete;
+    OtherLock& operator=(const OtherLock&) = delete;
+
+    bool Held() const { return held_; }
+
+private:
+    int file_;
+    bool held_;
+};
+
+bool IsOpen(const ProgramFolderCopy& folder)
+{
+    return !OtherLock(folder).Held();
+}
+
+/// Puts the real program into a folder.
+QString PutProgram(const ProgramFolderCopy& folder)
+{
+    const QString program = folder.Native(QStringLiteral("zelvia"));
+    return QFile::copy(QStringLiteral(ZELVIA_PROGRAM), program) ? program : QString();
+}
+
+} // namespace
+
 void StartTest::anotherRunHoldsTheFolder()
 {
     DayPage page;
-    QLockFile other(page.folder.Native(QStringLiteral(".zelvia.lock")));
-    QVERIFY(other.tryLock());
     frmMain second;
-    QVERIFY(!second.FormLoad());
-    VERIFY_SCRIPT(page.script);
-    QCOMPARE(second.NomeFile, Text());
-    other.unlock();
+    {
+        const OtherLock other(page.folder);
+        QVERIFY(other.Held());
+        QVERIFY(!second.FormLoad());
+        VERIFY_SCRIPT(page.script);
+        QCOMPARE(second.NomeFile, Text());
+    }
     QVERIFY(second.FormLoad());
     QCOMPARE(second.NomeFile, page.folder.System(kDiary));
 }
 
 void StartTest::secondRunEndsAtOnce()
 {
-    constexpr int patience = 60000;
     const ProgramFolderCopy folder;
-    const QString program = folder.Native(QStringLiteral("zelvia"));
-    QVERIFY(QFile::copy(QStringLiteral(ZELVIA_PROGRAM), program));
-    const auto owner = [&] {
-        return folder.Exists(QStringLiteral(".zelvia.lock"))
-                   ? folder.Read(QStringLiteral(".zelvia.lock")).split('\n').first().toLongLong()
-                   : 0;
-    };
+    const QString program = PutProgram(folder);
     QProcess first;
     first.start(program, QStringList());
     QVERIFY(first.waitForStarted());
-    QTRY_COMPARE_WITH_TIMEOUT(owner(), first.processId(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(IsOpen(folder), kPatience);
 
     QProcess second;
     second.start(program, QStringList());
-    QVERIFY(second.waitForFinished(patience));
+    QVERIFY(second.waitForFinished(kPatience));
     QCOMPARE(second.exitStatus(), QProcess::NormalExit);
     QCOMPARE(second.exitCode(), 0);
     QCOMPARE(second.readAllStandardOutput(), QByteArray());
     QCOMPARE(first.state(), QProcess::Running);
 
-    // The lock of a run that crashed is taken over.
+    // The lock of a run that crashed is free.
     first.kill();
-    QVERIFY(first.waitForFinished(patience));
+    QVERIFY(first.waitForFinished(kPatience));
+    QVERIFY(!IsOpen(folder));
     QProcess third;
     third.start(program, QStringList());
     QVERIFY(third.waitForStarted());
-    QTRY_COMPARE_WITH_TIMEOUT(owner(), third.processId(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(IsOpen(folder), kPatience);
+    QCOMPARE(third.state(), QProcess::Running);
     third.kill();
-    QVERIFY(third.waitForFinished(patience));
+    QVERIFY(third.waitForFinished(kPatience));
+}
+
+/// The second run asks the first one for its window.
+void StartTest::secondRunBringsThePageBack()
+{
+    DayPage page;
+    page.Start();
+    const QString program = PutProgram(page.folder);
+    page->showMinimized();
+    QTRY_VERIFY(page->isMinimized());
+    QProcess second;
+    second.start(program, QStringList());
+    QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, kPatience);
+    QCOMPARE(second.exitCode(), 0);
+    QTRY_VERIFY(!page->isMinimized());
+    QTRY_VERIFY(page->isActiveWindow());
+    VERIFY_SCRIPT(page.script);
 }
 
 } // namespace zelvia::test

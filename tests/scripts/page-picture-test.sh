@@ -20,7 +20,8 @@ fi
 # With the diary open already, on another screen, there is nothing to show.
 rm "$picture"
 start env QT_QPA_PLATFORM=offscreen
-await test -e "$work/diario/.zelvia.lock"
+open_already() { ! flock -n "$work/diario/.zelvia.lock" true; }
+await open_already
 run timeout 200 "$source_folder/packaging/page-picture.sh" "$work/diario" "$picture"
 expect "an open diary: exit status" "$status" 1
 expect "an open diary: message" "$(grep -c "Zelvia si è chiuso subito: il diario di «$work/diario» è forse già aperto." <<<"$errors")" 1

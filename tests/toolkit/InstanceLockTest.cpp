@@ -4,13 +4,25 @@
 #include "core/Files.h"
 #include "support/WindowTest.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QSocketNotifier>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
+#include <chrono>
+#include <csignal>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
 
 using namespace zelvia;
 
@@ -19,14 +31,21 @@ namespace
 
 constexpr const char* kOption = "--run-in";
 
-/// One run of the program: tells whether it may go on, and stays until it is told to end.
+/// One run of the program: tells whether it may go on, then of each time that it is asked for its window, and stays
+/// until it is told to end.
 int RunIn(const char* folder)
 {
     SetProgramFolder(SystemPath(folder));
-    std::cout << (Application::Instance().TakeInstanceLock() ? "taken" : "held") << std::endl;
-    std::string line;
-    std::getline(std::cin, line);
-    return 0;
+    Application& application = Application::Instance();
+    application.ShowAgain = [] { std::cout << "asked" << std::endl; };
+    const bool taken = application.TakeInstanceLock();
+    std::cout << (taken ? "taken" : "held") << std::endl;
+    if (!taken) {
+        return 0;
+    }
+    const QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+    return QCoreApplication::exec();
 }
 
 class Run : public QProcess
@@ -38,10 +57,9 @@ public:
     }
     ~Run() override { End(); }
 
-    /// What the run said of the lock.
-    QByteArray Answer()
+    /// The next line that the run said.
+    QByteArray Answer(int patience = 30000)
     {
-        constexpr int patience = 10000;
         while (!canReadLine() && waitForReadyRead(patience)) {
         }
         return readLine().trimmed();
@@ -69,6 +87,15 @@ class InstanceLockTest : public QObject
 private Q_SLOTS:
     void init();
     void ASecondRunIsRefused();
+    void ASecondRunAsksForTheWindow();
+    void ManyRunsAtOnce();
+    void ARunThatDoesNotAnswer();
+    void TheSameFolderThroughALink();
+    void ALookAtTheLock();
+    void WhatStandsInPlaceOfTheLock_data();
+    void WhatStandsInPlaceOfTheLock();
+    void AnothersLockFile();
+    void ItsChildrenDoNotHoldTheLock();
     void RunsInOtherFoldersAreFree();
     void TheLockIsFreeAfterTheRun();
     void ACrashedRunsLockIsRetaken();
@@ -76,6 +103,8 @@ private Q_SLOTS:
     void AFolderThatTakesNoFileDoesNotStopTheStart();
 
 private:
+    QString Lock() const;
+
     std::unique_ptr<QTemporaryDir> folder_;
 };
 
@@ -85,13 +114,190 @@ void InstanceLockTest::init()
     QVERIFY(folder_->isValid());
 }
 
+QString InstanceLockTest::Lock() const
+{
+    return folder_->filePath(QStringLiteral(".zelvia.lock"));
+}
+
 void InstanceLockTest::ASecondRunIsRefused()
 {
     Run first(folder_->path());
     QCOMPARE(first.Answer(), QByteArray("taken"));
-    QVERIFY(QFile::exists(folder_->filePath(QStringLiteral(".zelvia.lock"))));
+    QVERIFY(QFile::exists(Lock()));
     Run second(folder_->path());
     QCOMPARE(second.Answer(), QByteArray("held"));
+    QVERIFY(second.waitForFinished());
+    QCOMPARE(second.exitCode(), 0);
+}
+
+void InstanceLockTest::ASecondRunAsksForTheWindow()
+{
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    for (int i = 0; i < 3; ++i) {
+        Run second(folder_->path());
+        QCOMPARE(second.Answer(), QByteArray("held"));
+        QCOMPARE(first.Answer(), QByteArray("asked"));
+    }
+}
+
+/// One of them gets the lock, whoever it is, and all others end.
+void InstanceLockTest::ManyRunsAtOnce()
+{
+    QByteArrayList answers;
+    {
+        std::vector<std::unique_ptr<Run>> runs;
+        for (int i = 0; i < 6; ++i) {
+            runs.push_back(std::make_unique<Run>(folder_->path()));
+        }
+        for (const auto& run : runs) {
+            QByteArray answer = run->Answer();
+            answers << answer;
+        }
+    }
+    QCOMPARE(answers.count("taken"), 1);
+    QCOMPARE(answers.count("held"), 5);
+}
+
+/// A stopped run reads nothing; the second is not kept waiting, however often it is started.
+void InstanceLockTest::ARunThatDoesNotAnswer()
+{
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    SetProgramFolder(SystemPath(folder_->path().toStdString()));
+    QCOMPARE(::kill(static_cast<pid_t>(first.processId()), SIGSTOP), 0);
+    for (int i = 0; i < 2000; ++i) {
+        QVERIFY(!Application::Instance().TakeInstanceLock());
+    }
+    QCOMPARE(::kill(static_cast<pid_t>(first.processId()), SIGCONT), 0);
+    QCOMPARE(first.Answer(), QByteArray("asked"));
+    first.End();
+    QCOMPARE(first.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(first.exitCode(), 0);
+}
+
+void InstanceLockTest::TheSameFolderThroughALink()
+{
+    const QTemporaryDir other;
+    const QString link = other.filePath(QStringLiteral("legame"));
+    QVERIFY(QFile::link(folder_->path(), link));
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    Run second(link);
+    QCOMPARE(second.Answer(), QByteArray("held"));
+    QCOMPARE(first.Answer(), QByteArray("asked"));
+}
+
+/// Who looks whether the diary is open holds the lock for a moment, which must not end a start.
+void InstanceLockTest::ALookAtTheLock()
+{
+    QFile lock(Lock());
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    QCOMPARE(::flock(lock.handle(), LOCK_SH), 0);
+    std::thread end([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        ::flock(lock.handle(), LOCK_UN);
+    });
+    SetProgramFolder(SystemPath(folder_->path().toStdString()));
+    const bool taken = Application::Instance().TakeInstanceLock();
+    end.join();
+    Application::Instance().ReleaseInstanceLock();
+    QVERIFY(taken);
+}
+
+void InstanceLockTest::WhatStandsInPlaceOfTheLock_data()
+{
+    QTest::addColumn<QByteArray>("bytes"); // "|" and a kind stand for something else than a file.
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("garbled") << QByteArray("\0\xff\n\0", 4);
+    // What earlier versions wrote: the process, the program and the machine.
+    QTest::newRow("a process that is gone") << QByteArray("999999999\nzelvia\nmacchina\n");
+    QTest::newRow("another program's process") << QByteArray::number(QCoreApplication::applicationPid()) + "\nzelvia\n";
+    QTest::newRow("a process of this name")
+        << QByteArray::number(QCoreApplication::applicationPid()) + '\n' +
+               QFileInfo(QCoreApplication::applicationFilePath()).fileName().toUtf8() + '\n' +
+               QSysInfo::machineHostName().toUtf8() + '\n';
+    QTest::newRow("another machine's") << QByteArray("1\nzelvia\naltrove\n\n\n");
+    QTest::newRow("a folder") << QByteArray("|folder");
+    QTest::newRow("links in a circle") << QByteArray("|circle");
+    QTest::newRow("a link that leads nowhere") << QByteArray("|nowhere");
+    QTest::newRow("a pipe") << QByteArray("|pipe");
+    QTest::newRow("a file without rights") << QByteArray("|rights");
+}
+
+namespace
+{
+
+void Lay(const QString& path, const QByteArray& bytes)
+{
+    const std::string name = path.toStdString();
+    if (bytes == "|folder") {
+        QVERIFY(QDir().mkdir(path));
+    } else if (bytes == "|circle") {
+        QCOMPARE(::symlink(".zelvia.lock", name.c_str()), 0);
+    } else if (bytes == "|nowhere") {
+        QCOMPARE(::symlink("manca/manca", name.c_str()), 0);
+    } else if (bytes == "|pipe") {
+        QCOMPARE(::mkfifo(name.c_str(), 0600), 0);
+    } else {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        if (bytes == "|rights") {
+            QVERIFY(file.setPermissions({}));
+        }
+    }
+}
+
+} // namespace
+
+/// None keeps the program from starting, and where it can be locked it does its work.
+void InstanceLockTest::WhatStandsInPlaceOfTheLock()
+{
+    QFETCH(QByteArray, bytes);
+    Lay(Lock(), bytes);
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    const bool linked = bytes == "|circle" || bytes == "|nowhere";
+    if (!linked && bytes != "|rights") {
+        Run second(folder_->path());
+        QCOMPARE(second.Answer(), QByteArray("held"));
+        QCOMPARE(first.Answer(), QByteArray("asked"));
+    }
+    first.End();
+    if (!bytes.startsWith('|')) {
+        QFile file(Lock());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), bytes);
+    }
+    Run third(folder_->path());
+    QCOMPARE(third.Answer(), QByteArray("taken"));
+}
+
+/// A file that belongs to somebody else and may only be read can be locked.
+void InstanceLockTest::AnothersLockFile()
+{
+    Lay(Lock(), "1\n");
+    QVERIFY(QFile::setPermissions(Lock(), QFileDevice::ReadOwner | QFileDevice::ReadOther));
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    Run second(folder_->path());
+    QCOMPARE(second.Answer(), QByteArray("held"));
+}
+
+/// What the program starts may live on behind it.
+void InstanceLockTest::ItsChildrenDoNotHoldTheLock()
+{
+    SetProgramFolder(SystemPath(folder_->path().toStdString()));
+    QVERIFY(Application::Instance().TakeInstanceLock());
+    QProcess child;
+    child.start(QStringLiteral("cat"), {});
+    QVERIFY(child.waitForStarted());
+    Application::Instance().ReleaseInstanceLock();
+    Run next(folder_->path());
+    QCOMPARE(next.Answer(), QByteArray("taken"));
+    child.closeWriteChannel();
+    QVERIFY(child.waitForFinished());
 }
 
 void InstanceLockTest::RunsInOtherFoldersAreFree()
@@ -108,7 +314,7 @@ void InstanceLockTest::TheLockIsFreeAfterTheRun()
     Run first(folder_->path());
     QCOMPARE(first.Answer(), QByteArray("taken"));
     first.End();
-    QVERIFY(!QFile::exists(folder_->filePath(QStringLiteral(".zelvia.lock"))));
+    QVERIFY(QFile::exists(Lock()));
     Run second(folder_->path());
     QCOMPARE(second.Answer(), QByteArray("taken"));
 }
@@ -118,7 +324,7 @@ void InstanceLockTest::ACrashedRunsLockIsRetaken()
     Run first(folder_->path());
     QCOMPARE(first.Answer(), QByteArray("taken"));
     first.Crash();
-    QVERIFY(QFile::exists(folder_->filePath(QStringLiteral(".zelvia.lock"))));
+    QVERIFY(QFile::exists(Lock()));
     Run second(folder_->path());
     QCOMPARE(second.Answer(), QByteArray("taken"));
 }
@@ -127,7 +333,7 @@ void InstanceLockTest::AnOldLockOfALivingRunHolds()
 {
     Run first(folder_->path());
     QCOMPARE(first.Answer(), QByteArray("taken"));
-    QFile lock(folder_->filePath(QStringLiteral(".zelvia.lock")));
+    QFile lock(Lock());
     QVERIFY(lock.open(QIODevice::ReadWrite));
     QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-30), QFileDevice::FileModificationTime));
     lock.close();
