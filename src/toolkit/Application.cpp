@@ -17,6 +17,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QThread>
 #include <QTranslator>
 
 #include <array>
@@ -125,7 +126,19 @@ bool Application::TakeInstanceLock()
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
-    return FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
+    if (QThread::currentThread() != thread()) {
+        return QApplication::notify(receiver, event);
+    }
+    const QEvent::Type type = event->type();
+    try {
+        const bool done =
+            FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
+        lastCatch_.Passed(receiver, type);
+        return done;
+    } catch (...) {
+        lastCatch_.Take(receiver, type);
+        return true;
+    }
 }
 
 QCursor LoadCursor(TextView path)

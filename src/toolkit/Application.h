@@ -4,6 +4,7 @@
 
 #include "core/Text.h"
 #include "toolkit/InstanceLock.h"
+#include "toolkit/LastCatch.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -14,8 +15,8 @@
 namespace zelvia
 {
 
-/// The application under the toolkit's rules: each event passes the focus controller first, message boxes and the
-/// screen's pointer are Qt's, Qt's own texts are Italian.
+/// The application under the toolkit's rules: each event passes the focus controller first, and nothing that is thrown
+/// while it is handled gets any further; message boxes and the screen's pointer are Qt's, Qt's own texts are Italian.
 class Application : public QApplication
 {
     Q_OBJECT
@@ -39,8 +40,12 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 
+    /// Takes the exception in flight, wherever it was thrown, and reports it once the event at hand is done.
+    void ReportLater() noexcept { lastCatch_.Take(nullptr, QEvent::None); }
+
 private:
     std::unique_ptr<InstanceLock> lock_;
+    LastCatch lastCatch_;
 };
 
 /// Reads a Windows cursor file with its hot spot. Raises error 53 or the like when it can't be opened, 481 when it

@@ -3,9 +3,8 @@
 #include "toolkit/Events.h"
 
 #include "core/RunTimeError.h"
+#include "toolkit/Application.h"
 #include "toolkit/FocusController.h"
-
-#include <QApplication>
 
 #include <utility>
 
@@ -36,8 +35,14 @@ Routine::Routine()
 
 Routine::~Routine()
 {
-    if (--depth == 0) {
+    if (--depth > 0) {
+        return;
+    }
+    try {
         FocusController::Instance().Schedule();
+    } catch (...) {
+        // The next press, key or change of focus tells what waits.
+        Application::Instance().ReportLater();
     }
 }
 
@@ -70,10 +75,17 @@ void Fire(const std::function<void()>& handler)
     if (!handler) {
         return;
     }
-    // A copy: the handler may replace or destroy what holds it.
-    const std::function<void()> running = handler;
     const Routine routine;
-    Trap(kBareTitle, running);
+    try {
+        Trap(kBareTitle, [&] {
+            // A copy: the handler may replace or destroy what holds it.
+            const std::function<void()> running = handler;
+            running();
+        });
+    } catch (...) {
+        // The report has failed too, as when memory is exhausted.
+        Application::Instance().ReportLater();
+    }
 }
 
 } // namespace zelvia
