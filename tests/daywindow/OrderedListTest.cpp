@@ -6,6 +6,7 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QRegularExpression>
 
 namespace zelvia::test
 {
@@ -325,10 +326,17 @@ void OrderedListTest::columnsLineUp()
     QCOMPARE(page->lstListaOrdinata->font().families().constFirst(), QStringLiteral("Courier"));
     const QFontMetricsF metrics(page->lstListaOrdinata->font());
     QCOMPARE(metrics.horizontalAdvance(QStringLiteral("°")), metrics.horizontalAdvance(QStringLiteral("0")));
+    // Place, time and average end, and the date begins, in the same column of each line and at the same place.
+    const QRegularExpression columns(
+        QStringLiteral("^[ \\d]{3}\\d°   \\d:\\d\\d:\\d\\d(   \\d|  \\d\\d):\\d\\d   \\d\\d/\\d\\d/2026$"));
     for (const QString& line : lines) {
-        QCOMPARE(line.size(), lines[0].size());
-        QCOMPARE(metrics.horizontalAdvance(line), metrics.horizontalAdvance(lines[0]));
+        QVERIFY2(columns.match(line).hasMatch(), qPrintable(line));
+        for (const int end : {5, 15, 22, 25, 35}) {
+            QCOMPARE(metrics.horizontalAdvance(line.left(end)), metrics.horizontalAdvance(lines[0].left(end)));
+        }
     }
+    QCOMPARE(lines.filter(QStringLiteral("   5:00   ")).size(), 61);
+    QCOMPARE(lines.filter(QStringLiteral("  12:30   ")).size(), 60);
     VERIFY_SCRIPT(page.script);
 }
 

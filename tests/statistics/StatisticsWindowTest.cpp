@@ -8,6 +8,7 @@
 
 #include <QFontInfo>
 #include <QHeaderView>
+#include <QScrollBar>
 
 namespace zelvia::test
 {
@@ -310,12 +311,23 @@ void StatisticsWindowTest::columnsLineUp()
     QCOMPARE(list.font().families().constFirst(), QStringLiteral("Courier"));
     QVERIFY(QFontInfo(list.font()).fixedPitch());
     QCOMPARE(list.ListCount(), 3);
+    // The name takes 30 columns, and the count ends in column 36.
+    const QByteArray blanks(30, ' ');
+    QCOMPARE(desk.Lines(),
+             (QByteArrayList{"Citt\xE0" + blanks.left(25) + "   101    ", "iii" + blanks.left(27) + "    18    ",
+                             QByteArray(30, 'M') + "     1    "}));
     const QFontMetricsF metrics(list.font());
+    const auto end = [&](int row, int column) {
+        return metrics.horizontalAdvance(list.item(row)->text().left(column));
+    };
     for (int row = 0; row < 3; ++row) {
-        QCOMPARE(metrics.horizontalAdvance(list.item(row)->text()), metrics.horizontalAdvance(list.item(0)->text()));
+        for (const int column : {30, 36, 40}) {
+            QCOMPARE(end(row, column), end(0, column));
+        }
     }
     // All 40 columns are in view.
-    QVERIFY(list.visualItemRect(list.item(0)).width() <= list.viewport()->width());
+    QVERIFY(list.visualItemRect(list.item(0)).left() + end(0, 40) <= list.viewport()->width());
+    QCOMPARE(list.horizontalScrollBar()->maximum(), 0);
     VERIFY_SCRIPT(desk.script);
 }
 

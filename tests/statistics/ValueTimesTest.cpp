@@ -282,34 +282,66 @@ void ValueTimesTest::unreadableRows_data()
 {
     QTest::addColumn<QByteArray>("entry");
     QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QList<int>>("pieces"); // What the day must hold that is listed: an unreadable piece counts as 0.
     QTest::addColumn<QStringList>("reports");
-    const auto row = [](const char* entry, const char* value, const QStringList& reports) {
-        QTest::addRow("%s", value) << QByteArray(entry) << QByteArray(value) << reports;
+    const auto row = [](const char* entry, const char* value, const QList<int>& pieces, const QStringList& reports) {
+        QTest::addRow("%s", value) << QByteArray(entry) << QByteArray(value) << pieces << reports;
     };
     const QString invalid = QStringLiteral(" - ERRORE : 5 Argomento non valido");
     const QString over = QStringLiteral(" - ERRORE : 6 Numero oltre i limiti");
-    row("mnuKm", "Lago", {});
-    row("mnuKm", "40000,1", {QStringLiteral("ScomponiKm") + over});
-    row("mnuKm", "1,40000", {QStringLiteral("ScomponiMetri") + over});
-    row("mnuRipetizioni", "Lago",
+    row("mnuKm", "Parco", {0, 0}, {});
+    row("mnuKm", "40000,1", {0, 1}, {QStringLiteral("ScomponiKm") + over});
+    row("mnuKm", "1,40000", {1, 0}, {QStringLiteral("ScomponiMetri") + over});
+    row("mnuRipetizioni", "Lago", {0, 0, 0, 0},
         {QStringLiteral("ScomponiDistanza") + invalid, QStringLiteral("ScomponiQuante") + invalid});
-    row("mnuRipetizioni", "40000 x 1 @ 1:1", {QStringLiteral("ScomponiVolte") + over});
-    row("mnuRipetizioni", "1 x 40000 @ 1:1", {QStringLiteral("ScomponiDistanza") + over});
-    row("mnuRipetizioni", "1 x 1 @ 40000:1", {QStringLiteral("ScomponiQuante") + over});
-    row("mnuRipetizioni", "1 x 1 @ 1:40000", {QStringLiteral("ScomponiTempi") + over});
-    row("mnuRipetizioni", "1 @ 1 x 1:1", {QStringLiteral("ScomponiDistanza") + invalid});
-    row("mnuRipetizioni", "1:1 x 1 @ 1", {QStringLiteral("ScomponiQuante") + invalid});
+    row("mnuRipetizioni", "40000 x 1 @ 1:1", {0, 1, 1, 1}, {QStringLiteral("ScomponiVolte") + over});
+    row("mnuRipetizioni", "1 x 40000 @ 1:1", {1, 0, 1, 1}, {QStringLiteral("ScomponiDistanza") + over});
+    row("mnuRipetizioni", "1 x 1 @ 40000:1", {1, 1, 0, 1}, {QStringLiteral("ScomponiQuante") + over});
+    row("mnuRipetizioni", "1 x 1 @ 1:40000", {1, 1, 1, 0}, {QStringLiteral("ScomponiTempi") + over});
+    row("mnuRipetizioni", "1 @ 1 x 1:1", {1, 0, 1, 1}, {QStringLiteral("ScomponiDistanza") + invalid});
+    row("mnuRipetizioni", "1:1 x 1 @ 1", {1, 1, 0, 1}, {QStringLiteral("ScomponiQuante") + invalid});
 }
+
+namespace
+{
+
+/// A run of 50 minutes of which a category holds these pieces.
+void PutPieces(int slot, const QByteArray& entry, const QList<int>& pieces)
+{
+    StatisticsDesk::PutRun(slot, "Lago", "0:50:00", "5:00");
+    RecordGiorno& day = Module1::Giorni[slot];
+    if (entry == "mnuKm") {
+        day.Km = pieces[0];
+        day.Metri = pieces[1];
+        return;
+    }
+    day.Ripetizioni = pieces[0];
+    day.RipetizioniDistanza = pieces[1];
+    day.RipetizioniQuante = pieces[2];
+    day.RipetizioniTempi = pieces[3];
+}
+
+} // namespace
 
 void ValueTimesTest::unreadableRows()
 {
     QFETCH(QByteArray, entry);
     QFETCH(QByteArray, value);
+    QFETCH(QList<int>, pieces);
     QFETCH(QStringList, reports);
     StatisticsDesk desk;
     desk.Start();
-    Module1::Giorni[1].Km = 10;
-    Module1::Giorni[1].Ripetizioni = 5;
+    // One day holds what the row reads as; some differ from it in one piece, the others in all.
+    const QList<int> other(pieces.size(), 7);
+    for (int slot = 1; slot <= 140; ++slot) {
+        PutPieces(slot, entry, other);
+    }
+    PutPieces(20, entry, pieces);
+    for (int piece = 0; piece < pieces.size(); ++piece) {
+        QList<int> nearly = pieces;
+        nearly[piece] = 2;
+        PutPieces(21 + piece, entry, nearly);
+    }
     desk.Choose(entry.constData());
     Module1::NomeCategoria[1] = value.constData();
     desk.Select(0);
@@ -317,6 +349,7 @@ void ValueTimesTest::unreadableRows()
         desk.script.Expect(Report(report));
     }
     desk.PressTimes();
+    QTRY_COMPARE(desk.Times(), QByteArrayList{Row(1, "0:50:00", 20)});
     QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("lvListaOrdinata"));
     VERIFY_SCRIPT(desk.script);
     QVERIFY(desk.Window()->lvListaOrdinata->isVisible());

@@ -15,6 +15,7 @@ class EditorPrintTest : public QObject
 
 private Q_SLOTS:
     void whatStandsInTheBoxes();
+    void theDayOnShow();
     void aNewTable();
     void theButtonIsOffMeanwhile();
     void aPrinterThatFailsLeavesTheButtonOff();
@@ -41,6 +42,21 @@ void EditorPrintTest::whatStandsInTheBoxes()
     QCOMPARE(tray.Row(28), (QByteArrayList{"2| 22 ", "6|10", "8|,", "10|0", "33|Media/Veloce", "57|Strada", "79|3",
                                            "80|x", "81|2.000", "86|@", "89|9", "90|:", "91|45"}));
     QCOMPARE(tray.Row(40), (QByteArrayList{"2| Data Inizio", "14|2", "17|3", "20|2026"}));
+    VERIFY_SCRIPT(desk.script);
+}
+
+/// The date of the sheet is that of the page, whatever day it is.
+void EditorPrintTest::theDayOnShow()
+{
+    TableDesk desk;
+    PrinterTray tray;
+    desk.Start();
+    desk.Down(*desk->upMese);
+    desk.Down(*desk->upGiorno);
+    desk.OpenList();
+    desk.OpenTable("Base 10 km.tab");
+    desk.Click(*desk.Editor()->cmdStampa);
+    QCOMPARE(tray.Row(0), (QByteArrayList{"80|19/04/2026"}));
     VERIFY_SCRIPT(desk.script);
 }
 

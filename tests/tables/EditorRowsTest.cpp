@@ -330,13 +330,35 @@ void EditorRowsTest::rowsOfAnotherTableKeepTheirColour()
     TableDesk desk(CalendarDate(2026, 5, 22));
     WritePassedPlan(desk);
     desk.SetActive("Piano.tab");
+    const auto accept = [&] {
+        hand::Click(desk.Box(Km, 8));
+        QTRY_COMPARE(desk.GridBack(), kGrey);
+        hand::Click(*desk.Editor()->cmdOK);
+        QTRY_COMPARE(desk.GridBack(), kWhite);
+    };
+    const auto fores = [&](const QByteArray& firstThree) {
+        for (int row = 1; row <= kRows; ++row) {
+            QCOMPARE(desk.RowFore(row), row <= 3 ? firstThree : kBlack);
+        }
+    };
+    // Black in a table that was never the active one.
     desk.StartWith(kTable);
-    hand::Click(desk.Box(Km, 8));
-    hand::Click(*desk.Editor()->cmdOK);
-    QTRY_COMPARE(desk.Enabled(), QByteArray("cmdAttiva"));
-    for (int row = 1; row <= kRows; ++row) {
-        QCOMPARE(desk.RowFore(row), kBlack);
-    }
+    accept();
+    fores(kBlack);
+    // Grey in the one that was active until the list switched it off.
+    desk.LeaveEditor();
+    desk.OpenTable("Piano.tab");
+    fores(kPassed);
+    TableDesk::ToFront(*desk.List());
+    desk.Select(static_cast<int>(desk.Entries().indexOf("Piano.tab")));
+    desk.script.Expect({QStringLiteral(" CANCELLARE LA TABELLA Piano.tab ?"), QMessageBox::Information,
+                        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::No});
+    hand::Click(*desk.List()->cmdCancellaTab);
+    VERIFY_SCRIPT(desk.script);
+    QVERIFY(Module1::NomeTabellaAttiva.empty());
+    TableDesk::ToFront(*desk.Editor());
+    accept();
+    fores(kPassed);
     VERIFY_SCRIPT(desk.script);
 }
 
