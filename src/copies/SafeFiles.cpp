@@ -13,7 +13,6 @@
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
-#include <utility>
 
 namespace zelvia
 {
@@ -133,17 +132,6 @@ private:
 FileFailure::FileFailure(const fs::path& path, int errnoValue)
     : std::runtime_error("«" + path.string() + "»: " + ToUtf8(DescriptionOf(ErrorOfErrno(errnoValue))))
 {
-}
-
-Descriptor::~Descriptor()
-{
-    Close();
-}
-
-bool Descriptor::Close()
-{
-    const int number = std::exchange(number_, -1);
-    return number < 0 || ::close(number) == 0;
 }
 
 std::string ReadFile(const fs::path& path)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Descriptor.h"
+
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
@@ -17,23 +19,6 @@ class FileFailure : public std::runtime_error
 public:
     FileFailure(const std::filesystem::path& path, int errnoValue);
     using std::runtime_error::runtime_error;
-};
-
-/// A handle of the machine that is closed with its object; below 0 there is none.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor();
-
-    int Number() const { return number_; }
-    /// Closes it now; true when that worked.
-    bool Close();
-
-private:
-    int number_;
 };
 
 /// The whole file. Raises FileFailure, as everything below.

@@ -61,13 +61,6 @@ int OpenSocket()
 
 } // namespace
 
-Descriptor::~Descriptor()
-{
-    if (number_ >= 0) {
-        ::close(number_);
-    }
-}
-
 InstanceLock::InstanceLock(const QString& path) : file_(OpenForLock(path)) {}
 
 InstanceLock::~InstanceLock() = default;

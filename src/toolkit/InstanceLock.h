@@ -2,31 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Descriptor.h"
+
 #include <QString>
 
 #include <functional>
 #include <memory>
-#include <sys/types.h>
 
 class QSocketNotifier;
 
 namespace zelvia
 {
-
-/// An owning file descriptor; negative means none. It closes with the process and is not handed to its children.
-class Descriptor
-{
-public:
-    explicit Descriptor(int number = -1) : number_(number) {}
-    ~Descriptor();
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int Number() const { return number_; }
-
-private:
-    int number_;
-};
 
 /// The kernel's lock on a file, by which one run of the program knows of another. It goes with the process, however
 /// that ends. What the file holds does not matter; it is made when it is absent and never deleted.
