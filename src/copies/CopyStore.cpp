@@ -10,7 +10,6 @@
 #include <array>
 #include <cstdlib>
 #include <ctime>
-#include <regex>
 #include <set>
 
 namespace zelvia
@@ -64,7 +63,26 @@ std::string NameOf(int number, std::chrono::system_clock::time_point now)
     return digits + stamp.data();
 }
 
-/// A folder that is filled under a passing name beside its last one. Goes again unless it was put in place.
+/// True when the text has the form of the pattern, in which 0 stands for any digit.
+bool HasForm(std::string_view text, std::string_view pattern)
+{
+    return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(),
+                      [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
+}
+
+/// Number, date and time of a copy, from the name that NameOf gave it; nothing for any other name.
+std::optional<Copy> CopyNamed(const std::string& name)
+{
+    constexpr std::size_t shortest = 6;
+    constexpr std::size_t longest = 9;
+    const std::size_t digits = std::min(name.find('_'), name.size());
+    if (digits < shortest || digits > longest || !HasForm(name, std::string(digits, '0') + "_0000-00-00_00-00-00")) {
+        return std::nullopt;
+    }
+    return Copy{std::stoi(name.substr(0, digits)), name.substr(digits + 1, 10), name.substr(digits + 12), {}, {}};
+}
+
+/// A temporary folder next to the final one, removed unless it was put in place.
 class PassingFolder
 {
 public:
@@ -98,16 +116,16 @@ private:
 
 std::vector<Copy> CopyStore::List() const
 {
-    static const std::regex form("([0-9]{6,9})_([0-9]{4}-[0-9]{2}-[0-9]{2})_([0-9]{2}-[0-9]{2}-[0-9]{2})");
     std::vector<Copy> copies;
     if (!fs::is_directory(root_)) {
         return copies;
     }
     for (const fs::directory_entry& entry : fs::directory_iterator(root_)) {
-        const std::string name = entry.path().filename().string();
-        std::smatch parts;
-        if (std::regex_match(name, parts, form) && fs::is_regular_file(entry.path() / kOrigin)) {
-            copies.push_back({std::stoi(parts[1]), parts[2], parts[3], entry.path(), ReadFile(entry.path() / kOrigin)});
+        std::optional<Copy> copy = CopyNamed(entry.path().filename().string());
+        if (copy && fs::is_regular_file(entry.path() / kOrigin)) {
+            copy->place = entry.path();
+            copy->folder = ReadFile(entry.path() / kOrigin);
+            copies.push_back(std::move(*copy));
         }
     }
     std::sort(copies.begin(), copies.end(), [](const Copy& a, const Copy& b) { return a.number < b.number; });
