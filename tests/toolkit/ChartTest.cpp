@@ -16,6 +16,8 @@
 
 #include <vector>
 
+Q_DECLARE_METATYPE(zelvia::ChartData)
+
 using namespace zelvia;
 
 namespace
@@ -386,8 +388,6 @@ void ChartTest::TheCopyIsAPicture()
     QVERIFY(picture.convertToFormat(QImage::Format_RGB32) == Drawn(data, 2));
     QGuiApplication::clipboard()->clear();
 }
-
-Q_DECLARE_METATYPE(zelvia::ChartData)
 
 ZELVIA_WINDOW_TEST_MAIN(ChartTest)
 #include "ChartTest.moc"
