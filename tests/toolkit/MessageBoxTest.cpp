@@ -171,7 +171,8 @@ void MessageBoxTest::AnErrorOfAHandlerIsReportedUnderTheBareTitle()
     QTRY_COMPARE(answer.Texts().size(), 1);
     QVERIFY2(answer.Texts().constFirst().startsWith(QStringLiteral("ERRORE : 7 ")),
              qPrintable(answer.Texts().constFirst()));
-    // And the program goes on.
+    // And the program goes on once the box is gone.
+    QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     hand::Click(*form_->lblVai);
     QTRY_VERIFY(form_->told.endsWith("lblVai"));
 }
