@@ -3,6 +3,7 @@
 // The actions that any window may meet.
 #include "monkey/Actions.h"
 #include "monkey/Texts.h"
+#include "toolkit/OtherProgram.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -289,12 +290,11 @@ void Actions::ChangeWindow(QWidget& /*window*/)
 void Actions::OtherProgram(QWidget& window)
 {
     trail_.Note(QStringLiteral("another program and back to ") + window.objectName());
-    // What the platform reports when another program's window comes to the front, and goes again.
     const QPointer<QWidget> watched = &window;
-    QApplication::setActiveWindow(nullptr);
+    ::OtherProgram::Report(nullptr);
     desk_.Settle();
     if (!watched.isNull() && watched->isVisible()) {
-        QApplication::setActiveWindow(watched);
+        ::OtherProgram::Report(watched);
     }
 }
 

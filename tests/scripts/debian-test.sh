@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The Debian package in a fresh, minimal Debian 12, with a day of a runner's life: installed, a day written and saved,
+# The Debian package in a fresh, minimal Debian of this machine's release, with a day of a runner's life: installed, a day written and saved,
 # upgraded, the day found again, removed: debian-test.sh BUILD-FOLDER
 #
 # Needs root, debootstrap and the network; cmake -DZELVIA_DEBIAN_TEST=OFF leaves it out. The machine's own apt sources serve the
@@ -25,14 +25,15 @@ leave() {
 }
 trap leave EXIT
 
-# Where the machine's own apt gets Debian 12 from.
+# The release of the machine, which the package was built on, and where its own apt gets it from.
+release=$(. /etc/os-release && echo "$VERSION_CODENAME")
 mirror() {
-  apt-cache policy | sed -n 's,^ *[0-9]* \([a-z]*://[^ ]*\) bookworm/main .*,\1,p' | head -n 1
+  apt-cache policy | sed -n "s,^ *[0-9]* \\([a-z]*://[^ ]*\\) $release/main .*,\\1,p" | head -n 1
 }
 
 archive=${ZELVIA_DEBIAN_TREE:-$work/tree.tar.gz}
 if [ ! -e "$archive" ]; then
-  debootstrap --variant=minbase bookworm "$root" "$(mirror)"
+  debootstrap --variant=minbase "$release" "$root" "$(mirror)"
   tar -C "$root" -czf "$archive" .
   rm -rf "$root"
 fi

@@ -27,7 +27,7 @@ inline QByteArray Bytes(TextView text)
 /// A column of a data table as a text of the system.
 inline Text TextOf(const QByteArray& bytes)
 {
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+    return bytes.toStdString();
 }
 
 /// The whole file at a path of the machine; a missing file fails loudly.

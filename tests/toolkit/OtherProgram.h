@@ -19,6 +19,10 @@ public:
     /// Changes back to the window under test.
     void ChangeBack();
 
+    /// What the platform reports, where it has no other application, when the active window changes to `window`, or to
+    /// none of this application.
+    static void Report(QWidget* window);
+
     /// The main function of the other program; to be asked first by the main function of the test. True when it ran.
     static bool RanInstead(int argc, char* argv[]);
 

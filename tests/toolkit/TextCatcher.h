@@ -39,11 +39,10 @@ protected:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY: return dots;
         case PdmDevicePixelRatio: return 1;
-        case PdmDevicePixelRatioScaled: return static_cast<int>(devicePixelRatioFScale());
         case PdmNumColors: return 0xFFFFFF;
         case PdmDepth: return 32;
+        default: return QPaintDevice::metric(metric);
         }
-        return 0;
     }
 
 private:
