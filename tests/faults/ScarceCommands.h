@@ -58,16 +58,11 @@ inline void Settle()
     FocusController::Instance().Flush();
 }
 
-/// Runs a command again and again, each time with the next of its requests for memory refused, until each routine has
-/// reported under its title. The first report must always be of the want of memory.
-inline void VerifyReports(const Command& command)
+/// Runs a command again and again, each time with the next of its requests for memory refused, and takes what it
+/// reports first off `missing`. That must always be that memory is exhausted.
+inline void RefuseOneByOne(const Command& command, Reports& reports, QByteArrayList& missing)
 {
     constexpr int most = 3000;
-    Reports reports;
-    QByteArrayList missing;
-    for (const QByteArray& routine : command.routines) {
-        missing << (routine.isEmpty() ? QByteArray() : routine + " - ") + "ERRORE : 7 Memoria esaurita";
-    }
     for (int nth = 1; !missing.isEmpty() && nth < most; ++nth) {
         command.prepare();
         Settle();
@@ -91,6 +86,21 @@ inline void VerifyReports(const Command& command)
         QVERIFY2(first.endsWith("ERRORE : 7 Memoria esaurita") || first == "ERRORE : Memoria esaurita Liste Percorso",
                  first.constData());
         missing.removeAll(first);
+    }
+}
+
+/// Refuses the requests for memory of a command until each routine has reported under its title.
+inline void VerifyReports(const Command& command)
+{
+    Reports reports;
+    QByteArrayList missing;
+    for (const QByteArray& routine : command.routines) {
+        missing << (routine.isEmpty() ? QByteArray() : routine + " - ") + "ERRORE : 7 Memoria esaurita";
+    }
+    // The queue of the focus asks for memory once in many runs, and puts the others off by one in that run: what a pass
+    // misses by it the next one finds.
+    for (int pass = 1; pass <= 2 && !missing.isEmpty(); ++pass) {
+        RefuseOneByOne(command, reports, missing);
     }
     QVERIFY2(missing.isEmpty(), missing.join(" | ").constData());
 }
