@@ -5,6 +5,7 @@
 #include "support/Hand.h"
 
 #include <QApplication>
+#include <QProcessEnvironment>
 #include <QTest>
 
 #include <iostream>
@@ -20,6 +21,10 @@ constexpr const char* kOption = "--other-program";
 OtherProgram::OtherProgram(QWidget& window) : window_(window)
 {
     if (hand::OnX11()) {
+        // Its notes would go over those of this program, whose name it has.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("ZELVIA_SHOWN_TEXTS"));
+        process_.setProcessEnvironment(environment);
         process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption)});
         QTRY_VERIFY_WITH_TIMEOUT(process_.canReadLine(), 20000);
         const WId other = process_.readLine().trimmed().toULongLong();
