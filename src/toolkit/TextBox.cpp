@@ -11,6 +11,7 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
 
 #include <algorithm>
@@ -213,11 +214,20 @@ void TextBox::dropEvent(QDropEvent* event)
 
 void TextBox::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (event->reason() != QContextMenuEvent::Keyboard || !MenuKey) {
-        QLineEdit::contextMenuEvent(event);
+    if (event->reason() == QContextMenuEvent::Keyboard && MenuKey) {
+        Fire([this] { MenuKey(mapToGlobal(rect().bottomLeft())); });
         return;
     }
-    Fire([this] { MenuKey(mapToGlobal(rect().bottomLeft())); });
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* action : menu->actions()) {
+        // From Qt 6.8 on the entry calls the base class's own function.
+        if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+            QObject::disconnect(action, nullptr, this, nullptr);
+            connect(action, &QAction::triggered, this, &TextBox::paste);
+        }
+    }
+    menu->popup(event->globalPos());
 }
 
 } // namespace zelvia

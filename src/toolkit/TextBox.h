@@ -42,7 +42,7 @@ public:
     std::function<void(const QPoint& globalPosition)> MenuKey;
 
 public Q_SLOTS:
-    /// Takes the place of the base's: the context menu pastes by the rules of this box.
+    /// Pastes by the rules of this box, as its context menu does.
     void paste();
 
 protected:
