@@ -111,7 +111,9 @@ void DayPage::TakeEntry(const char* menu, const char* entry) const
     if (action == nullptr) {
         qFatal("no entry %s", entry);
     }
-    QTest::mouseClick(opened, Qt::LeftButton, {}, opened->actionGeometry(action).center());
+    // Two entries of a menu may share a letter.
+    opened->setActiveAction(action);
+    QTest::keyClick(opened, Qt::Key_Return);
 }
 
 QString DayPage::Caption(const char* name) const
