@@ -157,7 +157,8 @@ inline QByteArrayList LinesOf(const QByteArray& title, const std::vector<PlainRo
 /// that of a day with none.
 inline bool IsOf(const QByteArray& title, const QByteArray& value, const PlainDay& day)
 {
-    return title == "Corridori" ? QByteArray::number(day.runners) == value : ValueOf(title, day).value_or(QByteArray()) == value;
+    return title == "Corridori" ? QByteArray::number(day.runners) == value
+                                : ValueOf(title, day).value_or(QByteArray()) == value;
 }
 
 /// The classification of the days whose value is spelt like that: place, time, average, date, parted by "|".
