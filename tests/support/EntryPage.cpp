@@ -189,7 +189,7 @@ void EntryPage::AwaitFront(const QWidget& window)
     QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::focusWindow() == window.windowHandle(), patience);
     if (hand::OnX11()) {
         // The manager hears of it later than the window, and until then it may take a click for itself.
-        QTRY_COMPARE_WITH_TIMEOUT(hand::ManagersActiveWindow(), window.winId(), patience);
+        hand::AwaitManager(window.winId());
     }
 }
 

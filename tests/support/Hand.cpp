@@ -179,6 +179,14 @@ WId ManagersActiveWindow()
     return Output({QStringLiteral("getactivewindow")}).value_or(QByteArray()).trimmed().toULongLong();
 }
 
+void AwaitManager(WId window)
+{
+    constexpr int patience = 20000;
+    if (!QTest::qWaitFor([window] { return ManagersActiveWindow() == window; }, patience)) {
+        QFAIL("the manager holds another window for the active one");
+    }
+}
+
 void KeyForManager(const QStringList& words, const std::function<bool()>& done)
 {
     constexpr int attempts = 5;

@@ -43,6 +43,9 @@ void Raw(const QStringList& words);
 /// later than the program at times. Keys that the manager acts on go by this.
 WId ManagersActiveWindow();
 
+/// Waits until that is `window`. On a busy machine the manager takes its time, and may change its mind on the way.
+void AwaitManager(WId window);
+
 /// On an X display only: a key for the window manager, in the words of xdotool. A manager that is still busy with a new
 /// window misses keys; as a user would, this presses again, a few times, until `done`.
 void KeyForManager(const QStringList& words, const std::function<bool()>& done);

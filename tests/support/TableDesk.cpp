@@ -134,7 +134,7 @@ void TableDesk::CloseEditor() const
 {
     const QPointer<Form> watched = Editor();
     if (hand::OnX11()) {
-        QTRY_COMPARE(hand::ManagersActiveWindow(), watched->winId());
+        hand::AwaitManager(watched->winId());
         hand::KeyForManager({QStringLiteral("key"), QStringLiteral("alt+F4")},
                             [&] { return watched.isNull() || watched->Unloaded(); });
     } else {

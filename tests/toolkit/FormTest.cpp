@@ -127,7 +127,7 @@ void FormTest::TheCloseBoxUnloads()
     form.show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
     if (hand::OnX11()) {
-        QTRY_COMPARE(hand::ManagersActiveWindow(), form.winId());
+        hand::AwaitManager(form.winId());
         hand::KeyForManager({QStringLiteral("key"), QStringLiteral("alt+F4")},
                             [] { return CountedForm::unloaded > 0; });
     } else {

@@ -28,7 +28,7 @@ OtherProgram::OtherProgram(QWidget& window) : window_(window)
         process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption)});
         QTRY_VERIFY_WITH_TIMEOUT(process_.canReadLine(), 20000);
         const WId other = process_.readLine().trimmed().toULongLong();
-        QTRY_COMPARE(hand::ManagersActiveWindow(), other);
+        hand::AwaitManager(other);
     } else {
         Report(nullptr);
     }
