@@ -6,7 +6,7 @@
 #
 # The server listens on a socket in a folder made for it, knows one queue, "zelvia", which is the default printer, and
 # lays each job as it comes, a PDF named after the number of the job, into $ZELVIA_PRINTED, and beside it a file .job with
-# the job's name and its attributes, a line each. Nothing of the machine's own print server is touched. More than three
+# the job's name and its attributes, a line each. The system's own print server is not touched. More than three
 # jobs that wait are too many for the spool.
 set -euo pipefail
 

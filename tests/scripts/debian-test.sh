@@ -25,7 +25,7 @@ leave() {
 }
 trap leave EXIT
 
-# The release of the machine, which the package was built on, and where its own apt gets it from.
+# The Debian release that the package was built on, and the mirror that apt here uses.
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")
 mirror() {
   apt-cache policy | sed -n "s,^ *[0-9]* \\([a-z]*://[^ ]*\\) $release/main .*,\\1,p" | head -n 1
