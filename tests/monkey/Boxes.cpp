@@ -10,11 +10,13 @@
 #include <QCompleter>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace zelvia::monkey
@@ -43,6 +45,13 @@ const DialogData kDialogs[] = {
 /// Names for a diary or a table, without their extension.
 const QString kNames[] = {QStringLiteral("prova"), QStringLiteral("uno"),         QStringLiteral("due"),
                           QStringLiteral("Città"), QStringLiteral("l'anno 2027"), QStringLiteral("UNO")};
+
+bool IsOfMenuBar(const QMenu& menu)
+{
+    const QList<QObject*> holders = menu.menuAction()->associatedObjects();
+    return std::any_of(holders.begin(), holders.end(),
+                       [](QObject* holder) { return qobject_cast<QMenuBar*>(holder) != nullptr; });
+}
 
 QString Key(QString text)
 {
@@ -80,7 +89,11 @@ void Boxes::Look()
 {
     // The next look is asked for first: an answer may bring up the next box before it returns.
     LookLater();
-    QWidget* window = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu != nullptr && menusWait && IsOfMenuBar(*menu)) {
+        return;
+    }
+    QWidget* window = menu;
     if (window == nullptr) {
         window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     }
@@ -228,6 +241,8 @@ void Boxes::Answer(QFileDialog& dialog)
     auto* line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     const bool cancel = dice_.OneIn(6);
     const QString name = NameFor(dialog);
+    // The program asks again for a name that it refuses; the last answer counts.
+    chosen_.removeAll(dialog.windowTitle());
     if (cancel || ++dialogs_ > kMostDialogs) {
         trail_.Note(QStringLiteral("[%1: cancelled]").arg(dialog.windowTitle()));
         QTest::mouseClick(buttons->button(QDialogButtonBox::Cancel), Qt::LeftButton);

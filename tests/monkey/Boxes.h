@@ -38,7 +38,9 @@ public:
 
     /// Begins a new action.
     void Forget();
-    /// True when a dialog of that title has been accepted in this action.
+    /// Leaves the menus of the menu bar open while keys go on to them.
+    bool menusWait = false;
+    /// True when the last dialog of that title in this action has been accepted.
     bool Chosen(const QString& title) const { return chosen_.contains(title); }
 
     std::map<QByteArray, long> counts; ///< Of boxes by text, of dialogs by title, of menus by name.

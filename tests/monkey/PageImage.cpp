@@ -6,6 +6,7 @@
 #include "core/Module1.h"
 #include "daywindow/FrmMain.h"
 #include "support/Bytes.h"
+#include "support/Grouped.h"
 
 #include <QDate>
 #include <QLocale>
@@ -80,7 +81,7 @@ QDate QtDate(CalendarDate date)
 /// Thousands parted by a dot, nothing for 0.
 QString Thousands(int number)
 {
-    return number == 0 ? QString() : QLocale(QLocale::Italian, QLocale::Italy).toString(number);
+    return number == 0 ? QString() : test::Grouped(number);
 }
 
 /// The captions that the page is built with and that the first change of a value replaces.

@@ -128,9 +128,11 @@ void Actions::PressKey(QWidget& /*window*/)
 void Actions::PressKeys(QWidget& window)
 {
     const int times = dice_.Between(2, 6);
+    boxes_.menusWait = true;
     for (int i = 0; i < times; ++i) {
         PressKey(window);
     }
+    boxes_.menusWait = false;
 }
 
 void Actions::TypeText(QWidget& /*window*/)

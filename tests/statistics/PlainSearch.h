@@ -3,6 +3,7 @@
 #pragma once
 
 #include "statistics/PlainStatistics.h"
+#include "support/Grouped.h"
 
 #include <QDate>
 #include <QMap>
@@ -62,16 +63,6 @@ inline void PutInto(QByteArray& line, int column, const QByteArray& text)
 }
 
 /// For days whose times have three parts at most and whose averages have two.
-/// A dot before each three digits from the right.
-inline QString Grouped(long number)
-{
-    QString digits = QString::number(number);
-    for (qsizetype place = digits.size() - 3; place > 0; place -= 3) {
-        digits.insert(place, QLatin1Char('.'));
-    }
-    return digits;
-}
-
 inline PlainResult Search(const std::vector<PlainDay>& days, const PlainQuery& query)
 {
     PlainResult result;
@@ -110,7 +101,7 @@ inline PlainResult Search(const std::vector<PlainDay>& days, const PlainQuery& q
     }
     const long runs = result.lines.size();
     const long mean = runs == 0 ? 0 : (paceMinutes * 60 + paceSeconds) / runs;
-    const QString km = metres < 1000 ? QString() : Grouped(metres / 1000);
+    const QString km = metres < 1000 ? QString() : test::Grouped(metres / 1000);
     const QString rest = metres % 1000 == 0 ? QString() : QStringLiteral(",%1").arg(metres % 1000);
     result.totals = QString::asprintf(" %ld| %s%s| %ld:%02ld:%02ld| %ld:%02ld", runs, qPrintable(km), qPrintable(rest),
                                       seconds / 3600, seconds / 60 % 60, seconds % 60,
