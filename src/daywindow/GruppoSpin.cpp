@@ -57,7 +57,13 @@ void GruppoSpin::Apri(const Text& apertura)
 {
     Trap(apertura + " - ERRORE : ", [this] {
         Mostra(true);
-        page_.EnterField(*dati_.fuoco);
+        try {
+            page_.EnterField(*dati_.fuoco);
+        } catch (...) {
+            // Without the focus nothing would ever close it.
+            Mostra(false);
+            throw;
+        }
         if (dati_.aperto) {
             dati_.aperto();
         }
