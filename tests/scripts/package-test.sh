@@ -37,7 +37,8 @@ expect "owners" "$(dpkg-deb -c "$package" | awk '{ print $2 }' | sort -u)" root/
 expect "scripts that run as root" "$(dpkg-deb -I "$package" | grep -c 'postinst\|preinst\|postrm\|prerm' || true)" 0
 
 # What it needs: the list's packages, the libraries that its programs are linked to, and nothing that builds or tests.
-depends=$(field Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//')
+# Debian 13 marks the libraries that changed with the width of its time.
+depends=$(field Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//; s/t64$//')
 for name in $(packages_in run) libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
   expect "depends on $name" "$(grep -cx -- "$name" <<<"$depends")" 1
 done
@@ -45,16 +46,18 @@ for name in $(packages_in build package display test); do
   expect "depends on $name" "$(grep -cx -- "$name" <<<"$depends" || true)" 0
 done
 
-run lintian --allow-root --fail-on error,warning "$package"
-expect "lintian" "$status|$output" "0|"
+# The metadata is looked at below.
+run lintian --allow-root "$package"
+expect "lintian" "$(grep '^[EW]: ' <<<"$output" | grep -v ' appstream-metadata-validation-failed ' || true)" ""
 dpkg-deb -x "$package" "$work/tree"
 run desktop-file-validate "$work/tree/usr/share/applications/zelvia.desktop"
 expect "desktop-file-validate" "$status|$output$errors" "0|"
-run appstreamcli validate --no-net "$work/tree/usr/share/metainfo/org.zelvia.Zelvia.metainfo.xml"
-expect "appstreamcli validate" "$status" 0 || echo "$output$errors" >&2
-[ "$status" -eq 0 ] || echo "$output$errors" >&2
-run appstreamcli validate-tree --no-net "$work/tree"
-[ "$status" -eq 0 ] || expect "appstreamcli validate-tree" "$output$errors" ""
+for check in "validate $work/tree/usr/share/metainfo/org.zelvia.Zelvia.metainfo.xml" "validate-tree $work/tree"; do
+  run appstreamcli ${check%% *} --no-net --explain "${check#* }"
+  # There is no web site.
+  expect "appstreamcli ${check%% *}" "$(grep '^[EW]: ' <<<"$output" | grep -v ' url-homepage-missing$' || true)" ""
+  expect "appstreamcli ${check%% *}: its verdict" "$(grep -c '^[✔✘] ' <<<"$output")" 1
+done
 for page in zelvia zelvia-copie; do
   run man --warnings -l "$work/tree/usr/share/man/man1/$page.1.gz"
   expect "man $page: warnings" "$status|$errors" "0|"
