@@ -3,10 +3,10 @@
 // Reads and writes a year's diary: the sample one, one with every field filled, and the sample with one note that
 // grows.
 #include "bench/Measure.h"
-#include "core/DiaryFile.h"
 #include "core/Files.h"
 #include "core/MessageBox.h"
-#include "core/Module1.h"
+#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
 
 #include <cstdlib>
 #include <fstream>

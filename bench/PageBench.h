@@ -7,9 +7,9 @@
 #include "bench/PageCount.h"
 #include "bench/PaintWatch.h"
 #include "core/Files.h"
-#include "core/Workspace.h"
-#include "daywindow/FrmMain.h"
+#include "diary/Workspace.h"
 #include "toolkit/Application.h"
+#include "windows/page/FrmMain.h"
 
 #include <cstdlib>
 #include <iostream>

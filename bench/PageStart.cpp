@@ -4,8 +4,8 @@
 #include "bench/FirstPaint.h"
 #include "bench/PageCount.h"
 #include "core/Files.h"
-#include "daywindow/FrmMain.h"
 #include "toolkit/Application.h"
+#include "windows/page/FrmMain.h"
 
 int main(int argc, char* argv[])
 {

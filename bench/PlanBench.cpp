@@ -3,9 +3,9 @@
 // The two slow ends of a training table: the step of a day that walks it along a whole year, and the editor's opening.
 #include "bench/PageBench.h"
 #include "core/MessageBox.h"
-#include "core/Module1.h"
-#include "core/Workspace.h"
-#include "tables/TableModel.h"
+#include "diary/Module1.h"
+#include "diary/TableModel.h"
+#include "diary/Workspace.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Hands sheets to the default printer, against an empty page handed to it by Qt alone.
 #include "bench/Measure.h"
-#include "statistics/StatisticSheets.h"
-#include "tables/TableSheet.h"
+#include "diary/StatisticSheets.h"
+#include "diary/TableSheet.h"
 #include "toolkit/Application.h"
 #include "toolkit/Printer.h"
 

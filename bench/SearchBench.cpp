@@ -3,7 +3,7 @@
 // Searches a full year and opens its charts with clicks on the buttons, each to the finished window.
 #include "bench/PageBench.h"
 #include "core/Conversions.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 // Opens the statistic of the routes on a full year with clicks on its entry of the menu, each to the finished window.
 #include "bench/PageBench.h"
 #include "core/Conversions.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 
 #include <QMenu>
 

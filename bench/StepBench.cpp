@@ -3,7 +3,7 @@
 // Steps through the year with clicks on the arrow of the day, each to the end of the repaint, and onto a day with a
 // note that grows.
 #include "bench/PageBench.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 
 #include <string>
 

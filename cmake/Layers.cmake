@@ -34,14 +34,17 @@ set(ZELVIA_QT_STRICT
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 # zelvia_layer(name FOLDER folder SOURCES files LINKS targets [QT | WIDGETS])
-#   A library of one box of the house. Without QT it is plain standard C++: Qt is not even on its include path. One with
+#   A library of one box of the house, from files of its folder. Without QT it is plain standard C++: Qt is not even on its include path. One with
 #   WIDGETS links Qt's widgets, and reads their headers precompiled.
 function(zelvia_layer name)
   cmake_parse_arguments(LAYER "QT;WIDGETS" "FOLDER" "SOURCES;LINKS" ${ARGN})
+  list(TRANSFORM LAYER_SOURCES PREPEND ${LAYER_FOLDER}/)
   add_library(${name} STATIC ${LAYER_SOURCES})
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-  set(view ${CMAKE_BINARY_DIR}/layers/${LAYER_FOLDER})
-  file(MAKE_DIRECTORY ${view})
+  string(MAKE_C_IDENTIFIER ${LAYER_FOLDER} id)
+  set(view ${CMAKE_BINARY_DIR}/layers/${id})
+  get_filename_component(parent ${view}/${LAYER_FOLDER} DIRECTORY)
+  file(MAKE_DIRECTORY ${parent})
   file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${LAYER_FOLDER} ${view}/${LAYER_FOLDER} SYMBOLIC)
   target_include_directories(${name} PUBLIC ${view})
   target_link_libraries(${name} PUBLIC ${LAYER_LINKS} PRIVATE zelvia_options)

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race calendar.
 #include "Harness.h"
-#include "calendar/CalendarModel.h"
-#include "core/Module1.h"
+#include "diary/CalendarModel.h"
+#include "diary/Module1.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 // The texts of distances and repetitions: six numbers of a day, and behind them a row to be taken apart.
 #include "Harness.h"
 #include "Reference.h"
-#include "statistics/CategoryTexts.h"
+#include "diary/CategoryTexts.h"
 
 #include <array>
 

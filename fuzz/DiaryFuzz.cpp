@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The diary. The input is its beginning, so that the days behind it need neither be blanked nor written.
 #include "Harness.h"
-#include "core/DiaryFile.h"
-#include "core/Module1.h"
 #include "core/ValueFile.h"
+#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
 
 #include <algorithm>
 

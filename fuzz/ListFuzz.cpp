@@ -3,7 +3,7 @@
 // A selection list: every value of the file is an entry.
 #include "Harness.h"
 #include "Reference.h"
-#include "core/SelectionLists.h"
+#include "diary/SelectionLists.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 // The average per kilometre of a distance and a time that the page can show, against the quotient of whole numbers.
 #include "Harness.h"
 #include "core/Conversions.h"
-#include "daywindow/TimeAndPace.h"
+#include "diary/TimeAndPace.h"
 
 #include <cmath>
 #include <cstdio>

@@ -3,8 +3,8 @@
 // The pointer files: nometab through its routines, nomeload through the reader that the start uses.
 #include "Harness.h"
 #include "Reference.h"
-#include "core/Module1.h"
-#include "core/Workspace.h"
+#include "diary/Module1.h"
+#include "diary/Workspace.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The descriptions of the routes.
 #include "Harness.h"
-#include "core/Module1.h"
-#include "routes/RouteModel.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "Harness.h"
 #include "Reference.h"
 #include "core/Conversions.h"
-#include "statistics/SearchTotals.h"
+#include "diary/SearchTotals.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -3,7 +3,7 @@
 // The three calculations of a row of a training table, from the texts of its eight boxes, a line each.
 #include "Harness.h"
 #include "core/Conversions.h"
-#include "tables/TableCalculations.h"
+#include "diary/TableCalculations.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A training table.
 #include "Harness.h"
-#include "tables/TableModel.h"
+#include "diary/TableModel.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "core/Files.h"
-#include "core/Workspace.h"
-#include "tables/TextRoutines.h"
+#include "diary/TextRoutines.h"
+#include "diary/Workspace.h"
 
 using namespace zelvia;
 using namespace zelvia::fuzz;

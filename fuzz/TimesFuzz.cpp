@@ -3,7 +3,7 @@
 // Time taken and average per kilometre of a day: six parts of the clock, and the rest is the caption of the distance.
 #include "Harness.h"
 #include "core/Conversions.h"
-#include "daywindow/TimeAndPace.h"
+#include "diary/TimeAndPace.h"
 
 #include <cmath>
 #include <cstdlib>

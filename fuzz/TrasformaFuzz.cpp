@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sorted list of runs: each line of the input is a time taken.
 #include "Harness.h"
-#include "statistics/ListaOrdinata.h"
+#include "diary/ListaOrdinata.h"
 
 #include <algorithm>
 #include <array>

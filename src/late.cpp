@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Composes the module of what is loaded late, and nothing else.
-#include "help/HelpWindow.h"
 #include "toolkit/ChartDrawing.h"
 #include "toolkit/LateParts.h"
 #include "toolkit/SheetPlayer.h"
+#include "windows/guide/HelpWindow.h"
 
 namespace
 {

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "LateImage.h"
 #include "core/Files.h"
-#include "daywindow/FrmMain.h"
 #include "toolkit/Application.h"
 #include "toolkit/LateParts.h"
+#include "windows/page/FrmMain.h"
 
 int main(int argc, char* argv[])
 {

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the fields of the day page.
 #include "boxes/BoxHand.h"
-#include "core/DiaryFile.h"
-#include "routes/FrmDesPercorso.h"
+#include "diary/DiaryFile.h"
 #include "support/Bytes.h"
 #include "support/DiaryBytes.h"
+#include "windows/routes/FrmDesPercorso.h"
 
 #include <QMenuBar>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the boxes of a route's description.
 #include "boxes/BoxHand.h"
-#include "core/Workspace.h"
-#include "routes/FrmDesPercorso.h"
-#include "routes/RouteModel.h"
+#include "diary/RouteModel.h"
+#include "diary/Workspace.h"
 #include "support/Bytes.h"
+#include "windows/routes/FrmDesPercorso.h"
 
 #include <QClipboard>
 

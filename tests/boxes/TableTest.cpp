@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the boxes of the table editor, and to the list of the tables.
 #include "boxes/BoxHand.h"
+#include "diary/TableModel.h"
 #include "support/Bytes.h"
 #include "support/TableBytes.h"
 #include "support/TableDesk.h"
-#include "tables/TableModel.h"
 
 namespace zelvia::test
 {

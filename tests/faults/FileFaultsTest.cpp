@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Files.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 #include "faults/FaultyDisk.h"
 #include "faults/SavedFiles.h"
 #include "support/Days.h"

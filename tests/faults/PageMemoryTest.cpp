@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The page when memory runs out: each routine reports under its own title, and the page goes on.
-#include "calendar/CalendarModel.h"
+#include "diary/CalendarModel.h"
+#include "diary/RouteModel.h"
 #include "faults/ScarceCommands.h"
-#include "routes/RouteModel.h"
 #include "support/EntryPage.h"
 #include "toolkit/Events.h"
 

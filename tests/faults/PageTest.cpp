@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of the page when the calls on one of their files go wrong.
-#include "calendar/CalendarModel.h"
+#include "diary/CalendarModel.h"
+#include "diary/RouteModel.h"
 #include "faults/CommandFailures.h"
-#include "routes/RouteModel.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
 

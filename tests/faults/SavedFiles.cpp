@@ -2,16 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "faults/SavedFiles.h"
 
-#include "calendar/CalendarModel.h"
-#include "core/DiaryFile.h"
-#include "core/Module1.h"
-#include "core/SelectionLists.h"
-#include "core/Workspace.h"
-#include "routes/RouteModel.h"
+#include "diary/CalendarModel.h"
+#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
+#include "diary/SelectionLists.h"
+#include "diary/TableModel.h"
+#include "diary/Workspace.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
-#include "tables/TableModel.h"
 
 #include <QTest>
 

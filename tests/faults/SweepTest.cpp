@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every command with files, each of its calls going wrong in turn until none is left.
-#include "calendar/CalendarModel.h"
-#include "calendar/FrmCalendario.h"
+#include "diary/CalendarModel.h"
+#include "diary/RouteModel.h"
 #include "faults/CommandFailures.h"
-#include "routes/RouteModel.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
 #include "support/TableDesk.h"
+#include "windows/races/FrmCalendario.h"
 
 #include <algorithm>
 #include <cstring>

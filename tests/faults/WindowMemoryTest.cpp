@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows beside the page when memory runs out: each routine reports under its own title.
-#include "calendar/CalendarModel.h"
+#include "diary/CalendarModel.h"
+#include "diary/RouteModel.h"
 #include "faults/ScarceCommands.h"
-#include "routes/RouteModel.h"
 #include "support/CalendarDesk.h"
 #include "support/SearchDesk.h"
 #include "support/TableDesk.h"

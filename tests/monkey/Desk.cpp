@@ -4,8 +4,8 @@
 
 #include "core/Files.h"
 #include "core/RunTimeError.h"
-#include "statistics/CategoryStatistics.h"
-#include "tables/TableModel.h"
+#include "diary/CategoryStatistics.h"
+#include "diary/TableModel.h"
 #include "toolkit/Application.h"
 #include "toolkit/Printer.h"
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "core/Date.h"
-#include "daywindow/FrmMain.h"
 #include "support/ProgramFolderCopy.h"
+#include "windows/page/FrmMain.h"
 
 #include <QByteArray>
 #include <QObject>

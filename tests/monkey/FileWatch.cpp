@@ -2,18 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "monkey/FileWatch.h"
 
-#include "calendar/CalendarModel.h"
-#include "core/DiaryFile.h"
 #include "core/Files.h"
 #include "core/MessageBox.h"
-#include "core/Module1.h"
-#include "core/SelectionLists.h"
-#include "core/Workspace.h"
-#include "daywindow/FrmMain.h"
-#include "routes/RouteModel.h"
+#include "diary/CalendarModel.h"
+#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
+#include "diary/SelectionLists.h"
+#include "diary/TableModel.h"
+#include "diary/Workspace.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
-#include "tables/TableModel.h"
+#include "windows/page/FrmMain.h"
 
 #include <QDirIterator>
 #include <QFileInfo>

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "monkey/Invariants.h"
 
-#include "calendar/CalendarModel.h"
-#include "core/Module1.h"
+#include "diary/CalendarModel.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
+#include "diary/TableModel.h"
 #include "monkey/PageImage.h"
-#include "routes/RouteModel.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
-#include "tables/TableModel.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
 

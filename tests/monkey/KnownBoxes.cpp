@@ -4,7 +4,7 @@
 #include "monkey/KnownBoxes.h"
 
 #include "core/Files.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 #include "monkey/Desk.h"
 #include "toolkit/QtText.h"
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "monkey/PageImage.h"
 
-#include "calendar/CalendarModel.h"
-#include "core/Module1.h"
-#include "daywindow/FrmMain.h"
+#include "diary/CalendarModel.h"
+#include "diary/Module1.h"
 #include "support/Bytes.h"
 #include "support/Grouped.h"
+#include "windows/page/FrmMain.h"
 
 #include <QDate>
 #include <QLocale>

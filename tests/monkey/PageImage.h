@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/Date.h"
-#include "core/RecordGiorno.h"
+#include "diary/RecordGiorno.h"
 
 #include <QString>
 

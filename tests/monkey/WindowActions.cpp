@@ -3,7 +3,7 @@
 // The actions that any window may meet.
 #include "monkey/Actions.h"
 #include "monkey/Texts.h"
-#include "toolkit/OtherProgram.h"
+#include "support/OtherProgram.h"
 
 #include <QApplication>
 #include <QScrollBar>

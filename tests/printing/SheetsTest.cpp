@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The six sheets of the sample year, from the windows to the PDF.
-#include "calendar/FrmCalendario.h"
 #include "printing/PrintedPdf.h"
-#include "statistics/FrmGrafici.h"
-#include "statistics/FrmRicercheStatistiche.h"
-#include "statistics/FrmStatistiche1.h"
 #include "support/PrinterTray.h"
 #include "support/TableDesk.h"
+#include "windows/races/FrmCalendario.h"
+#include "windows/statistics/FrmGrafici.h"
+#include "windows/statistics/FrmRicercheStatistiche.h"
+#include "windows/statistics/FrmStatistiche1.h"
 
 namespace zelvia::test
 {

@@ -11,7 +11,7 @@ export ASAN_OPTIONS=$ASAN_OPTIONS:detect_leaks=0
 
 # faulty KIND STEP COMMAND...
 faulty() {
-  env LD_PRELOAD="$build/tests/copies/libzelvia_fault.so" ZELVIA_FAULT="$1" ZELVIA_FAULT_STEP="$2" "${@:3}"
+  env LD_PRELOAD="$build/tests/tools/copies/libzelvia_fault.so" ZELVIA_FAULT="$1" ZELVIA_FAULT_STEP="$2" "${@:3}"
 }
 
 # A small diary as it was and as it is, and thirty copies of what it was: the next one makes the first of them go.

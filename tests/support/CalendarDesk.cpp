@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/CalendarDesk.h"
 
-#include "calendar/CalendarModel.h"
+#include "diary/CalendarModel.h"
 #include "support/Bytes.h"
 
 namespace zelvia::test

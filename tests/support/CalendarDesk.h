@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "calendar/FrmCalendario.h"
 #include "support/CalendarBytes.h"
 #include "support/EntryPage.h"
+#include "windows/races/FrmCalendario.h"
 
 namespace zelvia::test
 {

@@ -3,8 +3,8 @@
 #include "support/DayPage.h"
 
 #include "core/Files.h"
-#include "statistics/CategoryStatistics.h"
-#include "tables/TableModel.h"
+#include "diary/CategoryStatistics.h"
+#include "diary/TableModel.h"
 
 #include <QMenu>
 #include <QMenuBar>

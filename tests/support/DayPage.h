@@ -3,12 +3,12 @@
 #pragma once
 
 #include "core/Date.h"
-#include "core/Module1.h"
-#include "daywindow/FrmMain.h"
+#include "diary/Module1.h"
 #include "support/BoxScript.h"
 #include "support/ProgramFolderCopy.h"
 #include "toolkit/Application.h"
 #include "toolkit/QtText.h"
+#include "windows/page/FrmMain.h"
 
 #include <QMenu>
 #include <QPointer>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/Date.h"
-#include "core/Module1.h"
+#include "diary/Module1.h"
 
 #include <cstdio>
 #include <string>

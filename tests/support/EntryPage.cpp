@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/EntryPage.h"
 
-#include "routes/FrmDesPercorso.h"
 #include "support/DiaryBytes.h"
 #include "toolkit/FocusController.h"
+#include "windows/routes/FrmDesPercorso.h"
 
 #include <QMenu>
 #include <QTimer>

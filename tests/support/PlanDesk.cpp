@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/PlanDesk.h"
 
+#include "diary/TableModel.h"
 #include "support/Bytes.h"
-#include "tables/TableModel.h"
 
 #include <array>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "statistics/FrmGrafici.h"
-#include "statistics/FrmRicercheStatistiche.h"
 #include "support/DayPage.h"
 #include "support/Hand.h"
+#include "windows/statistics/FrmGrafici.h"
+#include "windows/statistics/FrmRicercheStatistiche.h"
 
 #include <QByteArrayList>
 

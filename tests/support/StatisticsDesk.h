@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "statistics/FrmStatistiche1.h"
 #include "support/DayPage.h"
 #include "support/Hand.h"
+#include "windows/statistics/FrmStatistiche1.h"
 
 #include <QByteArrayList>
 

@@ -4,8 +4,8 @@
 
 #include "support/DayPage.h"
 #include "support/Hand.h"
-#include "tables/FrmAllenamento.h"
-#include "tables/FrmTabAllenamenti.h"
+#include "windows/plan/FrmAllenamento.h"
+#include "windows/plan/FrmTabAllenamenti.h"
 
 #include <QByteArrayList>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tables/TableGrid.h"
+#include "diary/TableGrid.h"
 
 #include <QByteArray>
 #include <QList>

@@ -20,7 +20,7 @@ sub pattern {
 my %shown;
 for my $path (glob "$folder/*") {
     # Its boxes are made up.
-    next if $path =~ /core_RunTimeErrorTest$/;
+    next if $path =~ /core_RunTimeError$/;
     open my $file, '<', $path or die "$path: $!";
     while (my $line = <$file>) {
         chomp $line;

@@ -4,8 +4,8 @@
 #include "core/MessageBox.h"
 #include "support/BoxAnswer.h"
 #include "support/Hand.h"
+#include "support/OtherProgram.h"
 #include "support/WindowTest.h"
-#include "toolkit/OtherProgram.h"
 #include "toolkit/SampleForm.h"
 
 using namespace zelvia;

@@ -4,9 +4,9 @@
 #include "core/MessageBox.h"
 #include "support/BoxAnswer.h"
 #include "support/Hand.h"
+#include "support/OtherProgram.h"
 #include "support/WindowTest.h"
 #include "toolkit/FocusController.h"
-#include "toolkit/OtherProgram.h"
 #include "toolkit/SampleForm.h"
 
 using namespace zelvia;

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/CalendarSheet.h"
+
+namespace zelvia
+{
+
+using CalendarGrid::Casella;
+
+namespace
+{
+
+void PrintFrame(Sheet& sheet)
+{
+    constexpr int top = 3;
+    constexpr int bottom = 30;
+    sheet.Box(1, top, 130, bottom);
+    for (const int x : {12, 44, 65, 74, 87, 98, 109, 121}) {
+        sheet.Line(x, top, x, bottom);
+    }
+}
+
+void PrintHeads(Sheet& sheet)
+{
+    constexpr SheetCell heads[] = {{66, 4, "Distanza "},    {101, 4, "Tempo"},     {5, 5, "Data"},
+                                   {26, 5, " Gara "},       {50, 5, "Località"_t}, {66, 5, "km metri"},
+                                   {76, 5, "Partecipanti"}, {89, 5, "Risultato"},  {99, 5, "  hh   mm  ss"},
+                                   {112, 5, "Categoria"},   {122, 5, "Risultato"}};
+    for (const SheetCell& head : heads) {
+        sheet.Print(head.x, head.y, head.text);
+    }
+}
+
+void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& riga)
+{
+    const auto box = [&](Casella casella) -> const Text& { return riga[CalendarGrid::IndexOf(casella)]; };
+    sheet.Print(DigitColumn(box(Casella::Giorno), 2), y, box(Casella::Giorno));
+    sheet.Print(DigitColumn(box(Casella::Mese), 5), y, box(Casella::Mese));
+    sheet.Print(8, y, box(Casella::Anno));
+    sheet.Print(13, y, box(Casella::Gara));
+    sheet.Print(45, y, box(Casella::Localita));
+    sheet.Print(DigitColumn(box(Casella::Km), 66), y, box(Casella::Km));
+    if (!box(Casella::Km).empty()) {
+        sheet.Print(68, y, ",");
+        if (box(Casella::Metri).empty()) {
+            sheet.Print(69, y, "0");
+        }
+    }
+    sheet.Print(69, y, box(Casella::Metri));
+    sheet.Print(78, y, box(Casella::Partecipanti));
+    sheet.Print(90, y, box(Casella::Risultato));
+    sheet.Print(100, y, box(Casella::Ore));
+    if (!box(Casella::Ore).empty()) {
+        sheet.Print(102, y, ":");
+    }
+    sheet.Print(103, y, box(Casella::Minuti));
+    if (!box(Casella::Minuti).empty()) {
+        sheet.Print(105, y, ":");
+    }
+    sheet.Print(106, y, box(Casella::Secondi));
+    sheet.Print(112, y, box(Casella::Categoria));
+    sheet.Print(124, y, box(Casella::RisultatoCat));
+}
+
+} // namespace
+
+Sheet CalendarSheet(const CalendarSheetTexts& pagina)
+{
+    constexpr int dateSize = 8;
+    constexpr int titleSize = 12;
+    constexpr int textSize = 10;
+    constexpr int firstLine = 7;
+    Sheet sheet(Orientation::Landscape, {.name = "Times New Roman", .size = dateSize},
+                JobName("calendario", pagina.data));
+    sheet.Print(124, 0, pagina.data);
+    sheet.SetFontSize(titleSize);
+    PrintFrame(sheet);
+    sheet.Print(60, 1, pagina.titolo);
+    sheet.SetFontSize(textSize);
+    PrintHeads(sheet);
+    int y = firstLine;
+    for (const CalendarSheetRow& riga : pagina.righe) {
+        PrintRow(sheet, y++, riga);
+    }
+    return sheet;
+}
+
+} // namespace zelvia

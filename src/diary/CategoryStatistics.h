@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "diary/RecordGiorno.h"
+
+#include <array>
+
+namespace zelvia
+{
+
+/// The fields of a day whose values can be counted, in the order of their menu.
+enum class Categoria {
+    Percorso,
+    Lunghezza,
+    Km,
+    Andatura,
+    Fondo,
+    Tipo,
+    Stagione,
+    Meteo,
+    Temperatura,
+    Corridori,
+    Peso,
+    Ripetizioni
+};
+
+inline constexpr std::array<Categoria, 12> kTutteLeCategorie = {
+    Categoria::Percorso,    Categoria::Lunghezza, Categoria::Km,       Categoria::Andatura,
+    Categoria::Fondo,       Categoria::Tipo,      Categoria::Stagione, Categoria::Meteo,
+    Categoria::Temperatura, Categoria::Corridori, Categoria::Peso,     Categoria::Ripetizioni};
+
+/// What one category's statistic has of its own.
+struct Statistica {
+    TextView titolo;                                     ///< The word that names the category.
+    TextView errore;                                     ///< Title of the statistic's error report.
+    TextView erroreLista;                                ///< The same for the list of the search.
+    bool (*contato)(const RecordGiorno& giorno);         ///< Whether the day counts.
+    Text (*testo)(const RecordGiorno& giorno);           ///< Its value, null where that is a number.
+    i32 (*numero)(const RecordGiorno& giorno) = nullptr; ///< Its value, null where that is a text.
+};
+
+const Statistica& StatisticaDi(Categoria categoria);
+/// By its title, case-sensitive; null when there is none.
+const Statistica* StatisticaDi(TextView titolo);
+
+/// The most values that a statistic can tell apart.
+inline constexpr int kMaxCategorie = 60;
+/// Slot 0 is never written.
+template <typename T>
+using PerCategoria = BoundedArray<T, 0, kMaxCategorie>;
+
+/// Where a statistic is shown.
+class VistaStatistica
+{
+public:
+    virtual ~VistaStatistica() = default;
+    virtual void SetTitolo(TextView titolo) = 0;
+    virtual void AggiungiRiga(TextView riga) = 0;
+};
+
+namespace Module1
+{
+
+// The result of the last statistic, ranked by falling count in the slots from 1 on.
+extern Text TitoloStatistica;
+extern PerCategoria<Text> NomeCategoria;
+extern PerCategoria<i16> ContaCategoria;
+extern PerCategoria<i16> ValoreCategoria; ///< The numeric statistics use it in place of NomeCategoria.
+
+/// Empties all of it.
+void AzzeraStatistica();
+
+/// Counts each value of the days 1..GiornoCorrente and ranks them into the arrays above; of equal counts the value seen
+/// first goes first. Texts are told apart without regard to case and stand as first spelt. Values beyond the 60th are
+/// left out. TitoloStatistica stays, ValoreCategoria too unless the values are numbers.
+/// Raises error 6 for a number above 32767; the slots then hold the counts so far, unranked.
+void ContaValori(const Statistica& statistica);
+
+/// Writes the title, and a line for each slot that has a name.
+void VisualStat(TextView titolo, VistaStatistica& vista);
+/// Writes the title, and a line for each slot whose value is not 0.
+void VisualStatint(TextView titolo, VistaStatistica& vista);
+
+} // namespace Module1
+
+/// A line of 40 columns: the name, cut at 30 characters, and the count, which ends in column 36.
+Text RigaStatistica(TextView nome, i16 conta);
+
+/// The whole routine of one statistic under its trap: names it, counts and shows.
+void EseguiStatistica(const Statistica& statistica, VistaStatistica& vista);
+
+} // namespace zelvia

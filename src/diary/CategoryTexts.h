@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "diary/RecordGiorno.h"
+
+namespace zelvia
+{
+
+/// A day's distance as a value of its statistic: " 7,500", "12,0". The blank in front of one digit keeps the comma in
+/// its column; the metres are not padded.
+Text TestoKm(const RecordGiorno& giorno);
+
+/// A day's repetitions as a value of their statistic: " 5 x 1000 @ 4:30", "10 x 400  @ 1:20". The additional blanks
+/// line the rows up.
+Text TestoRipetizioni(const RecordGiorno& giorno);
+
+// The numbers of such a text, each read from its piece as Val does. All raise error 6 when the number is no i16.
+
+/// Before the first ",", 0 without one.
+i16 PezzoKm(TextView testo);
+/// After the first ",", or the whole text without one.
+i16 PezzoMetri(TextView testo);
+/// Before the first "x", 0 without one.
+i16 PezzoVolte(TextView testo);
+/// Between the last "x" and the last "@". Raises error 5 without an "x", or when no "@" follows it.
+i16 PezzoDistanza(TextView testo);
+/// Between the last "@" and the last ":". Raises error 5 without an "@", or when no ":" follows it.
+i16 PezzoQuante(TextView testo);
+/// After the last ":", or the whole text without one.
+i16 PezzoTempi(TextView testo);
+
+} // namespace zelvia

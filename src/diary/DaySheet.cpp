@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/DaySheet.h"
+
+#include <cstddef>
+#include <initializer_list>
+#include <span>
+
+namespace zelvia
+{
+namespace
+{
+
+constexpr int kLineStep = 2;
+constexpr int kFirstLine = 4;
+constexpr int kLeftLabels = 4;
+constexpr int kLeftValues = 16;
+constexpr int kRightLabels = 48;
+constexpr int kRightValues = 62;
+
+constexpr std::array<TextView, 16> kFieldLabels = {
+    "Percorso ", "Lunghezza", "Km",       "Andatura ", "Terreno",     "Tipo",      "Ora Inizio", "Ora Fine",
+    "Tempo",     "Media",     "Stagione", "Meteo",     "Temperatura", "Corridori", "Peso",       "Ripetizioni"};
+constexpr std::array<TextView, 6> kTableLabels = {"Km", "Tempo", "Media Km", "Andatura", "Terreno", "Ripetizioni"};
+constexpr std::array<TextView, 8> kRaceLabels = {"GARA :  ",  "Località "_t, "Partecipanti", "Tempo Impiegato",
+                                                 "Lunghezza", "Risultato",   "Categoria",    "Risultato"};
+constexpr std::array<TextView, 4> kCounterLabels = {"Giorno dell'anno", "Allenamenti", "Km percorsi", "Gare"};
+
+/// Texts one under the other.
+void PrintColumn(Sheet& sheet, int x, int firstLine, const auto& texts)
+{
+    int y = firstLine;
+    for (const auto& text : texts) {
+        sheet.Print(x, y, text);
+        y += kLineStep;
+    }
+}
+
+void PrintRepetitions(Sheet& sheet, const DaySheetTexts& giorno)
+{
+    constexpr int y = 34;
+    const SheetCell cells[] = {{16, y, giorno.ripetizioniVolte},
+                               {18, y, "x"},
+                               {20, y, giorno.ripetizioniDistanza},
+                               {25, y, "@"},
+                               {27, y, giorno.ripetizioniQuante}};
+    for (const SheetCell& cell : cells) {
+        sheet.Print(cell.x, cell.y, cell.text);
+    }
+}
+
+void PrintTable(Sheet& sheet, const DaySheetTexts& giorno)
+{
+    sheet.Print(kRightLabels, kFirstLine, "ALLENAMENTO :  " + giorno.nomeTabella);
+    PrintColumn(sheet, kRightLabels, kFirstLine + kLineStep, kTableLabels);
+    sheet.SetFontItalic(true);
+    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, giorno.tabella);
+}
+
+void PrintRace(Sheet& sheet, const DaySheetTexts& giorno)
+{
+    PrintColumn(sheet, kRightLabels, kFirstLine, kRaceLabels);
+    sheet.Print(kRightValues, kFirstLine, giorno.gara.front());
+    sheet.SetFontItalic(true);
+    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, std::span(giorno.gara).subspan(1));
+}
+
+void PrintNotes(Sheet& sheet, const DaySheetTexts& giorno)
+{
+    constexpr int firstLine = 20;
+    constexpr int lines = 56;
+    sheet.SetFontItalic(true);
+    sheet.Print(kRightLabels, firstLine, "Note");
+    sheet.SetFontName("Courier New");
+    sheet.SetFontSize(10);
+    PrintColumn(sheet, lines, firstLine, giorno.note);
+}
+
+} // namespace
+
+Sheet DaySheet(const DaySheetTexts& giorno)
+{
+    constexpr int headSize = 12;
+    constexpr int textSize = 11;
+    constexpr int footLine = 40;
+    constexpr int footValues = 21;
+    const SheetFont head{.name = "Times New Roman", .size = headSize};
+    Sheet sheet(Orientation::Portrait, head, JobName("giorno", giorno.data));
+    sheet.Box(3, 1, 94, 48);
+    sheet.Print(40, 2, giorno.data);
+
+    sheet.SetFontSize(textSize);
+    PrintColumn(sheet, kLeftLabels, kFirstLine, kFieldLabels);
+    sheet.SetFontItalic(true);
+    PrintColumn(sheet, kLeftValues, kFirstLine, giorno.campi);
+    PrintRepetitions(sheet, giorno);
+
+    sheet.SetFontItalic(false);
+    giorno.conGara ? PrintRace(sheet, giorno) : PrintTable(sheet, giorno);
+    PrintNotes(sheet, giorno);
+
+    sheet.SetFontName(head.name);
+    sheet.SetFontSize(textSize);
+    sheet.SetFontItalic(false);
+    PrintColumn(sheet, kLeftLabels, footLine, kCounterLabels);
+    PrintColumn(sheet, footValues, footLine, giorno.contatori);
+    return sheet;
+}
+
+} // namespace zelvia

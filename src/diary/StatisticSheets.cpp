@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/StatisticSheets.h"
+
+#include "core/Conversions.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zelvia
+{
+namespace
+{
+
+constexpr int kDateSize = 8;
+constexpr int kTitleSize = 12;
+constexpr int kTextSize = 10;
+const SheetFont kDateFont{.name = "Times New Roman", .size = kDateSize};
+
+/// A column of pairs: what it is upright, its value in italics.
+void PrintPair(Sheet& sheet, int x, int valueX, int y, TextView label, TextView value)
+{
+    sheet.SetFontItalic(false);
+    sheet.Print(x, y, label);
+    sheet.SetFontItalic(true);
+    sheet.Print(valueX, y, value);
+}
+
+void PrintPeriod(Sheet& sheet, const SearchSheetTexts& ricerca)
+{
+    constexpr int y = 4;
+    constexpr int step = 3;
+    const auto date = [&](int x, const std::array<Text, 3>& parts) {
+        sheet.SetFontItalic(true);
+        for (const Text& part : parts) {
+            sheet.Print(x, y, part);
+            x += step;
+        }
+    };
+    sheet.Print(2, y, "Periodo       dal ");
+    date(15, ricerca.inizio);
+    sheet.SetFontItalic(false);
+    sheet.Print(30, y, " al ");
+    date(33, ricerca.fine);
+}
+
+void PrintConditions(Sheet& sheet, const std::array<Text, 12>& condizioni)
+{
+    constexpr std::array<TextView, 12> labels = {"Percorso",    "Lunghezza", "Km",       "Andatura",
+                                                 "Terreno",     "Tipo",      "Stagione", "Meteo",
+                                                 "Temperatura", "Corridori", "Peso",     "Ripetizioni"};
+    constexpr std::size_t half = 6;
+    constexpr int firstLine = 6;
+    for (std::size_t i = 0; i < half; ++i) {
+        const int y = firstLine + 2 * static_cast<int>(i);
+        PrintPair(sheet, 2, 15, y, labels[i], condizioni[i]);
+        PrintPair(sheet, 45, 60, y, labels[i + half], condizioni[i + half]);
+    }
+}
+
+void PrintHeads(Sheet& sheet, int y)
+{
+    const SheetCell heads[] = {{2, y, "Km"}, {10, y, "Tempi"}, {20, y, "Media Km"}, {30, y, "gg mm aaaa"}};
+    sheet.SetFontItalic(false);
+    for (const SheetCell& head : heads) {
+        sheet.Print(head.x, head.y, head.text);
+    }
+}
+
+void PrintRun(Sheet& sheet, int y, const Text& riga)
+{
+    const auto columns = [&](int from, int to) { return Trim(Mid(riga, from, to - from + 1)); };
+    const Text media = columns(22, 27);
+    sheet.SetFontItalic(true);
+    sheet.Print(2, y, columns(2, 9));
+    sheet.Print(10, y, columns(11, 18));
+    sheet.Print(Val(Left(media, 2)) > 9 ? 21 : 22, y, media);
+    sheet.Print(30, y, columns(33, 42));
+}
+
+/// Prints the runs and returns the line that the sheet has come to.
+int PrintRuns(Sheet& sheet, const std::vector<Text>& righe)
+{
+    constexpr int headLine = 20;
+    constexpr int lastLine = 64;
+    int y = headLine;
+    PrintHeads(sheet, y);
+    for (const Text& riga : righe) {
+        y += 2;
+        PrintRun(sheet, y, riga);
+        if (y == lastLine) {
+            sheet.NewPage();
+            y = 2;
+            PrintHeads(sheet, y);
+        }
+    }
+    return y;
+}
+
+void PrintTotals(Sheet& sheet, int y, const std::array<Text, 4>& totali)
+{
+    constexpr int lastLineWithRoom = 50;
+    constexpr int totalsSize = 11;
+    if (y < lastLineWithRoom) {
+        y += 3;
+    } else {
+        // The rule then lies above the printable corner.
+        sheet.NewPage();
+        y = 0;
+    }
+    sheet.SetFontSize(totalsSize);
+    sheet.Line(1, y - 1, 85, y - 1);
+    sheet.SetFontItalic(false);
+    sheet.Print(10, y, "Totali");
+    constexpr std::array<TextView, 4> labels = {"Corse", "Km", "Tempi", "Media"};
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        PrintPair(sheet, 2, 10, y + 2 + 2 * static_cast<int>(i), labels[i], totali[i]);
+    }
+}
+
+} // namespace
+
+Text StatisticSheetNumber(i16 valore)
+{
+    return Str(valore) + " ";
+}
+
+Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const StatisticSheetSlot> categorie)
+{
+    constexpr std::size_t column = 30;
+    constexpr int firstLine = 5;
+    Sheet sheet(Orientation::Portrait, kDateFont, JobName("statistica", data));
+    sheet.Print(80, 0, data);
+    sheet.SetFontSize(kTitleSize);
+    sheet.Box(10, 1, 87, 66);
+    sheet.Print(35, 2, "       Statistica " + Text(titolo));
+    sheet.SetFontSize(kTextSize);
+    const auto slot = [&](std::size_t index, int x, int y) {
+        constexpr int countAfter = 30;
+        if (index < categorie.size() && !categorie[index].valore.empty()) {
+            sheet.Print(x, y, categorie[index].valore);
+            sheet.PrintNumber(x + countAfter, y, categorie[index].conta);
+        }
+    };
+    for (std::size_t i = 0; i < column; ++i) {
+        const int y = firstLine + 2 * static_cast<int>(i);
+        slot(i, 13, y);
+        slot(i + column, 53, y);
+    }
+    return sheet;
+}
+
+Sheet SearchSheet(const SearchSheetTexts& ricerca)
+{
+    Sheet sheet(Orientation::Portrait, kDateFont, JobName("ricerca", ricerca.data));
+    sheet.Print(80, 0, ricerca.data);
+    sheet.SetFontSize(kTitleSize);
+    sheet.Box(1, 3, 85, 18);
+    sheet.Print(32, 1, "   Ricerche Statistiche ");
+    sheet.SetFontSize(kTextSize);
+    PrintPeriod(sheet, ricerca);
+    PrintConditions(sheet, ricerca.condizioni);
+    PrintTotals(sheet, PrintRuns(sheet, ricerca.righe), ricerca.totali);
+    return sheet;
+}
+
+Sheet ChartSheet(CalendarDate data, std::function<void()> copia)
+{
+    Sheet sheet(Orientation::Landscape, {.name = kDateFont.name, .size = kDateSize, .bold = true},
+                JobName("grafico", data));
+    sheet.Print(125, 0, data);
+    sheet.SetFontSize(kTitleSize);
+    sheet.Box(2, 1, 132, 47);
+    sheet.PaintClipboard(15, 3, std::move(copia));
+    return sheet;
+}
+
+} // namespace zelvia

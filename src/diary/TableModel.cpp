@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/TableModel.h"
+
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "core/ValueFile.h"
+
+namespace zelvia::Module1
+{
+
+ColonnaTabella<i16> TabGiorno;
+ColonnaTabella<i16> TabKm;
+ColonnaTabella<i16> TabMetri;
+ColonnaTabella<i16> TabOre;
+ColonnaTabella<i16> TabMinuti;
+ColonnaTabella<i16> TabSecondi;
+ColonnaTabella<i16> TabMediaMinuti;
+ColonnaTabella<i16> TabMediaSecondi;
+ColonnaTabella<i16> TabMediaMillesimi;
+ColonnaTabella<Text> TabAndatura;
+ColonnaTabella<Text> TabFondo;
+ColonnaTabella<i16> TabRipetVolte;
+ColonnaTabella<i16> TabRipetDistanza;
+ColonnaTabella<i16> TabRipetQuante;
+ColonnaTabella<i16> TabRipetTempi;
+CalendarDate TabDataInizio;
+
+namespace
+{
+
+constexpr int kRows = 31;
+
+/// Hands the fifteen values of a row to `visit`, in the order of the file.
+template <typename Visitor>
+void VisitRow(int row, Visitor&& visit)
+{
+    visit(TabGiorno[row]);
+    visit(TabKm[row]);
+    visit(TabMetri[row]);
+    visit(TabOre[row]);
+    visit(TabMinuti[row]);
+    visit(TabSecondi[row]);
+    visit(TabMediaMinuti[row]);
+    visit(TabMediaSecondi[row]);
+    visit(TabMediaMillesimi[row]);
+    visit(TabAndatura[row]);
+    visit(TabFondo[row]);
+    visit(TabRipetVolte[row]);
+    visit(TabRipetDistanza[row]);
+    visit(TabRipetQuante[row]);
+    visit(TabRipetTempi[row]);
+}
+
+} // namespace
+
+void AzzeraTabella()
+{
+    Trap(kBareTitle, [] {
+        for (int row = 1; row <= kRows; ++row) {
+            VisitRow(row, [](auto& value) { value = {}; });
+            TabGiorno[row] = row;
+        }
+        TabDataInizio = DateValue("01/01/2007");
+    });
+}
+
+bool ScriviTabella(TextView path)
+{
+    bool written = false;
+    Trap(kBareTitle, [&] {
+        ValueWriter file(path);
+        for (int row = 1; row <= kRows; ++row) {
+            VisitRow(row, [&](const auto& value) { file.Write(value); });
+        }
+        file.Write(TabDataInizio);
+        file.Close();
+        written = true;
+    });
+    return written;
+}
+
+void LeggiTabella(TextView path)
+{
+    Trap(kBareTitle, [&] {
+        ValueReader file(path);
+        for (int row = 1; row <= kRows; ++row) {
+            VisitRow(row, [&](auto& value) { file.Input(value); });
+        }
+        file.Input(TabDataInizio);
+    });
+}
+
+} // namespace zelvia::Module1

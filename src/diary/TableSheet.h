@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Sheet.h"
+#include "diary/TableGrid.h"
+
+#include <array>
+
+namespace zelvia
+{
+
+/// What stands in the boxes of the table editor.
+struct TableSheetTexts {
+    CalendarDate data;
+    Text titolo;
+    /// Rows 1..31 at the indices 0..30, in the order of the grid's columns.
+    std::array<std::array<Text, TableGrid::kColumns>, TableGrid::kRows> righe;
+    /// Day, month and year of the start.
+    std::array<Text, 3> dataInizio;
+};
+
+/// The sheet of a training table.
+Sheet TableSheet(const TableSheetTexts& tabella);
+
+} // namespace zelvia

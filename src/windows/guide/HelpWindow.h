@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "toolkit/LateParts.h"
+#include "windows/guide/HelpFile.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QHelpContentWidget;
+class QLabel;
+class QLineEdit;
+class QModelIndex;
+class QPushButton;
+class QTabWidget;
+
+namespace zelvia
+{
+
+class HelpPage;
+class SearchPane;
+
+/// The window of the guide: contents and search at the left, the page at the right. To the controls of the program it
+/// counts as another program's window, so a field stays open while the guide is read.
+class HelpWindow : public QWidget, public GuideWindow
+{
+    Q_OBJECT
+
+public:
+    explicit HelpWindow(std::unique_ptr<HelpFile> file);
+    ~HelpWindow() override;
+
+    void ShowContents() override;
+    void ShowSearch() override;
+    void ShowTopic(const QString& name) override;
+
+private:
+    void BuildButtons();
+    void BuildPanes();
+    void BuildKeys();
+    void BringToFront();
+    void GoTo(const QUrl& address);
+    void FollowContents(const QModelIndex& index);
+    void FollowPage(const QUrl& address);
+    void ShowFound(const QUrl& address, const QString& text);
+    void Find(bool backwards);
+
+    std::unique_ptr<HelpFile> file_;
+    QPushButton* back_;
+    QPushButton* forward_;
+    QPushButton* home_;
+    QLineEdit* find_;
+    QLabel* notFound_;
+    QTabWidget* tabs_;
+    QHelpContentWidget* contents_;
+    SearchPane* search_;
+    HelpPage* page_;
+    bool following_ = false; ///< True while the contents are moved after the page.
+};
+
+} // namespace zelvia

@@ -1,0 +1,371 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The fields of the page that are entered in place: lists, spin groups, notes and splits.
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "diary/RouteModel.h"
+#include "toolkit/FocusController.h"
+#include "toolkit/Menu.h"
+#include "toolkit/QtText.h"
+#include "windows/page/CampoLista.h"
+#include "windows/page/FrmMain.h"
+#include "windows/page/GruppoSpin.h"
+
+#include <QMenu>
+
+#include <algorithm>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+constexpr int kBackspace = 8;
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
+constexpr int kFirstNote = 3;
+constexpr int kLastNote = 10;
+
+Text NoteName(TextView control, int riga)
+{
+    return Text(control) + "Note" + PlainText(i32(riga)) + " - ERRORE : ";
+}
+
+/// True when an entry of the list is that text, whatever its case.
+bool Holds(const ListBox& lst, const Text& testo)
+{
+    const std::vector<Text> voci = lst.Items();
+    return std::any_of(voci.begin(), voci.end(), [&](const Text& voce) { return SameText(voce, testo); });
+}
+
+/// Digits with a leading 0 below 10.
+Text TwoDigits(const UpDown& spin)
+{
+    return (spin.Value() < 10 ? "0" : "") + PlainText(spin.Value());
+}
+
+} // namespace
+
+void frmMain::FollowInTabOrder(QWidget& field)
+{
+    QWidget& sink = FocusSink().Widget();
+    // Qt leaves alone what Tab does not stop at.
+    sink.setFocusPolicy(Qt::TabFocus);
+    QWidget::setTabOrder(&field, &sink);
+    sink.setFocusPolicy(Qt::NoFocus);
+}
+
+void frmMain::EnterField(Control& control)
+{
+    control.GotFocus = [this, &control] {
+        control.GotFocus = {};
+        CursoreMano();
+    };
+    control.SetFocus();
+}
+
+void frmMain::ConnectLists()
+{
+    for (const ListaScelta lista : kTutteLeListe) {
+        campiLista_[static_cast<int>(lista)] = lista == ListaScelta::Percorso
+                                                   ? std::make_unique<CampoPercorso>(*this)
+                                                   : std::make_unique<CampoLista>(*this, lista);
+    }
+}
+
+void frmMain::Immis(ListaScelta lista)
+{
+    campiLista_[static_cast<int>(lista)]->Apri();
+}
+
+i16 frmMain::AggiungiLista(TextBox& txt, ListBox& lst)
+{
+    i16 presente = 0;
+    Trap("AggiungiLista - ERRORE : ", [&] {
+        const Text testo = Trim(txt.Content());
+        if (testo != txt.Content()) {
+            txt.SetContent(testo);
+        }
+        if (!CampoNonVuoto(testo)) {
+            return;
+        }
+        presente = Holds(lst, testo) ? 1 : 0;
+        if (presente == 0) {
+            lst.AddItem(testo);
+            FileModificato = 1;
+        }
+    });
+    return presente;
+}
+
+void frmMain::ShowRouteEntries(bool visible)
+{
+    for (const char* name : {"mnuListaWOrdinata", "mnuDescrizionePercorso"}) {
+        mnuCancelladallaLista->findChild<QAction*>(QLatin1String(name))->setVisible(visible);
+    }
+}
+
+bool frmMain::NewRouteTyped()
+{
+    const ControlliLista& campo = Campo(ListaScelta::Percorso);
+    const Text testo = Trim(campo.txt->Content());
+    return CampoNonVuoto(testo) && !Holds(*campo.lst, testo);
+}
+
+void frmMain::LeaveRouteBox()
+{
+    FocusController& focus = FocusController::Instance();
+    if (focus.Current() == Campo(ListaScelta::Percorso).txt) {
+        focus.LeaveField();
+    }
+}
+
+void frmMain::mnuCancella_Click()
+{
+    Trap("mnuCancella - ERRORE : ", [this] {
+        const int numero = ListaAperta.value();
+        constexpr int splits = 9;
+        if (numero >= 1 && numero <= 8) {
+            RemoveSelected(static_cast<ListaScelta>(numero));
+        } else if (numero == splits && lstListaKM->ListIndex() >= 0) {
+            lstListaKM->RemoveItem(lstListaKM->ListIndex());
+        }
+        FileModificato = 1;
+    });
+}
+
+void frmMain::RemoveSelected(ListaScelta lista)
+{
+    ControlliLista& campo = Campo(lista);
+    const int selected = campo.lst->ListIndex();
+    if (selected < 0) {
+        return;
+    }
+    const bool percorso = lista == ListaScelta::Percorso;
+    // A route without a description has been described at place 0, which must not hand it on to another one.
+    const i16 descrizione = percorso ? NumeroPercorso() : i16(0);
+    campo.lst->RemoveItem(selected);
+    campo.txt->SetContent({});
+    if (percorso) {
+        AzzeraPercorso(descrizione);
+    }
+}
+
+void frmMain::CopyLastRun(const Text& percorso)
+{
+    for (int i = 366; i >= 1; --i) {
+        const RecordGiorno& giorno = Giorni[i];
+        if (!SameText(giorno.Percorso, percorso)) {
+            continue;
+        }
+        ShowTextField(ListaScelta::Lunghezza, giorno.Lunghezza);
+        ShowTextField(ListaScelta::Fondo, giorno.Fondo);
+        upKM->SetValue(giorno.Km);
+        upMetri->SetValue(giorno.Metri);
+        if (ControlloTempiKm() == 1) {
+            TempoImpiegato();
+        }
+        return;
+    }
+}
+
+void frmMain::ConnectGroups()
+{
+    const auto addGroup = [this](GruppoSpin::Dati dati) {
+        gruppi_.push_back(std::make_unique<GruppoSpin>(*this, std::move(dati)));
+    };
+    const auto addSpin = [addGroup](Label* caption, const char* name, const char* title, UpDown* spin, Label* value,
+                                    const char* valueName) {
+        addGroup({{{caption, spin, name, title}}, value, valueName, {spin}, spin, {}, {}});
+    };
+    const auto recompute = [this](bool timesToo) {
+        const i16 esito = ControlloTempiKm();
+        if (esito == 1) {
+            TempoImpiegato();
+        } else if (esito == 2 && timesToo) {
+            tempo();
+        }
+    };
+    const auto distance = [recompute] { recompute(false); };
+    const auto times = [recompute] { recompute(true); };
+    const auto lastWeight = [this] { upPeso->SetValue(UltimoPeso); };
+
+    addGroup({{{lblImmisMetri, upMetri, "lblImmisMetri", "ImmisMetri"}},
+              lblKm,
+              "lblKm",
+              {upMetri, upKM, upMetro},
+              upMetri,
+              {},
+              distance});
+    addGroup({{{lblImmisOraInizio, upMinutiInizio, "lblImmisOraInizio", "ImmisOraInizio"}},
+              lblOraInizio,
+              "lblOraInizio",
+              {upMinutiInizio, upOraInizio, upSecondiInizio},
+              upOraInizio,
+              {},
+              times});
+    addGroup({{{lblImmisOraFine, upMinutiFine, "lblOrafine", "ImmisOraFine"}},
+              lblOraFine,
+              "lblOraFine",
+              {upMinutiFine, upOraFine, upSecondiFine},
+              upOraFine,
+              {},
+              times});
+    addSpin(lblImmisCorridori, "lblImmisCorridori", "ImmisCorridori", upCorridori, lblCorridori, "lblCorridori");
+    addGroup(
+        {{{lblImmisPeso, upPeso, "lblImmisPeso", "ImmisPeso"}}, lblPeso, "lblPeso", {upPeso}, upPeso, lastWeight, {}});
+    addSpin(lblRipetizioniVolte, "lblRipetizioniVolte", "RipetizioniVolte", upRipetizioni, lblRipetizioni,
+            "lblRipetizioni");
+    addGroup({{{lblRipetizioniQuante, upRipetizioniQuante, "lblRipetizioniQuante", "RipetizioniQuante"}},
+              lblRipetizioni,
+              "lblRipetizioni",
+              {upRipetizioniQuante, upRipetizioniTempi},
+              upRipetizioniQuante,
+              {},
+              {}});
+    addSpin(lblRipetizioniDistanza, "lblRipetizioniDistanza", "RipetizioniDistanza", upRipetizioniDistanza,
+            lblRipetizioni, "lblRipetizioni");
+    addGroup({{{lblImmisTempoKM, upTempoKM, "lblImmisTempoKm", "ImmisTempoKm"},
+               {lblImmisTempoMinuti, upTempoMinuti, "lblImmisTempoMinuti", "ImmisTempoMinuti"}},
+              lblTempoKm,
+              "lblTempoKm",
+              {upTempoKM, upTempoOre, upTempoMinuti, upTempoSecondi, lstListaKM, cmdListaKM},
+              cmdListaKM,
+              {},
+              {}});
+    splits_ = gruppi_.back().get();
+}
+
+void frmMain::ConnectSplits()
+{
+    cmdListaKM->Click = [this] { cmdListaKM_Click(); };
+    lstListaKM->GotFocus = [this] {
+        Trap("lstListaKm - ERRORE : ", [this] {
+            splits_->Mostra(true);
+            constexpr int splits = 9;
+            ListaAperta = splits;
+            CursoreMano();
+            cmdListaKM->SetFocus();
+        });
+    };
+    lstListaKM->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+        Trap("lstListaKm - ERRORE : ", [&] {
+            ShowRouteEntries(false);
+            if (button == Qt::RightButton) {
+                OpenPopUp(*mnuCancelladallaLista, position);
+            }
+        });
+    };
+    upTempoKM->Change = [this] {
+        Trap("upTempo - ERRORE : ", [this] { lblImmisTempoKM->SetCaption(TwoDigits(*upTempoKM)); });
+    };
+    const std::pair<UpDown*, TextView> parts[] = {{upTempoOre, "upTempoOre - ERRORE : "},
+                                                  {upTempoMinuti, "upTempoMinuti - ERRORE : "},
+                                                  {upTempoSecondi, "upTempoSecondi - ERRORE : "}};
+    for (const auto& [spin, title] : parts) {
+        spin->Change = [this, title = title] {
+            Trap(title, [this] {
+                lblImmisTempoMinuti->SetCaption(TwoDigits(*upTempoOre) + ":" + TwoDigits(*upTempoMinuti) + ":" +
+                                                TwoDigits(*upTempoSecondi));
+            });
+        };
+    }
+}
+
+void frmMain::cmdListaKM_Click()
+{
+    Trap("cmdListaKm - ERRORE : ", [this] {
+        if (upTempoKM->Value() == 0) {
+            MsgBox(" INSERIRE:  KM                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        if (upTempoOre->Value() + upTempoMinuti->Value() + upTempoSecondi->Value() == 0) {
+            MsgBox(" INSERIRE:  TEMPI                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        const Text parziale = lblImmisTempoKM->Caption() + "      " + lblImmisTempoMinuti->Caption();
+        if (Holds(*lstListaKM, parziale)) {
+            MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        lstListaKM->AddItem(parziale);
+    });
+}
+
+void frmMain::ConnectNotes()
+{
+    for (int riga = kFirstNote; riga <= kLastNote; ++riga) {
+        note[riga].lbl->OnClick([this, riga] { lblNote_Click(riga); });
+        note[riga].txt->LostFocus = [this, riga] {
+            Trap(NoteName("txt", riga), [&] {
+                note[riga].txt->SetVisible(false);
+                note[riga].lbl->SetCaption(note[riga].txt->Content());
+            });
+        };
+        note[riga].txt->Click = [this, riga] { txtNote_Click(riga); };
+        note[riga].txt->KeyPress = [this, riga](int& keyAscii) { txtNote_KeyPress(riga, keyAscii); };
+    }
+}
+
+void frmMain::lblNote_Click(int riga)
+{
+    Trap(NoteName("lbl", riga), [&] {
+        note[riga].txt->SetContent(note[riga].lbl->Caption());
+        FollowInTabOrder(*note[riga].txt);
+        note[riga].txt->SetVisible(true);
+        note[riga].txt->SetFocus();
+        LunghezzaNota = 0;
+    });
+}
+
+void frmMain::txtNote_Click(int riga)
+{
+    Trap(NoteName("txt", riga), [this] {
+        NoteAperte = 1;
+        mnuNote_Click();
+    });
+}
+
+void frmMain::txtNote_KeyPress(int riga, int keyAscii)
+{
+    // The handler of the seventh line goes by the name of its label.
+    constexpr int misnamed = 7;
+    Trap(NoteName(riga == misnamed ? "lbl" : "txt", riga), [&] {
+        if (keyAscii == kBackspace) {
+            return;
+        }
+        TextBox& txt = *note[riga].txt;
+        LunghezzaNota = static_cast<int>(Len(txt.Content()));
+        if (LunghezzaNota == txt.Limit() - 1) {
+            txt.SetVisible(false);
+            if (riga < kLastNote) {
+                note[riga + 1].txt->SetVisible(true);
+                note[riga + 1].txt->SetFocus();
+            }
+        }
+        if (keyAscii == kEscape || (keyAscii == kEnter && riga == kLastNote)) {
+            txtNote_Click(riga);
+        } else if (keyAscii == kEnter) {
+            lblNote_Click(riga + 1);
+        }
+    });
+}
+
+void frmMain::mnuNote_Click()
+{
+    Trap("mnuNote - ERRORE : ", [this] {
+        if (NoteAperte != 0 && NoteAperte != 1) {
+            return;
+        }
+        const bool show = NoteAperte == 0;
+        for (const ControlliNota& nota : note) {
+            nota.txt->SetVisible(show);
+        }
+        NoteAperte = show ? 1 : 0;
+    });
+}
+
+} // namespace zelvia

@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What follows the user's hand on the page: value labels of the spin controls, pointers, panels of the right page.
+#include "core/Conversions.h"
+#include "core/Files.h"
+#include "core/RunTimeError.h"
+#include "diary/TableModel.h"
+#include "diary/TableWalk.h"
+#include "diary/Workspace.h"
+#include "toolkit/Application.h"
+#include "toolkit/Events.h"
+#include "toolkit/SpinKeys.h"
+#include "windows/page/FrmMain.h"
+
+#include <QKeyEvent>
+
+#include <array>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+/// The captions that get the hand while a field is open, in their order.
+std::array<Label*, 15> HandLabels(PageControls& page)
+{
+    const auto lista = [&page](ListaScelta which) { return page.Campo(which).lbl; };
+    return {lista(ListaScelta::Percorso),
+            lista(ListaScelta::Lunghezza),
+            page.lblKm,
+            lista(ListaScelta::Modo),
+            lista(ListaScelta::Fondo),
+            lista(ListaScelta::Tipo),
+            page.lblOraInizio,
+            page.lblOraFine,
+            lista(ListaScelta::Stagione),
+            lista(ListaScelta::TempoAtm),
+            lista(ListaScelta::Temperatura),
+            page.lblCorridori,
+            page.lblPeso,
+            page.lblTempoKm,
+            page.lblRipetizioni};
+}
+
+/// Hours or minutes as plain digits, the parts behind them with two.
+Text ClockText(const UpDown& first, std::initializer_list<const UpDown*> rest)
+{
+    Text text = PlainText(first.Value());
+    for (const UpDown* part : rest) {
+        text += ":" + Format(part->Value(), "00");
+    }
+    return text;
+}
+
+} // namespace
+
+void frmMain::ConnectControls()
+{
+    lblData->OnClick([this] { lblData_Click(); });
+    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] {
+        lstListaOrdinata_LostFocus();
+        FocusSink().SetFocus();
+    });
+    for (UpDown* spin : {upGiorno, upMese}) {
+        spin->BeforeStep = [this] { return LeaveFieldForDate(); };
+    }
+    upGiorno->DownClick = [this] { upGiorno_DownClick(); };
+    upGiorno->UpClick = [this] { upGiorno_UpClick(); };
+    upMese->DownClick = [this] { upMese_DownClick(); };
+    upMese->UpClick = [this] { upMese_UpClick(); };
+    tmrFocus->Tick = [this] { tmrFocus_Timer(); };
+    lstListaOrdinata->LostFocus = [this] { lstListaOrdinata_LostFocus(); };
+    lstListaOrdinata->KeyPress = [this](int keyAscii) {
+        constexpr int escape = 27;
+        if (keyAscii == escape) {
+            lstListaOrdinata_LostFocus();
+        }
+    };
+}
+
+/// A key that no control of the page had a use for.
+void frmMain::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        Fire([this] { lstListaOrdinata_LostFocus(); });
+    } else {
+        Form::keyPressEvent(event);
+    }
+}
+
+void frmMain::ConnectSpins()
+{
+    upKM->Change = [this] { ShowDistance(upMetri->Value()); };
+    upMetri->Change = [this] {
+        upMetro->SetValue(0);
+        ShowDistance(upMetri->Value());
+    };
+    upMetro->Change = [this] { ShowDistance(upMetri->Value() + upMetro->Value()); };
+    for (UpDown* spin : {upOraInizio, upMinutiInizio, upSecondiInizio}) {
+        spin->Change = [this] {
+            lblImmisOraInizio->SetCaption(ClockText(*upOraInizio, {upMinutiInizio, upSecondiInizio}));
+        };
+    }
+    for (UpDown* spin : {upOraFine, upMinutiFine, upSecondiFine}) {
+        spin->Change = [this] { lblImmisOraFine->SetCaption(ClockText(*upOraFine, {upMinutiFine, upSecondiFine})); };
+    }
+    for (UpDown* spin : {upRipetizioniQuante, upRipetizioniTempi}) {
+        spin->Change = [this] {
+            lblRipetizioniQuante->SetCaption(ClockText(*upRipetizioniQuante, {upRipetizioniTempi}));
+        };
+    }
+    const std::pair<UpDown*, Label*> plain[] = {{upCorridori, lblImmisCorridori},
+                                                {upPeso, lblImmisPeso},
+                                                {upRipetizioni, lblRipetizioniVolte},
+                                                {upRipetizioniDistanza, lblRipetizioniDistanza}};
+    for (const auto& [spin, label] : plain) {
+        spin->Change = [spin = spin, label = label] { label->SetCaption(PlainText(spin->Value())); };
+    }
+}
+
+void frmMain::ShowDistance(i32 metri)
+{
+    lblImmisMetri->SetCaption(PlainText(upKM->Value()) + "," + Format(metri, "000"));
+}
+
+void frmMain::CursoreMano()
+{
+    Trap("CursoreMano - ERRORE : ", [this] {
+        const QCursor hand = LoadCursor(ProgramFolder() + "\\mano.cur");
+        for (Label* label : HandLabels(*this)) {
+            label->setCursor(hand);
+        }
+    });
+}
+
+void frmMain::CursoreNormale()
+{
+    Trap("CursoreNormale - ERRORE : ", [this] {
+        for (Label* label : HandLabels(*this)) {
+            label->unsetCursor();
+        }
+    });
+}
+
+void frmMain::AzzeraDatiTabella()
+{
+    TabAllenamentiVisibili();
+    lblKmTab->SetCaption("0,0");
+    lblTempoTab->SetCaption("0:0:0");
+    lblMediaTab->SetCaption("0:0");
+    lblAndaturaTab->SetCaption("");
+    lblFondoTab->SetCaption("");
+    lblRipetizioniTab->SetCaption("0 x 0  @  0:0");
+}
+
+void frmMain::NessunaTabella()
+{
+    lblTabNomeFile->SetCaption("Nessuna tabella attiva");
+    lblKmTab->SetCaption("0");
+    lblTempoTab->SetCaption("0:00");
+    lblMediaTab->SetCaption("0:00");
+    lblAndaturaTab->SetCaption("");
+    lblFondoTab->SetCaption("");
+    lblRipetizioniTab->SetCaption("0 x 000     @ 0.00 ");
+}
+
+void frmMain::ShowActiveTable()
+{
+    lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
+    LeggiTabella(NomeTabellaAttiva);
+    AssegnaTabella();
+}
+
+void frmMain::AssegnaTabella()
+{
+    Trap("AssegnaTabella - ERRORE : ", [this] {
+        const EsitoCammino esito = CamminaTabella();
+        if (esito.stato == EsitoCammino::Stato::Finita) {
+            EndTable();
+        } else if (esito.stato == EsitoCammino::Stato::InCorso) {
+            ShowTableRow(esito.riga);
+        }
+    });
+}
+
+/// Switches the used-up table off.
+void frmMain::EndTable()
+{
+    MsgBox("  FINE ALLENAMENTI  -  LA TABELLA :  " + NomeSenzaCartella(NomeTabellaAttiva) +
+               " -  VIENE DISATTIVATA      ",
+           MsgButtons::OK, MsgIcon::Information);
+    NomeTabellaAttiva.clear();
+    lblTabNomeFile->SetCaption("");
+    AzzeraDatiTabella();
+    SalvaNomeTabella();
+}
+
+void frmMain::ShowTableRow(i16 riga)
+{
+    const RigaPiano row = RigaDellaTabella(riga);
+    const auto digits = [](i16 number) { return PlainText(number); };
+    lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metri));
+    lblTempoTab->SetCaption(digits(row.ore) + ":" + digits(row.minuti) + ":" + digits(row.secondi));
+    lblMediaTab->SetCaption(digits(row.mediaMinuti) + ":" + digits(row.mediaSecondi));
+    lblAndaturaTab->SetCaption(row.andatura);
+    lblFondoTab->SetCaption(row.fondo);
+    lblRipetizioniTab->SetCaption(digits(row.ripetVolte) + " x " + digits(row.ripetDistanza) + "  @  " +
+                                  digits(row.ripetQuante) + ":" + digits(row.ripetTempi));
+}
+
+void frmMain::ShowTablePanel(bool visible)
+{
+    for (Picture* picture :
+         {pctTabAllenamenti, pctTabKm, pctTabTempo, pctTabMedia, pctTabAndatura, pctTabTerreno, pctTabRipetizioni}) {
+        picture->SetVisible(visible);
+    }
+    for (Label* label :
+         {lblTabNomeFile, lblKmTab, lblTempoTab, lblMediaTab, lblAndaturaTab, lblFondoTab, lblRipetizioniTab}) {
+        label->SetVisible(visible);
+    }
+    RaiseOrderedList();
+}
+
+} // namespace zelvia

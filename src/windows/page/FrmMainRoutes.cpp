@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The routes' descriptions as the page sees them.
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "diary/RouteModel.h"
+#include "diary/RouteTotals.h"
+#include "toolkit/QtText.h"
+#include "windows/page/FrmMain.h"
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+void frmMain::SalvaNomePercorso()
+{
+    Trap("SalvaNomePercorso - ERRORE : ", [this] {
+        const Text nome = Campo(ListaScelta::Percorso).txt->Content();
+        if (nome.empty() || PostoPercorso(nome).value_or(0) > 0) {
+            return;
+        }
+        const i16 libero = PrimoPostoLibero();
+        if (libero == 0) {
+            MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+            return;
+        }
+        NomiPercorso[libero] = nome;
+        ShowRoute(nome);
+    });
+}
+
+i16 frmMain::NumeroPercorso()
+{
+    return TrapValue("NumeroPercorso - ERRORE : ", i16(0), [] { return PostoPercorso(PercorsoCorrente).value_or(0); });
+}
+
+void frmMain::mnuDescrizionePercorso_Click()
+{
+    Trap("mnuDescrizionePercorso - ERRORE : ", [this] {
+        // Closing the field may have opened the description of the name typed there.
+        if (desPercorso_.Loaded()) {
+            return;
+        }
+        const ListBox& lst = *Campo(ListaScelta::Percorso).lst;
+        const Text nome = lst.List(lst.ListIndex());
+        if (!nome.empty()) {
+            PercorsoCorrente = nome;
+        }
+        ShowRoute(nome);
+    });
+}
+
+void frmMain::ShowRoute(const Text& nome)
+{
+    frmDesPercorso& window = desPercorso_.Load(this, *this);
+    window.show();
+    window.setWindowTitle(ToQString("Percorso : " + nome));
+}
+
+void frmMain::SetDistance(i32 km, i32 metri)
+{
+    upKM->SetValue(km);
+    upMetri->SetValue(metri);
+}
+
+} // namespace zelvia

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/BoundedArray.h"
+#include "core/Date.h"
+#include "diary/TableCalculations.h"
+#include "diary/TableGrid.h"
+#include "diary/TableSheet.h"
+#include "toolkit/Button.h"
+#include "toolkit/CommonDialog.h"
+#include "toolkit/Form.h"
+#include "toolkit/Label.h"
+#include "toolkit/TextBox.h"
+
+#include <array>
+
+class QMenu;
+
+namespace zelvia
+{
+
+class TableWindows;
+
+/// The editor of one training table. Its boxes are the working copy; the columns in memory are filled from them.
+class frmAllenamento : public Form
+{
+    Q_OBJECT
+
+public:
+    explicit frmAllenamento(TableWindows& windows);
+
+    Control& FocusSink() override { return *Box(TableGrid::Km, 1); }
+
+    // The grid and the columns; rows are 1..31.
+    void AssegnaTab(i16 riga);
+    void AssegnaTxt(i16 riga);
+    void TabAssegnaTxt();
+    void ColoreSfondo(i16 riga);
+    void ColoreRiga(i16 riga);
+    i16 ControllaSaveTab();
+    /// How many of day, month and year of the start date are valid, 0..3.
+    i16 ContaCampiData();
+    /// Repairs the boxes of the start date, with a message for each repair.
+    void ControlloData();
+    /// Boxes of `sorgente` into the columns at `destinazione`. A shown 1.500 arrives as 2: its dot is a decimal point
+    /// here.
+    void CopiaRiga(i16 destinazione, i16 sorgente);
+    void AzzeraRiga(i16 riga);
+    void CalcolaMediaKm(i16 riga);
+    void CalcolaDistanza(i16 riga);
+    void CalcolaTempo(i16 riga);
+
+    void cmdOK_Click();
+    void cmdAttiva_Click();
+    void cmdDisattiva_Click();
+    void cmdCalcoloMedie_Click();
+    void cmdSalva_Click();
+    void cmdStampa_Click();
+    void cmdEsci_Click() { Unload(); }
+    void mnuInserisciRiga_Click();
+    void mnuEliminaRiga_Click();
+
+    TextBox* Box(TableGrid::Column column, int riga) const { return boxes_[static_cast<std::size_t>(column)][riga]; }
+    Label* StripOf(TableGrid::Strip strip, int riga) const { return strips_[static_cast<std::size_t>(strip)][riga]; }
+
+    i16 TabellaModificata; ///< 1 when rows moved, or when cmdOK found the boxes different from the columns.
+    Text NomeFileForm;     ///< Full path of the table opened here; empty for a new one.
+    i16 RigaSelezionata;   ///< Row of the last right click.
+    CommonDialog tabCommonDialog;
+
+    BoundedArray<Label*, 1, 31> lblGiorni;
+    std::array<TextBox*, 3> dateBoxes{}; ///< txtGiornoInizio, txtMeseInizio, txtAnnoInizio.
+    Label* lblGiorniInizio = nullptr;
+    Button* cmdOK = nullptr;
+    Button* cmdAttiva = nullptr;
+    Button* cmdDisattiva = nullptr;
+    Button* cmdCalcoloMedie = nullptr;
+    Button* cmdSalva = nullptr;
+    Button* cmdStampa = nullptr;
+    Button* cmdEsci = nullptr;
+    QMenu* mnuRigheTabella;
+
+protected:
+    void OnUnload() override;
+
+private:
+    void BuildHeads();
+    void BuildRow(int riga);
+    void BuildPanel();
+    Button* MakeButton(const char* name, TextView caption, int top, void (frmAllenamento::*click)());
+    void ConnectBox(TableGrid::Column column, int riga);
+    void ConnectDateBox(std::size_t index);
+    void Load();
+
+    void ShowRowMenu(int riga, const QPoint& position);
+    void BeginEditing();
+    bool ColumnLimitHolds(TableGrid::Column column, int riga);
+    bool DateLimitHolds(std::size_t index);
+    void FormatBox(TableGrid::Column column, int riga, bool limitHeld);
+    void MoveOn(TableGrid::Column column, int riga);
+
+    Text Content(TableGrid::Column column, int riga) const;
+    i16 Number(TableGrid::Column column, int riga) const;
+    int DateNumber(std::size_t index) const;
+    CalendarDate DateOfBoxes() const;
+    void AssignColumns(i16 destinazione, i16 sorgente, bool dotIsThousands);
+    bool RowDiffers(int riga) const;
+    void ShowRow(int riga);
+    void EmptyBlankBoxes(int riga);
+    void ShowStartDate();
+    GruppiRiga Groups(int riga) const;
+    void CalculateRow(i16 riga);
+
+    bool IsActiveTable() const;
+    void PaintRow(int riga, const QColor& back);
+    void PaintDate(const QColor& back);
+    void AcceptAllRows();
+    void RecolourAllRows();
+    void SaveUnderName();
+    bool ChooseActivePath();
+    TableSheetTexts SheetTexts() const;
+
+    TableWindows& windows_;
+    std::array<BoundedArray<TextBox*, 1, 31>, TableGrid::kColumns> boxes_;
+    std::array<BoundedArray<Label*, 1, 31>, TableGrid::kStrips> strips_;
+    Text percorsoSalvato_; ///< Where this window last saved, for a table that was not opened from a file.
+};
+
+} // namespace zelvia

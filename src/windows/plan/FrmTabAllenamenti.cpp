@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/plan/FrmTabAllenamenti.h"
+
+#include "core/Conversions.h"
+#include "core/Files.h"
+#include "core/RunTimeError.h"
+#include "diary/Module1.h"
+#include "diary/Workspace.h"
+#include "toolkit/Fonts.h"
+#include "toolkit/PagePalette.h"
+#include "toolkit/QtText.h"
+#include "windows/plan/TablePage.h"
+#include "windows/plan/TableWindows.h"
+
+#include <algorithm>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+constexpr TextView kChooseTable = "SELEZIONARE UNA TABELLA       ";
+
+Text PathOf(const Text& voce)
+{
+    return CartellaDiario + "\\" + voce;
+}
+
+Button* MakeButton(QWidget* parent, const char* name, TextView caption, int top)
+{
+    auto* button = new Button(parent, QLatin1String(name), caption);
+    button->setGeometry(328, top, 176, 36);
+    button->setFont(PageFont("Times New Roman", 15));
+    return button;
+}
+
+} // namespace
+
+frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
+    : Form(QStringLiteral("frmTabAllenamenti")), flbListaTabelle(new ListBox(this, QStringLiteral("flbListaTabelle"))),
+      cmdOK(MakeButton(this, "cmdOK", "          O K         ", 20)),
+      cmdNuovaTab(MakeButton(this, "cmdNuovaTab", "Nuova Tabella", 72)),
+      cmdCancellaTab(MakeButton(this, "cmdCancellaTab", "Cancella Tabella", 124)),
+      cmdEsci(MakeButton(this, "cmdEsci", "Esci", 244)), windows_(windows)
+{
+    setWindowTitle(QStringLiteral("Lista Tabelle Allenamenti"));
+    setPalette(PagePalette());
+    setAutoFillBackground(true);
+    setFixedSize(524, 300);
+    flbListaTabelle->setGeometry(20, 20, 288, 260);
+    flbListaTabelle->setFont(PageFont("Times New Roman", 16));
+    flbListaTabelle->setAccessibleName(QStringLiteral("Tabelle di allenamento"));
+    cmdOK->Click = [this] { cmdOK_Click(); };
+    cmdNuovaTab->Click = [this] { cmdNuovaTab_Click(); };
+    cmdCancellaTab->Click = [this] { cmdCancellaTab_Click(); };
+    cmdEsci->Click = [this] { Unload(); };
+    Reload();
+}
+
+void frmTabAllenamenti::Reload()
+{
+    Trap("Load - ERRORE : ", [this] {
+        const Text before = Selected();
+        RefreshList();
+        Select(before);
+        SelectActive();
+    });
+}
+
+void frmTabAllenamenti::ShowOtherDiary()
+{
+    flbListaTabelle->Clear();
+    if (!FindFolder(CartellaDiario).empty()) {
+        Reload();
+    }
+}
+
+void frmTabAllenamenti::RefreshList()
+{
+    flbListaTabelle->Clear();
+    constexpr TextView extension = ".tab";
+    for (const Text& file : ReadFolder(CartellaDiario)) {
+        if (Len(file) > Len(extension) && SameText(Right(file, Len(extension)), extension)) {
+            flbListaTabelle->AddItem(file);
+        }
+    }
+}
+
+void frmTabAllenamenti::SelectActive()
+{
+    for (int i = 0; i < flbListaTabelle->ListCount(); ++i) {
+        if (SameText(PathOf(flbListaTabelle->List(i)), NomeTabellaAttiva)) {
+            flbListaTabelle->SetListIndex(i);
+            return;
+        }
+    }
+}
+
+void frmTabAllenamenti::Select(const Text& voce)
+{
+    const std::vector<Text> voci = flbListaTabelle->Items();
+    const auto found = std::find(voci.begin(), voci.end(), voce);
+    flbListaTabelle->SetListIndex(found == voci.end() ? -1 : static_cast<int>(found - voci.begin()));
+}
+
+Text frmTabAllenamenti::Selected() const
+{
+    return flbListaTabelle->List(flbListaTabelle->ListIndex());
+}
+
+void frmTabAllenamenti::ShowEditor()
+{
+    frmAllenamento& editor = windows_.Editor();
+    editor.show();
+    editor.raise();
+    editor.activateWindow();
+}
+
+void frmTabAllenamenti::cmdOK_Click()
+{
+    Trap("cmdOk - ERRORE : ", [this] {
+        NomeTabellaAperta.clear();
+        const Text voce = Selected();
+        if (voce.empty()) {
+            MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        NomeTabellaAperta = PathOf(voce);
+        ShowEditor();
+        windows_.Editor().setWindowTitle(ToQString("Tabella allenamento : " + NomeSenzaEstensione(voce) + "    di   "));
+    });
+}
+
+void frmTabAllenamenti::cmdNuovaTab_Click()
+{
+    ShowEditor();
+}
+
+void frmTabAllenamenti::cmdCancellaTab_Click()
+{
+    Trap("cmdCancellaTab - ERRORE : ", [this] {
+        const Text voce = Selected();
+        const Text percorso = PathOf(voce);
+        if (voce.empty()) {
+            MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
+        } else if (MsgBox(" CANCELLARE LA TABELLA " + voce + " ?", MsgButtons::YesNoCancel, MsgIcon::Information) ==
+                   MsgAnswer::Yes) {
+            DeleteFile(percorso);
+            RefreshList();
+        }
+        // Whatever the answer was, the active table is switched off.
+        if (SameText(percorso, NomeTabellaAttiva)) {
+            NomeTabellaAttiva.clear();
+            SalvaNomeTabella();
+            windows_.Page().SetActiveTableName({});
+        }
+        SelectActive();
+    });
+}
+
+} // namespace zelvia

@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The race calendar's controls: what stands where, and the events of its boxes.
+#include "toolkit/Colours.h"
+#include "toolkit/Fonts.h"
+#include "toolkit/GridBox.h"
+#include "toolkit/PagePalette.h"
+#include "windows/races/FrmCalendario.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace zelvia
+{
+
+using namespace CalendarGrid;
+
+namespace
+{
+
+// Places of what stands above and below the grid.
+constexpr QRect kTitle{40, 22, 500, 38};
+constexpr QRect kPageName{1000, 22, 150, 38};
+constexpr QRect kPageSpin{1184, 25, 26, 32};
+constexpr int kFoot = 644;
+constexpr int kButtonWidth = 130;
+constexpr int kButtonHeight = 32;
+constexpr int kRight = 1232;
+
+constexpr TextView kSerif = "Times New Roman";
+
+/// The fixed pitch of the strips keeps their signs between the boxes.
+QFont StripFont()
+{
+    return PageFont("Courier", 12);
+}
+
+QFont PrintFont(int pixels, bool bold = false)
+{
+    QFont font = PageFont(kSerif, pixels);
+    font.setBold(bold);
+    return font;
+}
+
+QFont PenFont()
+{
+    QFont font = PageFont(kSerif, 16);
+    font.setItalic(true);
+    return font;
+}
+
+/// The signs that stand between the boxes of a distance and of a time.
+struct Separators {
+    const char* name;
+    TextView caption;
+    int left;
+    int width;
+};
+constexpr Separators kSeparators[] = {{"lblKmt", "     ,", 662, 88}, {"lblTempi", "     :     :", 928, 122}};
+
+/// The headings over several columns.
+struct Group {
+    const char* name;
+    TextView caption;
+    int left;
+    int width;
+};
+constexpr Group kGroups[] = {{"lblTitoloData", "Data", 66, 147},
+                             {"lblTitoloDistanza", "Distanza", 664, 84},
+                             {"lblTitoloTempo", "Tempo", 930, 118},
+                             {"lblTitoloRisultato", "Risultato", 1152, 76}};
+
+/// Where the printed rules between the groups of columns stand.
+constexpr int kColumnRules[] = {57, 218, 481, 659, 753, 839, 925, 1053, 1147};
+
+void DrawHead(QPainter& painter)
+{
+    constexpr int left = kNumberLeft;
+    constexpr int width = kRight - kNumberLeft;
+    painter.fillRect(left, 14, width, 2, Ink::Accent);
+    painter.fillRect(left, 18, width, 1, Ink::Accent);
+    painter.fillRect(left, 64, width, 2, Ink::Accent);
+    for (const int upright : {left, 1162, kRight - 1}) {
+        painter.fillRect(upright, 19, 1, 45, Ink::Rule);
+    }
+}
+
+void DrawGridRules(QPainter& painter)
+{
+    constexpr int bottom = RowTop(kRows) + kBoxHeight + 1;
+    for (int riga = 1; riga <= kRows; ++riga) {
+        painter.fillRect(kNumberLeft, RowTop(riga) + kBoxHeight + 1, kRight - kNumberLeft, 1, Ink::Rule);
+    }
+    painter.fillRect(kNumberLeft, kTop - 3, kRight - kNumberLeft, 1, Ink::Rule);
+    for (const int x : kColumnRules) {
+        painter.fillRect(x, kUpperHeads, 1, bottom - kUpperHeads, Ink::Rule);
+    }
+}
+
+} // namespace
+
+frmCalendario::frmCalendario() : Form(QStringLiteral("frmCalendario"))
+{
+    setPalette(PagePalette());
+    setAutoFillBackground(true);
+    setFixedSize(kWidth, kHeight);
+    BuildHeads();
+    for (int riga = 1; riga <= kRows; ++riga) {
+        BuildRow(riga);
+    }
+    BuildFoot();
+    for (int riga = 1; riga <= kRows; ++riga) {
+        for (std::size_t column = 0; column < kColumns; ++column) {
+            ConnectBox(static_cast<Casella>(column), riga);
+        }
+    }
+    Load();
+}
+
+void frmCalendario::BuildHeads()
+{
+    Label* title = MakeLabel(this, QStringLiteral("lblTitolo"), "Calendario Gare", kTitle, PrintFont(24, true));
+    SetForeColour(*title, Ink::PrintDark);
+    lblPaginaGare = MakeLabel(this, QStringLiteral("lblPaginaGare"), {}, kPageName, PrintFont(16));
+    lblPaginaGare->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const auto head = [this](const QString& name, TextView caption, const QRect& place) {
+        MakeLabel(this, name, caption, place, PrintFont(14))->setAlignment(Qt::AlignCenter);
+    };
+    head(QStringLiteral("lblTitoloNumero"), "N°"_t, {kNumberLeft, kLowerHeads, kNumberWidth, kHeadHeight});
+    for (const Group& group : kGroups) {
+        head(QLatin1String(group.name), group.caption, {group.left, kUpperHeads, group.width, kHeadHeight});
+    }
+    for (const ColumnData& column : kData) {
+        head(QLatin1String("lblTitolo_") + QLatin1String(column.name), column.head,
+             {column.left - 4, kLowerHeads, column.width + 8, kHeadHeight});
+    }
+}
+
+void frmCalendario::BuildRow(int riga)
+{
+    const int top = RowTop(riga);
+    lblNumeroGara[riga] = MakeLabel(this, Indexed("lblNumeroGara", riga), {},
+                                    {kNumberLeft, top, kNumberWidth, kBoxHeight}, PrintFont(14));
+    lblNumeroGara[riga]->setAlignment(Qt::AlignCenter);
+    lblGiornoGara[riga] = MakeLabel(this, Indexed("lblGiornoGara", riga), kBlankDateStrip,
+                                    {kDateStripLeft, top, kDateStripWidth, kBoxHeight}, StripFont());
+    for (const Separators& row : kSeparators) {
+        MakeLabel(this, Indexed(row.name, riga), row.caption, {row.left, top, row.width, kBoxHeight}, StripFont());
+    }
+    for (std::size_t i = 0; i < kPrintLabels.size(); ++i) {
+        printLabels_[i][riga] = new Label(this, Indexed(kPrintLabels[i].name, riga));
+        printLabels_[i][riga]->SetVisible(false);
+    }
+    for (std::size_t column = 0; column < kColumns; ++column) {
+        const ColumnData& row = kData[column];
+        auto* box = new TextBox(this, Indexed(row.name, riga), row.maxLength);
+        box->setGeometry(row.left, top, row.width, kBoxHeight);
+        box->setFont(PenFont());
+        box->setTextMargins(0, -2, 0, -2);
+        if (row.digitsOnly) {
+            box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+        boxes_[column][riga] = box;
+    }
+}
+
+Button* frmCalendario::MakeButton(const char* name, TextView caption, int left, std::function<void()> click)
+{
+    auto* button = new Button(this, QLatin1String(name), caption);
+    button->setGeometry(left, kFoot, kButtonWidth, kButtonHeight);
+    button->setFont(PrintFont(15));
+    button->Click = std::move(click);
+    return button;
+}
+
+void frmCalendario::BuildFoot()
+{
+    upPaginaGare = new UpDown(this, QStringLiteral("upPaginaGare"));
+    upPaginaGare->setGeometry(kPageSpin);
+    upPaginaGare->SetRange(0, (kPages - 1) * kRows, kRows);
+    upPaginaGare->setFocusPolicy(Qt::TabFocus);
+    upPaginaGare->setToolTip(QStringLiteral("pagina (Pag Giù e Pag Su)"));
+    upPaginaGare->setAccessibleName(QStringLiteral("pagina delle gare"));
+    upPaginaGare->Change = [this] { upPaginaGare_Change(); };
+    constexpr int step = kButtonWidth + 14;
+    cmdSalva = MakeButton("cmdSalva", "Salva", kRight - 2 * step - kButtonWidth, [this] { cmdSalva_Click(); });
+    cmdStampa = MakeButton("cmdStampa", "Stampa", kRight - step - kButtonWidth, [this] { cmdStampa_Click(); });
+    cmdEsci = MakeButton("cmdEsci", "Esci", kRight - kButtonWidth, [this] { Unload(); });
+}
+
+bool frmCalendario::BoxLimitHolds(Casella casella, int riga) const
+{
+    const ColumnData& row = DataOf(casella);
+    return row.limit == 0 || LimitHolds(Number(casella, riga), row.limit, row.message);
+}
+
+void frmCalendario::ConnectBox(Casella casella, int riga)
+{
+    TextBox& box = *Box(casella, riga);
+    box.KeyPress = [this, casella, riga](int& keyAscii) {
+        if (DataOf(casella).digitsOnly) {
+            ThrowAwayNonDigit(keyAscii);
+        }
+        if (keyAscii == kEnter && (!DataOf(casella).testedOnEnter || BoxLimitHolds(casella, riga))) {
+            MoveOn(casella, riga);
+        }
+    };
+    box.Validate = [this, casella, riga] { return !Leave(casella, riga); };
+    if (casella == Casella::Giorno) {
+        box.GotFocus = [this, riga] { lblGiornoGara[riga]->SetCaption(kDateStrip); };
+    }
+}
+
+void frmCalendario::MoveOn(Casella casella, int riga)
+{
+    if (casella != Casella::RisultatoCat) {
+        Box(static_cast<Casella>(IndexOf(casella) + 1), riga)->SetFocus();
+    } else if (riga < kRows) {
+        Box(Casella::Giorno, riga + 1)->SetFocus();
+    }
+}
+
+/// Tests and formats a box that is being left; false when the focus has to stay.
+bool frmCalendario::Leave(Casella casella, int riga)
+{
+    if (!BoxLimitHolds(casella, riga)) {
+        return false;
+    }
+    TextBox& box = *Box(casella, riga);
+    const Text formattato = Module1::Formattato(box.Content(), DataOf(casella).formato);
+    if (formattato != box.Content()) {
+        box.SetContent(formattato);
+    }
+    if (casella == Casella::Giorno && Number(casella, riga) == 0) {
+        lblGiornoGara[riga]->SetCaption(kBlankDateStrip);
+    }
+    return true;
+}
+
+void frmCalendario::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_PageDown) {
+        upPaginaGare->StepUp(1);
+    } else if (event->key() == Qt::Key_PageUp) {
+        upPaginaGare->StepDown(1);
+    } else {
+        Form::keyPressEvent(event);
+    }
+}
+
+void frmCalendario::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setPen(Ink::Rule.darker(108));
+    painter.drawRect(rect().adjusted(8, 6, -9, -7));
+    DrawHead(painter);
+    DrawGridRules(painter);
+}
+
+} // namespace zelvia

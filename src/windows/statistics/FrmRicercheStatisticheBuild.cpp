@@ -1,0 +1,294 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The search window's controls: where they stand, how they look and what they set off.
+#include "core/Conversions.h"
+#include "toolkit/Colours.h"
+#include "toolkit/Fonts.h"
+#include "toolkit/PagePalette.h"
+#include "toolkit/QtText.h"
+#include "windows/statistics/FrmRicercheStatistiche.h"
+
+#include <QPainter>
+
+namespace zelvia
+{
+namespace
+{
+
+// Places, in logical pixels: the conditions, the values to choose from and the result stand side by side, the period
+// and the commands below.
+constexpr QSize kSize{1104, 632};
+constexpr int kFrame = 12; ///< From the border to the printed frame.
+constexpr int kMargin = 28;
+constexpr int kHeadTop = 28;
+constexpr int kHeadHeight = 24;
+constexpr int kTop = 58;
+constexpr int kRowStep = 35;
+constexpr int kRowHeight = 30;
+constexpr int kButtonWidth = 116;
+constexpr int kValueLeft = kMargin + kButtonWidth + 8;
+constexpr int kValueWidth = 226;
+constexpr int kListLeft = kValueLeft + kValueWidth + 18;
+constexpr int kListWidth = 244;
+constexpr int kListHeight = 11 * kRowStep + kRowHeight;
+constexpr int kResultLeft = kListLeft + kListWidth + 22;
+constexpr int kResultWidth = 414;
+constexpr int kResultHeight = kListHeight - 16;
+constexpr int kTotalsTop = kTop + kResultHeight + 12;
+constexpr int kPeriodTop = kTop + kListHeight + 20;
+constexpr int kCommandTop = 568;
+constexpr int kCommandHeight = 36;
+
+constexpr int kEnter = 13;
+
+/// The names of the twelve, behind "cmd" and "lbl", in the order of the categories.
+constexpr const char* kNames[] = {"Percorso", "Lunghezza", "Km",          "Andatura",  "Fondo", "Tipo",
+                                  "Stagione", "Meteo",     "Temperatura", "Corridori", "Peso",  "Ripetizioni"};
+
+/// One of the boxes of the period: where it stands on the frame of its date.
+struct BoxPlace {
+    const char* name;
+    int limit;
+    int left;
+    int width;
+    const char* spoken;
+};
+
+constexpr int kFrameHeight = 32;
+constexpr int kFrameWidth = 152;
+constexpr int kStartLeft = kValueLeft + 36;
+constexpr int kEndLeft = kStartLeft + kFrameWidth + 44;
+
+// The strokes between them are those of the frame's caption.
+constexpr BoxPlace kBoxes[] = {
+    {"txtGiornoInizio", 2, kStartLeft + 2, 34, "Inizio del periodo, giorno"},
+    {"txtMeseInizio", 2, kStartLeft + 46, 34, "Inizio del periodo, mese"},
+    {"txtAnnoInizio", 4, kStartLeft + 90, 58, "Inizio del periodo, anno"},
+    {"txtGiornoFine", 2, kEndLeft + 2, 34, "Fine del periodo, giorno"},
+    {"txtMeseFine", 2, kEndLeft + 46, 34, "Fine del periodo, mese"},
+    {"txtAnnoFine", 4, kEndLeft + 90, 58, "Fine del periodo, anno"},
+};
+
+/// The columns of the totals: name and caption of the head, name of the value, width.
+struct TotalPlace {
+    const char* head;
+    TextView caption;
+    const char* value;
+    int width;
+};
+
+constexpr TotalPlace kTotals[] = {
+    {"lblTotale", "TOTALI", "lblBucoTot", 82},  {"lblTotNum", " Corse", "lblTcorse", 70},
+    {"lblTotKm", " Km", "lblTkm", 92},          {"lblTotTempi", " Tempi", "lblTtempi", 96},
+    {"lblTotMedia", " Media", "lblTmedia", 74},
+};
+
+/// A field of a printed form that is still empty: a frame with rules.
+void DrawEmptyForm(QPainter& painter, const QRectF& area)
+{
+    painter.setPen(QPen(Ink::Rule, 1));
+    painter.drawRect(area.adjusted(0.5, 0.5, -0.5, -0.5));
+    constexpr int rule = 28;
+    for (int y = rule; y < area.height() - 4; y += rule) {
+        painter.drawLine(QPointF(8, y + 0.5), QPointF(area.width() - 8, y + 0.5));
+    }
+}
+
+/// Throws away a printable character that is no digit.
+void DigitsOnly(int& keyAscii)
+{
+    if (keyAscii >= ' ' && (keyAscii < '0' || keyAscii > '9')) {
+        keyAscii = 0;
+    }
+}
+
+} // namespace
+
+frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
+    : Form(QStringLiteral("frmRicercheStatistiche")), apriGrafico_(std::move(apriGrafico))
+{
+    setWindowTitle(QStringLiteral("Ricerche Statistiche"));
+    setPalette(PagePalette());
+    setAutoFillBackground(true);
+    setFixedSize(kSize);
+    BuildConditions();
+    BuildPeriod();
+    BuildResult();
+    BuildTotals();
+    InizializzaVarMedie();
+    CategoriaLista.clear();
+}
+
+void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
+{
+    // The printed frame, a rule over the commands, and one that parts choice and result.
+    QPainter painter(this);
+    painter.setPen(Ink::Rule);
+    painter.drawRect(rect().adjusted(kFrame, kFrame, -kFrame - 1, -kFrame - 1));
+    const int between = kResultLeft - 12;
+    painter.drawLine(between, kHeadTop, between, kCommandTop - 18);
+    constexpr int ruleTop = kCommandTop - 16;
+    painter.fillRect(kMargin, ruleTop, width() - 2 * kMargin, 2, Ink::Accent);
+}
+
+Button* frmRicercheStatistiche::MakeButton(const char* name, TextView caption, const QRect& place)
+{
+    auto* button = new Button(this, QLatin1String(name), caption);
+    button->setFont(PageFont("Times New Roman", 15));
+    button->setGeometry(place);
+    return button;
+}
+
+Label* frmRicercheStatistiche::MakeLabel(const char* name, TextView caption, const QRect& place, int pixels)
+{
+    auto* label = new Label(this, QLatin1String(name));
+    label->SetCaption(caption);
+    label->setFont(PageFont("Times New Roman", pixels));
+    label->setGeometry(place);
+    return label;
+}
+
+/// A label on a slip of its own, for what the runner chose or ran.
+Label* frmRicercheStatistiche::MakeSlip(const char* name, const QRect& place)
+{
+    Label* label = MakeLabel(name, {}, place, 16);
+    label->setFrameShape(QFrame::StyledPanel);
+    SetBackColour(*label, Ink::Slip);
+    SetForeColour(*label, Ink::Pen);
+    return label;
+}
+
+ListBox* frmRicercheStatistiche::MakeList(const char* name, const QRect& place, const QString& spoken)
+{
+    auto* list = new ListBox(this, QLatin1String(name));
+    list->setGeometry(place);
+    list->setAccessibleName(spoken);
+    list->setAlternatingRowColors(true);
+    return list;
+}
+
+void frmRicercheStatistiche::BuildConditions()
+{
+    int top = kTop;
+    for (std::size_t i = 0; i < kCondizioni.size(); ++i, top += kRowStep) {
+        const Categoria categoria = kCondizioni[i].categoria;
+        const TextView word = StatisticaDi(categoria).titolo;
+        const QByteArray name(kNames[i]);
+        ControlliCondizione& controlli = controlli_[i];
+        controlli.cmd = MakeButton(("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight});
+        controlli.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
+        controlli.cmd->Click = [this, categoria] { cmdCategoria_Click(categoria); };
+        controlli.lbl = MakeSlip(("lbl" + name).constData(), {kValueLeft, top, kValueWidth, kRowHeight});
+        controlli.lbl->setIndent(6);
+        controlli.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
+        controlli.lbl->SetVisible(false);
+    }
+    lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 18);
+    SetForeColour(*lblTitoliSta, Ink::Accent);
+    lblTitoliSta->SetVisible(false);
+    lstStatistiche = MakeList("lstStatistiche", {kListLeft, kTop, kListWidth, kListHeight},
+                              QStringLiteral("Valori tra cui scegliere"));
+    lstStatistiche->setFont(PageFont("Times New Roman", 16));
+    lstStatistiche->setToolTip(QStringLiteral("Un doppio clic sceglie il valore"));
+    lstStatistiche->DblClick = [this] { lstStatistiche_DblClick(); };
+    lstStatistiche->KeyPress = [this](int keyAscii) {
+        if (keyAscii == kEnter && lstStatistiche->ListIndex() >= 0) {
+            lstStatistiche_DblClick();
+        }
+    };
+}
+
+void frmRicercheStatistiche::BuildPeriod()
+{
+    cmdPeriodo = MakeButton("cmdPeriodo", "Periodo", {kMargin, kPeriodTop, kButtonWidth, kFrameHeight});
+    cmdPeriodo->Click = [this] { cmdPeriodo_Click(); };
+    constexpr int captionPixels = 24; // Its blanks part the strokes by the width of a box.
+    constexpr int wordPixels = 16;
+    lblDalTit = MakeLabel("lblDalTit", "Dal", {kValueLeft, kPeriodTop, 32, kFrameHeight}, wordPixels);
+    lblDataInizio = MakeLabel("lblDataInizio", "      -      -", {kStartLeft, kPeriodTop, kFrameWidth, kFrameHeight},
+                              captionPixels);
+    lblAlTit = MakeLabel("lblAlTit", "Al", {kEndLeft - 28, kPeriodTop, 24, kFrameHeight}, wordPixels);
+    lblDataFine =
+        MakeLabel("lblDataFine", "      -      -", {kEndLeft, kPeriodTop, kFrameWidth, kFrameHeight}, captionPixels);
+    for (Label* label : {lblDalTit, lblDataInizio, lblAlTit, lblDataFine}) {
+        label->SetVisible(false);
+    }
+    for (std::size_t i = 0; i < campiPeriodo.size(); ++i) {
+        const BoxPlace& place = kBoxes[i];
+        auto* box = new TextBox(this, QLatin1String(place.name), place.limit);
+        box->setGeometry(place.left, kPeriodTop + 2, place.width, kFrameHeight - 4);
+        box->setFont(PageFont("Times New Roman", 16));
+        box->setAccessibleName(QLatin1String(place.spoken));
+        box->SetVisible(false);
+        campiPeriodo[i] = box;
+        ConnectField(static_cast<CampoPeriodo::Campo>(i));
+    }
+    cmdAvvia = MakeButton("cmdAvvia", "Avvia", {kMargin, kCommandTop, kButtonWidth + 8 + kValueWidth, kCommandHeight});
+    cmdAvvia->Click = [this] { cmdAvvia_Click(); };
+}
+
+void frmRicercheStatistiche::ConnectField(CampoPeriodo::Campo campo)
+{
+    campiPeriodo[campo]->KeyPress = [this, campo](int& keyAscii) {
+        DigitsOnly(keyAscii);
+        if (keyAscii == kEnter) {
+            MoveOn(campo);
+        }
+    };
+    campiPeriodo[campo]->Validate = [this, campo] { return !LimitHolds(campo); };
+}
+
+void frmRicercheStatistiche::BuildResult()
+{
+    // The face's blanks bring the words over the columns of the list.
+    constexpr int headPixels = 16;
+    constexpr int dateLeft = 288;
+    lblTitoliMedie = MakeLabel("lblTitoliMedie", "      Km             Tempi          Media Km    ",
+                               {kResultLeft, kHeadTop, dateLeft, kHeadHeight}, headPixels);
+    lblTitoliMedie2 = MakeLabel("lblTitoliMedie2", "  gg  mm  aaaa",
+                                {kResultLeft + dateLeft, kHeadTop, kResultWidth - dateLeft, kHeadHeight}, headPixels);
+    lstMedie = MakeList("lstMedie", {kResultLeft, kTop, kResultWidth, kResultHeight}, QStringLiteral("Corse trovate"));
+    lstMedie->setFont(PageFont("Courier", 15));
+    ShowHeads(false);
+
+    constexpr int width = 126;
+    constexpr int step = (kResultWidth - width) / 2;
+    const auto command = [&](const char* name, TextView caption, int place) {
+        return MakeButton(name, caption, {kResultLeft + place * step, kCommandTop, width, kCommandHeight});
+    };
+    cmGrafico = command("cmGrafico", "Grafico", 0);
+    cmdStampa = command("cmdStampa", "Stampa", 1);
+    cmdStampa->Click = [this] { cmdStampa_Click(); };
+    cmdEsci = command("cmdEsci", "Esci", 2);
+    cmGrafico->Click = [this] { apriGrafico_(totali.Medie); };
+    cmdEsci->Click = [this] { Unload(); };
+}
+
+void frmRicercheStatistiche::BuildTotals()
+{
+    constexpr int height = 28;
+    int left = kResultLeft;
+    std::array<Label*, std::size(kTotals)> values{};
+    for (std::size_t i = 0; i < std::size(kTotals); ++i) {
+        const TotalPlace& place = kTotals[i];
+        totals_.push_back(MakeLabel(place.head, place.caption, {left, kTotalsTop, place.width, height}, 15));
+        values[i] = MakeSlip(place.value, {left, kTotalsTop + height, place.width, height});
+        totals_.push_back(values[i]);
+        left += place.width;
+    }
+    lblTcorse = values[1];
+    lblTkm = values[2];
+    lblTtempi = values[3];
+    lblTmedia = values[4];
+    const QRect shapes[] = {
+        {kResultLeft, kTop, kResultWidth, kResultHeight},
+        {kResultLeft, kTotalsTop + height, kTotals[0].width, height},
+        {kResultLeft + kTotals[0].width, kTotalsTop + height, kResultWidth - kTotals[0].width, height}};
+    for (std::size_t i = 0; i < shapes_.size(); ++i) {
+        shapes_[i] = new Picture(this, QStringLiteral("shp%1").arg(i + 6), DrawEmptyForm);
+        shapes_[i]->setGeometry(shapes[i]);
+    }
+    NascondiLblTotali();
+}
+
+} // namespace zelvia

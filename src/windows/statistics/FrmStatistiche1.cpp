@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/statistics/FrmStatistiche1.h"
+
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "diary/CategoryTexts.h"
+#include "diary/Module1.h"
+#include "diary/StatisticSheets.h"
+#include "toolkit/Fonts.h"
+#include "toolkit/PagePalette.h"
+#include "toolkit/Picture.h"
+#include "toolkit/Printer.h"
+
+#include <QPainter>
+
+#include <utility>
+#include <vector>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+// Places, in logical pixels. The times lie over the list and its heads.
+constexpr QSize kSize{568, 644};
+constexpr QRect kTitle{34, 34, 500, 40};
+constexpr QRect kTimes{26, 92, 516, 466};
+constexpr int kHeadHeight = 28;
+constexpr int kNameWidth = 364;
+constexpr QRect kNameHead{kTimes.left(), kTimes.top(), kNameWidth, kHeadHeight};
+constexpr QRect kCountHead{kTimes.left() + kNameWidth, kTimes.top(), kTimes.width() - kNameWidth, kHeadHeight};
+constexpr QRect kList = kTimes.adjusted(0, kHeadHeight, 0, 0);
+constexpr int kButtonTop = 582;
+constexpr QSize kButton{120, 36};
+constexpr int kButtonStep = 132;
+
+constexpr QRect ButtonPlace(int place)
+{
+    return {{kTimes.left() + place * kButtonStep, kButtonTop}, kButton};
+}
+
+/// The printed lines of the sheet.
+struct Shape {
+    const char* name;
+    QRect place;
+    QColor ink;
+};
+
+/// The line in the gap in front of a button.
+constexpr QRect Before(const QRect& button)
+{
+    constexpr int half = (kButtonStep - kButton.width()) / 2;
+    return {button.left() - half, button.top() + 4, 1, button.height() - 8};
+}
+
+const Shape kShapes[] = {
+    {"shp1", {12, 12, 544, 1}, Ink::Rule},
+    {"shp2", {12, 631, 544, 1}, Ink::Rule},
+    {"shp3", {12, 12, 1, 620}, Ink::Rule},
+    {"shp4", {555, 12, 1, 620}, Ink::Rule},
+    {"shp5", {26, 26, 516, 2}, Ink::Accent},
+    {"shp6", {26, 30, 516, 1}, Ink::Accent},
+    {"shp7", {26, 78, 516, 2}, Ink::Accent},
+    {"shp8", {26, 31, 1, 47}, Ink::Rule},
+    {"shp9", {541, 31, 1, 47}, Ink::Rule},
+    {"shpGrafico", Before(ButtonPlace(1)), Ink::Rule},
+    {"shpStampa", Before(ButtonPlace(2)), Ink::Rule},
+    {"shpEsci", Before(ButtonPlace(3)), Ink::Rule},
+};
+
+/// The list view as a classification writes it.
+class VistaFinestra : public VistaTempi
+{
+public:
+    explicit VistaFinestra(ListView& vista) : vista_(vista) {}
+    void AggiungiRiga(TextView posizione, TextView tempo, TextView media, TextView data) override
+    {
+        vista_.AddRow({posizione, tempo, media, data});
+    }
+
+private:
+    ListView& vista_;
+};
+
+/// A piece of a row's text as a number; one that can't be read is reported and counts as 0.
+i16 Scomponi(TextView errore, i16 (*pezzo)(TextView), TextView testo)
+{
+    return TrapValue(errore, i16(0), [&] { return pezzo(testo); });
+}
+
+/// What the sheet shows of the slots 1..60.
+std::vector<StatisticSheetSlot> SlotsOnPaper()
+{
+    const bool numbers = SameText(TitoloStatistica, "Corridori") || SameText(TitoloStatistica, "Peso");
+    std::vector<StatisticSheetSlot> slots60;
+    for (int i = 1; i <= kMaxCategorie; ++i) {
+        Text valore = NomeCategoria[i];
+        if (numbers) {
+            valore = ValoreCategoria[i] != 0 ? StatisticSheetNumber(ValoreCategoria[i]) : Text();
+        }
+        slots60.push_back({std::move(valore), ContaCategoria[i]});
+    }
+    return slots60;
+}
+
+} // namespace
+
+frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
+    : Form(QStringLiteral("frmStatistiche1")), lblTitolo(new Label(this, QStringLiteral("lblTitolo"))),
+      cmdStatitolo(MakeButton("cmdStatitolo", "descrizione", kNameHead)),
+      cmdStatfre(MakeButton("cmdStatfre", "frequenza", kCountHead)),
+      lstStatistica(new ListBox(this, QStringLiteral("lstStatistica"))),
+      cmdTempiLO(MakeButton("cmdTempiLO", "Tempi", ButtonPlace(0))),
+      cmGrafico(MakeButton("cmGrafico", "Grafico", ButtonPlace(1))),
+      cmdStampa(MakeButton("cmdStampa", "Stampa", ButtonPlace(2))),
+      cmdEsci(MakeButton("cmdEsci", "Esci", ButtonPlace(3))),
+      // 1587, 2117, 1587 and 2117 twips, of which 15 are a pixel.
+      lvListaOrdinata(new ListView(this, QStringLiteral("lvListaOrdinata"),
+                                   {{"classifica", 106}, {"tempo", 141}, {"media", 106}, {"data", 141}})),
+      apriGrafico_(std::move(apriGrafico))
+{
+    setWindowTitle(QStringLiteral("Statistiche"));
+    setPalette(PagePalette());
+    setAutoFillBackground(true);
+    setFixedSize(kSize);
+    Build();
+    cmdTempiLO->Click = [this] { cmdTempiLO_Click(); };
+    cmGrafico->Click = [this] { cmGrafico_Click(); };
+    cmdStampa->Click = [this] { cmdStampa_Click(); };
+    cmdEsci->Click = [this] { Unload(); };
+    lvListaOrdinata->LostFocus = [this] { lvListaOrdinata_LostFocus(); };
+    lvListaOrdinata->KeyPress = [this](int keyAscii) {
+        constexpr int escape = 27;
+        if (keyAscii == escape) {
+            lvListaOrdinata_LostFocus();
+        }
+    };
+}
+
+Button* frmStatistiche1::MakeButton(const char* name, TextView caption, const QRect& place)
+{
+    auto* button = new Button(this, QLatin1String(name), caption);
+    button->setGeometry(place);
+    button->setFont(PageFont("Times New Roman", 15));
+    return button;
+}
+
+void frmStatistiche1::Build()
+{
+    for (const Shape& shape : kShapes) {
+        auto* line =
+            new Picture(this, QLatin1String(shape.name),
+                        [ink = shape.ink](QPainter& painter, const QRectF& area) { painter.fillRect(area, ink); });
+        line->setGeometry(shape.place);
+        line->setAttribute(Qt::WA_TransparentForMouseEvents);
+        line->lower();
+    }
+    lblTitolo->SetCaption("Statistica");
+    lblTitolo->setGeometry(kTitle);
+    lblTitolo->setAlignment(Qt::AlignCenter);
+    QFont title = PageFont("Times New Roman", 25);
+    title.setBold(true);
+    lblTitolo->setFont(title);
+    lblTitolo->setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (Button* head : {cmdStatitolo, cmdStatfre}) {
+        head->setFocusPolicy(Qt::NoFocus);
+    }
+    lstStatistica->setGeometry(kList);
+    lstStatistica->setFont(PageFont("Courier", 20));
+    lstStatistica->setAlternatingRowColors(true);
+    lstStatistica->setAccessibleName(QStringLiteral("Valori e frequenze"));
+    lvListaOrdinata->setGeometry(kTimes);
+    lvListaOrdinata->setFont(PageFont("Times New Roman", 18));
+    lvListaOrdinata->setAlternatingRowColors(true);
+    lvListaOrdinata->setAccessibleName(QStringLiteral("Tempi del valore scelto"));
+    // Its frame would let the heads under it shine through.
+    lvListaOrdinata->setAutoFillBackground(true);
+    lvListaOrdinata->SetVisible(false);
+    cmdTempiLO->setToolTip(QStringLiteral("I tempi del valore scelto"));
+}
+
+void frmStatistiche1::mousePressEvent(QMouseEvent* event)
+{
+    if (lvListaOrdinata->Visible()) {
+        FocusSink().SetFocus();
+    }
+    Form::mousePressEvent(event);
+}
+
+void frmStatistiche1::cmdTempiLO_Click()
+{
+    lvListaOrdinata->Clear();
+    const int i = lstStatistica->ListIndex() + 1;
+    if (TitoloStatistica != "Corridori" && TitoloStatistica != "Peso") {
+        ListaWOrdinata(NomeCategoria[i]);
+    } else {
+        ListavOrdinata(ValoreCategoria[i]);
+    }
+}
+
+void frmStatistiche1::cmdStampa_Click()
+{
+    PrintByButton(*cmdStampa, [] { return StatisticSheet(DataCorrente, TitoloStatistica, SlotsOnPaper()); });
+}
+
+void frmStatistiche1::cmGrafico_Click()
+{
+    if (apriGrafico_) {
+        apriGrafico_(lblTitolo->Caption());
+    }
+}
+
+void frmStatistiche1::lvListaOrdinata_LostFocus()
+{
+    lvListaOrdinata->Clear();
+    ListaTempi.reset();
+    lvListaOrdinata->SetVisible(false);
+}
+
+void frmStatistiche1::ListaWOrdinata(const Text& valore)
+{
+    Trap("ListaWOrdinata - ERRORE : ", [&] {
+        BeginTimes();
+        FillTimes(DaysOf(valore));
+    });
+}
+
+void frmStatistiche1::ListavOrdinata(i16 valore)
+{
+    Trap("ListavOrdinata - ERRORE : ", [&] {
+        BeginTimes();
+        const Statistica* statistica = StatisticaDi(TitoloStatistica);
+        FillTimes([&](const RecordGiorno& giorno) { return statistica->numero(giorno) == valore; });
+    });
+}
+
+void frmStatistiche1::BeginTimes()
+{
+    ListaTempi.emplace();
+    lvListaOrdinata->SetVisible(true);
+    lvListaOrdinata->SetFocus();
+    ListaTempi->CreaLista();
+}
+
+/// The texts of days are compared to the letter, unlike at their counting.
+frmStatistiche1::ProvaGiorno frmStatistiche1::DaysOf(const Text& valore)
+{
+    if (TitoloStatistica == "Km") {
+        const i16 km = ScomponiKm(valore);
+        const i16 metri = ScomponiMetri(valore);
+        return [=](const RecordGiorno& giorno) { return giorno.Km == km && giorno.Metri == metri; };
+    }
+    if (TitoloStatistica == "Ripetizioni") {
+        const i16 volte = ScomponiVolte(valore);
+        const i16 distanza = ScomponiDistanza(valore);
+        const i16 quante = ScomponiQuante(valore);
+        const i16 tempi = ScomponiTempi(valore);
+        return [=](const RecordGiorno& giorno) {
+            return giorno.Ripetizioni == volte && giorno.RipetizioniDistanza == distanza &&
+                   giorno.RipetizioniQuante == quante && giorno.RipetizioniTempi == tempi;
+        };
+    }
+    return [valore, statistica = StatisticaDi(TitoloStatistica)](const RecordGiorno& giorno) {
+        return statistica != nullptr && statistica->testo(giorno) == valore;
+    };
+}
+
+void frmStatistiche1::FillTimes(const ProvaGiorno& scelto)
+{
+    for (i16 d = 1; d <= GiornoCorrente; d += 1) {
+        const RecordGiorno& giorno = Giorni[d];
+        if (scelto(giorno)) {
+            AggiungiCorsa(*ListaTempi, giorno.NumGiorno, giorno.TempoImpiegato, giorno.MediaKm, giorno.Data);
+        }
+    }
+    VistaFinestra vista(*lvListaOrdinata);
+    ListaTempi->Ordina();
+    ListaTempi->NuovaLista(&vista);
+    ListaTempi->RiempiLista();
+    ListaTempi->NuovaLista(nullptr);
+}
+
+i16 frmStatistiche1::ScomponiKm(TextView testo)
+{
+    return Scomponi("ScomponiKm - ERRORE : ", PezzoKm, testo);
+}
+
+i16 frmStatistiche1::ScomponiMetri(TextView testo)
+{
+    return Scomponi("ScomponiMetri - ERRORE : ", PezzoMetri, testo);
+}
+
+i16 frmStatistiche1::ScomponiVolte(TextView testo)
+{
+    return Scomponi("ScomponiVolte - ERRORE : ", PezzoVolte, testo);
+}
+
+i16 frmStatistiche1::ScomponiDistanza(TextView testo)
+{
+    return Scomponi("ScomponiDistanza - ERRORE : ", PezzoDistanza, testo);
+}
+
+i16 frmStatistiche1::ScomponiQuante(TextView testo)
+{
+    return Scomponi("ScomponiQuante - ERRORE : ", PezzoQuante, testo);
+}
+
+i16 frmStatistiche1::ScomponiTempi(TextView testo)
+{
+    return Scomponi("ScomponiTempi - ERRORE : ", PezzoTempi, testo);
+}
+
+} // namespace zelvia

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "diary/CategoryStatistics.h"
+#include "diary/ListaOrdinata.h"
+#include "diary/RecordGiorno.h"
+#include "toolkit/Button.h"
+#include "toolkit/Form.h"
+#include "toolkit/Label.h"
+#include "toolkit/ListBox.h"
+#include "toolkit/ListView.h"
+
+#include <functional>
+#include <optional>
+
+namespace zelvia
+{
+
+/// Opens the chart of the statistic last counted, under the title on show.
+using AperturaGrafico = std::function<void(const Text& titolo)>;
+
+/// The window of one statistic: its values ranked and, over them for a while, the sorted times of the days of one
+/// value. It is not emptied by a further statistic that finds it open.
+class frmStatistiche1 : public Form, public VistaStatistica
+{
+    Q_OBJECT
+
+public:
+    explicit frmStatistiche1(AperturaGrafico apriGrafico);
+
+    Control& FocusSink() override { return *lstStatistica; }
+
+    void SetTitolo(TextView titolo) override { lblTitolo->SetCaption(titolo); }
+    void AggiungiRiga(TextView riga) override { lstStatistica->AddItem(riga); }
+
+    void cmdTempiLO_Click();
+    void cmGrafico_Click();
+    void cmdStampa_Click();
+    void lvListaOrdinata_LostFocus();
+
+    Label* lblTitolo;
+    Button* cmdStatitolo;
+    Button* cmdStatfre;
+    ListBox* lstStatistica;
+    Button* cmdTempiLO;
+    Button* cmGrafico;
+    Button* cmdStampa;
+    Button* cmdEsci;
+    ListView* lvListaOrdinata;
+
+protected:
+    /// A click beside the controls takes the times away as one on a control does.
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    using ProvaGiorno = std::function<bool(const RecordGiorno&)>;
+
+    void Build();
+    Button* MakeButton(const char* name, TextView caption, const QRect& place);
+
+    void ListaWOrdinata(const Text& valore);
+    void ListavOrdinata(i16 valore);
+    ProvaGiorno DaysOf(const Text& valore);
+    void BeginTimes();
+    void FillTimes(const ProvaGiorno& scelto);
+
+    i16 ScomponiKm(TextView testo);
+    i16 ScomponiMetri(TextView testo);
+    i16 ScomponiVolte(TextView testo);
+    i16 ScomponiDistanza(TextView testo);
+    i16 ScomponiQuante(TextView testo);
+    i16 ScomponiTempi(TextView testo);
+
+    AperturaGrafico apriGrafico_;
+    std::optional<ListaOrdinata> ListaTempi; ///< Alive while the times are shown.
+};
+
+} // namespace zelvia

@@ -1,0 +1,328 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/CalendarModel.h"
+
+#include "diary/Module1.h"
+#include "support/Bytes.h"
+#include "support/Days.h"
+#include "support/FileFailures.h"
+#include "support/MessageScript.h"
+#include "support/TempFolder.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace zelvia;
+using namespace zelvia::Module1;
+using zelvia::test::Bytes;
+using zelvia::test::Difference;
+using zelvia::test::LineOf;
+using zelvia::test::Lines;
+using zelvia::test::MessageScript;
+using zelvia::test::RaisedBy;
+using zelvia::test::TempFolder;
+
+class CalendarModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void TheBlankCalendar();
+    void ABlankCalendarIsWrittenLineByLine();
+    void ARaceKeepsItsRow();
+    void ATimeTakesThreeLines();
+    void RowNumbersAreTakenFromTheFile();
+    void ExtremeValuesComeBack();
+    void CutAtEveryLineOfSomeRows_data();
+    void CutAtEveryLineOfSomeRows();
+    void GarbledLine_data();
+    void GarbledLine();
+    void AQuoteInANameEndsInTheReport();
+    void FailuresAreReported_data() { test::AddFolderFailures(); }
+    void FailuresAreReported();
+    void AFullDiskIsReported();
+    void WritingReplacesTheFile();
+
+private:
+    TempFolder folder_;
+};
+
+namespace
+{
+
+/// The 1,500 lines of the calendar in memory, by name.
+std::vector<std::string> CalendarLines()
+{
+    std::vector<std::string> lines;
+    for (int i = 1; i <= 100; ++i) {
+        for (const std::string& line :
+             {LineOf(NumeroGara[i]), LineOf(GiornoGara[i]), LineOf(MeseGara[i]), LineOf(AnnoGara[i]), LineOf(Gara[i]),
+              LineOf(Localita[i]), LineOf(KmGara[i]), LineOf(MetriGara[i]), LineOf(Partecipanti[i]),
+              LineOf(Risultato[i]), LineOf(OreGara[i]), LineOf(MinutiGara[i]), LineOf(SecondiGara[i]),
+              LineOf(Categoria[i]), LineOf(RisultatoCat[i])}) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+std::vector<std::string> CountedLines()
+{
+    std::vector<std::string> lines;
+    for (int row = 1; row <= 100; ++row) {
+        for (int column = 1; column <= 15; ++column) {
+            const std::string place = std::to_string(row * 100 + column);
+            lines.push_back(column == 5 || column == 6 || column == 14 ? "\"posto " + place + "\"" : place);
+        }
+    }
+    return lines;
+}
+
+std::string BlankCalendar()
+{
+    std::string text;
+    for (int row = 1; row <= 100; ++row) {
+        text +=
+            std::to_string(row) + "\r\n0\r\n0\r\n0\r\n\"\"\r\n\"\"\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n\"\"\r\n0\r\n";
+    }
+    return text;
+}
+
+} // namespace
+
+void CalendarModelTest::init()
+{
+    AzzeraStato();
+    CartellaDiario = folder_.Path();
+    AzzeraCalendario();
+}
+
+void CalendarModelTest::TheBlankCalendar()
+{
+    MessageScript boxes;
+    for (int row = 0; row <= 100; ++row) {
+        NumeroGara[row] = 5;
+        GiornoGara[row] = 5;
+        Gara[row] = "x";
+        Categoria[row] = "x";
+        RisultatoCat[row] = 5;
+    }
+    AzzeraCalendario();
+    QCOMPARE(Difference(Lines(CalendarLines()), BlankCalendar()), QByteArray());
+    QCOMPARE(Bytes(Gara[0]), QByteArray("x"));
+    QVERIFY(GiornoGara[0] == 5);
+    QCOMPARE(RaisedBy([] { (void)GiornoGara[101]; }), 9);
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void CalendarModelTest::ABlankCalendarIsWrittenLineByLine()
+{
+    MessageScript boxes;
+    ScriviCalendario();
+    const Text file = folder_.Read("CalendarioGare");
+    QCOMPARE(Difference(file, BlankCalendar()), QByteArray());
+    QCOMPARE(std::count(file.begin(), file.end(), '\n'), std::ptrdiff_t{1500});
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void CalendarModelTest::ARaceKeepsItsRow()
+{
+    MessageScript boxes;
+    GiornoGara[57] = 29;
+    MeseGara[57] = 2;
+    AnnoGara[57] = 2008;
+    Gara[57] = "Corrida, seconda prova";
+    Localita[57] = "Citt\xE0";
+    Partecipanti[57] = 40000;
+    ScriviCalendario();
+    const std::vector<std::string> lines = CalendarLines();
+    QCOMPARE(lines.size(), std::size_t{1500});
+    QCOMPARE(Difference(folder_.Read("CalendarioGare"), Lines(lines)), QByteArray());
+    AzzeraCalendario();
+    LeggiCalendario();
+    QVERIFY(CalendarLines() == lines);
+    QVERIFY(GiornoGara[57] == 29);
+    QVERIFY(GiornoGara[56] == 0 && GiornoGara[58] == 0);
+    QCOMPARE(Bytes(Gara[57]), QByteArray("Corrida, seconda prova"));
+    QCOMPARE(Partecipanti[57].value(), 40000);
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void CalendarModelTest::ATimeTakesThreeLines()
+{
+    MessageScript boxes;
+    OreGara[1] = 1;
+    MinutiGara[1] = 5;
+    SecondiGara[1] = 0;
+    ScriviCalendario();
+    const QByteArrayList lines = Bytes(folder_.Read("CalendarioGare")).split('\n');
+    QCOMPARE(lines.mid(10, 3), (QByteArrayList{"1\r", "5\r", "0\r"}));
+}
+
+void CalendarModelTest::RowNumbersAreTakenFromTheFile()
+{
+    MessageScript boxes;
+    folder_.Write("CalendarioGare", Lines(CountedLines()));
+    LeggiCalendario();
+    QVERIFY(NumeroGara[1] == 101);
+    QVERIFY(NumeroGara[100] == 10001);
+    QVERIFY(CalendarLines() == CountedLines());
+    ScriviCalendario();
+    QCOMPARE(Difference(folder_.Read("CalendarioGare"), Lines(CountedLines())), QByteArray());
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void CalendarModelTest::ExtremeValuesComeBack()
+{
+    MessageScript boxes;
+    for (int row = 1; row <= 100; ++row) {
+        const bool high = row % 2 == 0;
+        for (auto* column : {&NumeroGara, &GiornoGara, &MeseGara, &AnnoGara, &KmGara, &MetriGara, &OreGara, &MinutiGara,
+                             &SecondiGara}) {
+            (*column)[row] = high ? 32767 : -32768;
+        }
+        for (auto* column : {&Partecipanti, &Risultato, &RisultatoCat}) {
+            (*column)[row] = high ? std::numeric_limits<int>::max() : std::numeric_limits<int>::min();
+        }
+        for (auto* column : {&Gara, &Localita, &Categoria}) {
+            for (int byte = 0; byte < 256; ++byte) {
+                if (byte != '"') {
+                    (*column)[row] += static_cast<char>(byte);
+                }
+            }
+        }
+    }
+    const std::vector<std::string> lines = CalendarLines();
+    ScriviCalendario();
+    AzzeraCalendario();
+    LeggiCalendario();
+    QVERIFY(CalendarLines() == lines);
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+void CalendarModelTest::CutAtEveryLineOfSomeRows_data()
+{
+    QTest::addColumn<int>("kept");
+    for (const int row : {1, 2, 57, 100}) {
+        for (int line = 0; line < 15; ++line) {
+            QTest::addRow("%d lines", (row - 1) * 15 + line) << (row - 1) * 15 + line;
+        }
+    }
+    QTest::newRow("whole") << 1500;
+}
+
+void CalendarModelTest::CutAtEveryLineOfSomeRows()
+{
+    QFETCH(int, kept);
+    const std::vector<std::string> filed = CountedLines();
+    std::vector<std::string> expected = CalendarLines();
+    std::copy(filed.begin(), filed.begin() + kept, expected.begin());
+    folder_.Write("CalendarioGare", Lines({filed.begin(), filed.begin() + kept}));
+    MessageScript boxes;
+    if (kept < 1500) {
+        boxes.ExpectError("ERRORE : ", 62);
+    }
+    LeggiCalendario();
+    QVERIFY(boxes.AllShown());
+    QCOMPARE(Difference(Lines(CalendarLines()), Lines(expected)), QByteArray());
+}
+
+void CalendarModelTest::GarbledLine_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QByteArray>("garbage");
+    QTest::addColumn<int>("error"); // 0 where the line passes silently.
+    for (int column = 1; column <= 15; ++column) {
+        const bool words = column == 5 || column == 6 || column == 14;
+        const bool wide = column == 9 || column == 10 || column == 15;
+        QTest::addRow("column %d, text", column) << column << QByteArray("xyz") << (words ? 0 : 13);
+        QTest::addRow("column %d, quoted", column) << column << QByteArray("\"7\"") << (words ? 0 : 13);
+        QTest::addRow("column %d, empty", column) << column << QByteArray() << (words ? 0 : 13);
+        QTest::addRow("column %d, 99999", column) << column << QByteArray("99999") << (words || wide ? 0 : 6);
+        QTest::addRow("column %d, 2147483648", column) << column << QByteArray("2147483648") << (words ? 0 : 6);
+    }
+}
+
+void CalendarModelTest::GarbledLine()
+{
+    QFETCH(int, column);
+    QFETCH(QByteArray, garbage);
+    QFETCH(int, error);
+    const int line = 49 * 15 + column - 1;
+    std::vector<std::string> filed = CountedLines();
+    filed[static_cast<std::size_t>(line)] = garbage.toStdString();
+    folder_.Write("CalendarioGare", Lines(filed));
+    std::vector<std::string> expected = filed;
+    if (error != 0) {
+        expected = CalendarLines();
+        std::copy(filed.begin(), filed.begin() + line, expected.begin());
+    } else if (column == 5 || column == 6 || column == 14) {
+        expected[static_cast<std::size_t>(line)] = LineOf(test::TextOf(QByteArray(garbage).replace("\"", "")));
+    }
+    MessageScript boxes;
+    if (error != 0) {
+        boxes.ExpectError("ERRORE : ", error);
+    }
+    LeggiCalendario();
+    QVERIFY(boxes.AllShown());
+    QCOMPARE(Difference(Lines(CalendarLines()), Lines(expected)), QByteArray());
+}
+
+void CalendarModelTest::AQuoteInANameEndsInTheReport()
+{
+    Gara[3] = "la \"lunga\" gara";
+    Localita[3] = "Pino";
+    ScriviCalendario();
+    AzzeraCalendario();
+    MessageScript boxes;
+    boxes.ExpectError("ERRORE : ", 13);
+    LeggiCalendario();
+    QVERIFY(boxes.AllShown());
+    QCOMPARE(Bytes(Gara[3]), QByteArray("la "));
+    QCOMPARE(Bytes(Localita[3]), QByteArray("lunga\" gara\""));
+    QVERIFY(KmGara[3] == 0);
+}
+
+void CalendarModelTest::FailuresAreReported()
+{
+    QFETCH(QByteArray, folder);
+    QFETCH(int, reading);
+    QFETCH(int, writing);
+    const TempFolder temp;
+    CartellaDiario = test::MakeFailingFolder(temp, folder, "CalendarioGare");
+    MessageScript boxes;
+    boxes.ExpectError("ERRORE : ", reading);
+    LeggiCalendario();
+    QVERIFY(boxes.AllShown());
+    QCOMPARE(Difference(Lines(CalendarLines()), BlankCalendar()), QByteArray());
+    if (writing != 0) {
+        boxes.ExpectError("ERRORE : ", writing);
+    }
+    ScriviCalendario();
+    QVERIFY(boxes.AllShown());
+}
+
+void CalendarModelTest::AFullDiskIsReported()
+{
+    const TempFolder temp;
+    std::filesystem::create_symlink("/dev/full", temp.Native("CalendarioGare"));
+    CartellaDiario = temp.Path();
+    MessageScript boxes;
+    boxes.ExpectError("ERRORE : ", 61);
+    ScriviCalendario();
+    QVERIFY(boxes.AllShown());
+}
+
+void CalendarModelTest::WritingReplacesTheFile()
+{
+    MessageScript boxes;
+    folder_.Write("CalendarioGare", Text(100'000, 'x'));
+    ScriviCalendario();
+    QCOMPARE(Difference(folder_.Read("CalendarioGare"), BlankCalendar()), QByteArray());
+    QCOMPARE(boxes.Shown(), 0);
+}
+
+QTEST_APPLESS_MAIN(CalendarModelTest)
+#include "CalendarModelTest.moc"
