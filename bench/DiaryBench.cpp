@@ -6,6 +6,7 @@
 #include "core/Files.h"
 #include "core/MessageBox.h"
 #include "diary/DiaryFile.h"
+#include "diary/Fields.h"
 #include "diary/Module1.h"
 
 #include <cstdlib>

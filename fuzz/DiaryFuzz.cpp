@@ -4,6 +4,7 @@
 #include "Harness.h"
 #include "core/ValueFile.h"
 #include "diary/DiaryFile.h"
+#include "diary/Fields.h"
 #include "diary/Module1.h"
 
 #include <algorithm>

@@ -5,9 +5,11 @@
 #include "core/Conversions.h"
 #include "core/Date.h"
 #include "core/RunTimeError.h"
+#include "diary/Fields.h"
 
 #include <algorithm>
-#include <array>
+#include <type_traits>
+#include <utility>
 
 namespace zelvia
 {
@@ -15,48 +17,14 @@ namespace
 {
 
 constexpr int kDays = 366;
-constexpr int kLines = 136;
+constexpr int kDateLine = 2;
 
-enum class Kind { Text, Number, Runners, Time, Date };
-
-/// Lines of a day that hold a field, counted from 1, and what the field is called.
-struct FieldLines {
-    int first;
-    int count;
-    TextView name;
-    Kind kind = Kind::Text;
-};
-
-constexpr FieldLines kFields[] = {
-    {2, 1, "Data", Kind::Date},
-    {3, 1, "Percorso"},
-    {4, 1, "Lunghezza"},
-    {5, 1, "Km", Kind::Number},
-    {6, 1, "Metri", Kind::Number},
-    {7, 1, "Andatura"},
-    {8, 1, "Terreno"},
-    {9, 1, "Tipo"},
-    {10, 1, "Ora Inizio, ore", Kind::Number},
-    {11, 1, "Ora Inizio, minuti", Kind::Number},
-    {12, 1, "Ora Inizio, secondi", Kind::Number},
-    {13, 1, "Ora Fine, ore", Kind::Number},
-    {14, 1, "Ora Fine, minuti", Kind::Number},
-    {15, 1, "Ora Fine, secondi", Kind::Number},
-    {16, 1, "Tempo", Kind::Time},
-    {17, 1, "Media", Kind::Time},
-    {18, 100, "Tempi Km"},
-    {118, 1, "Stagione"},
-    {119, 1, "Meteo"},
-    {120, 1, "Temperatura"},
-    {121, 1, "Corridori", Kind::Runners},
-    {122, 1, "Peso", Kind::Number},
-    {123, 1, "Ripetizioni", Kind::Number},
-    {124, 1, "Ripetizioni, metri", Kind::Number},
-    {125, 1, "Ripetizioni, minuti", Kind::Number},
-    {126, 1, "Ripetizioni, secondi", Kind::Number},
-    {127, 2, "Note fuori pagina"},
-    {129, 8, "Note"},
-};
+/// The lines of a day.
+constexpr int kLines = [] {
+    int lines = 0;
+    ForEachField([&](const auto& field) { lines += field.kLines; });
+    return lines;
+}();
 
 std::vector<TextView> LinesOf(TextView bytes)
 {
@@ -102,13 +70,25 @@ TextView Unquoted(TextView line)
     return line;
 }
 
-/// The content of a line, empty for what a day holds before anything is entered.
-TextView Content(TextView line, Kind kind)
+// What a field shows in its line, empty for what a day holds before anything is entered.
+
+template <typename Field>
+Text Content(const Field& /*field*/, TextView line)
+{
+    return Text(Unquoted(line));
+}
+
+template <typename T>
+Text Content(const NumberField<T>& field, TextView line)
 {
     const TextView text = Unquoted(line);
-    const bool blank = (kind == Kind::Number && text == "0") || (kind == Kind::Runners && text == "1") ||
-                       (kind == Kind::Time && (text == "0:00:00" || text == "0:00"));
-    return blank ? TextView() : text;
+    return Text(text == PlainText(RecordGiorno().*field.member) ? TextView() : text);
+}
+
+Text Content(const TimeField& field, TextView line)
+{
+    const TextView text = Unquoted(line);
+    return Text(text == field.none ? TextView() : text);
 }
 
 /// A date line #2007-03-03# as `pattern` has it, or the line as it stands.
@@ -129,22 +109,51 @@ Text DayName(TextView line, int slot)
     return date == line ? "giorno " + std::to_string(slot) : date;
 }
 
-void CompareField(const FieldLines& field, int slot, const DiaryLines& before, const DiaryLines& after,
-                  std::vector<FieldDifference>& differences)
+Text Content(const DateField& /*field*/, TextView line)
 {
-    for (int i = 0; i < field.count; ++i) {
-        const TextView old = Content(before.Line(slot, field.first + i), field.kind);
-        const TextView now = Content(after.Line(slot, field.first + i), field.kind);
-        // A day that one diary lacks has no date there to differ.
-        if (old == now || (field.kind == Kind::Date && (old.empty() || now.empty()))) {
-            continue;
-        }
-        const Text name = Text(field.name) + (field.count > 1 ? ", riga " + std::to_string(i + 1) : "");
-        const bool date = field.kind == Kind::Date;
-        differences.push_back(
-            {name, date ? DateText(old, "dd/mm/yyyy") : Text(old), date ? DateText(now, "dd/mm/yyyy") : Text(now)});
-    }
+    return DateText(line, "dd/mm/yyyy");
 }
+
+/// Compares the lines of one day, field by field.
+class DayComparison
+{
+public:
+    DayComparison(int slot, const DiaryLines& before, const DiaryLines& after)
+        : slot_(slot), before_(before), after_(after)
+    {
+        ForEachField([this](const auto& field) { Compare(field); });
+    }
+
+    std::vector<FieldDifference> differences;
+
+private:
+    void Compare(const SlotField& /*field*/) { ++line_; }
+
+    template <typename Field>
+    void Compare(const Field& field)
+    {
+        for (int i = 1; i <= field.kLines; ++i, ++line_) {
+            const TextView before = before_.Line(slot_, line_);
+            const TextView after = after_.Line(slot_, line_);
+            if (before == after) {
+                continue;
+            }
+            const Text old = Content(field, before);
+            const Text now = Content(field, after);
+            // A day that one diary lacks has no date there to differ.
+            const bool noDate = std::is_same_v<Field, DateField> && (old.empty() || now.empty());
+            if (old != now && !noDate) {
+                differences.push_back(
+                    {Text(field.label) + (field.kLines > 1 ? ", riga " + std::to_string(i) : ""), old, now});
+            }
+        }
+    }
+
+    int slot_;
+    const DiaryLines& before_;
+    const DiaryLines& after_;
+    int line_ = 1;
+};
 
 } // namespace
 
@@ -154,13 +163,11 @@ DiaryDifference CompareDiaries(TextView before, TextView after)
     const DiaryLines now(after);
     DiaryDifference result{{}, old.WholeDays(), now.WholeDays()};
     for (int slot = 1; slot <= kDays; ++slot) {
-        std::vector<FieldDifference> fields;
-        for (const FieldLines& field : kFields) {
-            CompareField(field, slot, old, now, fields);
-        }
-        if (!fields.empty()) {
-            const TextView date = now.Line(slot, 2).empty() ? old.Line(slot, 2) : now.Line(slot, 2);
-            result.days.push_back({slot, DayName(date, slot), std::move(fields)});
+        DayComparison day(slot, old, now);
+        if (!day.differences.empty()) {
+            const TextView date =
+                now.Line(slot, kDateLine).empty() ? old.Line(slot, kDateLine) : now.Line(slot, kDateLine);
+            result.days.push_back({slot, DayName(date, slot), std::move(day.differences)});
         }
     }
     return result;

@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
+#include "diary/Fields.h"
 #include "diary/Module1.h"
 
 namespace zelvia::Module1

@@ -11,7 +11,7 @@
 namespace zelvia
 {
 
-/// One day of the diary. The order of the fields is the order of the diary file.
+/// One day of the diary. Fields.h has what is known of each field.
 struct RecordGiorno {
     i16 NumGiorno;
     CalendarDate Data;
@@ -45,41 +45,5 @@ struct RecordGiorno {
 
     friend bool operator==(const RecordGiorno&, const RecordGiorno&) = default;
 };
-
-/// Hands the 136 values of a day to `visit`, in the order of the diary file.
-template <typename Giorno, typename Visitor>
-void VisitDiaryValues(Giorno& giorno, Visitor&& visit)
-{
-    visit(giorno.NumGiorno);
-    visit(giorno.Data);
-    visit(giorno.Percorso);
-    visit(giorno.Lunghezza);
-    visit(giorno.Km);
-    visit(giorno.Metri);
-    visit(giorno.Modo);
-    visit(giorno.Fondo);
-    visit(giorno.Tipo);
-    visit(giorno.OraInizio);
-    visit(giorno.MinutiInizio);
-    visit(giorno.SecondiInizio);
-    visit(giorno.OraFine);
-    visit(giorno.MinutiFine);
-    visit(giorno.SecondiFine);
-    visit(giorno.TempoImpiegato);
-    visit(giorno.MediaKm);
-    giorno.ListaKm.Visit(0, 99, visit);
-    visit(giorno.Stagione);
-    visit(giorno.TempoAtm);
-    visit(giorno.Temperatura);
-    visit(giorno.Corridori);
-    visit(giorno.Peso);
-    visit(giorno.Ripetizioni);
-    visit(giorno.RipetizioniDistanza);
-    visit(giorno.RipetizioniQuante);
-    visit(giorno.RipetizioniTempi);
-    for (int i = 1; i <= 10; ++i) {
-        visit(giorno.Note[i]);
-    }
-}
 
 } // namespace zelvia

@@ -3,6 +3,7 @@
 #include "diary/Module1.h"
 
 #include "core/Conversions.h"
+#include "diary/Fields.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"

@@ -4,6 +4,7 @@
 
 #include "diary/CalendarModel.h"
 #include "diary/DiaryFile.h"
+#include "diary/Fields.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "diary/SelectionLists.h"

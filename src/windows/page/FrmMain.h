@@ -24,7 +24,6 @@
 #include "windows/statistics/FrmRicercheStatistiche.h"
 #include "windows/statistics/FrmStatistiche1.h"
 
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -271,13 +270,6 @@ private:
     void MoveDate(const UpDown& spin, TextView interval, int step);
 
     // Day.
-    void ShowTextField(ListaScelta lista, TextView valore);
-    void ShowNote(int riga, TextView valore);
-    void BlankTextFields(const RecordGiorno& giorno);
-    bool TextsDiffer(const RecordGiorno& giorno);
-    bool NumbersDiffer(const RecordGiorno& giorno) const;
-    void CommitTexts(RecordGiorno& giorno, std::initializer_list<ListaScelta> liste);
-
     void ShowDistance(i32 metri);
 
     // Panels.

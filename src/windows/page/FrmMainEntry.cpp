@@ -8,6 +8,7 @@
 #include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
 #include "windows/page/CampoLista.h"
+#include "windows/page/DayOnPage.h"
 #include "windows/page/FrmMain.h"
 #include "windows/page/GruppoSpin.h"
 
@@ -161,8 +162,9 @@ void frmMain::CopyLastRun(const Text& percorso)
         if (!SameText(giorno.Percorso, percorso)) {
             continue;
         }
-        ShowTextField(ListaScelta::Lunghezza, giorno.Lunghezza);
-        ShowTextField(ListaScelta::Fondo, giorno.Fondo);
+        DayOnPage day(*this);
+        day.ShowText(ListaScelta::Lunghezza, giorno.Lunghezza);
+        day.ShowText(ListaScelta::Fondo, giorno.Fondo);
         upKM->SetValue(giorno.Km);
         upMetri->SetValue(giorno.Metri);
         if (ControlloTempiKm() == 1) {

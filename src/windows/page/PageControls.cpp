@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/page/PageControls.h"
 
+#include "diary/Fields.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
 #include "windows/page/PageArt.h"
 #include "windows/page/PageLayout.h"
 
 #include <QPainter>
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -31,12 +34,11 @@ struct LabelRow {
 struct SpinRow {
     UpDown* PageControls::*member;
     const char* name;
-    int minimum;
-    int maximum;
-    int increment;
-    int start;
+    NumberMember field;
     QRect place;
     TextView tip;
+    int start = 0;
+    NumberRange range = {}; ///< Where it is not the field's.
 };
 
 struct PictureRow {
@@ -65,6 +67,7 @@ constexpr QRect SlipValue(int row, int step)
 }
 
 using P = PageControls;
+using R = RecordGiorno;
 
 const LabelRow kHead[] = {
     {&P::lblData, "lblData", "", kDate, Style::Date, "Data"},
@@ -129,30 +132,30 @@ const LabelRow kRace[] = {
 };
 
 const SpinRow kDateSpins[] = {
-    {&P::upGiorno, "upGiorno", 0, 31, 1, 0, QRect(500, 40, 24, 32), "giorno"},
-    {&P::upMese, "upMese", 0, 12, 1, 0, QRect(542, 40, 24, 32), "mese"},
+    {&P::upGiorno, "upGiorno", {}, QRect(500, 40, 24, 32), "giorno", 0, {0, 31}},
+    {&P::upMese, "upMese", {}, QRect(542, 40, 24, 32), "mese", 0, {0, 12}},
 };
 
 const SpinRow kSpins[] = {
-    {&P::upKM, "upKM", 0, 500, 1, 0, Spin(Km, 0), "chilometri"},
-    {&P::upMetri, "upMetri", 0, 990, 10, 0, Spin(Km, 1), "metri, a decine"},
-    {&P::upMetro, "upMetro", 0, 9, 1, 0, Spin(Km, 2), "metri"},
-    {&P::upOraInizio, "upOraInizio", 0, 24, 1, 0, Spin(OraInizio, 0), "ore"},
-    {&P::upMinutiInizio, "upMinutiInizio", 0, 59, 1, 0, Spin(OraInizio, 1), "minuti"},
-    {&P::upSecondiInizio, "upSecondiInizio", 0, 59, 1, 0, Spin(OraInizio, 2), "secondi"},
-    {&P::upOraFine, "upOraFine", 0, 24, 1, 0, Spin(OraFine, 0), "ore"},
-    {&P::upMinutiFine, "upMinutiFine", 0, 59, 1, 0, Spin(OraFine, 1), "minuti"},
-    {&P::upSecondiFine, "upSecondiFine", 0, 59, 1, 0, Spin(OraFine, 2), "secondi"},
-    {&P::upCorridori, "upCorridori", 1, 100000, 1, 1, Spin(Corridori, 0), "corridori"},
-    {&P::upPeso, "upPeso", 0, 150, 1, 30, Spin(Peso, 0), "chilogrammi"},
-    {&P::upRipetizioni, "upRipetizioni", 0, 99, 1, 0, Spin(Ripetizioni, 0), "volte"},
-    {&P::upRipetizioniDistanza, "upRipetizioniDistanza", 0, 10000, 100, 0, Spin(Ripetizioni, 1), "metri"},
-    {&P::upRipetizioniQuante, "upRipetizioniQuante", 0, 60, 1, 0, Spin(Ripetizioni, 2), "minuti"},
-    {&P::upRipetizioniTempi, "upRipetizioniTempi", 0, 59, 1, 0, Spin(Ripetizioni, 3), "secondi"},
-    {&P::upTempoKM, "upTempoKM", 0, 100, 1, 0, Spin(Parziali, 0), "chilometro"},
-    {&P::upTempoOre, "upTempoOre", 0, 24, 1, 0, Spin(Parziali, 1), "ore"},
-    {&P::upTempoMinuti, "upTempoMinuti", 0, 59, 1, 0, Spin(Parziali, 2), "minuti"},
-    {&P::upTempoSecondi, "upTempoSecondi", 0, 59, 1, 0, Spin(Parziali, 3), "secondi"},
+    {&P::upKM, "upKM", &R::Km, Spin(Km, 0), "chilometri"},
+    {&P::upMetri, "upMetri", &R::Metri, Spin(Km, 1), "metri, a decine", 0, {0, 990, 10}},
+    {&P::upMetro, "upMetro", {}, Spin(Km, 2), "metri", 0, {0, 9}},
+    {&P::upOraInizio, "upOraInizio", &R::OraInizio, Spin(OraInizio, 0), "ore"},
+    {&P::upMinutiInizio, "upMinutiInizio", &R::MinutiInizio, Spin(OraInizio, 1), "minuti"},
+    {&P::upSecondiInizio, "upSecondiInizio", &R::SecondiInizio, Spin(OraInizio, 2), "secondi"},
+    {&P::upOraFine, "upOraFine", &R::OraFine, Spin(OraFine, 0), "ore"},
+    {&P::upMinutiFine, "upMinutiFine", &R::MinutiFine, Spin(OraFine, 1), "minuti"},
+    {&P::upSecondiFine, "upSecondiFine", &R::SecondiFine, Spin(OraFine, 2), "secondi"},
+    {&P::upCorridori, "upCorridori", &R::Corridori, Spin(Corridori, 0), "corridori", 1},
+    {&P::upPeso, "upPeso", &R::Peso, Spin(Peso, 0), "chilogrammi", 30},
+    {&P::upRipetizioni, "upRipetizioni", &R::Ripetizioni, Spin(Ripetizioni, 0), "volte"},
+    {&P::upRipetizioniDistanza, "upRipetizioniDistanza", &R::RipetizioniDistanza, Spin(Ripetizioni, 1), "metri"},
+    {&P::upRipetizioniQuante, "upRipetizioniQuante", &R::RipetizioniQuante, Spin(Ripetizioni, 2), "minuti"},
+    {&P::upRipetizioniTempi, "upRipetizioniTempi", &R::RipetizioniTempi, Spin(Ripetizioni, 3), "secondi"},
+    {&P::upTempoKM, "upTempoKM", {}, Spin(Parziali, 0), "chilometro", 0, {0, 100}},
+    {&P::upTempoOre, "upTempoOre", {}, Spin(Parziali, 1), "ore", 0, {0, 24}},
+    {&P::upTempoMinuti, "upTempoMinuti", {}, Spin(Parziali, 2), "minuti", 0, {0, 59}},
+    {&P::upTempoSecondi, "upTempoSecondi", {}, Spin(Parziali, 3), "secondi", 0, {0, 59}},
 };
 
 const PictureRow kPictures[] = {
@@ -246,18 +249,27 @@ void MakeLabels(PageControls& controls, QWidget* page, const LabelRow (&rows)[N]
     }
 }
 
+NumberRange RangeOf(const SpinRow& row)
+{
+    const auto ofField = [](auto member) { return zelvia::RangeOf(member); };
+    const auto none = [](std::monostate) { return NumberRange(); };
+    return row.range.maximum > 0 ? row.range : std::visit(Overloaded{none, ofField}, row.field);
+}
+
 template <std::size_t N>
 void MakeSpins(PageControls& controls, QWidget* page, const SpinRow (&rows)[N])
 {
     for (const SpinRow& row : rows) {
         auto* spin = new UpDown(page, QLatin1String(row.name));
         spin->setGeometry(row.place);
-        spin->SetRange(row.minimum, row.maximum, row.increment);
+        const NumberRange range = RangeOf(row);
+        spin->SetRange(range.minimum, range.maximum, range.step);
         spin->SetValue(row.start);
         spin->setToolTip(ToQString(row.tip));
         spin->setAccessibleName(ToQString(row.tip));
         spin->SetVisible(false);
         controls.*row.member = spin;
+        controls.numeri.push_back({row.field, spin});
     }
 }
 
@@ -371,6 +383,13 @@ void MakeOrderedList(PageControls& controls, QWidget* page)
 }
 
 } // namespace
+
+UpDown& PageControls::SpinOf(NumberMember member) const
+{
+    return *std::find_if(numeri.begin(), numeri.end(), [&](const NumberSpin& row) {
+                return row.member == member;
+            })->spin;
+}
 
 void BuildPage(PageControls& controls, QWidget* page)
 {

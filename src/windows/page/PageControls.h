@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/BoundedArray.h"
+#include "diary/RecordGiorno.h"
 #include "diary/SelectionLists.h"
 #include "toolkit/Button.h"
 #include "toolkit/Label.h"
@@ -12,6 +13,8 @@
 #include "toolkit/UpDown.h"
 
 #include <array>
+#include <variant>
+#include <vector>
 
 namespace zelvia
 {
@@ -29,6 +32,9 @@ struct ControlliNota {
     Label* lbl = nullptr;
     TextBox* txt = nullptr;
 };
+
+/// The number of a day that a spin control holds.
+using NumberMember = std::variant<std::monostate, i16 RecordGiorno::*, i32 RecordGiorno::*>;
 
 /// Every control of the day page under its name. What stands where is in PageLayout.
 struct PageControls {
@@ -53,6 +59,13 @@ struct PageControls {
     ControlliLista& Campo(ListaScelta lista) { return campi[static_cast<int>(lista)]; }
 
     // Numeric fields.
+    struct NumberSpin {
+        NumberMember member;
+        UpDown* spin;
+    };
+    std::vector<NumberSpin> numeri;
+    /// The spin control that shows a number of the day. Each has one.
+    UpDown& SpinOf(NumberMember member) const;
     Label* lblKm = nullptr;
     Label* lblImmisMetri = nullptr;
     UpDown* upKM = nullptr;

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "diary/Fields.h"
+#include "windows/page/PageControls.h"
+
+namespace zelvia
+{
+
+/// The fields of a day in the controls of the page, in the order of the diary file. An error leaves the fields after
+/// it as they were.
+class DayOnPage
+{
+public:
+    explicit DayOnPage(PageControls& page) : page_(page) {}
+
+    void ShowText(ListaScelta lista, TextView valore);
+    /// Puts the day into the controls.
+    void Show(const RecordGiorno& giorno);
+    /// Empties the controls, of the texts those that the day fills. Time and average stay those of the day.
+    void Blank(const RecordGiorno& giorno);
+    /// Puts what the controls hold into the day. Its number and its date stay.
+    void Commit(RecordGiorno& giorno) const;
+    /// True when the controls hold something else than the day, the splits left out.
+    bool Differs(const RecordGiorno& giorno) const;
+    /// Only the lines that the list has are compared: one that merely became shorter is unchanged. Raises error 9 for
+    /// more lines than a day holds.
+    bool SplitsDiffer(const RecordGiorno& giorno) const;
+
+private:
+    void ShowNote(int riga, TextView valore);
+    void ShowTime(const TimeField& field, const RecordGiorno& giorno);
+    void BlankTexts(const RecordGiorno& giorno);
+    void BlankSplits();
+    i32 NumberOf(NumberMember member) const;
+
+    PageControls& page_;
+};
+
+} // namespace zelvia
