@@ -23,11 +23,7 @@ struct Loaded {
 Loaded Load()
 {
     Loaded loaded;
-    loaded.error = RaisedBy([&] {
-        LeggiLista(
-            Scratch::Instance().Path("Percorso.lsx"), [&] { loaded.entries.clear(); },
-            [&](const Text& entry) { loaded.entries.push_back(entry); });
-    });
+    loaded.error = RaisedBy([&] { LeggiLista(Scratch::Instance().Path("Percorso.lsx"), loaded.entries); });
     return loaded;
 }
 

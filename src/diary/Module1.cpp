@@ -9,14 +9,7 @@ namespace zelvia::Module1
 
 BoundedArray<RecordGiorno, 0, 366> Giorni;
 CalendarDate DataCorrente;
-i16 GiornoCorrente;
-i16 FileModificato;
-Text CartellaDiario;
-Text NomeTabellaAttiva;
-Text NomeTabellaAperta;
-i16 FlagTabellaSalvata;
-i16 IndiceTabella;
-Text PercorsoCorrente;
+Session session;
 
 namespace
 {
@@ -36,14 +29,7 @@ void BlankDay(i16 giorno)
 void AzzeraStato()
 {
     DataCorrente = CalendarDate();
-    GiornoCorrente = 0;
-    FileModificato = 0;
-    CartellaDiario.clear();
-    NomeTabellaAttiva.clear();
-    NomeTabellaAperta.clear();
-    FlagTabellaSalvata = 0;
-    IndiceTabella = 0;
-    PercorsoCorrente.clear();
+    session = {};
 }
 
 void AzzeraAnno()

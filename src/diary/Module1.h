@@ -4,6 +4,7 @@
 
 #include "core/BoundedArray.h"
 #include "diary/RecordGiorno.h"
+#include "diary/Session.h"
 
 namespace zelvia
 {
@@ -14,14 +15,17 @@ namespace Module1
 
 extern BoundedArray<RecordGiorno, 0, 366> Giorni; ///< The open diary; place 0 is never used.
 extern CalendarDate DataCorrente;                 ///< The date on the page.
-extern i16 GiornoCorrente;                        ///< Its day of the year, the place in Giorni.
-extern i16 FileModificato;                        ///< 1 when memory differs from what is on disk.
-extern Text CartellaDiario;                       ///< Folder of the open diary, no backslash at its end.
-extern Text NomeTabellaAttiva;                    ///< Full path of the active table, "" for none.
-extern Text NomeTabellaAperta;                    ///< Full path of the table to open in the editor.
-extern i16 FlagTabellaSalvata;                    ///< 1 when the table's save dialog was cancelled.
-extern i16 IndiceTabella;                         ///< Row of the active table to be met next, 1..32.
-extern Text PercorsoCorrente;                     ///< Route chosen last in the list of routes.
+extern Session session;
+
+// Parts of the session under their own names.
+inline i16& GiornoCorrente = session.GiornoCorrente;
+inline i16& FileModificato = session.FileModificato;
+inline Text& CartellaDiario = session.CartellaDiario;
+inline Text& NomeTabellaAttiva = session.NomeTabellaAttiva;
+inline Text& NomeTabellaAperta = session.NomeTabellaAperta;
+inline i16& FlagTabellaSalvata = session.FlagTabellaSalvata;
+inline i16& IndiceTabella = session.IndiceTabella;
+inline Text& PercorsoCorrente = session.PercorsoCorrente;
 
 /// Gives all of the state above, but for Giorni, its value at start.
 void AzzeraStato();

@@ -5,6 +5,8 @@
 #include "core/ValueFile.h"
 #include "diary/Module1.h"
 
+#include <utility>
+
 namespace zelvia
 {
 namespace
@@ -62,6 +64,11 @@ Text FileLista(ListaScelta lista)
     return Module1::CartellaDiario + "\\" + Text(NomeLista(lista)) + ".lsx";
 }
 
+std::vector<Text>& VociDi(ListaScelta lista)
+{
+    return Module1::session.liste[static_cast<int>(lista)];
+}
+
 void ScriviLista(TextView path, const std::vector<Text>& voci)
 {
     ValueWriter file(path);
@@ -71,14 +78,14 @@ void ScriviLista(TextView path, const std::vector<Text>& voci)
     file.Close();
 }
 
-void LeggiLista(TextView path, const std::function<void()>& svuota, const std::function<void(const Text&)>& aggiungi)
+void LeggiLista(TextView path, std::vector<Text>& voci)
 {
     ValueReader file(path);
-    svuota();
-    Text voce;
+    voci.clear();
     while (!file.AtEnd()) {
+        Text voce;
         file.Input(voce);
-        aggiungi(voce);
+        voci.push_back(std::move(voce));
     }
 }
 

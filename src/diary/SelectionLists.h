@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -34,11 +33,14 @@ std::span<const TextView> VociIniziali(ListaScelta lista);
 /// Full path of a list's file in the folder of the open diary.
 Text FileLista(ListaScelta lista);
 
+/// The entries of a list of the open diary.
+std::vector<Text>& VociDi(ListaScelta lista);
+
 /// Writes the entries to `path`, a line each. Raises what ValueWriter raises.
 void ScriviLista(TextView path, const std::vector<Text>& voci);
 
-/// Reads the entries of `path` to its end, whatever they are. `svuota` runs once the file is open, `aggiungi` for each
-/// entry. Raises what ValueReader raises.
-void LeggiLista(TextView path, const std::function<void()>& svuota, const std::function<void(const Text&)>& aggiungi);
+/// Reads `path` to its end into the entries, whatever they are; they are emptied once the file is open. Raises what
+/// ValueReader raises.
+void LeggiLista(TextView path, std::vector<Text>& voci);
 
 } // namespace zelvia

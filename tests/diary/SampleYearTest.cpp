@@ -100,8 +100,7 @@ void SampleYearTest::Lists()
     QFETCH(int, number);
     const auto list = static_cast<ListaScelta>(number);
     std::vector<Text> entries;
-    LeggiLista(
-        FileLista(list), [] {}, [&](const Text& entry) { entries.push_back(entry); });
+    LeggiLista(FileLista(list), entries);
     QVERIFY(!entries.empty());
     Module1::CartellaDiario = folder_.Path();
     ScriviLista(FileLista(list), entries);

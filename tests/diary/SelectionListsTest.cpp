@@ -36,22 +36,13 @@ private Q_SLOTS:
 namespace
 {
 
-/// What a list box holds after it was told to read a file.
-struct ListBox {
+/// The entries of a list that is read from a file.
+struct ListRead {
     std::vector<Text> entries = {"prima"};
-    int cleared = 0;
 
     int Read(TextView path)
     {
-        return RaisedBy([&] {
-            LeggiLista(
-                path,
-                [this] {
-                    entries.clear();
-                    ++cleared;
-                },
-                [this](const Text& entry) { entries.push_back(entry); });
-        });
+        return RaisedBy([&] { LeggiLista(path, entries); });
     }
 };
 
@@ -146,10 +137,9 @@ void SelectionListsTest::WrittenForms()
     }
     ScriviLista(folder.Path("Tipo.lsx"), voci);
     QCOMPARE(Bytes(folder.Read("Tipo.lsx")), bytes);
-    ListBox box;
+    ListRead box;
     QCOMPARE(box.Read(folder.Path("Tipo.lsx")), 0);
     QCOMPARE(AsList(box.entries), entries);
-    QCOMPARE(box.cleared, 1);
 }
 
 void SelectionListsTest::WritingReplacesTheFile()
@@ -181,7 +171,7 @@ void SelectionListsTest::ReadingTakesWhatIsThere()
     QFETCH(QByteArrayList, entries);
     const TempFolder folder;
     folder.Write("Tipo.lsx", TextOf(bytes));
-    ListBox box;
+    ListRead box;
     QCOMPARE(box.Read(folder.Path("Tipo.lsx")), 0);
     QCOMPARE(AsList(box.entries), entries);
 }
@@ -201,9 +191,8 @@ void SelectionListsTest::AMissingFileLeavesTheListAlone()
     QFETCH(int, error);
     const TempFolder folder;
     folder.MakeFolder("cartella");
-    ListBox box;
+    ListRead box;
     QCOMPARE(box.Read(folder.Path(name.toStdString())), error);
-    QCOMPARE(box.cleared, 0);
     QCOMPARE(AsList(box.entries), QByteArrayList{"prima"});
 }
 
@@ -211,7 +200,7 @@ void SelectionListsTest::AnUnclosedQuoteKeepsTheEntriesBefore()
 {
     const TempFolder folder;
     folder.Write("Tipo.lsx", "\"a\"\r\n\"b\r\n");
-    ListBox box;
+    ListRead box;
     QCOMPARE(box.Read(folder.Path("Tipo.lsx")), 62);
     QCOMPARE(AsList(box.entries), QByteArrayList{"a"});
 }

@@ -56,8 +56,7 @@ void PageMemoryTest::init()
     page_ = std::make_unique<EntryPage>();
     Page().Start();
     for (int number = 1; number <= 8; ++number) {
-        Page().Field(number).lst->Clear();
-        Page().Field(number).lst->AddItem(FromQString(kLong));
+        Page().SetEntries(static_cast<ListaScelta>(number), {FromQString(kLong)});
     }
     // So that no window asks for its description.
     Module1::NomiPercorso[1] = FromQString(kLong);
@@ -179,8 +178,7 @@ void PageMemoryTest::OpenRoutes() const
 {
     CloseField(1);
     const ControlliLista& field = Page().Field(1);
-    field.lst->Clear();
-    field.lst->AddItem(FromQString(kLong));
+    Page().SetEntries(ListaScelta::Percorso, {FromQString(kLong)});
     hand::Click(*field.lblImmis);
     Settle();
     field.txt->SetContent(FromQString(kLong));
@@ -242,7 +240,7 @@ std::map<QByteArray, Command> PageMemoryTest::Commands() const
     };
     const auto newRoute = [this] {
         OpenRoutes();
-        Page().Field(1).lst->Clear();
+        Page().SetEntries(ListaScelta::Percorso, {});
         Page().Field(1).txt->SetFocus();
         Settle();
         Page().Field(1).txt->SetContent(FromQString(kLong));

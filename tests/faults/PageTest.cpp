@@ -126,7 +126,7 @@ ExpectedBox RestoreQuestion()
 void ClearLists(const DayPage& page)
 {
     for (const ListaScelta list : kListeSuFile) {
-        page->Campo(list).lst->Clear();
+        page.SetEntries(list, {});
     }
 }
 

@@ -147,10 +147,7 @@ void WriteList()
 
 void ReadList()
 {
-    Trap(kListTitle, [] {
-        LeggiLista(
-            FileLista(ListaScelta::Percorso), [] { list.clear(); }, [](const Text& entry) { list.push_back(entry); });
-    });
+    Trap(kListTitle, [] { LeggiLista(FileLista(ListaScelta::Percorso), list); });
 }
 
 SavedFile ListFile()

@@ -273,8 +273,7 @@ QString FileWatch::ReadBack(const QString& file) const
         break;
     case Kind::List: {
         std::vector<Text> entries;
-        LeggiLista(
-            path, [&] { entries.clear(); }, [&](const Text& entry) { entries.push_back(entry); });
+        LeggiLista(path, entries);
         rewritten([&] { ScriviLista(copy, entries); });
         break;
     }

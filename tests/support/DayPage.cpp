@@ -132,6 +132,19 @@ void DayPage::GoTo(int slot) const
     }
 }
 
+void DayPage::SetEntries(ListaScelta lista, std::vector<Text> entries) const
+{
+    VociDi(lista) = std::move(entries);
+    static_cast<DiaryPage&>(Page()).ShowList(lista);
+}
+
+void DayPage::AddEntry(ListaScelta lista, const Text& entry) const
+{
+    std::vector<Text> entries = VociDi(lista);
+    entries.push_back(entry);
+    SetEntries(lista, std::move(entries));
+}
+
 ExpectedDialog DayPage::OpenDialog(const QString& preset, const QString& choose) const
 {
     return {QStringLiteral("Apri"),

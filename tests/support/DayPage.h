@@ -55,6 +55,10 @@ public:
     /// Moves to a slot by clicks on the arrows of the day.
     void GoTo(int slot) const;
 
+    /// Gives a selection list other entries, or one more.
+    void SetEntries(ListaScelta lista, std::vector<Text> entries) const;
+    void AddEntry(ListaScelta lista, const Text& entry) const;
+
     // Dialogs as the commands show them; `choose` none cancels.
     ExpectedDialog OpenDialog(const QString& preset, const QString& choose = {}) const;
     ExpectedDialog SaveDialog(const QString& preset, const QString& choose = {}) const;

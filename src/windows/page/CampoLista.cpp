@@ -71,7 +71,7 @@ void CampoLista::Chiudi()
     controlli_.txt->SetVisible(false);
     controlli_.lst->SetVisible(false);
     page_.ListaAperta = 0;
-    const i16 presente = page_.AggiungiLista(*controlli_.txt, *controlli_.lst);
+    const i16 presente = page_.AggiungiLista(*controlli_.txt, lista_);
     const Text testo = controlli_.txt->Content();
     controlli_.lblImmis->SetCaption(testo);
     OnChiusura(testo, presente);

@@ -5,6 +5,7 @@
 #include "core/CMouse.h"
 #include "core/Date.h"
 #include "diary/CategoryStatistics.h"
+#include "diary/FileCommands.h"
 #include "diary/ListaOrdinata.h"
 #include "diary/Module1.h"
 #include "diary/SelectionLists.h"
@@ -39,7 +40,7 @@ class GruppoSpin;
 
 /// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
 /// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
-class frmMain : public Form, public PageControls, public RoutePage, public TablePage
+class frmMain : public Form, public PageControls, public RoutePage, public TablePage, public DiaryPage
 {
     Q_OBJECT
 
@@ -52,29 +53,29 @@ public:
 
     Control& FocusSink() override { return *pctGiornoAnno; }
 
-    // State that other windows read. DataMinima..DataMassima is the range of the page.
-    CalendarDate DataMinima;
-    CalendarDate DataMassima;
-    i16 GiornoMese = 1;
-    i16 MeseCorrente = 1;
-    i16 AnnoCorrente = 1;
-    i16 UltimoPeso; ///< Last weight above 0 up to the day shown, kilograms.
-    i32 KmAnno;     ///< Kilometres of the year up to the day shown.
-    i16 GiorniCorseAnno;
-    i16 GareAnno;
-    Text NomeFile;     ///< Full path of the open diary.
-    Text NomeBaseFile; ///< Its name without folder and extension.
-    Text EsitoDir;
-    int NuovoAnnullato = 0; ///< 1 once the dialog of a new file was cancelled; nothing clears it.
-    i16 NoteAperte;
-    i16 ListaAperta;   ///< Number of the list that last took the focus, 9 for the splits; 0 when none is open.
+    // State of the open diary, and the range of the page.
+    static constexpr CalendarDate DataMinima = kDataMinima;
+    static constexpr CalendarDate DataMassima = kDataMassima;
+    i16& GiornoMese = Module1::session.GiornoMese;
+    i16& MeseCorrente = Module1::session.MeseCorrente;
+    i16& AnnoCorrente = Module1::session.AnnoCorrente;
+    i16& UltimoPeso = Module1::session.UltimoPeso;
+    i32& KmAnno = Module1::session.KmAnno;
+    i16& GiorniCorseAnno = Module1::session.GiorniCorseAnno;
+    i16& GareAnno = Module1::session.GareAnno;
+    Text& NomeFile = Module1::session.NomeFile;
+    Text& NomeBaseFile = Module1::session.NomeBaseFile;
+    Text& EsitoDir = Module1::session.EsitoDir;
+    i16& NoteAperte = Module1::session.NoteAperte;
+    i16& ListaAperta = Module1::session.ListaAperta;
+    int& NuovoAnnullato = files_.NuovoAnnullato;
     i16 LunghezzaNota; ///< Length of the note being typed.
 
     CommonDialog dlgCommonDialog;
 
     // Dates.
     /// Brings everything that depends on DataCorrente up to date.
-    void Data();
+    void Data() override;
     void upGiorno_DownClick() { MoveDate(*upGiorno, "d", -1); }
     void upGiorno_UpClick() { MoveDate(*upGiorno, "d", 1); }
     void upMese_DownClick() { MoveDate(*upMese, "m", -1); }
@@ -83,60 +84,58 @@ public:
     void tmrFocus_Timer();
 
     // The day on the page and in its record.
-    void VisualizzaGiorno();
-    void AzzeraCampi();
-    void AssegnaCampi();
+    void VisualizzaGiorno() override;
+    void AzzeraCampi() override;
+    void AssegnaCampi() override;
     /// 1 when the controls differ from the record of GiornoCorrente, else 0.
     void ControllaSave(i16& esito);
     /// Counts the year up to the day shown, from the records.
-    void DatiAnno();
+    void DatiAnno() override;
 
     // Panels of the right page.
     /// Walks the active table up to the day shown and shows the row reached.
     void AssegnaTabella();
     void AzzeraDatiTabella();
-    void NessunaTabella();
+    void NessunaTabella() override;
     void TabAllenamentiVisibili() { ShowTablePanel(true); }
     void TabAllenamentiNonVisibili() { ShowTablePanel(false); }
     void MostraRiquadriGara() { ShowRacePanel(true); }
     void NascondiRiquadriGara() { ShowRacePanel(false); }
     /// Shows the race of the day shown in the place of the active table, if the calendar has one.
-    void AssegnaGara();
+    void AssegnaGara() override;
     /// Shows the race at row `indice` of the calendar.
     void GiornodellaGara(i16& indice);
 
     // Files.
-    void CaricaNomeFile();
-    /// The counterpart of CaricaNomeFile: writes NomeFile to the pointer file of the program's folder.
-    void SalvaNomeFile();
-    void NomeFleListe();
-    void mnuFileOpen_Click();
-    void mnuFileNuovo_Click();
-    void mnuFileSave_Click();
-    void mnuFileSaveAs_Click();
+    void CaricaNomeFile() { files_.CaricaNomeFile(); }
+    void SalvaNomeFile() { files_.SalvaNomeFile(); }
+    void NomeFleListe() { files_.NomeFleListe(); }
+    void mnuFileOpen_Click() { files_.mnuFileOpen_Click(); }
+    void mnuFileNuovo_Click() { files_.mnuFileNuovo_Click(); }
+    void mnuFileSave_Click() { files_.mnuFileSave_Click(); }
+    void mnuFileSaveAs_Click() { files_.mnuFileSaveAs_Click(); }
+    void ChiediSalvataggio(i16& annullato) { files_.ChiediSalvataggio(annullato); }
+    void NuovoFile(const Text& percorso) { files_.NuovoFile(percorso); }
+    void SalvaFileNuovo(const Text& percorso) { files_.SalvaFileNuovo(percorso); }
     void mnuFilePrint_Click();
     void mnuFileExit_Click();
-    /// Asks to save what changed; `annullato` becomes 1 when the user cancels.
-    void ChiediSalvataggio(i16& annullato);
-    void NuovoFile(const Text& percorso);
-    void SalvaFileNuovo(const Text& percorso);
 
     // Selection lists.
-    void InizializzaListe();
-    void SalvaListaPercorso() { SalvaLista(ListaScelta::Percorso); }
-    void SalvaListaLunghezza() { SalvaLista(ListaScelta::Lunghezza); }
-    void SalvaListaModo() { SalvaLista(ListaScelta::Modo); }
-    void SalvaListaFondo() { SalvaLista(ListaScelta::Fondo); }
-    void SalvaListaTipo() { SalvaLista(ListaScelta::Tipo); }
-    void SalvaListaTempoAtm() { SalvaLista(ListaScelta::TempoAtm); }
-    void SalvaListaTemperatura() { SalvaLista(ListaScelta::Temperatura); }
-    void CaricaListaPercorso() { CaricaLista(ListaScelta::Percorso); }
-    void CaricaListaLunghezza() { CaricaLista(ListaScelta::Lunghezza); }
-    void CaricaListaModo() { CaricaLista(ListaScelta::Modo); }
-    void CaricaListaFondo() { CaricaLista(ListaScelta::Fondo); }
-    void CaricaListaTipo() { CaricaLista(ListaScelta::Tipo); }
-    void CaricaListaTempoAtm() { CaricaLista(ListaScelta::TempoAtm); }
-    void CaricaListaTeperatura() { CaricaLista(ListaScelta::Temperatura); }
+    void InizializzaListe() { files_.InizializzaListe(); }
+    void SalvaListaPercorso() { files_.SalvaLista(ListaScelta::Percorso); }
+    void SalvaListaLunghezza() { files_.SalvaLista(ListaScelta::Lunghezza); }
+    void SalvaListaModo() { files_.SalvaLista(ListaScelta::Modo); }
+    void SalvaListaFondo() { files_.SalvaLista(ListaScelta::Fondo); }
+    void SalvaListaTipo() { files_.SalvaLista(ListaScelta::Tipo); }
+    void SalvaListaTempoAtm() { files_.SalvaLista(ListaScelta::TempoAtm); }
+    void SalvaListaTemperatura() { files_.SalvaLista(ListaScelta::Temperatura); }
+    void CaricaListaPercorso() { files_.CaricaLista(ListaScelta::Percorso); }
+    void CaricaListaLunghezza() { files_.CaricaLista(ListaScelta::Lunghezza); }
+    void CaricaListaModo() { files_.CaricaLista(ListaScelta::Modo); }
+    void CaricaListaFondo() { files_.CaricaLista(ListaScelta::Fondo); }
+    void CaricaListaTipo() { files_.CaricaLista(ListaScelta::Tipo); }
+    void CaricaListaTempoAtm() { files_.CaricaLista(ListaScelta::TempoAtm); }
+    void CaricaListaTeperatura() { files_.CaricaLista(ListaScelta::Temperatura); }
 
     void ImmisPercorso() { Immis(ListaScelta::Percorso); }
     void ImmisLunghezza() { Immis(ListaScelta::Lunghezza); }
@@ -147,7 +146,7 @@ public:
     void ImmisTempoAtm() { Immis(ListaScelta::TempoAtm); }
     void ImmisTemperatura() { Immis(ListaScelta::Temperatura); }
     /// Adds the box's trimmed text to the list if it is new there; 1 when the list held it already, else 0.
-    i16 AggiungiLista(TextBox& txt, ListBox& lst);
+    i16 AggiungiLista(TextBox& txt, ListaScelta lista);
     /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
     void FollowInTabOrder(QWidget& field);
     /// Gives the focus to the control of a field that opens. The hand comes with it, behind the closing of another
@@ -246,8 +245,6 @@ protected:
     void OnUnload() override;
 
 private:
-    struct KeptState;
-
     void BuildMenus(QMenuBar& bar);
     void ConnectControls();
     void ConnectSpins();
@@ -256,15 +253,7 @@ private:
     void ConnectSplits();
     void ConnectNotes();
 
-    // Start.
-    void ResetState();
-    void SetUpFolder();
-    /// Writes the full set into CartellaDiario when it holds no file.
-    void WriteFirstSet();
-    void LoadCompanions();
-
     // Dates.
-    void SetToday();
     /// Closes the open field for a step of the date; false when that opened a route's description.
     bool LeaveFieldForDate();
     void MoveDate(const UpDown& spin, TextView interval, int step);
@@ -277,32 +266,19 @@ private:
     void ShowRacePanel(bool visible);
     /// Puts the sorted list over what was shown last, as long as it is open.
     void RaiseOrderedList();
-    void ShowActiveTable();
     void ShowTableRow(i16 riga);
     void EndTable();
 
     // Files.
-    KeptState KeepAndReset();
-    void PutBack(const KeptState& kept);
-    /// `diario` is the one whose folder the choice has to lie in.
-    void PrepareDialog(TextView title, FileDialogMode mode, const Text& diario);
-    /// Raises error 32755 after the refusal's box when the dialog's FileName lies in another folder than `diario`; the
-    /// dialog then holds `diario` again and `riprova` is set.
-    void ApplyFolderRule(FileDialogMode mode, const Text& diario, bool& riprova);
-    /// Writes the lists, the routes and the calendar.
-    void SaveCompanions();
-    /// True when the calendar's window is open with changes and the user wants to stay with them.
-    bool CalendarStays();
-    void OpenDiary();
-    /// Has the other windows that are open show the calendar and the tables of the diary that is open now.
-    void ShowOtherDiary();
-    /// Reads the diary named by NomeFile with its companions and shows it.
-    void ReadOpenedDiary();
-
-    void SalvaLista(ListaScelta lista);
-    void CaricaLista(ListaScelta lista);
-    void CaricaListe();
-    void SalvaListe();
+    void ShowDiaryName() override { lblNomeFile->SetCaption(NomeBaseFile); }
+    void ShowTableName() override;
+    void ShowActiveTable() override;
+    void ShowList(ListaScelta lista) override;
+    void ShowOtherDiary() override;
+    bool CalendarStays() override;
+    void SetBusy(bool busy) override;
+    Text& ChosenName() override { return dlgCommonDialog.FileName; }
+    void ChooseFile(const FileChoice& choice) override;
 
     void ShowHelp(int comando, const QString& argomento = {});
 
@@ -328,6 +304,7 @@ private:
     /// The command of a statistic: commits the day, counts and shows.
     void ShowStatistic(void (frmMain::*statis)());
 
+    FileCommands files_{*this};
     BoundedArray<std::unique_ptr<CampoLista>, 1, 8> campiLista_;
     std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
     GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.

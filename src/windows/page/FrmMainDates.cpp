@@ -7,8 +7,6 @@
 #include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
 
-#include <algorithm>
-
 namespace zelvia
 {
 
@@ -30,11 +28,6 @@ void frmMain::Data()
         }
         AssegnaGara();
     });
-}
-
-void frmMain::SetToday()
-{
-    DataCorrente = std::clamp(Date(), DataMinima, DataMassima);
 }
 
 bool frmMain::LeaveFieldForDate()

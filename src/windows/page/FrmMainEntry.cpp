@@ -35,10 +35,9 @@ Text NoteName(TextView control, int riga)
     return Text(control) + "Note" + PlainText(i32(riga)) + " - ERRORE : ";
 }
 
-/// True when an entry of the list is that text, whatever its case.
-bool Holds(const ListBox& lst, const Text& testo)
+/// True when one of the entries is that text, whatever its case.
+bool Holds(const std::vector<Text>& voci, const Text& testo)
 {
-    const std::vector<Text> voci = lst.Items();
     return std::any_of(voci.begin(), voci.end(), [&](const Text& voce) { return SameText(voce, testo); });
 }
 
@@ -82,7 +81,7 @@ void frmMain::Immis(ListaScelta lista)
     campiLista_[static_cast<int>(lista)]->Apri();
 }
 
-i16 frmMain::AggiungiLista(TextBox& txt, ListBox& lst)
+i16 frmMain::AggiungiLista(TextBox& txt, ListaScelta lista)
 {
     i16 presente = 0;
     Trap("AggiungiLista - ERRORE : ", [&] {
@@ -93,9 +92,10 @@ i16 frmMain::AggiungiLista(TextBox& txt, ListBox& lst)
         if (!CampoNonVuoto(testo)) {
             return;
         }
-        presente = Holds(lst, testo) ? 1 : 0;
+        presente = Holds(VociDi(lista), testo) ? 1 : 0;
         if (presente == 0) {
-            lst.AddItem(testo);
+            VociDi(lista).push_back(testo);
+            Campo(lista).lst->AddItem(testo);
             FileModificato = 1;
         }
     });
@@ -113,7 +113,7 @@ bool frmMain::NewRouteTyped()
 {
     const ControlliLista& campo = Campo(ListaScelta::Percorso);
     const Text testo = Trim(campo.txt->Content());
-    return CampoNonVuoto(testo) && !Holds(*campo.lst, testo);
+    return CampoNonVuoto(testo) && !Holds(VociDi(ListaScelta::Percorso), testo);
 }
 
 void frmMain::LeaveRouteBox()
@@ -148,6 +148,7 @@ void frmMain::RemoveSelected(ListaScelta lista)
     const bool percorso = lista == ListaScelta::Percorso;
     // A route without a description has been described at place 0, which must not hand it on to another one.
     const i16 descrizione = percorso ? NumeroPercorso() : i16(0);
+    VociDi(lista).erase(VociDi(lista).begin() + selected);
     campo.lst->RemoveItem(selected);
     campo.txt->SetContent({});
     if (percorso) {
@@ -289,7 +290,7 @@ void frmMain::cmdListaKM_Click()
             return;
         }
         const Text parziale = lblImmisTempoKM->Caption() + "      " + lblImmisTempoMinuti->Caption();
-        if (Holds(*lstListaKM, parziale)) {
+        if (Holds(lstListaKM->Items(), parziale)) {
             MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
             return;
         }

@@ -169,7 +169,7 @@ void frmMain::NessunaTabella()
 
 void frmMain::ShowActiveTable()
 {
-    lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
+    ShowTableName();
     LeggiTabella(NomeTabellaAttiva);
     AssegnaTabella();
 }

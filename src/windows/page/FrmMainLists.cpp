@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The selection lists and their files.
+// The commands that restore the lists and blank the day.
 #include "core/RunTimeError.h"
 #include "diary/RouteModel.h"
 #include "windows/page/FrmMain.h"
@@ -9,56 +9,6 @@ namespace zelvia
 {
 
 using namespace Module1;
-
-void frmMain::InizializzaListe()
-{
-    Trap("InizializzaListe - ERRORE : ", [this] {
-        for (const ListaScelta lista : kTutteLeListe) {
-            ListBox& lst = *Campo(lista).lst;
-            lst.Clear();
-            lst.AddItems(VociIniziali(lista));
-        }
-    });
-}
-
-void frmMain::SalvaLista(ListaScelta lista)
-{
-    Trap("SalvaLista" + Text(NomeLista(lista)) + " - ERRORE : ",
-         [&] { ScriviLista(FileLista(lista), Campo(lista).lst->Items()); });
-}
-
-void frmMain::CaricaLista(ListaScelta lista)
-{
-    // The routine of the temperatures has lost a letter, and its report with it.
-    const Text nome = lista == ListaScelta::Temperatura ? "Teperatura" : Text(NomeLista(lista));
-    Trap("CaricaLista" + nome + " - ERRORE : ", [&] {
-        ListBox& lst = *Campo(lista).lst;
-        LeggiLista(
-            FileLista(lista), [&] { lst.Clear(); }, [&](const Text& voce) { lst.AddItem(voce); });
-    });
-}
-
-void frmMain::SalvaListe()
-{
-    SalvaListaPercorso();
-    SalvaListaLunghezza();
-    SalvaListaModo();
-    SalvaListaFondo();
-    SalvaListaTipo();
-    SalvaListaTempoAtm();
-    SalvaListaTemperatura();
-}
-
-void frmMain::CaricaListe()
-{
-    CaricaListaPercorso();
-    CaricaListaLunghezza();
-    CaricaListaModo();
-    CaricaListaFondo();
-    CaricaListaTipo();
-    CaricaListaTempoAtm();
-    CaricaListaTeperatura();
-}
 
 void frmMain::mnuListaIniziale_Click()
 {
@@ -78,7 +28,7 @@ void frmMain::mnuListaPrecedente_Click()
         if (MsgBox("RIPRISTINARE LE LISTE PRECEDENTI ?              ", MsgButtons::OKCancel, MsgIcon::Information) ==
             MsgAnswer::OK) {
             NomeFleListe();
-            CaricaListe();
+            files_.CaricaListe();
             CaricaPercorsi();
             FileModificato = 1;
         }

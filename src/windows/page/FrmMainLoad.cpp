@@ -1,13 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The start and the stop of the program, and what the start reads.
-#include "core/Conversions.h"
 #include "core/Files.h"
-#include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
-#include "diary/RouteModel.h"
-#include "diary/TableModel.h"
-#include "diary/Workspace.h"
+#include "core/RunTimeError.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
@@ -23,13 +18,9 @@
 namespace zelvia
 {
 
-using namespace Module1;
-
 namespace
 {
 
-constexpr TextView kStartPointer = "\\nomeload";
-constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
 constexpr int kTickMilliseconds = 500;
 
 void BringToFront(QWidget* window)
@@ -86,109 +77,10 @@ bool frmMain::FormLoad()
     const Routine routine;
     Trap("Load - ERRORE : ", [this] {
         FileGuida = ProgramFolder() + "\\Guida.hlp";
-        AzzeraAnno();
-        AzzeraPercorsi();
-        AzzeraCalendario();
-        ResetState();
-        SetToday();
-        Data();
-        CaricaNomeFile();
-        CaricaDiario(NomeFile);
-        NomeFleListe();
-        lblNomeFile->SetCaption(NomeBaseFile);
-        SetUpFolder();
-        InizializzaListe();
-        VisualizzaGiorno();
-        DatiAnno();
-        LoadCompanions();
+        LunghezzaNota = 0;
+        files_.Start();
     });
     return true;
-}
-
-void frmMain::ResetState()
-{
-    AzzeraStato();
-    DataMinima = CalendarDate(2001, 1, 1);
-    DataMassima = CalendarDate(2099, 12, 31);
-    GiornoMese = MeseCorrente = AnnoCorrente = 1;
-    UltimoPeso = 0;
-    KmAnno = 0;
-    GiorniCorseAnno = GareAnno = 0;
-    NomeFile.clear();
-    NomeBaseFile.clear();
-    EsitoDir.clear();
-    NuovoAnnullato = 0;
-    NoteAperte = ListaAperta = LunghezzaNota = 0;
-}
-
-void frmMain::CaricaNomeFile()
-{
-    TrapWith(
-        [this] {
-            NomeFile = ReadPointer(ProgramFolder() + Text(kStartPointer));
-            if (NomeFile.empty()) {
-                NomeFile = ProgramFolder() + Text(kDefaultDiary);
-            }
-            dlgCommonDialog.FileName = NomeFile;
-        },
-        [this](const ErroreRunTime& error) {
-            if (error.Number() == Errore::FileNonTrovato) {
-                NuovoFile(NomeFile);
-            } else {
-                ReportError("CaricaNomeFile - ERRORE : ", error);
-            }
-        });
-}
-
-void frmMain::SalvaNomeFile()
-{
-    Trap("SalvaNomeFile - ERRORE : ", [this] { WritePointer(ProgramFolder() + Text(kStartPointer), NomeFile); });
-}
-
-void frmMain::NomeFleListe()
-{
-    Trap("NomeFleListe - ERRORE : ", [this] {
-        const auto slash = InStrRev(NomeFile, "\\");
-        if (slash > 0 && InStr(Mid(NomeFile, slash + 1), ".") > 0) {
-            NomeBaseFile = NomeSenzaCartella(NomeFile);
-        }
-    });
-}
-
-void frmMain::SetUpFolder()
-{
-    CartellaDiario = CAPTIONDIR(NomeFile);
-    EsitoDir = FindFolder(CartellaDiario);
-    // Without a folder's name there is nothing to make; the writes and reads that follow report.
-    if (EsitoDir.empty() && !CartellaDiario.empty()) {
-        MakeFolder(CartellaDiario);
-    }
-    WriteFirstSet();
-}
-
-void frmMain::WriteFirstSet()
-{
-    if (!FilesIn(CartellaDiario).empty()) {
-        return;
-    }
-    SalvaPercorsi();
-    ScriviCalendario();
-    SalvaNomeTabella();
-    InizializzaListe();
-    SalvaListe();
-}
-
-void frmMain::LoadCompanions()
-{
-    CaricaListe();
-    CaricaNomeTabella();
-    if (!NomeTabellaAttiva.empty()) {
-        ShowActiveTable();
-    }
-    CaricaPercorsi();
-    AzzeraCalendario();
-    LeggiCalendario();
-    AssegnaGara();
 }
 
 void frmMain::mnuFileExit_Click()

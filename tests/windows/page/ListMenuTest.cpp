@@ -246,8 +246,9 @@ void ListMenuTest::thePreviousLists()
     EntryPage page;
     page.Start();
     for (int number = 1; number <= 8; ++number) {
-        page.Field(number).lst->AddItem("Altra");
-        page.Field(number).lst->RemoveItem(0);
+        const auto list = static_cast<ListaScelta>(number);
+        VociDi(list).erase(VociDi(list).begin());
+        page.AddEntry(list, "Altra");
     }
     Module1::NomiPercorso[1] = "Altra";
     page->NomeBaseFile = "altro";
@@ -268,7 +269,7 @@ void ListMenuTest::thePreviousListsRefused()
 {
     EntryPage page;
     page.Start();
-    page.Field(1).lst->AddItem("Altra");
+    page.AddEntry(ListaScelta::Percorso, "Altra");
     page.script.Expect(PreviousQuestion(QMessageBox::Cancel));
     page.Menu("mnuOpzioni", Qt::Key_L);
     VERIFY_SCRIPT(page.script);

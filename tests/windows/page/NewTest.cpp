@@ -54,7 +54,7 @@ void NewTest::newDiaryInMemoryOnly()
     page.Start();
     page.GoTo(58);
     Module1::NomeTabellaAttiva = "attiva";
-    page->Campo(ListaScelta::Stagione).lst->AddItem("Quinta");
+    page.AddEntry(ListaScelta::Stagione, "Quinta");
     page.script.Expect(page.NewDialog(QStringLiteral("nuova")));
     page.Menu("mnuFile", Qt::Key_N);
     VERIFY_SCRIPT(page.script);

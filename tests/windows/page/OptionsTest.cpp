@@ -33,10 +33,10 @@ ExpectedBox PreviousQuestion(bool goesOn)
 }
 
 /// Adds an entry to each list.
-void AddEntries(frmMain& page)
+void AddEntries(DayPage& page)
 {
     for (const ListaScelta lista : kTutteLeListe) {
-        page.Campo(lista).lst->AddItem("Aggiunta");
+        page.AddEntry(lista, "Aggiunta");
     }
 }
 
@@ -120,7 +120,7 @@ void OptionsTest::initialLists()
 {
     DayPage page;
     page.Start();
-    AddEntries(page.Page());
+    AddEntries(page);
     QCOMPARE(Module1::NomiPercorso[1], Text("Lungofiume"));
     page.script.Expect(InitialQuestion(true));
     page.Menu("mnuOpzioni", Qt::Key_I);
@@ -143,7 +143,7 @@ void OptionsTest::previousLists()
     DayPage page;
     page.Start();
     const std::vector<int> loaded = Counts(page.Page());
-    AddEntries(page.Page());
+    AddEntries(page);
     Module1::NomiPercorso[1] = "un altro";
     page->NomeBaseFile = "dimenticato";
     page.script.Expect(PreviousQuestion(true));
@@ -189,7 +189,7 @@ void OptionsTest::listsCancelled()
     QFETCH(int, entry);
     DayPage page;
     page.Start();
-    AddEntries(page.Page());
+    AddEntries(page);
     const std::vector<int> before = Counts(page.Page());
     Module1::NomiPercorso[1] = "un altro";
     page.script.Expect(entry == Qt::Key_I ? InitialQuestion(false) : PreviousQuestion(false));

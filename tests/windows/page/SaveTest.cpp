@@ -83,7 +83,7 @@ void SaveTest::saveWritesTheSetWithoutADialog()
     page.folder.Write(QStringLiteral("prova/nometab"), "untouched");
     page.folder.Write(QStringLiteral("nomeload"), "untouched");
     page->upKM->SetValue(17);
-    page->Campo(ListaScelta::Modo).lst->AddItem("Passeggiata");
+    page.AddEntry(ListaScelta::Modo, "Passeggiata");
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
     QVERIFY(Module1::FileModificato == 0);
@@ -159,7 +159,7 @@ void SaveTest::saveAfterSaveAsGoesToTheCopy()
     page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("copia")));
     page.Menu("mnuFile", Qt::Key_V);
     page->upKM->SetValue(18);
-    page->Campo(ListaScelta::Tipo).lst->AddItem("Gita");
+    page.AddEntry(ListaScelta::Tipo, "Gita");
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
     QVERIFY(page.folder.Read(QStringLiteral("ZelviaFile/copia.zlv")) == SampleWithKm("18").Bytes());

@@ -1,0 +1,457 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/FileCommands.h"
+
+#include "core/CMouse.h"
+#include "core/Conversions.h"
+#include "core/Files.h"
+#include "core/MessageBox.h"
+#include "core/RunTimeError.h"
+#include "diary/CalendarModel.h"
+#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
+#include "diary/Workspace.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+constexpr TextView kStartPointer = "\\nomeload";
+constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
+constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   ";
+constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
+
+/// Why a diary can't be kept under the path chosen, or nothing: its folder has to be one.
+Text RefusalOfFolder(const Text& diario, const Text& scelto)
+{
+    Text cartella;
+    // What lies in another folder is refused after the dialog.
+    if (CAPTIONPATH(diario, scelto) == 0) {
+        TrapWith([&] { cartella += FolderOfDiary(scelto); }, [](const ErroreRunTime&) {});
+    }
+    if (cartella.empty() || CanBeFolder(cartella)) {
+        return {};
+    }
+    return " LA CARTELLA DEL DIARIO AVREBBE IL NOME DI UN FILE CHE C'E' GIA' :  " +
+           Mid(cartella, InStrRev(cartella, "\\") + 1) + "   ";
+}
+
+/// Points CartellaDiario somewhere else for as long as it lives.
+class OtherFolder
+{
+public:
+    explicit OtherFolder(Text folder) : kept_(std::exchange(CartellaDiario, std::move(folder))) {}
+    ~OtherFolder() { CartellaDiario = kept_; }
+    OtherFolder(const OtherFolder&) = delete;
+    OtherFolder& operator=(const OtherFolder&) = delete;
+
+private:
+    Text kept_;
+};
+
+} // namespace
+
+class FileCommands::Attempt
+{
+public:
+    /// `diario` is the one in whose folder the choice has to lie.
+    Attempt(DiaryPage& page, TextView title, bool opens, Text diario)
+        : page_(page), title_(title), opens_(opens), diario_(std::move(diario))
+    {
+    }
+
+    void Choose()
+    {
+        page_.ChooseFile(
+            {title_, opens_, [diario = diario_](const Text& scelto) { return RefusalOfFolder(diario, scelto); }});
+    }
+
+    /// The name chosen. Raises error 32755 after the refusal's box when it lies in another folder; the dialog then
+    /// holds `diario` again.
+    Text Checked()
+    {
+        Text& scelto = page_.ChosenName();
+        if (CAPTIONPATH(diario_, scelto) != 0) {
+            scelto = diario_;
+            MsgBox(opens_ ? kRefusedOpen : kRefusedSave, MsgButtons::OK, MsgIcon::Critical);
+            refused_ = true;
+            throw ErroreRunTime(Errore::Annullato);
+        }
+        return scelto;
+    }
+
+    /// Runs the command. A refused choice has it run `again`; a cancelled dialog ends it without a word; whatever else
+    /// goes wrong is reported under `errors`. `undone` runs first in the two former cases.
+    void Run(
+        const std::function<void()>& command, TextView errors, const std::function<void()>& again,
+        const std::function<void()>& undone = [] {})
+    {
+        TrapWith(command, [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError(errors, error);
+                return;
+            }
+            undone();
+            if (refused_) {
+                again();
+            }
+        });
+    }
+
+private:
+    DiaryPage& page_;
+    TextView title_;
+    bool opens_;
+    Text diario_;
+    bool refused_ = false;
+};
+
+void FileCommands::Start()
+{
+    AzzeraAnno();
+    AzzeraPercorsi();
+    AzzeraCalendario();
+    AzzeraStato();
+    NuovoAnnullato = 0;
+    SetToday();
+    page_.Data();
+    CaricaNomeFile();
+    CaricaDiario(session.NomeFile);
+    NomeFleListe();
+    page_.ShowDiaryName();
+    SetUpFolder();
+    InizializzaListe();
+    page_.VisualizzaGiorno();
+    page_.DatiAnno();
+    LoadCompanions();
+}
+
+void FileCommands::SetToday()
+{
+    DataCorrente = std::clamp(Date(), kDataMinima, kDataMassima);
+}
+
+void FileCommands::CaricaNomeFile()
+{
+    TrapWith(
+        [this] {
+            session.NomeFile = ReadPointer(ProgramFolder() + Text(kStartPointer));
+            if (session.NomeFile.empty()) {
+                session.NomeFile = ProgramFolder() + Text(kDefaultDiary);
+            }
+            page_.ChosenName() = session.NomeFile;
+        },
+        [this](const ErroreRunTime& error) {
+            if (error.Number() == Errore::FileNonTrovato) {
+                NuovoFile(session.NomeFile);
+            } else {
+                ReportError("CaricaNomeFile - ERRORE : ", error);
+            }
+        });
+}
+
+void FileCommands::SalvaNomeFile()
+{
+    Trap("SalvaNomeFile - ERRORE : ", [] { WritePointer(ProgramFolder() + Text(kStartPointer), session.NomeFile); });
+}
+
+void FileCommands::NomeFleListe()
+{
+    Trap("NomeFleListe - ERRORE : ", [] {
+        const auto slash = InStrRev(session.NomeFile, "\\");
+        if (slash > 0 && InStr(Mid(session.NomeFile, slash + 1), ".") > 0) {
+            session.NomeBaseFile = NomeSenzaCartella(session.NomeFile);
+        }
+    });
+}
+
+void FileCommands::SetUpFolder()
+{
+    CartellaDiario = CAPTIONDIR(session.NomeFile);
+    session.EsitoDir = FindFolder(CartellaDiario);
+    // Without a folder's name there is nothing to make; the writes and reads that follow report.
+    if (session.EsitoDir.empty() && !CartellaDiario.empty()) {
+        MakeFolder(CartellaDiario);
+    }
+    WriteFirstSet();
+}
+
+void FileCommands::WriteFirstSet()
+{
+    if (!FilesIn(CartellaDiario).empty()) {
+        return;
+    }
+    SalvaPercorsi();
+    ScriviCalendario();
+    SalvaNomeTabella();
+    InizializzaListe();
+    SalvaListe();
+}
+
+void FileCommands::LoadTable()
+{
+    CaricaNomeTabella();
+    if (!NomeTabellaAttiva.empty()) {
+        page_.ShowActiveTable();
+    }
+}
+
+void FileCommands::LoadCompanions()
+{
+    CaricaListe();
+    LoadTable();
+    CaricaPercorsi();
+    AzzeraCalendario();
+    LeggiCalendario();
+    page_.AssegnaGara();
+}
+
+void FileCommands::InizializzaListe()
+{
+    Trap("InizializzaListe - ERRORE : ", [this] {
+        for (const ListaScelta lista : kTutteLeListe) {
+            const auto voci = VociIniziali(lista);
+            VociDi(lista).assign(voci.begin(), voci.end());
+            page_.ShowList(lista);
+        }
+    });
+}
+
+void FileCommands::SalvaLista(ListaScelta lista)
+{
+    Trap("SalvaLista" + Text(NomeLista(lista)) + " - ERRORE : ", [&] { ScriviLista(FileLista(lista), VociDi(lista)); });
+}
+
+void FileCommands::CaricaLista(ListaScelta lista)
+{
+    // The routine of the temperatures has lost a letter, and its report with it.
+    const Text nome = lista == ListaScelta::Temperatura ? "Teperatura" : Text(NomeLista(lista));
+    const auto read = [&] {
+        LeggiLista(FileLista(lista), VociDi(lista));
+        page_.ShowList(lista);
+    };
+    TrapWith(read, [&](const ErroreRunTime& error) {
+        // As far as it was read.
+        page_.ShowList(lista);
+        ReportError("CaricaLista" + nome + " - ERRORE : ", error);
+    });
+}
+
+void FileCommands::SalvaListe()
+{
+    for (const ListaScelta lista : kListeSuFile) {
+        SalvaLista(lista);
+    }
+}
+
+void FileCommands::CaricaListe()
+{
+    for (const ListaScelta lista : kListeSuFile) {
+        CaricaLista(lista);
+    }
+}
+
+void FileCommands::SaveCompanions()
+{
+    SalvaListe();
+    SalvaPercorsi();
+    ScriviCalendario();
+}
+
+void FileCommands::ChiediSalvataggio(i16& annullato)
+{
+    annullato = 0;
+    page_.AssegnaCampi();
+    if (FileModificato != 1) {
+        return;
+    }
+    switch (MsgBox("IL FILE NON E' STATO SALVATO, SALVARE IL FILE ?             ", MsgButtons::YesNoCancel,
+                   MsgIcon::Information)) {
+    case MsgAnswer::Yes: mnuFileSave_Click(); break;
+    case MsgAnswer::No: FileModificato = 0; break;
+    default: annullato = 1; break;
+    }
+}
+
+void FileCommands::mnuFileSave_Click()
+{
+    CMouse puntatore;
+    Attempt attempt(page_, "Salva con nome", false, session.NomeFile);
+    attempt.Run(
+        [&] {
+            page_.AssegnaCampi();
+            if (page_.ChosenName().empty()) {
+                attempt.Choose();
+            }
+            const Text scelto = attempt.Checked();
+            puntatore.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(scelto);
+            FileModificato = 0;
+            SaveCompanions();
+        },
+        "mnuFileSave - ERRORE : ", [this] { mnuFileSave_Click(); });
+}
+
+void FileCommands::mnuFileSaveAs_Click()
+{
+    CMouse puntatore;
+    Attempt attempt(page_, "Salva con nome", false, session.NomeFile);
+    attempt.Run(
+        [&] {
+            page_.AssegnaCampi();
+            attempt.Choose();
+            const Text scelto = attempt.Checked();
+            puntatore.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(scelto);
+            FileModificato = 0;
+            const OtherFolder copia(CAPTIONDIR(scelto));
+            if (FilesIn(CartellaDiario).empty()) {
+                if (FindFolder(CartellaDiario).empty()) {
+                    MakeFolder(CartellaDiario);
+                }
+                SalvaNomeTabella();
+            }
+            SaveCompanions();
+        },
+        "mnuFileSaveAs - ERRORE : ", [this] { mnuFileSaveAs_Click(); });
+}
+
+void FileCommands::mnuFileOpen_Click()
+{
+    Trap("mnuFileOpen - ERRORE : ", [this] {
+        if (!page_.CalendarStays()) {
+            OpenDiary();
+        }
+    });
+}
+
+void FileCommands::OpenDiary()
+{
+    std::optional<Session> kept;
+    bool aperto = false;
+    Attempt attempt(page_, "Apri", true, session.NomeFile);
+    attempt.Run(
+        [&] {
+            i16 annullato;
+            ChiediSalvataggio(annullato);
+            if (annullato == 1) {
+                return;
+            }
+            kept = session;
+            session = kept->ForOtherDiary();
+            attempt.Choose();
+            session.NomeFile = attempt.Checked();
+            aperto = true;
+            ReadOpenedDiary();
+        },
+        "mnuFileOpen - ERRORE : ", [this] { OpenDiary(); },
+        [&] {
+            if (kept) {
+                session = *kept;
+            }
+        });
+    // Also when reading it has failed half-way: what the other windows hold must not be saved there.
+    if (aperto) {
+        page_.ShowOtherDiary();
+    }
+}
+
+void FileCommands::ReadOpenedDiary()
+{
+    CaricaDiario(session.NomeFile);
+    AzzeraPercorsi();
+    AzzeraCalendario();
+    SetToday();
+    page_.Data();
+    CartellaDiario = CAPTIONDIR(session.NomeFile);
+    WriteFirstSet();
+    page_.VisualizzaGiorno();
+    page_.DatiAnno();
+    NomeFleListe();
+    page_.ShowDiaryName();
+    page_.NessunaTabella();
+    CaricaNomeTabella();
+    page_.ShowTableName();
+    if (!NomeTabellaAttiva.empty()) {
+        page_.ShowActiveTable();
+    }
+    CaricaListe();
+    CaricaPercorsi();
+    AzzeraCalendario();
+    LeggiCalendario();
+    page_.AssegnaGara();
+}
+
+void FileCommands::mnuFileNuovo_Click()
+{
+    Trap("mnuFileNuovo - ERRORE : ", [this] {
+        if (page_.CalendarStays()) {
+            return;
+        }
+        i16 annullato;
+        ChiediSalvataggio(annullato);
+        if (annullato == 1) {
+            return;
+        }
+        const Session kept = session;
+        session = kept.ForOtherDiary();
+        NuovoFile(kept.NomeFile);
+        if (NuovoAnnullato != 1) {
+            ShowNewDiary();
+            return;
+        }
+        session = kept;
+        page_.ShowDiaryName();
+        // A cancelled dialog leaves no name, and the next save asks for one. A name that was chosen in vain gives way
+        // to the old diary, over which the next save then writes.
+        if (!page_.ChosenName().empty()) {
+            page_.ChosenName() = session.NomeFile;
+        }
+    });
+}
+
+void FileCommands::ShowNewDiary()
+{
+    AzzeraPercorsi();
+    AzzeraCalendario();
+    SetToday();
+    page_.Data();
+    page_.NessunaTabella();
+    page_.ShowTableName();
+    InizializzaListe();
+    page_.AzzeraCampi();
+    page_.VisualizzaGiorno();
+    page_.DatiAnno();
+    page_.ShowOtherDiary();
+}
+
+void FileCommands::SalvaFileNuovo(const Text& percorso)
+{
+    Attempt attempt(page_, "Nuovo file", false, percorso);
+    attempt.Run(
+        [&] {
+            page_.ChosenName().clear();
+            attempt.Choose();
+            session.NomeFile = attempt.Checked();
+            AzzeraAnno();
+            page_.SetBusy(true);
+            FileModificato = 0;
+            NomeFleListe();
+            page_.ShowDiaryName();
+            CartellaDiario = CAPTIONDIR(session.NomeFile);
+            session.EsitoDir = FindFolder(CartellaDiario);
+            page_.SetBusy(false);
+        },
+        "SalvaFileNuovo - ERRORE : ", [&] { SalvaFileNuovo(percorso); }, [this] { NuovoAnnullato = 1; });
+}
+
+} // namespace zelvia
