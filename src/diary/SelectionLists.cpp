@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/SelectionLists.h"
 
+#include "core/Conversions.h"
 #include "core/ValueFile.h"
 #include "diary/Module1.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zelvia
@@ -67,6 +69,11 @@ Text FileLista(ListaScelta lista)
 std::vector<Text>& VociDi(ListaScelta lista)
 {
     return Module1::session.liste[static_cast<int>(lista)];
+}
+
+bool Holds(const std::vector<Text>& voci, TextView testo)
+{
+    return std::any_of(voci.begin(), voci.end(), [&](const Text& voce) { return SameText(voce, testo); });
 }
 
 void ScriviLista(TextView path, const std::vector<Text>& voci)

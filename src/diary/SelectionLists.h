@@ -36,6 +36,9 @@ Text FileLista(ListaScelta lista);
 /// The entries of a list of the open diary.
 std::vector<Text>& VociDi(ListaScelta lista);
 
+/// True when one of the entries is that text, whatever its case.
+bool Holds(const std::vector<Text>& voci, TextView testo);
+
 /// Writes the entries to `path`, a line each. Raises what ValueWriter raises.
 void ScriviLista(TextView path, const std::vector<Text>& voci);
 

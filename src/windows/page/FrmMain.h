@@ -6,7 +6,6 @@
 #include "core/Date.h"
 #include "diary/CategoryStatistics.h"
 #include "diary/FileCommands.h"
-#include "diary/ListaOrdinata.h"
 #include "diary/Module1.h"
 #include "diary/SelectionLists.h"
 #include "diary/TimeAndPace.h"
@@ -15,7 +14,11 @@
 #include "toolkit/Timer.h"
 #include "windows/guide/HelpViewer.h"
 #include "windows/page/FrmInfo.h"
+#include "windows/page/NoteLines.h"
+#include "windows/page/OrderedTimes.h"
 #include "windows/page/PageControls.h"
+#include "windows/page/Slips.h"
+#include "windows/page/Splits.h"
 #include "windows/plan/TablePage.h"
 #include "windows/plan/TableWindows.h"
 #include "windows/races/FrmCalendario.h"
@@ -43,6 +46,8 @@ class GruppoSpin;
 class frmMain : public Form, public PageControls, public RoutePage, public TablePage, public DiaryPage
 {
     Q_OBJECT
+
+    FileCommands files_{*this};
 
 public:
     frmMain();
@@ -93,18 +98,15 @@ public:
     void DatiAnno() override;
 
     // Panels of the right page.
-    /// Walks the active table up to the day shown and shows the row reached.
-    void AssegnaTabella();
-    void AzzeraDatiTabella();
-    void NessunaTabella() override;
-    void TabAllenamentiVisibili() { ShowTablePanel(true); }
-    void TabAllenamentiNonVisibili() { ShowTablePanel(false); }
-    void MostraRiquadriGara() { ShowRacePanel(true); }
-    void NascondiRiquadriGara() { ShowRacePanel(false); }
-    /// Shows the race of the day shown in the place of the active table, if the calendar has one.
-    void AssegnaGara() override;
-    /// Shows the race at row `indice` of the calendar.
-    void GiornodellaGara(i16& indice);
+    void AssegnaTabella() { slips_.AssegnaTabella(); }
+    void AzzeraDatiTabella() { slips_.AzzeraDatiTabella(); }
+    void NessunaTabella() override { slips_.NessunaTabella(); }
+    void TabAllenamentiVisibili() { slips_.ShowTablePanel(true); }
+    void TabAllenamentiNonVisibili() { slips_.ShowTablePanel(false); }
+    void MostraRiquadriGara() { slips_.ShowRacePanel(true); }
+    void NascondiRiquadriGara() { slips_.ShowRacePanel(false); }
+    void AssegnaGara() override { slips_.AssegnaGara(); }
+    void GiornodellaGara(i16& indice) { slips_.GiornodellaGara(indice); }
 
     // Files.
     void CaricaNomeFile() { files_.CaricaNomeFile(); }
@@ -205,18 +207,13 @@ public:
     void TempoImpiegato();
     void tempo();
     void MediaKm(i32 ore, i32 minuti, i32 secondi);
-    /// Opens the sorted list of a route's times, the day on show as one of its lines.
-    void ListavOrdinata(const Text& percorso);
-    /// The same from the stored days only.
-    void ListavOrdinataDue(const Text& percorso);
-    void lstListaOrdinata_LostFocus();
+    void ListavOrdinata(const Text& percorso) { times_.ListavOrdinata(percorso); }
+    void ListavOrdinataDue(const Text& percorso) { times_.ListavOrdinataDue(percorso); }
+    void lstListaOrdinata_LostFocus() { times_.Close(); }
 
     // Notes and splits.
-    void lblNote_Click(int riga);
-    void txtNote_Click(int riga);
-    void txtNote_KeyPress(int riga, int keyAscii);
-    void mnuNote_Click();
-    void cmdListaKM_Click();
+    void mnuNote_Click() { notes_->mnuNote_Click(); }
+    void cmdListaKM_Click() { splits_->cmdListaKM_Click(); }
 
     // Options and help.
     void mnuAzzeraGiorno_Click();
@@ -250,8 +247,6 @@ private:
     void ConnectSpins();
     void ConnectLists();
     void ConnectGroups();
-    void ConnectSplits();
-    void ConnectNotes();
 
     // Dates.
     /// Closes the open field for a step of the date; false when that opened a route's description.
@@ -261,18 +256,10 @@ private:
     // Day.
     void ShowDistance(i32 metri);
 
-    // Panels.
-    void ShowTablePanel(bool visible);
-    void ShowRacePanel(bool visible);
-    /// Puts the sorted list over what was shown last, as long as it is open.
-    void RaiseOrderedList();
-    void ShowTableRow(i16 riga);
-    void EndTable();
-
     // Files.
     void ShowDiaryName() override { lblNomeFile->SetCaption(NomeBaseFile); }
-    void ShowTableName() override;
-    void ShowActiveTable() override;
+    void ShowTableName() override { slips_.ShowTableName(); }
+    void ShowActiveTable() override { slips_.ShowActiveTable(); }
     void ShowList(ListaScelta lista) override;
     void ShowOtherDiary() override;
     bool CalendarStays() override;
@@ -292,10 +279,6 @@ private:
     Orario StartTime() const;
     Orario EndTime() const;
     Orario ShowTimeTaken();
-    void BeginOrderedList();
-    void AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun);
-    void AddRunsOf(const Text& percorso, i16 ultimo);
-    void FillOrderedList(bool posizione);
     void ShowRoute(const Text& nome);
 
     // Statistics.
@@ -304,11 +287,12 @@ private:
     /// The command of a statistic: commits the day, counts and shows.
     void ShowStatistic(void (frmMain::*statis)());
 
-    FileCommands files_{*this};
     BoundedArray<std::unique_ptr<CampoLista>, 1, 8> campiLista_;
     std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
-    GruppoSpin* splits_ = nullptr;           ///< The group of the kilometre splits, one of gruppi_.
-    std::optional<ListaOrdinata> ListaTempi; ///< Alive while the sorted list is open.
+    std::optional<Splits> splits_;
+    std::optional<NoteLines> notes_;
+    OrderedTimes times_{*this};
+    Slips slips_{*this, [this] { times_.Raise(); }};
     TableWindows tables_;
     HelpViewer guida_;
     FormSlot<frmInfo> info_;

@@ -31,11 +31,6 @@ void frmMain::ChooseFile(const FileChoice& choice)
     choice.opens ? dlgCommonDialog.ShowOpen() : dlgCommonDialog.ShowSave();
 }
 
-void frmMain::ShowTableName()
-{
-    lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
-}
-
 void frmMain::ShowList(ListaScelta lista)
 {
     ListBox& lst = *Campo(lista).lst;

@@ -53,8 +53,8 @@ frmMain::frmMain()
     ConnectSpins();
     ConnectLists();
     ConnectGroups();
-    ConnectSplits();
-    ConnectNotes();
+    splits_.emplace(*this, *gruppi_.back());
+    notes_.emplace(*this);
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().ShowAgain = [this] {
         BringToFront(this);

@@ -116,6 +116,16 @@ void frmMain::mnuAllenamenti_Click()
     });
 }
 
+void frmMain::mnuGare_Click()
+{
+    Trap("mnuGare - ERRORE : ", [this] {
+        frmCalendario& calendario = calendario_.Load();
+        calendario.show();
+        calendario.raise();
+        calendario.activateWindow();
+    });
+}
+
 void frmMain::mnuHelpContents_Click()
 {
     ShowHelp(HelpCommand::Contents);

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/page/Slips.h"
+
+#include "core/Conversions.h"
+#include "core/MessageBox.h"
+#include "core/RunTimeError.h"
+#include "diary/CalendarDates.h"
+#include "diary/Module1.h"
+#include "diary/RaceTexts.h"
+#include "diary/TableModel.h"
+#include "diary/TableWalk.h"
+#include "diary/Workspace.h"
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+void Slips::ShowTableName()
+{
+    page_.lblTabNomeFile->SetCaption(NomeSenzaCartella(NomeTabellaAttiva));
+}
+
+void Slips::AzzeraDatiTabella()
+{
+    ShowTablePanel(true);
+    page_.lblKmTab->SetCaption("0,0");
+    page_.lblTempoTab->SetCaption("0:0:0");
+    page_.lblMediaTab->SetCaption("0:0");
+    page_.lblAndaturaTab->SetCaption("");
+    page_.lblFondoTab->SetCaption("");
+    page_.lblRipetizioniTab->SetCaption("0 x 0  @  0:0");
+}
+
+void Slips::NessunaTabella()
+{
+    page_.lblTabNomeFile->SetCaption("Nessuna tabella attiva");
+    page_.lblKmTab->SetCaption("0");
+    page_.lblTempoTab->SetCaption("0:00");
+    page_.lblMediaTab->SetCaption("0:00");
+    page_.lblAndaturaTab->SetCaption("");
+    page_.lblFondoTab->SetCaption("");
+    page_.lblRipetizioniTab->SetCaption("0 x 000     @ 0.00 ");
+}
+
+void Slips::ShowActiveTable()
+{
+    ShowTableName();
+    LeggiTabella(NomeTabellaAttiva);
+    AssegnaTabella();
+}
+
+void Slips::AssegnaTabella()
+{
+    Trap("AssegnaTabella - ERRORE : ", [this] {
+        const EsitoCammino esito = CamminaTabella();
+        if (esito.stato == EsitoCammino::Stato::Finita) {
+            EndTable();
+        } else if (esito.stato == EsitoCammino::Stato::InCorso) {
+            ShowTableRow(esito.riga);
+        }
+    });
+}
+
+/// Switches the used-up table off.
+void Slips::EndTable()
+{
+    MsgBox("  FINE ALLENAMENTI  -  LA TABELLA :  " + NomeSenzaCartella(NomeTabellaAttiva) +
+               " -  VIENE DISATTIVATA      ",
+           MsgButtons::OK, MsgIcon::Information);
+    NomeTabellaAttiva.clear();
+    page_.lblTabNomeFile->SetCaption("");
+    AzzeraDatiTabella();
+    SalvaNomeTabella();
+}
+
+void Slips::ShowTableRow(i16 riga)
+{
+    const RigaPiano row = RigaDellaTabella(riga);
+    const auto digits = [](i16 number) { return PlainText(number); };
+    page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metri));
+    page_.lblTempoTab->SetCaption(digits(row.ore) + ":" + digits(row.minuti) + ":" + digits(row.secondi));
+    page_.lblMediaTab->SetCaption(digits(row.mediaMinuti) + ":" + digits(row.mediaSecondi));
+    page_.lblAndaturaTab->SetCaption(row.andatura);
+    page_.lblFondoTab->SetCaption(row.fondo);
+    page_.lblRipetizioniTab->SetCaption(digits(row.ripetVolte) + " x " + digits(row.ripetDistanza) + "  @  " +
+                                        digits(row.ripetQuante) + ":" + digits(row.ripetTempi));
+}
+
+void Slips::ShowTablePanel(bool visible)
+{
+    for (Picture* picture : {page_.pctTabAllenamenti, page_.pctTabKm, page_.pctTabTempo, page_.pctTabMedia,
+                             page_.pctTabAndatura, page_.pctTabTerreno, page_.pctTabRipetizioni}) {
+        picture->SetVisible(visible);
+    }
+    for (Label* label : {page_.lblTabNomeFile, page_.lblKmTab, page_.lblTempoTab, page_.lblMediaTab,
+                         page_.lblAndaturaTab, page_.lblFondoTab, page_.lblRipetizioniTab}) {
+        label->SetVisible(visible);
+    }
+    raised_();
+}
+
+void Slips::AssegnaGara()
+{
+    Trap("AssegnaGara - ERRORE : ", [this] {
+        ShowRacePanel(false);
+        i16 riga = GaraDelGiorno(session.GiornoMese, session.MeseCorrente, session.AnnoCorrente);
+        if (riga > 0) {
+            GiornodellaGara(riga);
+        }
+    });
+}
+
+void Slips::GiornodellaGara(i16& indice)
+{
+    Trap("GiornodellaGara - ERRORE : ", [&] {
+        ShowTablePanel(false);
+        ShowRacePanel(true);
+        const TestiGara testi = TestiDellaGara(indice);
+        page_.lblGara->SetCaption(testi.gara);
+        page_.lblLocalita->SetCaption(testi.localita);
+        page_.lblPartecipanti->SetCaption(testi.partecipanti);
+        page_.lblTempoImpiegato->SetCaption(testi.tempo);
+        page_.lblRisultato->SetCaption(testi.risultato);
+        page_.lblCategoria->SetCaption(testi.categoria);
+        page_.lblRisultatoCat->SetCaption(testi.risultatoCat);
+        page_.lblLunghezzaGara->SetCaption(testi.lunghezza);
+    });
+}
+
+void Slips::ShowRacePanel(bool visible)
+{
+    for (Picture* picture :
+         {page_.pctCalGara, page_.pctCalLocalita, page_.pctCalLunghezza, page_.pctCalPartecipanti,
+          page_.pctCalTempoImpiegato, page_.pctCalRisultato, page_.pctCalCategoria, page_.pctCalRisCategoria}) {
+        picture->SetVisible(visible);
+    }
+    for (Label* label : {page_.lblGara, page_.lblLocalita, page_.lblPartecipanti, page_.lblTempoImpiegato,
+                         page_.lblLunghezzaGara, page_.lblRisultato, page_.lblCategoria, page_.lblRisultatoCat}) {
+        label->SetVisible(visible);
+    }
+    raised_();
+}
+
+} // namespace zelvia

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/page/Splits.h"
+
+#include "core/Conversions.h"
+#include "core/RunTimeError.h"
+#include "toolkit/Menu.h"
+#include "windows/page/FrmMain.h"
+#include "windows/page/GruppoSpin.h"
+
+#include <QMenu>
+
+namespace zelvia
+{
+namespace
+{
+
+/// Digits with a leading 0 below 10.
+Text TwoDigits(const UpDown& spin)
+{
+    return (spin.Value() < 10 ? "0" : "") + PlainText(spin.Value());
+}
+
+} // namespace
+
+Splits::Splits(frmMain& page, GruppoSpin& group) : page_(page), group_(group)
+{
+    page_.cmdListaKM->Click = [this] { cmdListaKM_Click(); };
+    page_.lstListaKM->GotFocus = [this] {
+        Trap("lstListaKm - ERRORE : ", [this] {
+            group_.Mostra(true);
+            constexpr int splits = 9;
+            page_.ListaAperta = splits;
+            page_.CursoreMano();
+            page_.cmdListaKM->SetFocus();
+        });
+    };
+    page_.lstListaKM->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+        Trap("lstListaKm - ERRORE : ", [&] {
+            page_.ShowRouteEntries(false);
+            if (button == Qt::RightButton) {
+                OpenPopUp(*page_.mnuCancelladallaLista, position);
+            }
+        });
+    };
+    page_.upTempoKM->Change = [this] {
+        Trap("upTempo - ERRORE : ", [this] { page_.lblImmisTempoKM->SetCaption(TwoDigits(*page_.upTempoKM)); });
+    };
+    const std::pair<UpDown*, TextView> parts[] = {{page_.upTempoOre, "upTempoOre - ERRORE : "},
+                                                  {page_.upTempoMinuti, "upTempoMinuti - ERRORE : "},
+                                                  {page_.upTempoSecondi, "upTempoSecondi - ERRORE : "}};
+    for (const auto& [spin, title] : parts) {
+        spin->Change = [this, title = title] {
+            Trap(title, [this] {
+                page_.lblImmisTempoMinuti->SetCaption(TwoDigits(*page_.upTempoOre) + ":" +
+                                                      TwoDigits(*page_.upTempoMinuti) + ":" +
+                                                      TwoDigits(*page_.upTempoSecondi));
+            });
+        };
+    }
+}
+
+void Splits::cmdListaKM_Click()
+{
+    Trap("cmdListaKm - ERRORE : ", [this] {
+        if (page_.upTempoKM->Value() == 0) {
+            MsgBox(" INSERIRE:  KM                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        if (page_.upTempoOre->Value() + page_.upTempoMinuti->Value() + page_.upTempoSecondi->Value() == 0) {
+            MsgBox(" INSERIRE:  TEMPI                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        const Text parziale = page_.lblImmisTempoKM->Caption() + "      " + page_.lblImmisTempoMinuti->Caption();
+        if (Holds(page_.lstListaKM->Items(), parziale)) {
+            MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
+            return;
+        }
+        page_.lstListaKM->AddItem(parziale);
+    });
+}
+
+} // namespace zelvia

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace zelvia
+{
+
+class frmMain;
+class GruppoSpin;
+
+/// The kilometre splits: their list, their spins and the button that enters one.
+class Splits
+{
+public:
+    Splits(frmMain& page, GruppoSpin& group);
+
+    void cmdListaKM_Click();
+
+private:
+    frmMain& page_;
+    GruppoSpin& group_;
+};
+
+} // namespace zelvia
