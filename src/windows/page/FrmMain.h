@@ -15,6 +15,7 @@
 #include "windows/guide/HelpViewer.h"
 #include "windows/page/FrmInfo.h"
 #include "windows/page/NoteLines.h"
+#include "windows/page/NumberFields.h"
 #include "windows/page/OrderedTimes.h"
 #include "windows/page/PageControls.h"
 #include "windows/page/Slips.h"
@@ -30,7 +31,6 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
 class QMenu;
 class QMenuBar;
@@ -39,7 +39,6 @@ namespace zelvia
 {
 
 class CampoLista;
-class GruppoSpin;
 
 /// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
 /// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
@@ -244,17 +243,12 @@ protected:
 private:
     void BuildMenus(QMenuBar& bar);
     void ConnectControls();
-    void ConnectSpins();
     void ConnectLists();
-    void ConnectGroups();
 
     // Dates.
     /// Closes the open field for a step of the date; false when that opened a route's description.
     bool LeaveFieldForDate();
     void MoveDate(const UpDown& spin, TextView interval, int step);
-
-    // Day.
-    void ShowDistance(i32 metri);
 
     // Files.
     void ShowDiaryName() override { lblNomeFile->SetCaption(NomeBaseFile); }
@@ -288,7 +282,7 @@ private:
     void ShowStatistic(void (frmMain::*statis)());
 
     BoundedArray<std::unique_ptr<CampoLista>, 1, 8> campiLista_;
-    std::vector<std::unique_ptr<GruppoSpin>> gruppi_;
+    std::optional<NumberFields> numbers_;
     std::optional<Splits> splits_;
     std::optional<NoteLines> notes_;
     OrderedTimes times_{*this};

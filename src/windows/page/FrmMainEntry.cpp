@@ -1,20 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The fields of the page that are entered in place: lists, spin groups, notes and splits.
+// The fields of the page that are entered with a list, and what all fields share.
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "diary/RouteModel.h"
 #include "toolkit/FocusController.h"
-#include "toolkit/Menu.h"
-#include "toolkit/QtText.h"
 #include "windows/page/CampoLista.h"
 #include "windows/page/DayOnPage.h"
 #include "windows/page/FrmMain.h"
-#include "windows/page/GruppoSpin.h"
 
 #include <QMenu>
-
-#include <algorithm>
 
 namespace zelvia
 {
@@ -145,72 +140,6 @@ void frmMain::CopyLastRun(const Text& percorso)
         }
         return;
     }
-}
-
-void frmMain::ConnectGroups()
-{
-    const auto addGroup = [this](GruppoSpin::Dati dati) {
-        gruppi_.push_back(std::make_unique<GruppoSpin>(*this, std::move(dati)));
-    };
-    const auto addSpin = [addGroup](Label* caption, const char* name, const char* title, UpDown* spin, Label* value,
-                                    const char* valueName) {
-        addGroup({{{caption, spin, name, title}}, value, valueName, {spin}, spin, {}, {}});
-    };
-    const auto recompute = [this](bool timesToo) {
-        const i16 esito = ControlloTempiKm();
-        if (esito == 1) {
-            TempoImpiegato();
-        } else if (esito == 2 && timesToo) {
-            tempo();
-        }
-    };
-    const auto distance = [recompute] { recompute(false); };
-    const auto times = [recompute] { recompute(true); };
-    const auto lastWeight = [this] { upPeso->SetValue(UltimoPeso); };
-
-    addGroup({{{lblImmisMetri, upMetri, "lblImmisMetri", "ImmisMetri"}},
-              lblKm,
-              "lblKm",
-              {upMetri, upKM, upMetro},
-              upMetri,
-              {},
-              distance});
-    addGroup({{{lblImmisOraInizio, upMinutiInizio, "lblImmisOraInizio", "ImmisOraInizio"}},
-              lblOraInizio,
-              "lblOraInizio",
-              {upMinutiInizio, upOraInizio, upSecondiInizio},
-              upOraInizio,
-              {},
-              times});
-    addGroup({{{lblImmisOraFine, upMinutiFine, "lblOrafine", "ImmisOraFine"}},
-              lblOraFine,
-              "lblOraFine",
-              {upMinutiFine, upOraFine, upSecondiFine},
-              upOraFine,
-              {},
-              times});
-    addSpin(lblImmisCorridori, "lblImmisCorridori", "ImmisCorridori", upCorridori, lblCorridori, "lblCorridori");
-    addGroup(
-        {{{lblImmisPeso, upPeso, "lblImmisPeso", "ImmisPeso"}}, lblPeso, "lblPeso", {upPeso}, upPeso, lastWeight, {}});
-    addSpin(lblRipetizioniVolte, "lblRipetizioniVolte", "RipetizioniVolte", upRipetizioni, lblRipetizioni,
-            "lblRipetizioni");
-    addGroup({{{lblRipetizioniQuante, upRipetizioniQuante, "lblRipetizioniQuante", "RipetizioniQuante"}},
-              lblRipetizioni,
-              "lblRipetizioni",
-              {upRipetizioniQuante, upRipetizioniTempi},
-              upRipetizioniQuante,
-              {},
-              {}});
-    addSpin(lblRipetizioniDistanza, "lblRipetizioniDistanza", "RipetizioniDistanza", upRipetizioniDistanza,
-            lblRipetizioni, "lblRipetizioni");
-    addGroup({{{lblImmisTempoKM, upTempoKM, "lblImmisTempoKm", "ImmisTempoKm"},
-               {lblImmisTempoMinuti, upTempoMinuti, "lblImmisTempoMinuti", "ImmisTempoMinuti"}},
-              lblTempoKm,
-              "lblTempoKm",
-              {upTempoKM, upTempoOre, upTempoMinuti, upTempoSecondi, lstListaKM, cmdListaKM},
-              cmdListaKM,
-              {},
-              {}});
 }
 
 } // namespace zelvia

@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What follows the user's hand on the page: value labels of the spin controls, pointers, panels of the right page.
-#include "core/Conversions.h"
+// What follows the user's hand on the page: the date's arrows, Escape, the pointers.
 #include "core/Files.h"
 #include "core/RunTimeError.h"
-#include "diary/TableModel.h"
-#include "diary/TableWalk.h"
-#include "diary/Workspace.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/SpinKeys.h"
@@ -18,8 +14,6 @@
 
 namespace zelvia
 {
-
-using namespace Module1;
 
 namespace
 {
@@ -43,16 +37,6 @@ std::array<Label*, 15> HandLabels(PageControls& page)
             page.lblPeso,
             page.lblTempoKm,
             page.lblRipetizioni};
-}
-
-/// Hours or minutes as plain digits, the parts behind them with two.
-Text ClockText(const UpDown& first, std::initializer_list<const UpDown*> rest)
-{
-    Text text = PlainText(first.Value());
-    for (const UpDown* part : rest) {
-        text += ":" + Format(part->Value(), "00");
-    }
-    return text;
 }
 
 } // namespace
@@ -89,41 +73,6 @@ void frmMain::keyPressEvent(QKeyEvent* event)
     } else {
         Form::keyPressEvent(event);
     }
-}
-
-void frmMain::ConnectSpins()
-{
-    upKM->Change = [this] { ShowDistance(upMetri->Value()); };
-    upMetri->Change = [this] {
-        upMetro->SetValue(0);
-        ShowDistance(upMetri->Value());
-    };
-    upMetro->Change = [this] { ShowDistance(upMetri->Value() + upMetro->Value()); };
-    for (UpDown* spin : {upOraInizio, upMinutiInizio, upSecondiInizio}) {
-        spin->Change = [this] {
-            lblImmisOraInizio->SetCaption(ClockText(*upOraInizio, {upMinutiInizio, upSecondiInizio}));
-        };
-    }
-    for (UpDown* spin : {upOraFine, upMinutiFine, upSecondiFine}) {
-        spin->Change = [this] { lblImmisOraFine->SetCaption(ClockText(*upOraFine, {upMinutiFine, upSecondiFine})); };
-    }
-    for (UpDown* spin : {upRipetizioniQuante, upRipetizioniTempi}) {
-        spin->Change = [this] {
-            lblRipetizioniQuante->SetCaption(ClockText(*upRipetizioniQuante, {upRipetizioniTempi}));
-        };
-    }
-    const std::pair<UpDown*, Label*> plain[] = {{upCorridori, lblImmisCorridori},
-                                                {upPeso, lblImmisPeso},
-                                                {upRipetizioni, lblRipetizioniVolte},
-                                                {upRipetizioniDistanza, lblRipetizioniDistanza}};
-    for (const auto& [spin, label] : plain) {
-        spin->Change = [spin = spin, label = label] { label->SetCaption(PlainText(spin->Value())); };
-    }
-}
-
-void frmMain::ShowDistance(i32 metri)
-{
-    lblImmisMetri->SetCaption(PlainText(upKM->Value()) + "," + Format(metri, "000"));
 }
 
 void frmMain::CursoreMano()

@@ -8,7 +8,6 @@
 #include "toolkit/QtText.h"
 #include "windows/page/CampoLista.h"
 #include "windows/page/FrmMain.h"
-#include "windows/page/GruppoSpin.h"
 #include "windows/page/PageArt.h"
 
 #include <QMenu>
@@ -50,10 +49,9 @@ frmMain::frmMain()
     BuildPage(*this, page);
     BuildMenus(*bar);
     ConnectControls();
-    ConnectSpins();
     ConnectLists();
-    ConnectGroups();
-    splits_.emplace(*this, *gruppi_.back());
+    numbers_.emplace(*this);
+    splits_.emplace(*this, numbers_->Splits());
     notes_.emplace(*this);
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().ShowAgain = [this] {

@@ -6,7 +6,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Menu.h"
 #include "windows/page/FrmMain.h"
-#include "windows/page/GruppoSpin.h"
+#include "windows/page/SpinGroup.h"
 
 #include <QMenu>
 
@@ -23,12 +23,12 @@ Text TwoDigits(const UpDown& spin)
 
 } // namespace
 
-Splits::Splits(frmMain& page, GruppoSpin& group) : page_(page), group_(group)
+Splits::Splits(frmMain& page, SpinGroup& group) : page_(page), group_(group)
 {
     page_.cmdListaKM->Click = [this] { cmdListaKM_Click(); };
     page_.lstListaKM->GotFocus = [this] {
         Trap("lstListaKm - ERRORE : ", [this] {
-            group_.Mostra(true);
+            group_.Show(true);
             constexpr int splits = 9;
             page_.ListaAperta = splits;
             page_.CursoreMano();

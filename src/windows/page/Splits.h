@@ -6,19 +6,19 @@ namespace zelvia
 {
 
 class frmMain;
-class GruppoSpin;
+class SpinGroup;
 
 /// The kilometre splits: their list, their spins and the button that enters one.
 class Splits
 {
 public:
-    Splits(frmMain& page, GruppoSpin& group);
+    Splits(frmMain& page, SpinGroup& group);
 
     void cmdListaKM_Click();
 
 private:
     frmMain& page_;
-    GruppoSpin& group_;
+    SpinGroup& group_;
 };
 
 } // namespace zelvia
