@@ -10,4 +10,4 @@ file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/share)
 add_custom_command(OUTPUT ${ZELVIA_GUIDE}
   COMMAND ${QHELPGENERATOR} ${CMAKE_SOURCE_DIR}/share/guida/guida.qhp -o ${ZELVIA_GUIDE}
   DEPENDS ${guide_sources} VERBATIM)
-add_custom_target(zelvia_guide ALL DEPENDS ${ZELVIA_GUIDE})
+add_custom_target(zelvia_guide_file ALL DEPENDS ${ZELVIA_GUIDE})

@@ -33,11 +33,11 @@ set(ZELVIA_QT_STRICT
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_KEYWORDS QT_NO_JAVA_STYLE_ITERATORS QT_STRICT_ITERATORS
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-# zelvia_layer(name FOLDER folder SOURCES files LINKS targets [QT | WIDGETS])
-#   A library of one box of the house, from files of its folder. Without QT it is plain standard C++: Qt is not even on its include path. One with
-#   WIDGETS links Qt's widgets, and reads their headers precompiled.
+# zelvia_layer(name FOLDER folder SOURCES files LINKS targets [WIDGETS])
+#   A library of one box of the house, from files of its folder. One with WIDGETS links Qt's widgets and reads their
+#   headers precompiled; without, it is plain standard C++, and Qt is not even on its include path.
 function(zelvia_layer name)
-  cmake_parse_arguments(LAYER "QT;WIDGETS" "FOLDER" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(LAYER "WIDGETS" "FOLDER" "SOURCES;LINKS" ${ARGN})
   list(TRANSFORM LAYER_SOURCES PREPEND ${LAYER_FOLDER}/)
   add_library(${name} STATIC ${LAYER_SOURCES})
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
@@ -50,8 +50,6 @@ function(zelvia_layer name)
   target_link_libraries(${name} PUBLIC ${LAYER_LINKS} PRIVATE zelvia_options)
   if(LAYER_WIDGETS)
     zelvia_reads_precompiled(${name} widgets)
-  endif()
-  if(LAYER_QT OR LAYER_WIDGETS)
     target_compile_definitions(${name} PRIVATE ${ZELVIA_QT_STRICT})
   else()
     set_target_properties(${name} PROPERTIES AUTOMOC OFF)

@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "LateImage.h"
 #include "core/Files.h"
 #include "toolkit/Application.h"
-#include "toolkit/LateParts.h"
 #include "windows/page/FrmMain.h"
 
 int main(int argc, char* argv[])
 {
     zelvia::Application application(argc, argv);
-    zelvia::SetLateImage(zelvia::LateImage());
     zelvia::SetProgramFolder(zelvia::SystemPath(QCoreApplication::applicationDirPath().toStdString()));
     auto* page = new zelvia::frmMain;
     if (!page->FormLoad()) {

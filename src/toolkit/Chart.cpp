@@ -3,7 +3,7 @@
 #include "toolkit/Chart.h"
 
 #include "core/Conversions.h"
-#include "toolkit/LateParts.h"
+#include "toolkit/ChartDrawing.h"
 #include "toolkit/QtText.h"
 
 #include <QClipboard>
@@ -38,7 +38,7 @@ Text Spoken(const ChartData& data)
 
 } // namespace
 
-Chart::Chart(QWidget* parent, const QString& name) : QWidget(parent), Control(this), parts_(Late())
+Chart::Chart(QWidget* parent, const QString& name) : QWidget(parent), Control(this)
 {
     setObjectName(name);
     setFocusPolicy(Qt::NoFocus);
@@ -61,7 +61,7 @@ void Chart::EditCopy(const QSize& size) const
     picture.setDotsPerMeterY(perMetre);
     QPainter painter(&picture);
     painter.scale(kPictureScale, kPictureScale);
-    parts_.DrawChart(painter, QRect({}, size), data_);
+    DrawChart(painter, QRect({}, size), data_);
     painter.end();
     QGuiApplication::clipboard()->setImage(picture);
 }
@@ -69,7 +69,7 @@ void Chart::EditCopy(const QSize& size) const
 void Chart::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    parts_.DrawChart(painter, rect(), data_);
+    DrawChart(painter, rect(), data_);
 }
 
 } // namespace zelvia

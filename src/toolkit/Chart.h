@@ -10,15 +10,12 @@
 namespace zelvia
 {
 
-class LateParts;
-
 /// The chart of a window. It tells its values as its accessible description too.
 class Chart : public QWidget, public Control
 {
     Q_OBJECT
 
 public:
-    /// Raises 53 when what draws it can't be loaded.
     Chart(QWidget* parent, const QString& name);
 
     const ChartData& Shown() const { return data_; }
@@ -32,7 +29,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const LateParts& parts_;
     ChartData data_;
 };
 

@@ -5,7 +5,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Button.h"
 #include "toolkit/FocusController.h"
-#include "toolkit/LateParts.h"
+#include "toolkit/SheetPlayer.h"
 
 #include <utility>
 
@@ -33,7 +33,7 @@ void PrintSheet(const Sheet& sheet)
         PrinterHandler()(sheet);
         return;
     }
-    Late().PlaySheet(sheet);
+    PlaySheet(sheet);
 }
 
 bool PrintByButton(Button& button, const std::function<Sheet()>& make)

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The executable carries all that the diary needs beside its data: alone-test.sh BUILD-FOLDER
+# A program folder works wherever it is copied: alone-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
 . "$source_folder/tests/scripts/program.sh"

@@ -39,7 +39,8 @@ expect "scripts that run as root" "$(dpkg-deb -I "$package" | grep -c 'postinst\
 # What it needs: the list's packages, the libraries that its programs are linked to, and nothing that builds or tests.
 # Debian 13 marks the libraries that changed with the width of its time.
 depends=$(field Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//; s/t64$//')
-for name in $(packages_in run) libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6; do
+for name in $(packages_in run) libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 libqt6help6 libqt6sql6 \
+  libqcustomplot2.1-qt6; do
   expect "depends on $name" "$(grep -cx -- "$name" <<<"$depends")" 1
 done
 for name in $(packages_in build package display test); do

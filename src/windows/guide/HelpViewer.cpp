@@ -3,7 +3,7 @@
 #include "windows/guide/HelpViewer.h"
 
 #include "core/Files.h"
-#include "toolkit/LateParts.h"
+#include "windows/guide/HelpWindow.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -32,7 +32,7 @@ void HelpViewer::Open(TextView file)
     const QString path = QString::fromStdString(NativePath(file).string());
     QString stamp = StampOf(path);
     if (window_ == nullptr || stamp != stamp_) {
-        window_ = Late().OpenGuide(path);
+        window_ = std::make_unique<HelpWindow>(std::make_unique<HelpFile>(path));
         stamp_ = std::move(stamp);
     }
 }

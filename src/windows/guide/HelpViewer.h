@@ -11,7 +11,7 @@
 namespace zelvia
 {
 
-class GuideWindow;
+class HelpWindow;
 
 /// What the help viewer is asked to show, under the numbers of the system call that help commands go by.
 namespace HelpCommand
@@ -40,7 +40,7 @@ private:
     /// Makes the window, or makes it anew for a file that is not the one it was made for.
     void Open(TextView file);
 
-    std::unique_ptr<GuideWindow> window_;
+    std::unique_ptr<HelpWindow> window_;
     QString stamp_; ///< Path, time and size of the file that the window shows.
 };
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "toolkit/LateParts.h"
 #include "windows/guide/HelpFile.h"
 
 #include <QWidget>
@@ -22,9 +21,9 @@ namespace zelvia
 class HelpPage;
 class SearchPane;
 
-/// The window of the guide: contents and search at the left, the page at the right. To the controls of the program it
-/// counts as another program's window, so a field stays open while the guide is read.
-class HelpWindow : public QWidget, public GuideWindow
+/// The window of the guide: contents and search at the left, the page at the right. Each Show brings it to the front.
+/// To the controls of the program it counts as another program's window, so a field stays open while the guide is read.
+class HelpWindow : public QWidget
 {
     Q_OBJECT
 
@@ -32,9 +31,10 @@ public:
     explicit HelpWindow(std::unique_ptr<HelpFile> file);
     ~HelpWindow() override;
 
-    void ShowContents() override;
-    void ShowSearch() override;
-    void ShowTopic(const QString& name) override;
+    /// The contents, and the first page unless the guide is open at another.
+    void ShowContents();
+    void ShowSearch();
+    void ShowTopic(const QString& name);
 
 private:
     void BuildButtons();
