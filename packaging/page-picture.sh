@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Opens the diary of a program folder on the present X display, takes a picture of its page and closes it again:
-# page-picture.sh FOLDER PICTURE.png
+# page-picture.sh FOLDER PICTURE.png [OPTION...], the options being the program's.
 set -euo pipefail
 
 folder=$1
@@ -48,7 +48,7 @@ page_drawn() {
     [ "$(identify -format '%#' "$work/now.png")" = "$(identify -format '%#' "$work/before.png")" ]
 }
 
-"$folder/zelvia" &
+"$folder/zelvia" "${@:3}" &
 program=$!
 await 60 page_up || fail "La pagina del diario non si è aperta entro un minuto."
 running || fail "Zelvia si è chiuso subito: il diario di «$folder» è forse già aperto."

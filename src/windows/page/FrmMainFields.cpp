@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What follows the user's hand on the page: the date's arrows, Escape, the pointers.
-#include "core/Files.h"
 #include "core/RunTimeError.h"
+#include "diary/ProgramFiles.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/SpinKeys.h"
@@ -78,7 +78,7 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 void frmMain::CursoreMano()
 {
     Trap("CursoreMano - ERRORE : ", [this] {
-        const QCursor hand = LoadCursor(ProgramFolder() + "\\mano.cur");
+        const QCursor hand = LoadCursor(InstalledFile("mano.cur"));
         for (Label* label : HandLabels(*this)) {
             label->setCursor(hand);
         }

@@ -3,6 +3,7 @@
 // The start and the stop of the program, and what the start reads.
 #include "core/Files.h"
 #include "core/RunTimeError.h"
+#include "diary/ProgramFiles.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
@@ -74,7 +75,7 @@ bool frmMain::FormLoad()
     }
     const Routine routine;
     Trap("Load - ERRORE : ", [this] {
-        FileGuida = ProgramFolder() + "\\Guida.hlp";
+        FileGuida = InstalledFile("Guida.hlp");
         LunghezzaNota = 0;
         files_.Start();
     });
