@@ -16,9 +16,9 @@ Uso: ./start.sh [--demo] [CARTELLA]
 Compila Zelvia, lo installa nella CARTELLA (di solito Zelvia, nella cartella
 personale) e apre il diario. I dati che ci sono già non vengono toccati.
 
-  --demo    apre un diario di prova con un anno già scritto, in una cartella
-            sua se non è indicata la CARTELLA; questa deve essere nuova, vuota
-            o di un diario di prova
+  --demo    apre un diario di prova con un anno già scritto, nel giorno di una
+            gara, in una cartella sua se non è indicata la CARTELLA; questa deve
+            essere nuova, vuota o di un diario di prova
   --help    mostra questo testo
 
 Senza uno schermo il diario si apre su uno schermo virtuale: la fotografia della
@@ -87,11 +87,15 @@ echo "Compilazione di Zelvia..."
   cmake --build --preset release
 )
 cmake --install "$source_folder/build/release" --prefix "$folder"
-[ -z "$demo" ] || lay_sample_year "$folder"
+day=()
+if [ -n "$demo" ]; then
+  lay_sample_year "$folder"
+  day=(--oggi "$demo_day")
+fi
 
 echo "Apertura del diario in $folder"
 if [ -n "$screen" ]; then
-  exec "$folder/zelvia"
+  exec "$folder/zelvia" "${day[@]}"
 fi
 exec "$source_folder/tests/support/with-x11.sh" "$source_folder/packaging/page-picture.sh" \
-  "$folder" "$PWD/zelvia-pagina.png"
+  "$folder" "$PWD/zelvia-pagina.png" "${day[@]}"

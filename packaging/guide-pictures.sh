@@ -57,8 +57,8 @@ aside() { xdotool mousemove --window "$window" 600 680 sleep 0.3; }
 
 cmake --install "$build" --prefix "$work/Zelvia" >/dev/null
 lay_sample_year "$work/Zelvia"
-export QT_SCALE_FACTOR=1 FAKETIME_DONT_FAKE_MONOTONIC=1 DONT_FAKE_MONOTONIC=1
-faketime -f '@2026-03-22 12:00:00' "$work/Zelvia/zelvia" 2>"$work/log" &
+export QT_SCALE_FACTOR=1
+"$work/Zelvia/zelvia" --oggi 2026-03-22 2>"$work/log" &
 program=$!
 
 await up '^Zelvia$'

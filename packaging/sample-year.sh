@@ -2,6 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The year of a sample runner, and the folders that it may be laid in. To be sourced by bash.
 
+# The day that it is opened on: a race of the sample runner's, with its times and notes and most of a year before it.
+demo_day=2026-11-08
+
 # What tells a folder of the sample year from a runner's own.
 demo_mark=.zelvia-demo
 

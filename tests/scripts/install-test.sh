@@ -29,6 +29,12 @@ lay_sample_year "$folder"
 diff -r "$source_folder/share/demo/ZelviaFile" "$folder/ZelviaFile" || expect "the sample diary" different same
 diff -r "$source_folder/share/demo/prova" "$folder/prova" || expect "the sample lists" different same
 
+# The day that it is opened on is that of a race, and of the run.
+IFS=- read -r year month day <<<"$demo_day"
+expect "the race of the day" "$(tr -d '\r' <"$folder/prova/CalendarioGare" | paste -sd'|' | grep -cF "|$((10#$day))|$((10#$month))|$year|\"")" 1
+slot=$(date -u -d "$demo_day" +%-j)
+expect "the run of the day" "$(sed -n "$((slot * 136 - 136 + 9))p" "$folder/ZelviaFile/prova.zlv" | tr -d '\r')" '"Gara"'
+
 # Over a folder with data: only the program's own three files are renewed.
 printf '"\\home\\anna\\Zelvia\\ZelviaFile\\anno.zlv"' >"$folder/nomeload"
 printf 'vecchio diario' >"$folder/ZelviaFile/prova.zlv"
