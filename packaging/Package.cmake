@@ -24,7 +24,7 @@ list(FILTER compressed INCLUDE REGEX "/man/")
 install(PROGRAMS ${packaging}/zelvia.sh DESTINATION bin RENAME zelvia ${package})
 install(TARGETS zelvia-copie DESTINATION bin ${package})
 install(TARGETS zelvia zelvia-avviso DESTINATION libexec/zelvia ${package})
-install(FILES ${ZELVIA_GUIDE} ${CMAKE_SOURCE_DIR}/share/mano.cur ${packaging}/folder-check.sh ${packaging}/lay-folder.sh
+install(FILES ${ZELVIA_GUIDE} ${CMAKE_SOURCE_DIR}/share/mano.cur ${packaging}/folder-check.sh
   DESTINATION share/zelvia ${package})
 install(FILES ${packaging}/desktop/zelvia.desktop DESTINATION share/applications ${package})
 install(FILES ${packaging}/desktop/org.zelvia.Zelvia.metainfo.xml DESTINATION share/metainfo ${package})

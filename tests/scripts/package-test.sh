@@ -31,7 +31,6 @@ expect "the files" "$(dpkg-deb -c "$package" | awk '{ print $1, $6 }' | grep -v 
 -rw-r--r-- ./usr/share/metainfo/org.zelvia.Zelvia.metainfo.xml
 -rw-r--r-- ./usr/share/zelvia/Guida.hlp
 -rw-r--r-- ./usr/share/zelvia/folder-check.sh
--rw-r--r-- ./usr/share/zelvia/lay-folder.sh
 -rw-r--r-- ./usr/share/zelvia/mano.cur"
 expect "owners" "$(dpkg-deb -c "$package" | awk '{ print $2 }' | sort -u)" root/root
 expect "scripts that run as root" "$(dpkg-deb -I "$package" | grep -c 'postinst\|preinst\|postrm\|prerm' || true)" 0
@@ -65,7 +64,13 @@ for page in zelvia zelvia-copie; do
   expect "man $page: its name" "$(grep -cE "^ +$page (-|−) " <<<"$output")" 1
 done
 
-# The page tells of the commands that the program knows.
+# The pages tell of the options and commands that the programs know.
+page=$(man -l "$work/tree/usr/share/man/man1/zelvia.1.gz")
+run "$work/tree/usr/libexec/zelvia/zelvia" --help
+for option in --oggi --help; do
+  expect "man zelvia: $option" "$(grep -cE "^ {7}$option( |$)" <<<"$page")" 1
+  expect "zelvia --help: $option" "$(grep -cE "^  $option " <<<"$output")" 1
+done
 page=$(man -l "$work/tree/usr/share/man/man1/zelvia-copie.1.gz")
 run "$work/tree/usr/bin/zelvia-copie" --help
 for command in elenco confronta rimetti crea; do
