@@ -12,18 +12,14 @@ set(ZELVIA_WIDGET_HEADERS
   <QApplication> <QClipboard> <QFileDialog> <QImage> <QKeyEvent> <QLabel> <QLineEdit> <QListWidget> <QMenu> <QMenuBar>
   <QMessageBox> <QMouseEvent> <QPainter> <QPushButton> <QWidget> <QWindow>)
 
-# zelvia_precompiled(kind HEADERS headers LINKS targets [LIBRARY])
-#   The headers for targets that link at least those and are compiled under Qt's strict rules: for programs, or for
-#   libraries that may become part of a module.
+# zelvia_precompiled(kind HEADERS headers LINKS targets)
+#   The headers for targets that link at least those and are compiled under Qt's strict rules.
 function(zelvia_precompiled kind)
-  cmake_parse_arguments(KIND "LIBRARY" "" "HEADERS;LINKS" ${ARGN})
+  cmake_parse_arguments(KIND "" "" "HEADERS;LINKS" ${ARGN})
   set(source ${CMAKE_BINARY_DIR}/precompiled/${kind}.cpp)
   file(CONFIGURE OUTPUT ${source} CONTENT "")
   add_library(zelvia_precompiled_${kind} OBJECT ${source})
   set_target_properties(zelvia_precompiled_${kind} PROPERTIES AUTOMOC OFF)
-  if(KIND_LIBRARY)
-    set_target_properties(zelvia_precompiled_${kind} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-  endif()
   target_link_libraries(zelvia_precompiled_${kind} PRIVATE ${KIND_LINKS} zelvia_options)
   target_compile_definitions(zelvia_precompiled_${kind} PRIVATE ${ZELVIA_QT_STRICT})
   target_precompile_headers(zelvia_precompiled_${kind} PRIVATE ${KIND_HEADERS})
