@@ -43,5 +43,10 @@ if ! reason=$("$prefix/bin/zelvia-copie" --cartella "$folder_path" crea 2>&1 >/d
   tell "La copia di sicurezza del diario non è riuscita; il diario si apre lo stesso.
 $reason"
 fi
+# Diaries from another computer come without the pointer to the one to open, which holds a path of that computer.
+pointer=$folder_path/nomeload
+if [ -d "$folder_path/ZelviaFile" ] && [ ! -e "$pointer" ] && [ ! -L "$pointer" ]; then
+  { printf '""\r\n' >"$pointer"; } 2>/dev/null || rm -f -- "$pointer"
+fi
 [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ] || refuse "Zelvia ha bisogno di uno schermo."
 exec "$program" "${today[@]}" -- "$folder_path"

@@ -120,6 +120,17 @@ expect "no copy of an open diary" "$(kept_names)" "${before%%|*}|"
 program=$first
 expect_page_and_close "the first of two"
 
+# Diaries that were brought without the pointer are opened; a pointer that leads nowhere stays.
+rm "$diary/nomeload"
+start
+expect_page_and_close "no pointer"
+expect "a pointer laid" "$(od -An -c "$diary/nomeload" | tr -d ' \n')" '""\r\n'
+rm "$diary/nomeload"
+ln -s manca "$diary/nomeload"
+QT_QPA_PLATFORM=offscreen timeout 5 "$launcher" >"$work/program.log" 2>&1 </dev/null || true
+expect "a dangling pointer" "$(readlink "$diary/nomeload")" manca
+rm "$diary/nomeload"
+
 # Another folder, given by a relative path.
 cd "$work"
 command=("$launcher" "altra cartella/Più corsa" --oggi 2028-02-29)
