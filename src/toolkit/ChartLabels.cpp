@@ -9,24 +9,25 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 namespace zelvia
 {
 namespace
 {
 
-constexpr double kGap = 6;      ///< Between the axis and the labels, and between rows of them.
-constexpr double kBetween = 8;  ///< Between level labels, at least.
-constexpr double kTight = 0.95; ///< Of a line's height: upright labels keep clear of each other at this distance.
-constexpr int kMostLines = 3;   ///< Of a level label.
-constexpr int kMostRows = 8;    ///< Of upright labels.
-constexpr double kSlope = std::numbers::sqrt2 / 2; ///< Sine and cosine of 45 degrees.
+constexpr double kBetween = 8; ///< Between level labels, at least.
+constexpr int kMostLines = 3;  ///< Of a level label.
+constexpr double kSine = std::numbers::sqrt2 / 2;
 
-QFont TextFont(int pixels)
-{
-    return PageFont("MS Sans Serif", pixels);
-}
+/// The styles, in the order in which they are tried.
+struct Try {
+    double rotation;
+    int pixels;
+    int mostRows;
+};
+constexpr Try kTries[] = {{0, 13, 1},   {0, 12, 1},   {0, 11, 1},   {-45, 13, 1},
+                          {-45, 12, 1}, {-45, 11, 1}, {-90, 13, 1}, {-90, 12, 1},
+                          {-90, 11, 1}, {-90, 10, 1}, {-90, 10, 8}, {-90, kSmallestLabel, 8}};
 
 double Widest(const QStringList& texts, const QFontMetricsF& metrics)
 {
@@ -37,156 +38,88 @@ double Widest(const QStringList& texts, const QFontMetricsF& metrics)
     return widest;
 }
 
-/// The height of a line of capitals and digits with what hangs below them.
-double LineHeight(const QFontMetricsF& metrics)
+/// The height of the line that the labels' ink needs, with a pixel between two of them.
+double InkHeight(const QStringList& labels, const QFontMetricsF& metrics)
 {
-    return metrics.capHeight() + metrics.descent() + 1;
+    QRectF ink;
+    for (const QString& label : labels) {
+        ink |= metrics.tightBoundingRect(label);
+    }
+    return ink.height() + 1;
+}
+
+/// The label broken between words into lines of at most `width`; a longer word has a line of its own.
+QStringList Lines(const QString& label, const QFontMetricsF& metrics, double width)
+{
+    QStringList lines;
+    for (const QString& word : label.split(QLatin1Char(' '))) {
+        const QString longer = lines.isEmpty() ? word : lines.constLast() + QLatin1Char(' ') + word;
+        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= width) {
+            lines.last() = longer;
+        } else {
+            lines << word;
+        }
+    }
+    return lines;
+}
+
+bool FitsLevel(LabelStyle& style, const QFontMetricsF& metrics, const LabelRoom& room)
+{
+    qsizetype most = 1;
+    for (QString& label : style.texts) {
+        const QStringList lines = Lines(label, metrics, room.step - kBetween);
+        most = std::max(most, lines.size());
+        if (Widest(lines, metrics) > room.step - kBetween) {
+            return false;
+        }
+        label = lines.join(QLatin1Char('\n'));
+    }
+    style.height = kLabelGap + static_cast<double>(most) * metrics.height();
+    return most <= kMostLines;
+}
+
+bool FitsSlanted(LabelStyle& style, const QFontMetricsF& metrics, const LabelRoom& room)
+{
+    const double line = InkHeight(style.texts, metrics);
+    style.height = kLabelGap + (Widest(style.texts, metrics) + line) * kSine;
+    // Each ends at its point and must not begin beyond the left border.
+    double point = room.left;
+    for (const QString& label : style.texts) {
+        if ((metrics.horizontalAdvance(label) + metrics.height()) * kSine > point) {
+            return false;
+        }
+        point += room.step;
+    }
+    return line <= room.step * kSine;
+}
+
+bool FitsUpright(LabelStyle& style, const QFontMetricsF& metrics, const LabelRoom& room)
+{
+    style.rows = std::max(1, static_cast<int>(std::ceil(InkHeight(style.texts, metrics) / room.step)));
+    style.height = style.rows * (kLabelGap + 1 + Widest(style.texts, metrics));
+    return true;
+}
+
+bool Fits(LabelStyle& style, const LabelRoom& room)
+{
+    const QFontMetricsF metrics(style.font);
+    return style.rotation == 0     ? FitsLevel(style, metrics, room)
+           : style.rotation == -45 ? FitsSlanted(style, metrics, room)
+                                   : FitsUpright(style, metrics, room);
 }
 
 } // namespace
 
-ChartLabels::ChartLabels(QStringList labels, const Room& room) : labels_(std::move(labels))
+LabelStyle StyleOf(const QStringList& labels, const LabelRoom& room)
 {
-    for (int pixels = kLargest; pixels >= kLargest - 2; --pixels) {
-        if (TryLevel(room, pixels)) {
-            return;
+    LabelStyle style;
+    for (const Try& next : kTries) {
+        style = {labels, PageFont("MS Sans Serif", next.pixels), next.rotation};
+        if (Fits(style, room) && style.rows <= next.mostRows && style.height <= room.height) {
+            break;
         }
     }
-    for (int pixels = kLargest; pixels >= kLargest - 2; --pixels) {
-        if (TrySlanted(room, pixels)) {
-            return;
-        }
-    }
-    for (int pixels = kLargest; pixels >= kSmallest; --pixels) {
-        if (TryUpright(room, pixels, 1)) {
-            return;
-        }
-    }
-    for (int pixels = kSmallest + 1; pixels >= kSmallest; --pixels) {
-        if (TryUpright(room, pixels, kMostRows)) {
-            return;
-        }
-    }
-    // More than the room holds: all the same each label is written whole.
-    const Room any{room.step, room.left, 1e9};
-    TryUpright(any, kSmallest, static_cast<int>(std::max<qsizetype>(labels_.size(), 1)));
-}
-
-void ChartLabels::Use(Stand stand, int rows, double height, const QFont& font)
-{
-    stand_ = stand;
-    rows_ = rows;
-    height_ = height;
-    font_ = font;
-}
-
-QList<QStringList> ChartLabels::Wrapped(const QFont& font, double width) const
-{
-    const QFontMetricsF metrics(font);
-    QList<QStringList> all;
-    for (const QString& label : labels_) {
-        QStringList lines;
-        for (const QString& word : label.split(QLatin1Char(' '))) {
-            const QString longer = lines.isEmpty() ? word : lines.constLast() + QLatin1Char(' ') + word;
-            if (metrics.horizontalAdvance(longer) <= width) {
-                lines.isEmpty() ? lines.append(longer) : lines.replace(lines.size() - 1, longer);
-            } else {
-                lines << word;
-            }
-        }
-        if (lines.size() > kMostLines || Widest(lines, metrics) > width) {
-            return {};
-        }
-        all << lines;
-    }
-    return all;
-}
-
-bool ChartLabels::TryLevel(const Room& room, int pixels)
-{
-    const QFont font = TextFont(pixels);
-    const QFontMetricsF metrics(font);
-    lines_ = Wrapped(font, room.step - kBetween);
-    if (lines_.size() != labels_.size()) {
-        return false;
-    }
-    qsizetype lines = 1;
-    for (const QStringList& label : lines_) {
-        lines = std::max(lines, label.size());
-    }
-    const double height = kGap + static_cast<double>(lines) * metrics.height();
-    if (height > room.height) {
-        return false;
-    }
-    Use(Stand::Level, 1, height, font);
-    return true;
-}
-
-bool ChartLabels::TrySlanted(const Room& room, int pixels)
-{
-    const QFont font = TextFont(pixels);
-    const QFontMetricsF metrics(font);
-    const double line = LineHeight(metrics);
-    const double height = kGap + (Widest(labels_, metrics) + line) * kSlope;
-    if (room.step * kSlope < line || height > room.height) {
-        return false;
-    }
-    for (qsizetype i = 0; i < labels_.size(); ++i) {
-        const double reach = (metrics.horizontalAdvance(labels_[i]) + line) * kSlope;
-        if (reach > room.left + static_cast<double>(i) * room.step) {
-            return false;
-        }
-    }
-    Use(Stand::Slanted, 1, height, font);
-    return true;
-}
-
-bool ChartLabels::TryUpright(const Room& room, int pixels, int mostRows)
-{
-    const QFont font = TextFont(pixels);
-    const QFontMetricsF metrics(font);
-    const int rows = std::max(1, static_cast<int>(std::ceil(LineHeight(metrics) * kTight / room.step)));
-    const double rowHeight = Widest(labels_, metrics) + kGap;
-    if (rows > mostRows || rows * rowHeight > room.height) {
-        return false;
-    }
-    rowHeight_ = rowHeight;
-    Use(Stand::Upright, rows, rows * rowHeight, font);
-    return true;
-}
-
-QRectF ChartLabels::Cover(qsizetype index) const
-{
-    const QFontMetricsF metrics(font_);
-    if (stand_ == Stand::Level) {
-        const double width = Widest(lines_[index], metrics);
-        return {-width / 2, kGap, width, static_cast<double>(lines_[index].size()) * metrics.height()};
-    }
-    const double line = LineHeight(metrics) * kTight;
-    const double top = kGap + static_cast<double>(index % rows_) * rowHeight_;
-    return {-line / 2, top, line, metrics.horizontalAdvance(labels_[index])};
-}
-
-void ChartLabels::Draw(QPainter& painter, qsizetype index, const QPointF& point) const
-{
-    const QFontMetricsF metrics(font_);
-    painter.save();
-    painter.setFont(font_);
-    painter.translate(point);
-    if (stand_ == Stand::Level) {
-        double baseline = kGap + metrics.ascent();
-        for (const QString& line : lines_[index]) {
-            painter.drawText(QPointF(-metrics.horizontalAdvance(line) / 2, baseline), line);
-            baseline += metrics.height();
-        }
-    } else {
-        const bool upright = stand_ == Stand::Upright;
-        painter.translate(0, kGap + (upright ? static_cast<double>(index % rows_) * rowHeight_ : 0));
-        painter.rotate(upright ? -90 : -45);
-        // The label ends at its point; the middle of its capitals lies in line with it.
-        painter.drawText(QPointF(-metrics.horizontalAdvance(labels_[index]), metrics.capHeight() / 2), labels_[index]);
-    }
-    painter.restore();
+    return style;
 }
 
 } // namespace zelvia

@@ -5,7 +5,6 @@
 #include "core/Conversions.h"
 #include "support/WindowTest.h"
 #include "toolkit/ChartDrawing.h"
-#include "toolkit/ChartLabels.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "toolkit/TextCatcher.h"
@@ -14,6 +13,8 @@
 #include <QImage>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 Q_DECLARE_METATYPE(zelvia::ChartData)
@@ -88,13 +89,33 @@ QImage Drawn(const ChartData& chart, int scale = 1)
     return image;
 }
 
-std::vector<CaughtText> Written(const ChartData& chart)
+std::vector<CaughtText> Written(const ChartData& chart, const QSize& size = kSize)
 {
-    TextCatcher catcher(kSize);
+    TextCatcher catcher(size);
     QPainter painter(&catcher);
-    DrawChart(painter, QRectF(QPointF(), QSizeF(kSize)), chart);
+    DrawChart(painter, QRectF(QPointF(), QSizeF(size)), chart);
     painter.end();
     return catcher.Texts();
+}
+
+/// The texts in alphabetical order.
+QStringList Sorted(const std::vector<CaughtText>& texts)
+{
+    QStringList sorted;
+    for (const CaughtText& text : texts) {
+        sorted << text.text;
+    }
+    sorted.sort();
+    return sorted;
+}
+
+/// The one text of this wording; an empty one when it is not there exactly once.
+CaughtText Find(const std::vector<CaughtText>& texts, const QString& wording)
+{
+    std::vector<CaughtText> found;
+    std::copy_if(texts.begin(), texts.end(), std::back_inserter(found),
+                 [&](const CaughtText& text) { return text.text == wording; });
+    return found.size() == 1 ? found.front() : CaughtText{};
 }
 
 bool IsWash(const QColor& colour)
@@ -119,23 +140,22 @@ std::vector<int> BarHeights(const QImage& image)
     }
     std::vector<int> heights;
     for (int x = 0; x < image.width(); ++x) {
-        if (!IsWash(image.pixelColor(x, base)) || (x > 0 && IsWash(image.pixelColor(x - 1, base)))) {
+        const int left = x;
+        while (x < image.width() && IsWash(image.pixelColor(x, base))) {
+            ++x;
+        }
+        // An outline between two pixels is of the same colour.
+        constexpr int outline = 2;
+        if (x - left <= outline) {
             continue;
         }
         int height = 0;
-        while (IsWash(image.pixelColor(x + 1, base - height))) {
+        while (IsWash(image.pixelColor((left + x) / 2, base - height))) {
             ++height;
         }
         heights.push_back(height);
     }
     return heights;
-}
-
-/// Labels in `count` places of a chart of the size above, as the drawing asks for them.
-ChartLabels Laid(const QStringList& labels)
-{
-    const double step = 870.0 / static_cast<double>(labels.size());
-    return ChartLabels(labels, {step, 40 + step / 2, 260});
 }
 
 } // namespace
@@ -153,9 +173,10 @@ private Q_SLOTS:
     void TextsOfALine();
     void EveryLabelIsWritten_data();
     void EveryLabelIsWritten();
-    void LabelsKeepClear_data();
-    void LabelsKeepClear();
-    void LabelsTakeTheFlattestStand();
+    void TextsKeepClear_data();
+    void TextsKeepClear();
+    void LabelsAreAsFlatAsTheyCanBe_data();
+    void LabelsAreAsFlatAsTheyCanBe();
     void ItDrawsIntoItsRectangleAlone();
     void TwiceTheScaleIsTheSameDrawing();
     void ItTellsItsValues();
@@ -216,46 +237,52 @@ void ChartTest::NoValuesLeaveATitle()
     QCOMPARE(BarHeights(Drawn(none)).size(), std::size_t{0});
     QCOMPARE(Written(none).front().text, QStringLiteral("Meteo"));
     QCOMPARE(Written(Line({})).front().text, QStringLiteral("Velocità Media per Km"));
+    // No name of a line that is not there.
+    QVERIFY(!Sorted(Written(Line({}))).contains(QStringLiteral("Tempo")));
 }
 
 void ChartTest::TextsOfBars()
 {
     const std::vector<CaughtText> texts =
         Written(Bars({QStringLiteral("Città alta"), QStringLiteral("Mare")}, {12, 3}));
-    QStringList written;
-    for (const CaughtText& text : texts) {
-        written << text.text;
+    // The axis to 12, the count of each bar, the labels and the title.
+    QCOMPARE(Sorted(texts),
+             QStringList({QStringLiteral("0"), QStringLiteral("10"), QStringLiteral("12"), QStringLiteral("12"),
+                          QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("6"),
+                          QStringLiteral("8"), QStringLiteral("Città alta"), QStringLiteral("Mare"),
+                          QStringLiteral("Percorso")}));
+    const CaughtText title = Find(texts, QStringLiteral("Percorso"));
+    const CaughtText first = Find(texts, QStringLiteral("Città alta"));
+    const CaughtText second = Find(texts, QStringLiteral("Mare"));
+    const CaughtText count = Find(texts, QStringLiteral("3"));
+    QCOMPARE(title.font.families().constFirst(), QStringLiteral("Book Antiqua"));
+    QCOMPARE(title.font.pixelSize(), 19); // 14 points at 96 to the inch
+    for (const CaughtText& text : {first, count, Find(texts, QStringLiteral("6"))}) {
+        QCOMPARE(text.font.families().constFirst(), QStringLiteral("MS Sans Serif"));
     }
-    // The title, the axis, the labels and the counts over the bars.
-    QCOMPARE(written, QStringList({QStringLiteral("Percorso"), QStringLiteral("0"), QStringLiteral("2"),
-                                   QStringLiteral("4"), QStringLiteral("6"), QStringLiteral("8"), QStringLiteral("10"),
-                                   QStringLiteral("12"), QStringLiteral("Città alta"), QStringLiteral("Mare"),
-                                   QStringLiteral("12"), QStringLiteral("3")}));
-    QCOMPARE(texts[0].font.families().constFirst(), QStringLiteral("Book Antiqua"));
-    QCOMPARE(texts[0].font.pixelSize(), 19); // 14 points at 96 to the inch
-    QCOMPARE(texts[1].font.families().constFirst(), QStringLiteral("MS Sans Serif"));
-    QCOMPARE(texts[8].font.families().constFirst(), QStringLiteral("MS Sans Serif"));
-    QVERIFY(texts[8].start.x() < texts[9].start.x());
+    QVERIFY(first.start.x() < second.start.x());
+    // The count is above its bar, in line with its label.
+    const QRectF label = second.ink.boundingRect();
+    QVERIFY(std::abs(count.ink.boundingRect().center().x() - label.center().x()) < 2);
+    QVERIFY(count.ink.boundingRect().bottom() < label.top());
 }
 
 void ChartTest::TextsOfALine()
 {
     const std::vector<CaughtText> texts =
         Written(Line({QStringLiteral("5,07"), QStringLiteral("5,3"), QStringLiteral("4,5")}));
-    QStringList written;
-    for (const CaughtText& text : texts) {
-        written << text.text;
+    QStringList written = Sorted(texts);
+    for (const QString& text : {QStringLiteral("Velocità Media per Km"), QStringLiteral("Tempo"),
+                                QStringLiteral("5,07"), QStringLiteral("5,3"), QStringLiteral("4,5")}) {
+        QVERIFY2(written.removeOne(text), qPrintable(text));
     }
-    QCOMPARE(written.first(), QStringLiteral("Velocità Media per Km"));
-    QCOMPARE(written.last(), QStringLiteral("Tempo"));
-    QCOMPARE(written.mid(written.size() - 4, 3),
-             QStringList({QStringLiteral("5,07"), QStringLiteral("5,3"), QStringLiteral("4,5")}));
-    // The numbers of the axis have two decimals behind a comma.
-    const QStringList axis = written.mid(1, written.size() - 5);
-    QVERIFY(axis.size() >= 4);
-    for (const QString& number : axis) {
+    // The numbers of the axis have two decimals.
+    QVERIFY(written.size() >= 4);
+    for (const QString& number : std::as_const(written)) {
         QVERIFY2(QRegularExpression(QStringLiteral("^\\d,\\d\\d$")).match(number).hasMatch(), qPrintable(number));
     }
+    QVERIFY(Find(texts, QStringLiteral("5,07")).start.x() < Find(texts, QStringLiteral("5,3")).start.x());
+    QVERIFY(Find(texts, QStringLiteral("5,3")).start.x() < Find(texts, QStringLiteral("4,5")).start.x());
 }
 
 void ChartTest::EveryLabelIsWritten_data()
@@ -277,60 +304,75 @@ void ChartTest::EveryLabelIsWritten()
     QFETCH(ChartData, chart);
     QFETCH(QStringList, labels);
     // Whole, in their order from left to right, and in a size that can be read.
-    double left = 0;
-    qsizetype next = 0;
-    for (const CaughtText& text : Written(chart)) {
-        if (next < labels.size() && text.text == labels[next] && text.start.y() > kSize.height() / 3) {
-            QVERIFY(text.start.x() > left);
-            QVERIFY(text.font.pixelSize() >= 9);
-            left = text.start.x();
-            ++next;
-        }
+    std::vector<CaughtText> texts = Written(chart);
+    std::erase_if(texts, [](const CaughtText& text) { return text.degrees == 0; });
+    std::sort(texts.begin(), texts.end(),
+              [](const CaughtText& one, const CaughtText& other) { return one.start.x() < other.start.x(); });
+    QStringList written;
+    for (const CaughtText& text : texts) {
+        QVERIFY(text.font.pixelSize() >= 9);
+        written << text.text;
     }
-    QCOMPARE(next, labels.size());
+    QCOMPARE(written, labels);
 }
 
-void ChartTest::LabelsKeepClear_data()
+void ChartTest::TextsKeepClear_data()
 {
-    QTest::addColumn<QStringList>("labels");
-    QTest::newRow("60 names") << SixtyNames();
-    QTest::newRow("40 values") << Paces(40);
-    QTest::newRow("120 values") << Paces(120);
-    QTest::newRow("350 values") << Paces(350);
-    QTest::newRow("5 names") << SixtyNames().mid(27, 5);
+    QTest::addColumn<ChartData>("chart");
+    QTest::addColumn<QSize>("size");
+    const auto bars = [](int count) { return Bars(SixtyNames().first(count), std::vector<int>(60, 3)); };
+    constexpr QSize smallest(600, 370); // in the smallest window
+    QTest::newRow("1 name") << bars(1) << kSize;
+    QTest::newRow("3 names") << bars(3) << kSize;
+    QTest::newRow("7 names") << bars(7) << kSize;
+    QTest::newRow("12 names") << bars(12) << kSize;
+    QTest::newRow("30 names") << bars(30) << kSize;
+    QTest::newRow("60 names") << bars(60) << kSize;
+    QTest::newRow("60 names, small") << bars(60) << smallest;
+    QTest::newRow("1 value") << Line(Paces(1)) << kSize;
+    QTest::newRow("12 values") << Line(Paces(12)) << kSize;
+    QTest::newRow("40 values") << Line(Paces(40)) << kSize;
+    QTest::newRow("120 values") << Line(Paces(120)) << kSize;
+    QTest::newRow("350 values") << Line(Paces(350)) << kSize;
+    QTest::newRow("350 values, small") << Line(Paces(350)) << smallest;
+    QTest::newRow("paces of a slow year") << Line({QStringLiteral("999,59"), QStringLiteral("5,07")}) << kSize;
 }
 
-void ChartTest::LabelsKeepClear()
+void ChartTest::TextsKeepClear()
 {
-    QFETCH(QStringList, labels);
-    const ChartLabels laid = Laid(labels);
-    QVERIFY(laid.Height() <= 260);
-    QVERIFY(laid.Font().pixelSize() >= ChartLabels::kSmallest);
-    if (laid.Standing() == ChartLabels::Stand::Slanted) {
-        // Lines at 45 degrees lie this far apart.
-        const double apart = 870.0 / static_cast<double>(labels.size()) * 0.7071;
-        QVERIFY(apart >= QFontMetricsF(laid.Font()).capHeight() + 2);
-        return;
-    }
-    const double step = 870.0 / static_cast<double>(labels.size());
-    for (qsizetype i = 0; i < labels.size(); ++i) {
-        const QRectF one = laid.Cover(i).translated(static_cast<double>(i) * step, 0);
-        QVERIFY(one.bottom() <= laid.Height() + 1);
-        for (qsizetype j = i + 1; j < std::min(labels.size(), i + 40); ++j) {
-            const QRectF other = laid.Cover(j).translated(static_cast<double>(j) * step, 0);
-            QVERIFY2(!one.intersects(other), qPrintable(QStringLiteral("%1 and %2").arg(i).arg(j)));
-        }
+    QFETCH(ChartData, chart);
+    QFETCH(QSize, size);
+    const std::vector<CaughtText> texts = Written(chart, size);
+    for (auto one = texts.begin(); one != texts.end(); ++one) {
+        QVERIFY2(QRectF(QPointF(), QSizeF(size)).contains(one->ink.boundingRect()), qPrintable(one->text));
+        const auto hit = std::find_if(std::next(one), texts.end(), [&](const CaughtText& other) {
+            return one->ink.boundingRect().intersects(other.ink.boundingRect()) && one->ink.intersects(other.ink);
+        });
+        QVERIFY2(hit == texts.end(), qPrintable(one->text));
     }
 }
 
-void ChartTest::LabelsTakeTheFlattestStand()
+void ChartTest::LabelsAreAsFlatAsTheyCanBe_data()
 {
-    QVERIFY(Laid({QStringLiteral("Lungofiume"), QStringLiteral("Mare")}).Standing() == ChartLabels::Stand::Level);
-    QVERIFY(Laid(SixtyNames().first(7)).Standing() == ChartLabels::Stand::Level);
-    QVERIFY(Laid(Paces(40)).Standing() == ChartLabels::Stand::Slanted);
-    QVERIFY(Laid(SixtyNames()).Standing() == ChartLabels::Stand::Upright);
-    QCOMPARE(Laid(SixtyNames()).Rows(), 1);
-    QVERIFY(Laid(Paces(350)).Rows() > 1);
+    QTest::addColumn<ChartData>("chart");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<int>("degrees");
+    const auto bars = [](int count) { return Bars(SixtyNames().first(count), std::vector<int>(60, 3)); };
+    const QString first = SixtyNames().constFirst();
+    QTest::newRow("2 names") << bars(2) << first << 0;
+    QTest::newRow("7 names") << bars(7) << first << 0;
+    QTest::newRow("40 values") << Line(Paces(40)) << QStringLiteral("4,4") << -45;
+    QTest::newRow("60 names") << bars(60) << first << -90;
+}
+
+void ChartTest::LabelsAreAsFlatAsTheyCanBe()
+{
+    QFETCH(ChartData, chart);
+    QFETCH(QString, label);
+    QFETCH(int, degrees);
+    const CaughtText found = Find(Written(chart), label);
+    QCOMPARE(found.text, label);
+    QCOMPARE(found.degrees, degrees);
 }
 
 void ChartTest::ItDrawsIntoItsRectangleAlone()

@@ -2,18 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPolygonF>
+#include <QtMath>
 
 #include <vector>
 
-/// A text that was drawn: where its baseline starts, and its direction.
+/// A text that was drawn: where its baseline starts, its direction and what its ink covers.
 struct CaughtText {
     QString text;
     QFont font;
     QPointF start;
-    bool upright;
+    int degrees; ///< Clockwise.
+    QPolygonF ink;
 };
 
 /// A device that keeps the texts drawn on it and drops the rest.
@@ -59,7 +63,9 @@ private:
         void drawTextItem(const QPointF& at, const QTextItem& item) override
         {
             const QTransform transform = painter()->combinedTransform();
-            texts.push_back({item.text(), item.font(), transform.map(at), qAbs(transform.m12()) > 0.99});
+            const int degrees = qRound(qRadiansToDegrees(qAtan2(transform.m12(), transform.m11())));
+            const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(at);
+            texts.push_back({item.text(), item.font(), transform.map(at), degrees, transform.map(QPolygonF(ink))});
         }
         Type type() const override { return User; }
 
