@@ -15,10 +15,10 @@
 namespace zelvia
 {
 
-/// What nearly every text of a diary is.
+/// An empty text, as nearly every text of a diary is.
 inline constexpr TextView kBlankLine = "\"\"\r\n";
 
-/// Writes one value a line: integers as plain digits, dates as #yyyy-mm-dd#, texts between double quotes as they stand,
+/// Writes one value a line: integers as plain digits, dates as #yyyy-mm-dd#, texts between double quotes as they are,
 /// each line ended by CR LF. The file is created or emptied at once; there is no temporary file.
 class ValueWriter
 {
@@ -26,7 +26,9 @@ public:
     /// Raises what OpenFile raises.
     explicit ValueWriter(TextView path);
 
-    /// Each raises error 61 on a full disk, 57 on another failure of the device.
+    /// Each raises error 61 on a full disk, 57 on another failure of the device. Empty texts are written here, others
+    /// in place by WriteText: the sample year then takes 2.9 times the time of one fwrite, and not 9 times
+    /// (diary_bench).
     void Write(TextView text)
     {
         if (text.empty() && buffer_.size() - used_ >= kBlankLine.size()) {
@@ -57,9 +59,9 @@ private:
 };
 
 /// Reads one value after the other. A value that begins with a double quote ends at the next one, line ends and commas
-/// inside it included; blanks and one comma or line end behind it are skipped, and anything else there is the next
+/// inside it included; blanks and one comma or line end after it are skipped, and anything else there is the next
 /// value. Any other value ends at a comma or a line end. A line ends with CR LF, LF or CR.
-/// Every Input raises error 62 behind the end of the file and leaves its target as it is when it fails.
+/// Every Input raises error 62 after the end of the file and leaves its target as it is when it fails.
 class ValueReader
 {
 public:

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -78,11 +77,6 @@ private:
     std::array<char, 1 << 16> piece_;
 };
 
-bool IsZeros(std::string_view bytes)
-{
-    return bytes.front() == 0 && std::memcmp(bytes.data(), bytes.data() + 1, bytes.size() - 1) == 0;
-}
-
 /// A file that must not be there yet, for its owner alone.
 class NewFile
 {
@@ -91,7 +85,6 @@ public:
 
     void Write(std::string_view bytes)
     {
-        length_ += static_cast<off_t>(bytes.size());
         while (!bytes.empty()) {
             const ssize_t count = Again([&] { return ::write(file_.Number(), bytes.data(), bytes.size()); });
             if (count < 0) {
@@ -101,21 +94,9 @@ public:
         }
     }
 
-    /// Leaves a hole in place of so many zeros, which takes no room on the disk.
-    void WriteZeros(std::size_t count)
-    {
-        length_ += static_cast<off_t>(count);
-        if (::lseek(file_.Number(), length_, SEEK_SET) < 0) {
-            throw FileFailure(path_, errno);
-        }
-    }
-
     /// Brings it to the disk.
     void Finish()
     {
-        if (Again([&] { return ::ftruncate(file_.Number(), length_); }) != 0) {
-            throw FileFailure(path_, errno);
-        }
         if (Again([&] { return ::fsync(file_.Number()); }) != 0 || !file_.Close()) {
             throw FileFailure(path_, errno);
         }
@@ -124,7 +105,6 @@ public:
 private:
     fs::path path_;
     Descriptor file_;
-    off_t length_ = 0;
 };
 
 } // namespace
@@ -169,11 +149,7 @@ void CopyNewFile(const fs::path& from, const fs::path& to)
     PieceReader source(from);
     NewFile target(to);
     for (std::string_view piece = source.Next(); !piece.empty(); piece = source.Next()) {
-        if (IsZeros(piece)) {
-            target.WriteZeros(piece.size());
-        } else {
-            target.Write(piece);
-        }
+        target.Write(piece);
     }
     target.Finish();
 }
