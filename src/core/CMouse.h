@@ -21,11 +21,11 @@ inline constexpr int Custom = 99;
 i16 ScreenMousePointer();
 void SetScreenMousePointer(i16 pointer);
 
-/// What carries a change of the pointer to the screen; an empty function carries it nowhere.
+/// Applies a change of the pointer to the screen; an empty function does nothing.
 void SetScreenMousePointerHandler(std::function<void(i16)> handler);
 
-/// Changes the screen's pointer for as long as it lives: the pointer of before the first change comes back when it is
-/// destroyed, however the routine that holds it ends.
+/// Changes the screen's pointer during its lifetime: its destructor restores the pointer from before the first change,
+/// however the routine that holds it ends.
 class CMouse
 {
 public:

@@ -22,13 +22,13 @@ public:
     int Row = 1;
     int Column = 1;
 
-    /// Give the grid its size; cells and labels that stay keep what they hold, new ones are 0 and empty.
+    /// Resize the grid; remaining cells and labels keep their content, new ones are 0 and empty.
     void SetColumnCount(int count);
     void SetRowCount(int count);
     int ColumnCount() const { return static_cast<int>(columnLabels_.size()); }
     int RowCount() const { return static_cast<int>(rowLabels_.size()); }
 
-    /// Takes a number as the Italian locale writes it. Raises error 13 on a text that is none.
+    /// Takes a number as the Italian locale writes it. Raises error 13 for a text that is not a number.
     void SetData(TextView number);
     double Data(int row, int column) const;
 

@@ -16,7 +16,7 @@ namespace zelvia
 double Val(TextView text);
 
 /// Reads a number as the Italian locale writes it, comma for the decimals and dots for the thousands.
-/// Raises error 13 on a text that is no number.
+/// Raises error 13 for a text that is not a number.
 double LocaleDouble(TextView text);
 f32 LocaleSingle(TextView text);
 
@@ -31,7 +31,7 @@ Text Str(i32 number);
 Text Str(double number);
 
 /// A number in a pattern of 0 (a digit always written), # (a digit written if needed), a comma between them (thousands
-/// dots) and a point (decimal comma); any other character stands as it is. Halves round away from zero.
+/// dots) and a point (decimal comma); any other character is copied unchanged. Halves round away from zero.
 Text Format(double number, TextView pattern);
 Text Format(i32 number, TextView pattern);
 Text Format(i16 number, TextView pattern);
@@ -48,10 +48,10 @@ Text Mid(TextView text, std::ptrdiff_t start);
 Text Left(TextView text, std::ptrdiff_t length);
 Text Right(TextView text, std::ptrdiff_t length);
 
-/// The position of the first `part` in `text`, 0 when not found; case matters.
+/// The position of the first `part` in `text`, 0 when not found; case-sensitive.
 std::ptrdiff_t InStr(TextView text, TextView part);
 
-/// The position of the last `part` in `text`, 0 when not found; case matters.
+/// The position of the last `part` in `text`, 0 when not found; case-sensitive.
 std::ptrdiff_t InStrRev(TextView text, TextView part);
 
 /// Removes blanks, and only blanks, at both ends.
@@ -60,10 +60,10 @@ Text Trim(TextView text);
 /// Not empty once trimmed.
 bool CampoNonVuoto(TextView text);
 
-/// Compares without regard to case, accented letters included: below 0, 0 or above 0.
+/// Case-insensitive comparison, accented letters included: below 0, 0 or above 0.
 int TextCompare(TextView a, TextView b);
 
-/// True when the two texts are equal but for case.
+/// True when the two texts are equal, ignoring case.
 bool SameText(TextView a, TextView b);
 
 } // namespace zelvia

@@ -43,7 +43,7 @@ bool Exists(const fs::path& path)
     return fs::exists(fs::symlink_status(path, ignored));
 }
 
-/// The single entry of `folder` that is `name` but for case; `name` itself when there is none or more than one.
+/// The single entry of `folder` that equals `name`, ignoring case; `name` itself when there is none or more than one.
 fs::path EntryIgnoringCase(const fs::path& folder, const fs::path& name)
 {
     const Text wanted = FromUtf8(Utf8Of(name));
@@ -75,7 +75,7 @@ fs::path ResolveCase(const fs::path& path)
     throw ErroreRunTime(folderExists && mode == OpenMode::Input ? Errore::FileNonTrovato : Errore::PercorsoNonTrovato);
 }
 
-/// True for a regular file, and for one of which the system can't tell what it is.
+/// True for a regular file, and for one whose type the system can't tell.
 bool MayBeRegular(const fs::directory_entry& entry)
 {
     std::error_code failed;
@@ -102,7 +102,8 @@ std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
     return names;
 }
 
-/// Syncs an open file or folder; the errno of a failure, else 0. What has nothing to sync, as a device, is no failure.
+/// Syncs an open file or folder; the errno of a failure, else 0. Something that can't be synced, such as a device, is
+/// not a failure.
 int SyncFailure(int descriptor)
 {
     while (::fsync(descriptor) != 0) {
@@ -134,7 +135,7 @@ void SetProgramFolder(TextView folder)
 
 fs::path NativePath(TextView path)
 {
-    // The system would take such a name for the one that ends there.
+    // The system would cut such a name off there.
     if (path.find('\0') != TextView::npos) {
         throw ErroreRunTime(Errore::NomeFileNonValido);
     }
@@ -266,7 +267,7 @@ std::vector<Text> FilesIn(TextView folder)
 {
     std::error_code failed;
     std::vector<Text> names = VisibleFiles(folder, failed);
-    // Files that can't be seen must not be taken for files that are not there, or a first set is written over them.
+    // Files that can't be read must not count as missing, or a first set would overwrite them.
     if (failed && failed.value() != ENOENT && failed.value() != ENOTDIR) {
         throw ErroreRunTime(ErrorOfErrno(failed.value()));
     }

@@ -16,12 +16,12 @@ namespace zelvia
 const Text& ProgramFolder();
 void SetProgramFolder(TextView folder);
 
-/// A path of the system, in backslash form, as the machine takes it. A name that is absent falls back to the single
-/// entry of its folder that differs from it only in case. Raises error 76 for the empty path and for a name right
-/// under the root, which is what a path becomes whose folder is unknown; 52 for a path with a character 0.
+/// The native form of a path in backslash form. A name that is absent falls back to the single
+/// entry of its folder that differs from it only in case. Raises error 76 for the empty path and for a name directly
+/// under the root, which is what a path with an unknown folder becomes; 52 for a path with a NUL character.
 std::filesystem::path NativePath(TextView path);
 
-/// A path of the machine (UTF-8) in backslash form.
+/// The backslash form of a native path (UTF-8).
 Text SystemPath(std::string_view native);
 
 /// `path` as the disk spells it: what is absent falls back as in NativePath, and stays as it is when nothing is there.
@@ -47,25 +47,25 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 /// was there.
 FileHandle OpenFile(TextView path, OpenMode mode, std::filesystem::path* newIn = nullptr);
 
-/// Returns when what was written to the file is on the disk. What can't be synced, as a device, counts as written.
-/// Raises error 61 when the disk turns out to be full, 57 on another failure.
+/// Returns when what was written to the file is on the disk. Something that can't be synced, such as a device, counts
+/// as written. Raises error 61 when the disk turns out to be full, 57 on another failure.
 void SyncFile(std::FILE* file);
 
-/// The same for the names in a folder, behind the making of a file in it. A folder that may not be read is left alone.
+/// The same for the names in a folder, after a file was created in it. A folder that may not be read is left alone.
 void SyncNames(const std::filesystem::path& folder);
 
-/// The error number of a failed call of the system on a file: 52, 57, 61, 67, 70, 75 or 76.
+/// The error number of a failed system call on a file: 52, 57, 61, 67, 70, 75 or 76.
 int ErrorOfErrno(int errnoValue);
 
 /// The name of the folder at `path` if there is one, else the empty text.
 Text FindFolder(TextView path);
 
 /// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent. One
-/// that the system can't look at counts as a file.
-/// Raises error 75 for a folder that may not be read, and the others of ErrorOfErrno.
+/// whose type the system can't tell counts as a file. Raises error 75 for a folder that may not be read, and the others
+/// of ErrorOfErrno.
 std::vector<Text> FilesIn(TextView folder);
 
-/// The same of a folder that has to be there. Raises error 76 when it is absent or no folder, 75 without permission.
+/// The same for a folder that must exist. Raises error 76 when it is absent or not a folder, 75 without permission.
 std::vector<Text> ReadFolder(TextView folder);
 
 /// Deletes a file. Raises error 53 when it is absent, 75 for a folder or without permission.

@@ -13,7 +13,7 @@ enum class MsgButtons { OK, OKCancel, YesNoCancel };
 enum class MsgIcon { None, Critical, Exclamation, Information };
 enum class MsgAnswer { OK, Cancel, Yes, No };
 
-/// What a message box shows. Boxes have no title of their own, but for the two of the help commands.
+/// What a message box shows. Boxes have no title of their own, except the two of the help commands.
 struct MsgRequest {
     Text text;
     MsgButtons buttons = MsgButtons::OK;
@@ -26,7 +26,7 @@ MsgAnswer MsgBox(TextView text, MsgButtons buttons, MsgIcon icon = MsgIcon::None
 
 using MsgBoxHandler = std::function<MsgAnswer(const MsgRequest&)>;
 
-/// Puts `handler` in charge of all message boxes and returns the one it replaces. Before the windows are up no handler
+/// Makes `handler` answer all message boxes and returns the one it replaces. Before the windows are up no handler
 /// is set: the text then goes to the error stream and the answer is Cancel, or OK where that is the only button.
 MsgBoxHandler SetMsgBoxHandler(MsgBoxHandler handler);
 

@@ -13,8 +13,8 @@
 namespace zelvia
 {
 
-/// A signed integer whose arithmetic ends at the range of its width: a result beyond it raises error 6 at that
-/// operation. An i16 and an i32 together are carried out as i32; a plain integer takes the width of its partner.
+/// A signed integer whose arithmetic is limited to the range of its width: a result beyond it raises error 6 at that
+/// operation. An operation on an i16 and an i32 is done as i32; a plain integer takes the width of its partner.
 template <std::signed_integral Rep>
 class CheckedInteger
 {
@@ -66,7 +66,7 @@ using i32 = CheckedInteger<std::int32_t>;
 using f32 = float;
 static_assert(std::numeric_limits<f32>::is_iec559 && sizeof(f32) == 4, "singles are IEEE 32-bit floats");
 
-/// Rounds to the nearest integer, ties to the even one, as storing a float in an i16 or i32 does.
+/// Rounds to the nearest integer, ties to even, as storing a float in an i16 or i32 does.
 /// Raises error 6 when the result is out of the target's range.
 template <typename Target>
 Target RoundTo(double value)

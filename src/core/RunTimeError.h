@@ -41,7 +41,7 @@ inline constexpr int Annullato = 32755;
 class ErroreRunTime : public std::exception
 {
 public:
-    /// Takes the standing description of the number.
+    /// Uses the number's standard description.
     explicit ErroreRunTime(int number);
     ErroreRunTime(int number, Text description) : number_(number), description_(std::move(description)) {}
 
@@ -57,7 +57,7 @@ private:
 /// The description that goes with an error number.
 Text DescriptionOf(int number);
 
-/// The exception in flight as a run-time error: itself, 7 for exhausted memory, 51 for anything else.
+/// The current exception as a run-time error: itself, 7 for exhausted memory, 51 for anything else.
 /// To be called from a catch block only.
 ErroreRunTime CurrentError();
 
@@ -84,8 +84,8 @@ void Trap(TextView title, Block&& block)
 }
 
 /// Runs a block that yields a value under its error trap: after a run-time error, which goes to `onError`, the value is
-/// the fallback. A block that assigned to a variable outside instead would be at the optimiser's mercy: GCC 12 drops
-/// `value = fallback` in front of `value = Call()`, though a call that throws assigns nothing.
+/// the fallback. A block that assigns to an outer variable instead could be miscompiled: GCC 12 drops `value =
+/// fallback` before `value = Call()`, though a call that throws assigns nothing.
 template <typename Value, typename Block, typename OnError>
 Value TrapValueWith(Value fallback, Block&& block, OnError&& onError)
 {
@@ -105,7 +105,7 @@ Value TrapValue(TextView title, Value fallback, Block&& block)
                          [&](const ErroreRunTime& error) { ReportError(title, error); });
 }
 
-/// The title of the routines that report under no name of their own.
+/// The title of reports by routines that have no name of their own.
 inline constexpr TextView kBareTitle = "ERRORE : ";
 
 } // namespace zelvia

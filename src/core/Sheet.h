@@ -15,7 +15,7 @@ namespace zelvia
 
 enum class Orientation { Portrait, Landscape };
 
-/// A face by its name, its size in points.
+/// A font: its name, and its size in points.
 struct SheetFont {
     Text name;
     int size;
@@ -59,7 +59,7 @@ struct SheetBox {
 struct SheetPicture {
     int x;
     int y;
-    std::function<void()> copy; ///< Puts it there, when the printer has come to it; empty when it is there already.
+    std::function<void()> copy; ///< Puts it there when the printer reaches it; empty when it is there already.
 
     friend bool operator==(const SheetPicture& a, const SheetPicture& b) { return a.x == b.x && a.y == b.y; }
 };
@@ -91,7 +91,7 @@ public:
     void Print(int x, int y, TextView text);
     /// A date in the short form.
     void Print(int x, int y, CalendarDate date);
-    /// A number with the blank of its sign in front and a blank behind.
+    /// A number with a blank or minus sign before it and a blank after it.
     void PrintNumber(int x, int y, i32 number);
     void Line(int x1, int y1, int x2, int y2) { operations_.emplace_back(SheetLine{x1, y1, x2, y2}); }
     void Box(int x1, int y1, int x2, int y2) { operations_.emplace_back(SheetBox{x1, y1, x2, y2}); }
@@ -112,7 +112,7 @@ private:
     std::vector<SheetOperation> operations_;
 };
 
-/// The column of a number that begins at `twoDigits` from 10 on: one cell further right below, so the digits line up.
+/// The column of a number: `twoDigits` from 10 on, one cell further right below 10, so that the digits line up.
 /// An empty box counts as one digit.
 int DigitColumn(TextView text, int twoDigits);
 

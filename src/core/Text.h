@@ -15,7 +15,7 @@ using Text = std::string;
 using TextView = std::string_view;
 
 /// Unicode code points of the bytes 0x80..0x9F of Windows-1252 (Microsoft's code page table). The five unassigned
-/// bytes 81, 8D, 8F, 90 and 9D stand for the control character of the same number, so that they survive a round trip.
+/// bytes 81, 8D, 8F, 90 and 9D map to the control character of the same number, so that they survive a round trip.
 inline constexpr std::array<char32_t, 32> kWindows1252High = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,

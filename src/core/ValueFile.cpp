@@ -14,16 +14,16 @@ namespace zelvia
 namespace
 {
 
-// Large enough for few calls, and small enough to stay in the fast memory. The inputs of the fuzzers are to meet the
-// edge between two pieces all the same.
+// Large enough for few calls, and small enough to stay in the cache. A fuzzer's inputs are short and must still cross
+// the boundary between two chunks.
 #ifdef ZELVIA_FUZZ
 constexpr std::size_t kChunk = 1 << 9;
 #else
 constexpr std::size_t kChunk = 1 << 15;
 #endif
 
-// Far more than any text of a diary. A file without end, or one with a hole, must not fill the memory. Each reading on
-// doubles the buffer, so that it ends at twice as much.
+// Far more than any text of a diary. A file without end, or one with a hole, must not fill the memory. Each further
+// read doubles the buffer, which thus ends at twice that size.
 constexpr std::size_t kLongestValue = 1 << 26;
 
 bool IsBlank(char c)
@@ -44,8 +44,8 @@ TextView TrimBlanks(TextView text)
     return text;
 }
 
-/// Whether a number that no double can hold is one of those too large; the others are too small. Its first digit above
-/// 0 and its exponent tell.
+/// Whether a number beyond the range of a double is too large rather than too small, by its first digit above 0 and its
+/// exponent.
 bool IsTooLarge(TextView number)
 {
     const auto mark = std::min(number.find_first_of("eE"), number.size());
@@ -66,7 +66,7 @@ bool IsTooLarge(TextView number)
     return exponent > first - point;
 }
 
-/// A number that is no plain run of digits: a fraction, an exponent, a sign in front.
+/// A number that is not just digits: a fraction, an exponent, a sign in front.
 double ParseNumber(TextView text)
 {
     const bool plus = text.starts_with('+');
@@ -210,7 +210,7 @@ void ValueReader::SkipBlanks()
     }
 }
 
-/// Takes the comma or line end that stands here, if one does.
+/// Skips a comma or line end at the current position, if there is one.
 void ValueReader::SkipSeparator()
 {
     if (AtEnd() || !EndsPlainValue(buffer_[position_])) {
@@ -222,8 +222,8 @@ void ValueReader::SkipSeparator()
     }
 }
 
-/// Reads on in a value of which so many bytes are in the buffer; false at the end of the file. Raises `tooLong` instead
-/// when it is longer than any value.
+/// Reads more of a value of which `length` bytes are in the buffer; false at the end of the file. Raises `tooLong`
+/// instead when it is longer than any value.
 bool ValueReader::MoreOfValue(std::size_t length, int tooLong)
 {
     if (length > kLongestValue) {

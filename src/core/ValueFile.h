@@ -42,8 +42,8 @@ public:
     void Write(i32 number) { WriteDigits(number.value()); }
     void Write(CalendarDate date);
 
-    /// Brings everything to the disk, a new file's name too, and closes the file. A writer destroyed without it leaves
-    /// the file as far as it was written.
+    /// Syncs everything to the disk, a new file's name included, and closes the file. A writer destroyed without it
+    /// leaves the file as far as it was written.
     void Close();
 
 private:
@@ -52,7 +52,7 @@ private:
     void Append(const char* bytes, std::size_t count);
     void Flush();
 
-    std::filesystem::path newIn_; ///< The folder that the file is new in, else empty.
+    std::filesystem::path newIn_; ///< The folder in which the file was created, else empty.
     FileHandle file_;
     std::array<char, 1 << 16> buffer_;
     std::size_t used_ = 0;

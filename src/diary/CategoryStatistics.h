@@ -33,7 +33,7 @@ inline constexpr std::array<Categoria, 12> kTutteLeCategorie = {
     Categoria::Fondo,       Categoria::Tipo,      Categoria::Stagione, Categoria::Meteo,
     Categoria::Temperatura, Categoria::Corridori, Categoria::Peso,     Categoria::Ripetizioni};
 
-/// What one category's statistic has of its own.
+/// What is specific to one category's statistic.
 struct Statistica {
     TextView titolo;                                     ///< The word that names the category.
     TextView errore;                                     ///< Title of the statistic's error report.
@@ -47,7 +47,7 @@ const Statistica& StatisticaDi(Categoria categoria);
 /// By its title, case-sensitive; null when there is none.
 const Statistica* StatisticaDi(TextView titolo);
 
-/// The most values that a statistic can tell apart.
+/// The largest number of different values in a statistic.
 inline constexpr int kMaxCategorie = 60;
 /// Slot 0 is never written.
 template <typename T>
@@ -65,7 +65,7 @@ public:
 namespace Module1
 {
 
-// The result of the last statistic, ranked by falling count in the slots from 1 on.
+// The result of the last statistic, in descending order of count in the slots from 1 on.
 extern Text TitoloStatistica;
 extern PerCategoria<Text> NomeCategoria;
 extern PerCategoria<i16> ContaCategoria;
@@ -75,9 +75,9 @@ extern PerCategoria<i16> ValoreCategoria; ///< The numeric statistics use it in 
 void AzzeraStatistica();
 
 /// Counts each value of the days 1..GiornoCorrente and ranks them into the arrays above; of equal counts the value seen
-/// first goes first. Texts are told apart without regard to case and stand as first spelt. Values beyond the 60th are
-/// left out. TitoloStatistica stays, ValoreCategoria too unless the values are numbers.
-/// Raises error 6 for a number above 32767; the slots then hold the counts so far, unranked.
+/// first comes first. Texts are compared ignoring case and kept as first spelt. Values beyond the 60th are left out.
+/// TitoloStatistica stays, ValoreCategoria too unless the values are numbers. Raises error 6 for a number above 32767;
+/// the slots then hold the counts so far, unranked.
 void ContaValori(const Statistica& statistica);
 
 /// Writes the title, and a line for each slot that has a name.

@@ -17,7 +17,7 @@ Text TestoKm(const RecordGiorno& giorno);
 /// line the rows up.
 Text TestoRipetizioni(const RecordGiorno& giorno);
 
-// The numbers of such a text, each read from its piece as Val does. All raise error 6 when the number is no i16.
+// The numbers in such a text, each read as Val does. All raise error 6 for a number beyond an i16.
 
 /// Before the first ",", 0 without one.
 i16 PezzoKm(TextView testo);

@@ -26,7 +26,7 @@ constexpr std::array<TextView, 8> kRaceLabels = {"GARA :  ",  "Località "_t, "P
                                                  "Lunghezza", "Risultato",   "Categoria",    "Risultato"};
 constexpr std::array<TextView, 4> kCounterLabels = {"Giorno dell'anno", "Allenamenti", "Km percorsi", "Gare"};
 
-/// Texts one under the other.
+/// Texts, one below the other.
 void PrintColumn(Sheet& sheet, int x, int firstLine, const auto& texts)
 {
     int y = firstLine;

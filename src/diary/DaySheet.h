@@ -9,7 +9,7 @@
 namespace zelvia
 {
 
-/// What the page shows of a day, as it stands on its labels.
+/// What the page shows of a day: the texts of its labels.
 struct DaySheetTexts {
     CalendarDate data;
     /// From the route down to the weight.
@@ -17,7 +17,7 @@ struct DaySheetTexts {
     Text ripetizioniVolte;
     Text ripetizioniDistanza;
     Text ripetizioniQuante;
-    /// True when the page shows the race of the day in the place of the active table.
+    /// True when the page shows the race of the day instead of the active table.
     bool conGara = false;
     Text nomeTabella;
     /// Distance, time, average, pace, terrain, repetitions.

@@ -7,8 +7,8 @@
 namespace zelvia::Module1
 {
 
-/// Writes days 1..366 of Giorni to `path`, 136 values a day. Reports its own failure, under "ERRORE : "; the file then
-/// stays as far as it was written.
+/// Writes days 1..366 of Giorni to `path`, 136 values a day. Reports its own failure, under "ERRORE : "; the file is
+/// then left as far as it was written.
 void SalvaDiario(TextView path);
 
 /// Reads `path` into days 1..366 of Giorni, in place and unchecked. A missing file is silent and changes nothing; any

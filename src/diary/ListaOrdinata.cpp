@@ -144,7 +144,7 @@ void ListaOrdinata::RiempiLista()
 void ListaOrdinata::RiempiListalst()
 {
     Trap("RiempiListalst - ERRORE : ", [this] {
-        // An average of any other length leaves the padded text of the line before.
+        // An average of any other length leaves the padded text of the previous line.
         Text media;
         for (int i = 1; i <= kCapacity && VociGiorno[i] != 0; ++i) {
             const Text posto = Text(i < 10 ? "  " : i < 100 ? " " : "") + Str(i32(i)) + Text("°"_t);

@@ -10,7 +10,7 @@
 namespace zelvia
 {
 
-/// A list box that takes a classification, a line an entry.
+/// A list box that shows a classification, one line per entry.
 class CasellaTempi
 {
 public:
@@ -20,7 +20,7 @@ public:
     virtual void Seleziona(int indice) = 0;
 };
 
-/// A list view that takes a classification, four columns an entry.
+/// A list view that shows a classification, four columns per entry.
 class VistaTempi
 {
 public:
@@ -29,7 +29,7 @@ public:
 };
 
 /// A list of up to 366 runs that is filled a day at a time, sorted by time taken and written out as a classification.
-/// A new one is made for each showing: CreaLista; for each run LOgiorno, LOtempo, LOmedia, LOdata, Trasforma and
+/// A new one is made each time it is shown: CreaLista; for each run LOgiorno, LOtempo, LOmedia, LOdata, Trasforma and
 /// Incrementa; then Ordina and the writing.
 class ListaOrdinata
 {
@@ -42,8 +42,8 @@ public:
     void LOmedia(TextView media) { MediaCella = media; }
     void LOdata(CalendarDate data) { DataCella = data; }
 
-    /// Takes the time of the entry apart. Hours and minutes without a colon of their own keep those of the entry
-    /// before; only the seconds are always set.
+    /// Splits the entry's time. Hours and minutes without a colon of their own keep those of the previous entry; only
+    /// the seconds are always set.
     void Trasforma();
 
     /// Adds the entry. Raises error 9 beyond 366 entries.

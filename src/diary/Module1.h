@@ -27,7 +27,7 @@ inline i16& FlagTabellaSalvata = session.FlagTabellaSalvata;
 inline i16& IndiceTabella = session.IndiceTabella;
 inline Text& PercorsoCorrente = session.PercorsoCorrente;
 
-/// Gives all of the state above, but for Giorni, its value at start.
+/// Resets all of the state above, except Giorni, to its value at start.
 void AzzeraStato();
 
 /// Fills Giorni with the blank year of the system date's year; 366 places in a common year too, the last one then being

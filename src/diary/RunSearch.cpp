@@ -43,14 +43,14 @@ bool IsSought(const RecordGiorno& giorno, const CondizioniRicerca& condizioni, c
     if ((periodo.inizio && giorno.Data < *periodo.inizio) || (periodo.fine && giorno.Data > *periodo.fine)) {
         return false;
     }
-    // A day with no distance is no run.
+    // A day with no distance is not a run.
     return std::all_of(
                kCondizioni.begin(), kCondizioni.end(),
                [&](const CondizioneCategoria& condizione) { return Fulfils(giorno, condizioni, condizione); }) &&
            giorno.Km + giorno.Metri > 0;
 }
 
-/// Writes over the columns of a line from `column` on, which counts from 1; the line keeps its length.
+/// Overwrites the columns of a line from `column` on, counted from 1; the line keeps its length.
 void WriteAt(Text& line, std::size_t column, TextView text)
 {
     const std::size_t from = column - 1;

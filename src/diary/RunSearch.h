@@ -16,7 +16,7 @@
 namespace zelvia
 {
 
-/// The conditions that a run is to fulfil. A date whose day is 0, an empty text and a number of 0 are none.
+/// The conditions that a run must meet. A date whose day is 0, an empty text and a number of 0 set no condition.
 struct CondizioniRicerca {
     i16 GiornoInizio;
     i16 MeseInizio;
@@ -45,7 +45,7 @@ struct CondizioneCategoria {
     i16 CondizioniRicerca::*numero = nullptr;
 };
 
-/// The twelve of them, in the order of their buttons.
+/// All twelve, in the order of their buttons.
 inline constexpr std::array<CondizioneCategoria, 12> kCondizioni = {{
     {Categoria::Percorso, &CondizioniRicerca::CercaPercorso},
     {Categoria::Lunghezza, &CondizioniRicerca::CercaLunghezza},
@@ -76,8 +76,8 @@ struct EsitoRicerca {
 };
 
 /// Finds the runs among the days 1..`ultimo` and adds them up; the sums are not carried over yet. `totali` are those of
-/// the search before, emptied. A time or an average that can't be read is told and left out; a period that is no date
-/// ends the search.
+/// the previous search, emptied. A time or an average that can't be read is reported and left out; a period that is not
+/// a date ends the search.
 EsitoRicerca CercaCorse(const BoundedArray<RecordGiorno, 0, 366>& giorni, i16 ultimo,
                         const CondizioniRicerca& condizioni, const TotaliRicerca& totali);
 

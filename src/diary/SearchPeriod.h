@@ -20,7 +20,7 @@ inline constexpr std::size_t kCampi = 6;
 
 using TestiPeriodo = std::array<Text, CampoPeriodo::kCampi>;
 
-/// The highest value of a box, and the message beyond it.
+/// The highest value of a box, and the message for a higher one.
 struct LimitePeriodo {
     int massimo;
     TextView messaggio;
@@ -28,7 +28,7 @@ struct LimitePeriodo {
 
 LimitePeriodo LimiteDi(CampoPeriodo::Campo campo);
 
-/// What is put right before a search, and told.
+/// A correction made before a search, and its message.
 struct CorrezionePeriodo {
     TextView messaggio;
     CampoPeriodo::Campo campo;
@@ -38,15 +38,15 @@ struct CorrezionePeriodo {
 };
 
 struct ControlloPeriodo {
-    std::vector<CorrezionePeriodo> correzioni; ///< In the order in which they are told.
-    bool invertito = false;                    ///< The end lies before the start: there is to be no search.
+    std::vector<CorrezionePeriodo> correzioni; ///< In the order in which they are reported.
+    bool invertito = false;                    ///< The end is before the start: nothing is searched.
 };
 
 inline constexpr TextView kPeriodoInvertito = "DATA FINE MINORE DELLA DATA INIZIO                 ";
 
-/// Checks the dates of a search. A date counts as begun when any of its boxes holds 1 or more; the 29th of February is
-/// none in any year, and the earliest year is 2007. The years take no part in the order of the two dates, which is
-/// tested only when there is a day of the start. Raises error 6 on a number beyond a double.
+/// Checks the dates of a search. A date counts as begun when any of its boxes holds 1 or more; 29 February is invalid
+/// in every year, and the earliest year is 2007. The order of the two dates is tested without their years, and only
+/// when the start has a day. Raises error 6 on a number beyond a double.
 ControlloPeriodo ControllaPeriodo(TestiPeriodo testi);
 
 } // namespace zelvia

@@ -16,7 +16,7 @@ namespace
 constexpr int kPerMinute = 60; ///< Seconds, and minutes to the hour.
 constexpr int kPerKm = 1000;   ///< Metres.
 
-/// The first N - 1 pieces of a text that colons part, and what is left as the last, each as a number.
+/// The first N - 1 pieces of a text divided by colons, and the rest as the last, each as a number.
 /// Raises error 5 when a piece is longer than three characters.
 template <std::size_t N>
 std::array<i16, N> NumbersOf(TextView text)

@@ -39,7 +39,7 @@ std::vector<Text>& VociDi(ListaScelta lista);
 /// True when one of the entries is that text, whatever its case.
 bool Holds(const std::vector<Text>& voci, TextView testo);
 
-/// Writes the entries to `path`, a line each. Raises what ValueWriter raises.
+/// Writes the entries to `path`, one per line. Raises what ValueWriter raises.
 void ScriviLista(TextView path, const std::vector<Text>& voci);
 
 /// Reads `path` to its end into the entries, whatever they are; they are emptied once the file is open. Raises what

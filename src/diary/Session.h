@@ -26,7 +26,7 @@ struct Session {
     Text NomeTabellaAttiva; ///< Full path of the active table, "" for none.
     Text NomeTabellaAperta; ///< Full path of the table to open in the editor.
     i16 FlagTabellaSalvata; ///< 1 when the table's save dialog was cancelled.
-    i16 IndiceTabella;      ///< Row of the active table to be met next, 1..32.
+    i16 IndiceTabella;      ///< Row of the active table to be reached next, 1..32.
     Text PercorsoCorrente;  ///< Route chosen last in the list of routes.
     i16 GiorniCorseAnno;    ///< Runs of the year up to the day on the page.
     i16 GareAnno;

@@ -17,7 +17,7 @@ constexpr int kTitleSize = 12;
 constexpr int kTextSize = 10;
 const SheetFont kDateFont{.name = "Times New Roman", .size = kDateSize};
 
-/// A column of pairs: what it is upright, its value in italics.
+/// A column of pairs: the name upright, the value in italics.
 void PrintPair(Sheet& sheet, int x, int valueX, int y, TextView label, TextView value)
 {
     sheet.SetFontItalic(false);
@@ -78,7 +78,7 @@ void PrintRun(Sheet& sheet, int y, const Text& riga)
     sheet.Print(30, y, columns(33, 42));
 }
 
-/// Prints the runs and returns the line that the sheet has come to.
+/// Prints the runs and returns the line reached on the sheet.
 int PrintRuns(Sheet& sheet, const std::vector<Text>& righe)
 {
     constexpr int headLine = 20;

@@ -19,7 +19,7 @@ struct StatisticSheetSlot {
     i16 conta;
 };
 
-/// A number as the sheet of a statistic shows it: with the blank of its sign and a blank behind.
+/// A number as the sheet of a statistic shows it: with a blank or minus sign before it and a blank after it.
 Text StatisticSheetNumber(i16 valore);
 
 /// The sheet of a statistic: up to 60 slots, in two columns of 30.

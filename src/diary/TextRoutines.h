@@ -13,10 +13,10 @@ Text ConPuntoMigliaia(TextView testo);
 /// Drops the first dot of the text if there is one.
 Text SenzaPuntoMigliaia(TextView testo);
 
-/// Takes each A-Z that follows an ASCII letter to lower case, in place, and returns the text.
+/// Converts each A-Z that follows an ASCII letter to lower case, in place, and returns the text.
 Text ControlloMaiuscole(Text& testo);
 
-/// What becomes of the text of a grid's box when the box is left.
+/// How the text of a grid's box is formatted when the box is left.
 enum class Formato { Nessuno, DueCifre, TreCifre, Maiuscole, Migliaia };
 
 /// The text in one of the formats; an empty one stays empty.

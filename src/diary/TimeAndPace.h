@@ -22,12 +22,12 @@ enum class Calcolo { Niente = 0, TempoEMedia = 1, SoloTempo = 2 };
 
 struct EsitoTempi {
     Calcolo calcolo;
-    bool azzera; ///< Time and average of the day are to be blanked.
-    Text avviso; ///< A warning to be shown, or empty.
+    bool azzera; ///< Time and average of the day must be blanked.
+    Text avviso; ///< A warning to show, or empty.
 };
 
-/// Decides what can be computed. The end time counts as given when any part of it is 1 or more; the start time plays no
-/// part. A warning does not change the result.
+/// Decides what can be computed. The end time counts as given when any part of it is 1 or more; the start time is
+/// ignored. A warning does not change the result.
 EsitoTempi ControllaTempi(bool distanza, const Orario& inizio, const Orario& fine);
 
 /// `fine` less `inizio` within one day, with borrows; past midnight the hours come out negative.
@@ -36,9 +36,9 @@ Orario TempoTrascorso(const Orario& inizio, const Orario& fine);
 /// Hours as plain digits, minutes and seconds with two.
 Text TestoTempo(const Orario& tempo);
 
-/// The average per kilometre from the caption of a distance such as 10,500 and a time taken, through the single
-/// precision of its steps; nothing when it is over 60 minutes. Raises error 13 for a caption that is no number, 6 or 11
-/// when the time or the distance is 0.
+/// The average per kilometre from the caption of a distance such as 10,500 and a time taken, computed in single
+/// precision; nothing when it exceeds 60 minutes. Raises error 13 for a caption that is not a number, 6 or 11 when the
+/// time or the distance is 0.
 std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo);
 
 } // namespace zelvia

@@ -46,7 +46,7 @@ Text FolderOfDiary(TextView path)
     if (word == 0) {
         return NomeSenzaEstensione(path);
     }
-    // The word and the backslash behind it.
+    // The word and the backslash after it.
     const auto name = word + Len(kDiaryFolder) + 1;
     return Left(path, word - 1) + Mid(path, name, InStr(path, ".") - name);
 }

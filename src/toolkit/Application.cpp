@@ -32,7 +32,7 @@ namespace zelvia
 namespace
 {
 
-// The title of the boxes. It is not made Qt's display name, which would follow the caption of every window.
+// The title of the boxes. It is not set as Qt's display name, which would be appended to the caption of every window.
 constexpr TextView kProgramName = "Zelvia";
 
 QMessageBox::StandardButtons QtButtons(MsgButtons buttons)
@@ -111,7 +111,8 @@ bool Application::TakeInstanceLock()
     ReleaseInstanceLock();
     QString path = ToQString(ProgramFolder() + "\\.zelvia.lock");
     auto lock = std::make_unique<InstanceLock>(path.replace(QLatin1Char('\\'), QLatin1Char('/')));
-    // Who looks whether the diary is open holds the lock for a moment, and a run that has just begun can't answer yet.
+    // A run that checks whether the diary is open holds the lock for a moment, and one that has just started can't
+    // answer yet.
     constexpr std::chrono::milliseconds pause(10);
     for (int tries = 20; !lock->Take(); --tries) {
         if (lock->Ask() || tries == 0) {

@@ -15,8 +15,8 @@
 namespace zelvia
 {
 
-/// The application under the toolkit's rules: each event passes the focus controller first, and nothing that is thrown
-/// while it is handled gets any further; message boxes and the screen's pointer are Qt's, Qt's own texts are Italian.
+/// The application under the toolkit's rules: each event passes the focus controller first, and no exception gets past
+/// the handling of an event; message boxes and the screen's pointer are Qt's, Qt's own texts are Italian.
 class Application : public QApplication
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
 
     static Application& Instance() { return *static_cast<Application*>(QCoreApplication::instance()); }
 
-    /// Takes the lock of the program's folder for the life of the application, giving up one taken before. False when
+    /// Takes the lock of the program's folder for the life of the application, releasing an earlier one. False when
     /// another run holds it, which is then asked for its window; a folder that can't be written counts as free.
     bool TakeInstanceLock();
     void ReleaseInstanceLock() { lock_.reset(); }
@@ -35,12 +35,12 @@ public:
     /// Shows the program's window, for a run that has ended because this one holds the lock.
     std::function<void()> ShowAgain;
 
-    /// What F1 does in a window that has no menu entry of its own for it; the window's name goes with it.
+    /// What F1 does in a window that has no menu entry of its own for it; it is passed the window's name.
     std::function<void(const QString& window)> HelpKey;
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Takes the exception in flight, wherever it was thrown, and reports it once the event at hand is done.
+    /// Takes the current exception, wherever it was thrown, and reports it after the current event.
     void ReportLater() noexcept { lastCatch_.Take(nullptr, QEvent::None); }
 
 private:

@@ -19,7 +19,7 @@ namespace
 constexpr double kPixelsPerMetre = 96 / 0.0254;
 constexpr int kPictureScale = 2; ///< Pixels of the copied picture to a logical one.
 
-/// Bars are told by name and count; a point's label is its value.
+/// Bars are described by name and count; a point's label is its value.
 Text Spoken(const ChartData& data)
 {
     Text spoken;

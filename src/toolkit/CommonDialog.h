@@ -42,7 +42,7 @@ enum class FileDialogMode { Open, Save };
 /// Returns the chosen path in backslash form, or nothing on Cancel.
 using FileDialogHandler = std::function<std::optional<Text>(const CommonDialog&, FileDialogMode)>;
 
-/// Puts `handler` in charge of all file dialogs; an empty one puts the toolkit's own back.
+/// Makes `handler` answer all file dialogs; an empty one restores the toolkit's own.
 void SetFileDialogHandler(FileDialogHandler handler);
 
 } // namespace zelvia

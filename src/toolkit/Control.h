@@ -9,7 +9,7 @@
 namespace zelvia
 {
 
-/// What every control of a window has beside its widget: a visibility and a focus that follow the rules of
+/// What every control of a window has besides its widget: a visibility and a focus that follow the rules of
 /// FocusController. A control's widget class derives from both.
 class Control
 {
@@ -47,7 +47,7 @@ private:
     bool visible_ = true;
 };
 
-/// The control that `widget` is or lies in, or null.
+/// The control that is or contains `widget`, or null.
 Control* ControlOf(QWidget* widget);
 
 } // namespace zelvia

@@ -15,7 +15,7 @@ namespace
 
 int depth = 0;
 
-/// The window that a box stands over: the active one or, while the display has none because another box has just
+/// The window that a box is shown over: the active one or, while the display has none because another box has just
 /// closed, the one that holds the focus.
 QWidget* BoxOwner()
 {
@@ -41,7 +41,7 @@ Routine::~Routine()
     try {
         FocusController::Instance().Schedule();
     } catch (...) {
-        // The next press, key or change of focus tells what waits.
+        // The next press, key or change of focus reports what is pending.
         Application::Instance().ReportLater();
     }
 }

@@ -10,8 +10,8 @@
 namespace zelvia
 {
 
-/// Alive while a routine of the program runs. No change of focus is told and no timer ticks meanwhile, nested event
-/// loops of boxes and dialogs included.
+/// Alive while a routine of the program runs. No change of focus is reported and no timer ticks meanwhile, not even in
+/// the event loops of boxes and dialogs.
 class Routine
 {
 public:
@@ -37,8 +37,8 @@ private:
     int depth_;
 };
 
-/// Alive while a message box or a dialog of the program's own is up. What a change of focus has hidden so far is
-/// hidden, and afterwards the window that was active is so again.
+/// Alive while a message box or a dialog of the program's own is up. Controls hidden by a change of focus in progress
+/// disappear from the screen first, and afterwards the window that was active is active again.
 class BoxUp
 {
 public:
@@ -55,8 +55,8 @@ private:
     QPointer<QWidget> owner_;
 };
 
-/// Runs the handler of an event, if there is one. An error that no trap of its own took is reported under the bare
-/// title; nothing leaves this function.
+/// Runs the handler of an event, if there is one. An error that no trap has caught is reported under the bare title; no
+/// exception leaves this function.
 void Fire(const std::function<void()>& handler);
 
 } // namespace zelvia

@@ -63,7 +63,7 @@ FileChooser::FileChooser(QWidget* owner, const CommonDialog& settings, FileDialo
     setFileMode((settings.Flags & DialogFlags::FileMustExist) != 0 ? ExistingFile : AnyFile);
     setWindowTitle(ToQString(settings.DialogTitle));
 
-    // The description is shown as it is given; the pattern behind it is the one that filters, and Qt hides it.
+    // The description is shown as it is given; the pattern after it is the one that filters, and Qt hides it.
     const FilterParts filter = Parse(settings.Filter);
     setNameFilter(filter.description + QLatin1String(" (") + filter.pattern + QLatin1Char(')'));
     suffix_ = QLatin1Char('.') + filter.pattern.section(QLatin1Char('.'), -1);
@@ -97,7 +97,7 @@ void FileChooser::TakeChoice()
         return;
     }
     if (fileMode() == ExistingFile && !QFileInfo::exists(native)) {
-        // It says so.
+        // Qt's dialog reports that.
         QFileDialog::accept();
         return;
     }

@@ -20,7 +20,7 @@ namespace zelvia
 namespace
 {
 
-/// The control that stands for a widget that Qt gave the focus: its own, or the sink of the window it lies in. Null
+/// The control that represents a widget with Qt's focus: its own, or the sink of its window. Null
 /// for what takes no focus in the program's sense.
 Control* FocusTarget(QWidget* widget)
 {
@@ -132,7 +132,7 @@ void FocusController::Tell(Control* next)
     Settle();
 }
 
-/// A box that came up while a change was told may have hidden, for its time, the control that has the focus.
+/// A box opened while a change was being reported may have temporarily hidden the control that has the focus.
 void FocusController::Settle()
 {
     const Control* displaced = std::exchange(displaced_, nullptr);
@@ -236,7 +236,7 @@ bool FocusController::DeferVisibility(Control& control)
 
 void FocusController::ShowDeferred()
 {
-    // What shows comes first: it may have been given the focus, which then does not pass through the sink.
+    // What is shown comes first: it may have been given the focus, which then does not pass through the sink.
     std::vector<Control*> controls = std::exchange(deferred_, {});
     std::stable_partition(controls.begin(), controls.end(), [](const Control* control) { return control->Visible(); });
     for (Control* control : controls) {
@@ -269,7 +269,7 @@ bool FocusController::FilterInput(QObject* receiver, QEvent* event)
         return receiver->isWidgetType() && FilterPress(static_cast<QWidget*>(receiver), event);
     case QEvent::MouseButtonRelease:
     case QEvent::Wheel:
-        // The press of this click may have moved the focus, and its handler must find that told.
+        // The press of this click may have moved the focus, and its handler must find that reported.
         Flush();
         return false;
     case QEvent::KeyPress: {

@@ -13,12 +13,13 @@
 namespace zelvia
 {
 
-/// Tells the controls of all windows who lost the focus and who got it.
+/// Reports changes of focus to the controls of all windows.
 ///
-/// A change is first finished and then told, LostFocus of the old control before GotFocus of the new one, in order and
-/// never nested: changes made by a handler wait for their turn. Another application's window, a menu, a message box and
-/// a file dialog take no focus in this sense. What the two handlers of one change hide and show reaches the screen at
-/// its end, so a list that its box's closing hides and its own GotFocus shows again keeps the press that chose a row.
+/// A change is completed first and reported afterwards, LostFocus of the old control before GotFocus of the new one, in
+/// order and never nested: changes made by a handler wait for their turn. Another application's window, a menu, a
+/// message box and a file dialog take no focus in this sense. What the two handlers of one change hide and show reaches
+/// the screen at its end, so a list that its box's closing hides and its own GotFocus shows again keeps the press that
+/// chose a row.
 class FocusController : public QObject
 {
     Q_OBJECT
@@ -26,33 +27,33 @@ class FocusController : public QObject
 public:
     static FocusController& Instance();
 
-    /// The control that was last told to have the focus, or null.
+    /// The control last reported to have the focus, or null.
     Control* Current() const { return current_; }
 
     void SetFocus(Control& control);
 
-    /// Closes the field that is open, as leaving it for another one does, and tells it at once. Nothing is asked.
+    /// Closes the field that is open, as leaving it for another one does, and reports that at once. Nothing is asked.
     void LeaveField();
 
-    /// Tells what waits to be told, unless a routine runs.
+    /// Reports the pending changes, unless a routine runs.
     void Flush();
 
-    /// Has Flush run by the event loop, if anything waits.
+    /// Has the event loop run Flush, if any change is pending.
     void Schedule();
 
     /// Runs the Validate of the control that has the focus, for a move to `target`. True when the focus must stay.
     bool Refuses(const Control* target);
 
-    /// True when the control's visibility will be brought to the screen at the end of the change being told.
+    /// True when the control's visibility will be brought to the screen at the end of the change being reported.
     bool DeferVisibility(Control& control);
 
     /// Brings deferred visibilities to the screen now, because a box is about to open.
     void ShowDeferred();
 
-    /// Greys a control for as long as it works. Its focus waits in the sink of its window, and nobody is told.
+    /// Disables a control while it works. Its focus waits in the sink of its window, and no change is reported.
     void Grey(Control& control);
 
-    /// Ends what Grey began: the control has its focus back or, when it stays grey, the one that had the focus before.
+    /// Undoes Grey: the control gets its focus back or, when it stays disabled, the one that had the focus before.
     void EndGrey(Control& control, bool enabled);
 
     /// Sends the focus of a control that is about to be hidden to the sink of its window.
@@ -60,7 +61,7 @@ public:
 
     void Forget(Control& control);
 
-    /// Sees each event before its receiver; true when it was eaten.
+    /// Sees each event before its receiver; true when it was consumed.
     bool FilterInput(QObject* receiver, QEvent* event);
 
 private:
@@ -76,7 +77,7 @@ private:
     Control* previous_ = nullptr; ///< The one that had the focus before `current_`.
     std::deque<Control*> waiting_;
     std::vector<Control*> deferred_;
-    Control* displaced_ = nullptr; ///< Has the focus, which lies in the sink: hidden for the time of a box, or greyed.
+    Control* displaced_ = nullptr; ///< Has the focus, which the sink keeps for it: hidden during a box, or disabled.
     bool telling_ = false;
     bool deferring_ = false;
     bool validating_ = false;

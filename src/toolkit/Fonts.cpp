@@ -41,7 +41,7 @@ QFont PageFont(TextView family, int pixels)
     QFont font;
     font.setFamilies(families);
     font.setPixelSize(pixels);
-    // Each of these holds every character a diary can: no list of other fonts need be made for those it lacks.
+    // Each of these holds every character a diary can: Qt need not look for other fonts for missing ones.
     font.setStyleStrategy(QFont::NoFontMerging);
     return font;
 }

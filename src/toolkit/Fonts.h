@@ -9,7 +9,7 @@
 namespace zelvia
 {
 
-/// A font by its name, with its metric kin as fallback; the size in logical pixels.
+/// A font by its name, with metric-compatible families as fallback; the size in logical pixels.
 QFont PageFont(TextView family, int pixels);
 
 } // namespace zelvia

@@ -54,7 +54,7 @@ void Form::NoteBlocking(QEvent::Type type)
     }
 }
 
-/// A key comes here when no control of the window had a use for it.
+/// A key arrives here when no control of the window has handled it.
 bool Form::event(QEvent* event)
 {
     NoteBlocking(event->type());

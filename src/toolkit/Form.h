@@ -21,7 +21,7 @@ class Form : public QWidget
     Q_OBJECT
 
 public:
-    /// A window with an owner stands over it and goes with it.
+    /// A window with an owner stays above it and closes with it.
     explicit Form(const QString& name, QWidget* owner = nullptr);
     ~Form() override;
 
@@ -31,13 +31,13 @@ public:
     /// Ends the window as its close box does. False when it refused.
     bool Unload() { return close(); }
 
-    /// True from its unloading on; it is released a moment later.
+    /// True once it has unloaded; it is deleted a moment later.
     bool Unloaded() const { return unloaded_; }
 
     /// Runs `action` at once or, while another window blocks this one, as soon as that has closed.
     void RunUnblocked(std::function<void()> action);
 
-    /// The window that `widget` lies in, or null when that is no window of the program.
+    /// The window that contains `widget`, or null when that is not a window of the program.
     static Form* Of(QWidget* widget);
 
 protected:

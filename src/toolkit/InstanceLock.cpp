@@ -22,7 +22,7 @@ namespace zelvia
 namespace
 {
 
-/// Opens whatever has that name for locking: a folder and a file that may only be read can be locked too.
+/// Opens any entry of that name for locking: folders and read-only files can be locked too.
 int OpenForLock(const QString& path)
 {
     constexpr int common = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
@@ -31,8 +31,8 @@ int OpenForLock(const QString& path)
     return file >= 0 ? file : ::open(native.constData(), O_RDONLY | common);
 }
 
-/// An address among the sockets that have no file: it needs nothing but the kernel, and goes with the process. It is
-/// named after the file that is locked, so that it is the same by whatever path the folder is reached.
+/// An abstract socket address: it exists only in the kernel and ends with the process. It is named after the locked
+/// file, so that it is the same whatever path leads to the folder.
 struct Address {
     sockaddr_un name{};
     socklen_t length = 0;
@@ -86,7 +86,7 @@ void InstanceLock::Answer(std::function<void()> asked)
     }
     notifier_ = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [socket, asked = std::move(asked)] {
-        // Those that have asked meanwhile are answered together. What they sent says nothing more.
+        // Those that have asked meanwhile are answered together; what they sent does not matter.
         constexpr int most = 1000;
         char ignored = 0;
         for (int i = 0; i < most && ::recv(socket, &ignored, sizeof ignored, 0) >= 0; ++i) {

@@ -14,8 +14,8 @@ class QSocketNotifier;
 namespace zelvia
 {
 
-/// The kernel's lock on a file, by which one run of the program knows of another. It goes with the process, however
-/// that ends. What the file holds does not matter; it is made when it is absent and never deleted.
+/// A kernel lock on a file, by which one run of the program detects another. It ends with the process, however that
+/// ends. The file's content does not matter; it is created when absent and never deleted.
 class InstanceLock
 {
 public:
@@ -24,13 +24,13 @@ public:
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
 
-    /// Takes the lock. False when another run holds it; where no file can be made or locked it counts as free.
+    /// Takes the lock. False when another run holds it; where no file can be created or locked it counts as free.
     bool Take();
 
-    /// Has the event loop run `asked` whenever another run calls Ask, from now on.
+    /// From now on the event loop runs `asked` whenever another run calls Ask.
     void Answer(std::function<void()> asked);
 
-    /// Asks the run that holds the lock for its window. False when none answers, as one that has just begun.
+    /// Asks the run that holds the lock for its window. False when none answers, such as one that has just started.
     bool Ask() const;
 
 private:

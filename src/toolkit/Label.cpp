@@ -28,8 +28,7 @@ Text Label::Caption() const
 
 void Label::SetCaption(TextView caption)
 {
-    // QLabel lays the text of a label that takes the focus out in a document of its own, which plain text has no use
-    // for.
+    // QLabel lays out the text of a focusable label in a document of its own, which plain text does not need.
     const Qt::FocusPolicy reach = focusPolicy();
     setFocusPolicy(Qt::NoFocus);
     setText(ToQString(caption));

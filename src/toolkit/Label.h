@@ -10,7 +10,7 @@
 namespace zelvia
 {
 
-/// Whether the keyboard reaches what a click does.
+/// Whether the keyboard can do what a click does.
 enum class KeyReach { Reachable, MouseOnly };
 
 /// A text on the page. It takes no focus from the mouse; one that acts when clicked can be reached with Tab and acts

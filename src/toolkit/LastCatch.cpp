@@ -14,7 +14,7 @@ namespace zelvia
 namespace
 {
 
-/// True for what comes once for each thing that the user or the program does.
+/// True for events that arrive once per action of the user or the program.
 bool ComesSingly(QEvent::Type type)
 {
     switch (type) {
@@ -41,7 +41,7 @@ void LastCatch::Take(QObject* receiver, QEvent::Type type) noexcept
     try {
         report = ComesSingly(type) || IsNew(receiver, type);
     } catch (...) {
-        // No memory to take it down: it may be reported twice.
+        // Out of memory to record it: it may be reported twice.
     }
     if (report && waiting_ == nullptr && !reporting_) {
         waiting_ = std::current_exception();
@@ -61,7 +61,7 @@ bool LastCatch::IsNew(QObject* receiver, QEvent::Type type)
     return !known;
 }
 
-/// The receiver may be gone by now; its address is compared, no more.
+/// The receiver may be gone by now; only its address is compared.
 void LastCatch::Forget(const QObject* receiver, QEvent::Type type) noexcept
 {
     std::erase_if(failing_,
@@ -75,7 +75,7 @@ void LastCatch::Queue() noexcept
             QCoreApplication::instance(), [this] { Report(); }, Qt::QueuedConnection);
         queued_ = true;
     } catch (...) {
-        // The next event that passes tries again.
+        // The next event tries again.
     }
 }
 

@@ -11,19 +11,19 @@
 namespace zelvia
 {
 
-/// Where everything ends that is thrown while the event loop works. It is reported under the bare title, by a call that
-/// the event loop makes later: no box comes up within a paint or the like, where Qt can't bear one.
+/// The last catch for exceptions in the event loop. They are reported under the bare title by a queued call: no box
+/// opens within a paint event or the like, where Qt does not allow one.
 ///
-/// Qt's widgets are built without exceptions, so that one which passes through their functions skips what these would
-/// clean up. The application catches as near to the receiver as it can, at the event, where they hold no more than the
-/// event's own data; and a slot's handler runs under Fire, which lets nothing out.
+/// Qt's widgets are built without exceptions, so one that passes through their functions skips their clean-up. The
+/// application catches as near to the receiver as it can, at the event, where they hold no more than the event's own
+/// data; and a slot's handler runs under Fire, which lets no exception out.
 ///
-/// What repeats without the user's doing, as a paint or a timer, is reported when it begins to fail and not again
-/// before it has worked once; what fails while a report waits or is up, not at all.
+/// An event that repeats by itself, such as a paint or a timer, is reported when it begins to fail and not again until
+/// it has succeeded once; failures while a report is pending or shown are not reported.
 class LastCatch
 {
 public:
-    /// Takes the exception in flight, which an event of this type to `receiver` has thrown.
+    /// Takes the current exception, thrown by an event of this type to `receiver`.
     void Take(QObject* receiver, QEvent::Type type) noexcept;
 
     /// An event has been handled and threw nothing.
@@ -50,7 +50,7 @@ private:
 
     std::vector<Failing> failing_;
     std::exception_ptr waiting_;
-    bool queued_ = false; ///< Report is going to be called.
+    bool queued_ = false; ///< Report is about to be called.
     bool reporting_ = false;
 };
 

@@ -80,7 +80,7 @@ void ListBox::TellClick()
     }
 }
 
-/// Tells the click when another entry than `before` has come to be the selected one.
+/// Reports a click when the selected entry is no longer `before`.
 void ListBox::TellNewChoice(int before)
 {
     if (ListIndex() >= 0 && ListIndex() != before) {
@@ -93,7 +93,7 @@ void ListBox::mousePressEvent(QMouseEvent* event)
     const int before = ListIndex();
     QListWidget::mousePressEvent(event);
     const QListWidgetItem* pressed = itemAt(event->position().toPoint());
-    // The entry that is selected already can be chosen anew: the list keeps its selection while it is closed.
+    // The entry that is selected already can be chosen again: the list keeps its selection while it is closed.
     const bool again = event->button() == Qt::LeftButton && pressed != nullptr && pressed->isSelected();
     TellNewChoice(again ? -1 : before);
 }
@@ -149,7 +149,7 @@ void ListBox::keyPressEvent(QKeyEvent* event)
 
 void ListBox::contextMenuEvent(QContextMenuEvent* event)
 {
-    // The mouse's own comes with the release; the keyboard's stands for it.
+    // With the mouse the menu opens on the release; the menu key is reported as such a release.
     if (event->reason() == QContextMenuEvent::Keyboard) {
         Fire([&] {
             if (MouseUp) {

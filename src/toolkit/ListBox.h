@@ -33,8 +33,9 @@ public:
     int ListIndex() const;
     void SetListIndex(int index);
 
-    /// An entry was chosen: pressed with the mouse, whatever becomes of the press, or selected by a key. It is told
-    /// behind the change of focus that the press made and, if that opened a window over this one, once that has closed.
+    /// An entry was chosen: pressed with the mouse, whatever becomes of the press, or selected by a key. It is reported
+    /// after the change of focus that the press caused and, if that opened a window above this one, after that has
+    /// closed.
     std::function<void()> Click;
     std::function<void()> DblClick;
 

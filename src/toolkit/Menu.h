@@ -23,7 +23,7 @@ struct MenuEntry {
     TextView caption;
     std::function<void()> click;
     QKeySequence shortcut = {};
-    std::function<void()> before = {}; ///< Runs ahead of the click, as long as no routine runs.
+    std::function<void()> before = {}; ///< Runs before the click, as long as no routine runs.
 };
 
 enum class MenuKind {

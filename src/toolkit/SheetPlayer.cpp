@@ -90,8 +90,8 @@ private:
     QPainter& painter_;
 };
 
-/// Whether the spool took the job that was handed over last. Qt does not tell; the answer stands with the spool's own
-/// library, which the printing has loaded by now. Where there is none there is no such spool.
+/// Whether the spooler accepted the last job. Qt does not say; the spooler's own library, which printing has loaded by
+/// now, does. Without that library there is no such spooler.
 bool SpoolTookIt()
 {
     constexpr int version = 2;
@@ -102,8 +102,8 @@ bool SpoolTookIt()
     return lastError == nullptr || lastError() <= lastGoodStatus;
 }
 
-/// Asks for the printer's high quality. Qt hands attributes of a job over to the spool, names and values in turn, but
-/// has no public name for the property that takes them.
+/// Requests the printer's high quality. Qt passes the attributes of a job to the spooler, names and values alternating,
+/// but has no public name for the property that takes them.
 void DemandHighQuality(QPrinter& printer)
 {
     constexpr auto jobAttributes = QPrintEngine::PrintEnginePropertyKey(0xfe00);
@@ -146,7 +146,7 @@ void PlaySheet(const Sheet& sheet)
         printer.abort();
         throw;
     }
-    // The job goes to the spool at the end of the painting.
+    // The job is submitted when painting ends.
     if (!painter.end() || !SpoolTookIt()) {
         Refuse();
     }

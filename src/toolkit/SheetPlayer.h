@@ -7,8 +7,8 @@
 namespace zelvia
 {
 
-/// Prints a sheet on the system's default printer. Raises 482 when there is none, or when it does not take the job,
-/// which is dropped then.
+/// Prints a sheet on the system's default printer. Raises 482 when there is none, or when it rejects the job, which is
+/// then dropped.
 void PlaySheet(const Sheet& sheet);
 
 } // namespace zelvia

@@ -103,7 +103,7 @@ bool TextBox::Passes(int keyAscii)
     return keyAscii != 0;
 }
 
-/// Enters characters one by one as the keys they stand for, but for those outside the set. False when there is none, or
+/// Enters characters one by one as if typed, except those outside the set. False when there is none, or
 /// none that a key enters.
 bool TextBox::TypeCharacters(const QString& characters)
 {
@@ -161,7 +161,7 @@ void TextBox::Paste(const QString& pasted)
     }
     const auto room = static_cast<std::size_t>(Room());
     Text clean;
-    // Of megabytes no more is looked at than fits.
+    // Of megabytes only as much is examined as fits.
     for (qsizetype i = 0; i < pasted.size() && clean.size() < room; ++i) {
         const QChar character = pasted[i];
         // Control characters: the line ends and tabulators of what was copied elsewhere.

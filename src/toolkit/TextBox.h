@@ -13,7 +13,7 @@ namespace zelvia
 /// What a box does with its text when it gets the focus other than with the mouse.
 enum class BoxEntry {
     SelectAll, ///< What is typed takes the text's place.
-    CaretAtEnd ///< What is typed goes on behind it.
+    CaretAtEnd ///< What is typed is appended.
 };
 
 /// A single-line edit box. What is typed outside the character set is refused, what is pasted outside it becomes "?".
@@ -32,10 +32,10 @@ public:
     void SetEntry(BoxEntry entry) { entry_ = entry; }
     void OnFocusGiven() override;
 
-    /// Sees each character before it is entered, Enter as 13, Escape as 27 and Backspace as 8; setting it to 0 throws
-    /// the key away.
+    /// Sees each character before it is entered, Enter as 13, Escape as 27 and Backspace as 8; setting it to 0 discards
+    /// the key.
     std::function<void(int& keyAscii)> KeyPress;
-    /// The text has become another one by hand: typed, pasted, deleted or undone, but not set by the program.
+    /// The user changed the text: typed, pasted, deleted or undone, but not set by the program.
     std::function<void()> Change;
     std::function<void()> Click;
     /// The menu key, with the place where a pop-up may open. Without it the key brings the box's own menu.

@@ -42,13 +42,13 @@ public:
     i32 Value() const { return value_; }
     void SetValue(i32 value);
 
-    /// The value is another one than before, by hand or by program.
+    /// The value has changed, by the user or by program.
     std::function<void()> Change;
 
-    /// Asked ahead of a step by hand, while no routine runs; false refuses it.
+    /// Asked before a step by the user, while no routine runs; false refuses it.
     std::function<bool()> BeforeStep;
 
-    /// A step by hand, whatever the value does.
+    /// A step by the user, whether or not the value changes.
     std::function<void()> UpClick;
     std::function<void()> DownClick;
 
