@@ -28,7 +28,7 @@ for my $path (sort keys %source) {
     my $text = $source{$path};
     $text =~ s{^\s*(//|#include).*$}{}mg;
     $literal{$1} = 1 while $text =~ /$quoted/g;
-    # The utilities beside the program have texts of their own, and tests of their own.
+    # The tools beside the program have their own texts, and their own tests.
     next if $path =~ m{^src/(copies|notice)/};
     while ($text =~ /\bMsgBox\(((?:[^()"]|"(?:[^"\\]|\\.)*"|\((?:[^()"]|"(?:[^"\\]|\\.)*"|\([^()]*\))*\))*)\)/g) {
         my $call = $1;
@@ -50,21 +50,21 @@ for my $path (sort keys %source) {
     }
 }
 
-# What is shown stands in the list.
+# What is shown is in the list.
 my %titles = map { $_->{text} => 1 } grep { $_->{kind} eq 'error' } @entries;
 my %listed;
 push @{ $listed{ $_->{kind} } }, $_->{text} for @entries;
 for my $text (@shown) {
     my ($kind, $found, $path) = @$text;
     next if $none{$found} || $found !~ /\p{L}/;
-    # Capitals tell a message from other texts, but for some headings.
+    # Capitals distinguish a message from other texts, except for some headings.
     my @kinds = $kind eq 'box' ? qw(box caption sheet) : ($kind);
     my $stands = $kind eq 'error' ? $titles{$found} : grep { index($_, $found) >= 0 } map { @{ $listed{$_} } } @kinds;
     Texts::complain("$path: \"$found\" is no $kind of the list") unless $stands;
 }
 Texts::complain('hardly a text was found in the sources') if @shown < 200;
 
-# What stands in the list is in the sources; some texts, and the names of like controls, are made of pieces and numbers.
+# What is in the list is in the sources; some texts, and the names of like controls, are made of pieces and numbers.
 sub is_made {
     my ($text) = @_;
     return 1 if $text eq '' || $literal{$text};
@@ -94,7 +94,8 @@ for my $entry (@entries) {
         if $seen{ join '|', @$entry{qw(kind text detail)} }++;
     next if Texts::cannot_arise($entry);
     my ($folder, $topic, $function) = $entry->{where} =~ /^([a-z]+)_(\w+):(\w+)(?::.+)?$/;
-    my $test = defined $folder ? read_file("tests/$folder/$topic.cpp") : undef;
+    my ($path) = defined $folder ? grep { -e } glob "tests/{,windows/,tools/}$folder/${topic}Test.cpp" : ();
+    my $test = defined $path ? read_file($path) : undef;
     if (!defined $test) {
         Texts::complain("$entry->{where}: no such test");
     } elsif ($test !~ /\bvoid (?:\w+::)?\Q$function\E\(\)/) {
