@@ -13,8 +13,8 @@
 namespace zelvia::bench
 {
 
-/// Ends the program once a window has been painted for the first time, and prints the moment on the steady clock in
-/// nanoseconds, which all processes share, then the number of controls given and the window's width and height.
+/// Ends the program once a window has been painted for the first time, and prints the time on the steady clock, which
+/// all processes share, in nanoseconds, then the number of controls given and the window's width and height.
 class FirstPaint : public QObject
 {
 public:
@@ -26,7 +26,7 @@ public:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
-            // The window comes first in the pass that paints it with all it holds; what is queued runs behind that.
+            // The window comes first in the pass that paints it and its contents; queued calls run after that.
             window_.removeEventFilter(this);
             QMetaObject::invokeMethod(
                 this, [this] { Report(); }, Qt::QueuedConnection);

@@ -22,7 +22,7 @@ double MillisecondsOf(Work&& work)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// The value below which the given part of the samples lies; 0.5 is the median. There must be a sample.
+/// The quantile of the samples: 0.5 is the median. There must be a sample.
 inline double Quantile(std::vector<double> samples, double part)
 {
     const auto place = static_cast<std::size_t>(part * static_cast<double>(samples.size() - 1));
@@ -30,13 +30,13 @@ inline double Quantile(std::vector<double> samples, double part)
     return samples[place];
 }
 
-/// What was measured and its baseline, in turns, so that a slow moment of the machine meets both.
+/// What was measured and its baseline, alternating, so that a slow moment of the machine affects both.
 struct Samples {
     std::vector<double> measured;
     std::vector<double> baseline;
 };
 
-/// Runs the two in turns, after one round that isn't counted. Each returns its sample.
+/// Alternates the two, after one round that isn't counted. Each returns its sample.
 template <typename Measured, typename Baseline>
 Samples Alternate(int rounds, Measured&& measured, Baseline&& baseline)
 {

@@ -26,7 +26,7 @@ struct ShownPage {
         page.lblData_Click();
         onPage.Wait();
         FillBareWindow(bare, ControlsOf(page), page.size());
-        // Below the page: an X server paints nothing of a window that another one covers.
+        // Below the page: an X server does not paint a window that another one covers.
         bare.move(0, page.height());
         bare.show();
         onBare.Wait();
@@ -62,9 +62,9 @@ Window& Shown()
     std::exit(1);
 }
 
-/// The whole of a program that measures on the page: it takes the platform's name for the table and the program folder
-/// with a diary. `prepare` gets the folder before the page is loaded, and what it returns lives as long as the page;
-/// `measure` gets the page and the platform's name.
+/// The main function of a program that measures on the page: it takes the platform's name for the table and the program
+/// folder with a diary. `prepare` gets the folder before the page is loaded, and what it returns lives as long as the
+/// page; `measure` gets the page and the platform's name.
 template <typename Prepare, typename Measure>
 int RunOnPage(int argc, char* argv[], Prepare&& prepare, Measure&& measure)
 {

@@ -15,14 +15,14 @@
 namespace zelvia::bench
 {
 
-/// Notes that a widget was painted. A window comes first in the pass that paints it with all it holds, and a pass is
-/// not left unfinished by the event loop.
+/// Records that a widget was painted. A window comes first in the pass that paints it and its contents, and the event
+/// loop never leaves a pass unfinished.
 class PaintWatch : public QObject
 {
 public:
     explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
 
-    /// Watches for the windows of that name, one that is yet to be made too.
+    /// Watches for the windows of that name, including one not created yet.
     explicit PaintWatch(QString window) : window_(std::move(window)) { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -46,7 +46,7 @@ public:
         painted_ = false;
     }
 
-    /// What was painted so far does not count.
+    /// Forgets what was painted so far.
     void Forget() { painted_ = false; }
 
 private:

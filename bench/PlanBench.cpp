@@ -22,8 +22,8 @@ using namespace zelvia::bench;
 constexpr int kSteps = 363;
 constexpr int kOpenings = 40;
 
-/// The active table of a program folder while it lives: from New Year on, its rows asking for all there is and more
-/// than anybody runs, so that every day of the year is compared to the end.
+/// The active table of a program folder during its lifetime: from New Year on, its rows ask for everything and more
+/// than anybody runs, so that every day of the year is compared completely.
 class ActivePlan
 {
 public:
@@ -64,7 +64,7 @@ private:
 void MeasureSteps(frmMain& page, const std::string& platform)
 {
     ShownPage shown(page);
-    // From the last day of the year to the one before and back: the last one itself can't be left upwards.
+    // From the last day of the year to the one before and back: there is no step up from the last one.
     bool back = false;
     const Samples samples = Alternate(
         kSteps,
@@ -76,7 +76,7 @@ void MeasureSteps(frmMain& page, const std::string& platform)
             });
         },
         [&] { return shown.RepaintBare(); });
-    // Each step walked the table to the end of the year, and none of its rows was met.
+    // Each step walked the table to the end of the year, and none of its rows was reached.
     if (Module1::GiornoCorrente < 364 || Module1::IndiceTabella != 1 || page.lblKmTab->Caption() != "99,999") {
         std::cerr << "plan_bench: the table was not walked\n";
         std::exit(1);
@@ -118,7 +118,7 @@ void MeasureEditor(frmMain& page, const std::string& platform)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return time;
     };
-    // The first is the one that the user waits for: nothing of it was ever drawn before.
+    // The first is the one that the user waits for: nothing of it has been drawn before.
     const double first = openEditor();
     PrintRow(("First opening of the editor, " + platform).c_str(), first, OpenBareWindow(controls, size), "ms",
              "measured <= 150 ms");

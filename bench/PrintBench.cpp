@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Hands sheets to the default printer, against an empty page handed to it by Qt alone.
+// Sends sheets to the default printer, against an empty page sent by Qt alone.
 #include "bench/Measure.h"
 #include "diary/StatisticSheets.h"
 #include "diary/TableSheet.h"

@@ -90,7 +90,7 @@ void Measure(frmMain& page, const std::string& platform)
     page.StatisPercorso();
 
     auto& search = Shown<frmRicercheStatistiche>();
-    // A condition on the pace of running, which every day fulfils.
+    // A condition on the pace of running, which every day meets.
     const auto& condition = search.ControlliDi(Categoria::Andatura);
     condition.cmd->click();
     search.lstStatistiche->SetListIndex(0);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Starts the page and the bare window in turns, each in a process of its own, and compares the time to the first paint
-// and the peak of memory.
+// Alternately starts the page and the bare window, each in its own process, and compares the time to the first paint
+// and the peak memory.
 #include "bench/Measure.h"
 
 #include <array>
@@ -26,7 +26,7 @@ constexpr int kRounds = 40;
 
 struct Start {
     double milliseconds = 0; ///< From the start of the process to the end of the first paint.
-    double megabytes = 0;    ///< Most memory resident at any time.
+    double megabytes = 0;    ///< Peak resident memory.
     int controls = 0;
     int width = 0;
     int height = 0;

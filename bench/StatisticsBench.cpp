@@ -17,7 +17,7 @@ using namespace zelvia::bench;
 
 constexpr int kRounds = 60;
 
-/// Each day has a route of its own among more than a statistic can tell apart, spelt in 22 characters.
+/// Each day has its own route of 22 characters, more of them than a statistic can hold.
 void FillEveryDay()
 {
     constexpr int routes = 70;

@@ -13,13 +13,13 @@ namespace
 using namespace zelvia;
 using namespace zelvia::bench;
 
-// With the one that is not counted, from the first day of a common year to its last.
+// Including the one that is not counted, from the first day of a common year to its last.
 constexpr int kSteps = 363;
 
 constexpr int kRounds = 60;
 constexpr std::size_t kNotes[] = {1'000, 100'000, 1'000'000}; ///< Bytes of the note; the baseline's has 10.
 
-/// Steps from 1 January onto the next day, whose note is as it may come from a file, and back.
+/// Steps from 1 January onto the next day, whose note is of any length a file may have, and back.
 void MeasureNotes(ShownPage& shown, const std::string& platform)
 {
     while (Module1::GiornoCorrente > 1) {

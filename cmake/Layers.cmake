@@ -34,7 +34,7 @@ set(ZELVIA_QT_STRICT
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
 # zelvia_layer(name FOLDER folder SOURCES files LINKS targets [WIDGETS])
-#   A library of one box of the house, from files of its folder. One with WIDGETS links Qt's widgets and reads their
+#   A library of one layer, from files of its folder. One with WIDGETS links Qt's widgets and reads their
 #   headers precompiled; without, it is plain standard C++, and Qt is not even on its include path.
 function(zelvia_layer name)
   cmake_parse_arguments(LAYER "WIDGETS" "FOLDER" "SOURCES;LINKS" ${ARGN})

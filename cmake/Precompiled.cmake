@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# Reading the headers of Qt and of the standard library is most of a compiler's work on a source with windows. They are
+# Reading the headers of Qt and of the standard library is most of the compiler's work on a source with windows. They are
 # read once for each kind of target, and never for a target that may not see Qt.
 
 set(ZELVIA_STANDARD_HEADERS

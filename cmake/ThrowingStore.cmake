@@ -1,10 +1,10 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# A value that a failing read was to replace must still be there behind the trap. GCC 12 drops the store before such an
-# assignment; without that one optimisation it does not. ThrowingStore.cpp tells whether this compiler needs the flag.
+# A value that a failing read was to replace must still be there after the trap. GCC 12 drops the store before such an
+# assignment; without that one optimisation it does not. ThrowingStore.cpp shows whether this compiler needs the flag.
 
-# Sets ZELVIA_DROPS_STORES in the cache: as the build compiles, or at any level that a build may ask for.
+# Sets ZELVIA_DROPS_STORES in the cache: with the build's own flags, or at any level that a build may ask for.
 function(zelvia_ask_for_dropped_stores)
   foreach(level IN ITEMS "" -O1 -O2 -O3)
     unset(ZELVIA_STORES_RUN CACHE)
@@ -19,8 +19,8 @@ function(zelvia_ask_for_dropped_stores)
   set(ZELVIA_DROPS_STORES OFF CACHE INTERNAL "The compiler drops a store before an assignment that throws")
 endfunction()
 
-# The fault and the flag are GCC's. One that builds for a machine that can't be asked gets the flag: it costs nothing
-# that can be measured.
+# The fault and the flag are GCC's. A cross compiler, whose output can't be run, gets the flag: its cost can't be
+# measured.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   if(NOT DEFINED CACHE{ZELVIA_DROPS_STORES})
     message(CHECK_START "Does the compiler keep what a throwing call was to replace?")

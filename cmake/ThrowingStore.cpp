@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Ends with 0 if the compiler keeps a store that stands before an assignment of a class value from a call that throws.
+// Ends with 0 if the compiler keeps a store that precedes an assignment of a class value from a call that throws.
 // GCC 12 drops it as soon as it optimises, and what is read behind the catch is what happened to lie there; so several
 // values are tried. What the compiler must not see through is called by way of a volatile pointer.
 #include <initializer_list>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The texts of distances and repetitions: six numbers of a day, and behind them a row to be taken apart.
+// The texts of distances and repetitions: six numbers of a day, followed by a row to take apart.
 #include "Harness.h"
 #include "Reference.h"
 #include "diary/CategoryTexts.h"
@@ -15,7 +15,7 @@ namespace
 
 constexpr auto kNone = Text::npos;
 
-/// From `first` to before `last`, where both stand in the text in that order.
+/// From `first` up to `last`, where the text holds both in that order.
 std::optional<Text> Between(const Text& row, std::size_t first, std::size_t last)
 {
     if (first == kNone || last == kNone || last < first) {
@@ -30,7 +30,7 @@ Text Before(const Text& row, char mark)
     return at == kNone ? Text() : row.substr(0, at);
 }
 
-/// A missing mark stands just before the text.
+/// A missing mark counts as just before the text.
 Text Behind(const Text& row, std::size_t mark)
 {
     return row.substr(mark == kNone ? 0 : mark + 1);
@@ -61,7 +61,7 @@ void CheckPiece(const Routine& routine, const Text& row)
     Require(error != 0 || number == *expected, "the number of a piece");
 }
 
-/// What a text is built from comes out of it again.
+/// A text gives back the numbers it was built from.
 void CheckReturn(const RecordGiorno& day)
 {
     const Text distance = TestoKm(day);

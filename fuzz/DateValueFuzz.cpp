@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Dates out of texts, and what is counted from them.
+// Dates from texts, and what is computed from them.
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "core/Date.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The diary. The input is its beginning, so that the days behind it need neither be blanked nor written.
+// The diary. The input is its beginning, so that the days after it need neither be blanked nor written.
 #include "Harness.h"
 #include "core/ValueFile.h"
 #include "diary/DiaryFile.h"
@@ -39,7 +39,7 @@ void WriteDays()
     file.Close();
 }
 
-/// The later days are not in the file, which its reader is right to report.
+/// The later days are not in the file, which its reader rightly reports.
 void ReadBack()
 {
     const Boxes boxes;
@@ -72,7 +72,7 @@ void RequireStable()
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    // A value takes a byte at least, a day 136 values, and the day in hand counts.
+    // A value takes a byte at least, a day 136 values, and the current day counts.
     daysInInput = std::min(static_cast<int>(size / 136) + 1, 366);
     BlankDays();
     Scratch::Instance().Write(kFile, InputText(data, size));

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Numbers and dates in patterns: a double, a long, a day, and the rest is the pattern.
+// Numbers and dates in patterns: a double, a long, a day; the rest is the pattern.
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "core/Date.h"
@@ -23,7 +23,7 @@ Text Printed(const char* pattern, long long number)
     return text;
 }
 
-/// Digits at least as many as asked for, behind the sign.
+/// At least as many digits as asked for, after the sign.
 Text Padded(i32 number, int digits)
 {
     const long long magnitude = std::llabs(static_cast<long long>(number.value()));

@@ -19,7 +19,7 @@ namespace
 
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-/// So that the same input is always treated alike.
+/// So that the same input is always treated the same.
 unsigned Hash(const std::uint8_t* data, std::size_t size)
 {
     unsigned hash = 2166136261U;

@@ -15,7 +15,7 @@
 namespace zelvia::fuzz
 {
 
-/// Ends the process, which the fuzzer takes for a finding, when what must hold does not.
+/// Ends the process, which the fuzzer reports as a finding, when the condition does not hold.
 void Require(bool holds, const char* what);
 
 /// The input as a text of the system.
@@ -24,7 +24,7 @@ Text InputText(const std::uint8_t* data, std::size_t size);
 /// Its lines, as many as asked for; those that are missing are empty, and the last takes what is left.
 std::vector<Text> InputLines(const std::uint8_t* data, std::size_t size, std::size_t count);
 
-/// Takes numbers off the front of an input, and then the rest; behind its end all is 0.
+/// Takes numbers off the front of an input, and then the rest; after its end all is 0.
 class Bytes
 {
 public:
@@ -46,7 +46,7 @@ private:
     std::size_t size_;
 };
 
-/// A folder in memory where there is one, gone with the process.
+/// A folder, in memory where possible, removed when the process ends.
 class Scratch
 {
 public:
@@ -63,7 +63,7 @@ private:
     std::string folder_;
 };
 
-/// Takes the message boxes of its lifetime.
+/// Answers the message boxes of its lifetime.
 class Boxes
 {
 public:
@@ -106,11 +106,11 @@ struct FileKind {
     std::function<bool()> holdable;
     /// The report of the damage found by a load is the right one, or there is none.
     std::function<void(const Boxes&)> requireReport;
-    /// Of so many inputs one is also written and read again.
+    /// One in so many inputs is also written and read again.
     unsigned roundTripOneIn = 1;
 };
 
-/// Reads the input as a file of the format; what came of it must survive writing, reading and writing again.
+/// Reads the input as a file of the format; the result must survive writing, reading and writing again.
 void ReadAndReturn(const FileKind& kind, const std::uint8_t* data, std::size_t size);
 
 inline bool HasQuote(TextView text)
@@ -118,7 +118,7 @@ inline bool HasQuote(TextView text)
     return text.find('"') != TextView::npos;
 }
 
-/// What a load reports of a file whose bytes are damaged: an end too soon, another kind of value, a number too large.
+/// What a load reports of a file whose bytes are damaged: a premature end, another kind of value, a number too large.
 inline constexpr std::initializer_list<int> kDamage = {Errore::Overflow, Errore::TipoNonCorrispondente,
                                                        Errore::FineFile};
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pointer files: nometab through its routines, nomeload through the reader that the start uses.
+// The pointer files: nometab through its routines, nomeload through the reader used at the start.
 #include "Harness.h"
 #include "Reference.h"
 #include "diary/Module1.h"

@@ -15,10 +15,10 @@ namespace zelvia::fuzz
 /// Infinite when it is beyond a double.
 double PlainVal(Text text);
 
-/// The same rounded to a short, ties to the even one; none when it is beyond one.
+/// The same rounded to a short, ties to even; none when it is out of range.
 std::optional<int> PlainShort(const Text& text);
 
-/// Reads values as ValueReader does, in the plainest way: one character after the other, all bytes in memory.
+/// Reads values as ValueReader does, in the simplest way: one character after the other, all bytes in memory.
 class Reference
 {
 public:
@@ -29,11 +29,11 @@ public:
     /// The next text; none when the bytes end before it does.
     std::optional<Text> NextText();
 
-    /// The next value that is to become a number or a date; none when the bytes have ended or it is in quotes.
+    /// The next value to become a number or a date; none when the bytes have ended or it is in quotes.
     /// `ended` tells the two apart.
     std::optional<Text> NextBare(bool& ended);
 
-    /// Takes the comma or line end behind a bare value that was good.
+    /// Takes the comma or line end after a valid bare value.
     void SkipSeparator();
 
 private:

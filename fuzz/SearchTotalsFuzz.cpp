@@ -17,8 +17,8 @@ namespace
 
 constexpr std::size_t kRuns = 8;
 
-/// The numbers between the colons, the last one's text taking what is left; none when a piece has over three
-/// characters. No number of three characters leaves a short.
+/// The numbers between the colons, the last one's text being the rest; none when a piece has over three characters. No
+/// number of three characters overflows a short.
 std::optional<std::vector<int>> Pieces(const Text& text, std::size_t count)
 {
     std::vector<int> numbers(count);
@@ -82,7 +82,7 @@ void AddAverage(TotaliRicerca& totals, Sums& sums, const Text& average)
     const int seconds = pieces->at(1);
     Require(totals.MinutiMedia == minutes, "the minutes read last");
     if (seconds < 0) {
-        // ",0-5" is no number, and the sums stay.
+        // ",0-5" is not a number, and the sums stay.
         Require(error == Errore::TipoNonCorrispondente && SumsOf(totals) == sums, "seconds below 0 are no number");
         return;
     }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The three calculations of a row of a training table, from the texts of its eight boxes, a line each.
+// The three calculations of a row of a training table, from the texts of its eight boxes, one per line.
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "diary/TableCalculations.h"
@@ -14,7 +14,7 @@ using namespace zelvia::fuzz;
 namespace
 {
 
-/// The row in plain numbers; usable when each is whole and in the range that its box allows or not much beyond it.
+/// The row in plain numbers; usable when each is whole and within its box's range or not far beyond it.
 struct Numbers {
     double metres = 0;
     double seconds = 0;
@@ -33,7 +33,7 @@ Numbers NumbersOf(const std::vector<Text>& boxes)
     numbers.usable = std::all_of(values.begin(), values.end(), [](double value) {
         return value >= 0 && value <= most && value == std::trunc(value);
     });
-    // Beyond these the whole seconds of the average leave the range of a short.
+    // Beyond these the whole seconds of the average overflow a short.
     numbers.usable = numbers.usable && values[5] <= 500 && values[6] <= 500;
     numbers.metres = values[0] * 1000 + values[1];
     numbers.seconds = (values[2] * 60 + values[3]) * 60 + values[4];

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Time taken and average per kilometre of a day: six parts of the clock, and the rest is the caption of the distance.
+// Time taken and average per kilometre of a day: six parts of the clock; the rest is the caption of the distance.
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "diary/TimeAndPace.h"
@@ -15,7 +15,7 @@ using namespace zelvia::fuzz;
 namespace
 {
 
-/// Mostly times of day; now and then anything a long holds.
+/// Mostly times of day; occasionally anything a long holds.
 Orario TakeTime(Bytes& input)
 {
     if (input.Take<std::uint8_t>() == 255) {
@@ -35,7 +35,7 @@ std::tuple<int, int, int> Parts(const Orario& time)
     return {time.ore.value(), time.minuti.value(), time.secondi.value()};
 }
 
-/// What the user is told of an end that is not behind the start; the blanks at the end tell the cases apart.
+/// The message for an end that is not after the start; the blanks at its end distinguish the cases.
 Text WarningOf(const Orario& start, const Orario& end)
 {
     if (Parts(end) == Parts(start)) {
@@ -63,7 +63,7 @@ double SecondsOf(const Orario& time)
     return (time.ore.value() * 60.0 + time.minuti.value()) * 60.0 + time.secondi.value();
 }
 
-/// The average as text against the same in double precision, a second apart at most.
+/// The average as text against the same in double precision, at most a second apart.
 void CheckAverage(const Text& average, double metres, double seconds)
 {
     const auto colon = average.find(':');

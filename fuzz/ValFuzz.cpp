@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Numbers out of texts: Val, and the conversions of the Italian locale.
+// Numbers from texts: Val, and the conversions of the Italian locale.
 #include "Harness.h"
 #include "Reference.h"
 #include "core/Conversions.h"
@@ -25,7 +25,7 @@ bool Beyond(double number)
     return !(std::fabs(number) <= std::numeric_limits<double>::max());
 }
 
-/// Equal but for what a number too small for the type is taken for.
+/// Equal, except for how a number too small for the type is read.
 bool Same(double actual, double expected, double smallest)
 {
     return actual == expected || (std::fabs(expected) < smallest && std::fabs(actual) <= std::fabs(expected));
@@ -40,7 +40,7 @@ void CheckVal(const Text& text)
     Require(error != 0 || Same(actual, expected, std::numeric_limits<double>::min()), "what Val gives");
 }
 
-/// The number with its dots dropped and its comma a point, or nothing when it is none.
+/// The number with its dots dropped and its comma a point, or nothing when it is not a number.
 Text AsPlain(const Text& text)
 {
     const auto first = text.find_first_not_of(' ');

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The reader of values against one that is written in the plainest way. The first byte lays the edge of the reader's
-// buffer across the input, the next four tell the kinds of values to be read; the rest is the file.
+// The reader of values against the simplest one possible. The first byte places the edge of the reader's buffer within
+// the input, the next four choose the kinds of values to read; the rest is the file.
 #include "Harness.h"
 #include "Reference.h"
 #include "core/ValueFile.h"

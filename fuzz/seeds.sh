@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the seeds of the fuzzers from the sample year: seeds.sh FOLDER, a folder below it for each.
+# Makes the fuzzers' seeds from the sample year: seeds.sh FOLDER, with a subfolder for each fuzzer.
 set -euo pipefail
 
 demo=$(dirname "$(readlink -f "$0")")/../share/demo
@@ -28,7 +28,7 @@ printf '"C:\\Zelvia\\ZelviaFile\\prova.zlv"\r\n' >"$out/Pointer/full-path"
 { printf '\377\125\125\125\125' && printf '7\r\n-12\r\n1.5\r\n'; } >"$out/ValueFile/shorts-at-the-edge"
 { printf '\220\103\0\0\0' && head -n 136 "$diary"; } >"$out/ValueFile/day-at-the-edge"
 
-# Times, averages and dates as they stand in the file.
+# Times, averages and dates as they are in the file.
 sed -n 's/\r$//; s/^"\([0-9]*:[0-9][0-9]:[0-9][0-9]\)"$/\1/p' "$diary" | sort -u | sed -n 1,12p >"$out/Trasforma/times"
 sed -n 's/\r$//; s/^#\([0-9]*\)-\([0-9]*\)-\([0-9]*\)#$/\3\/\2\/\1/p' "$diary" | sed -n 1,3p |
   while read -r date; do printf '%s' "$date" >"$out/DateValue/${date//\//-}"; done

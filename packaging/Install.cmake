@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 # cmake --install build/release --prefix DIR makes DIR a complete program folder. What the user may have written there
-# stays untouched: "nomeload" is laid once, and of "ZelviaFile" only the folder.
+# stays untouched: "nomeload" is installed once, and of "ZelviaFile" only the folder.
 
 include(${CMAKE_SOURCE_DIR}/cmake/Guide.cmake)
 

@@ -1,13 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# cpack --preset release makes the Debian package. Its files are a component of their own, which a plain cmake --install
-# leaves out: that one lays a program folder.
+# cpack --preset release makes the Debian package. Its files are a separate component, which a plain cmake --install
+# leaves out: that one makes a program folder.
 
 set(package COMPONENT package EXCLUDE_FROM_ALL)
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 
-# What Debian wants compressed, without a date inside, so that the same sources give the same package.
+# What Debian wants compressed, without a date inside, so that builds are reproducible.
 find_program(GZIP gzip REQUIRED)
 set(compressed)
 foreach(file man/zelvia.1 man/zelvia-copie.1 debian/changelog)
@@ -34,7 +34,7 @@ install(FILES ${compressed} DESTINATION share/man/man1 ${package})
 install(FILES ${packaging}/debian/copyright ${CMAKE_BINARY_DIR}/packaging/debian/changelog.gz
   DESTINATION share/doc/zelvia ${package})
 
-# Beside the libraries, which dpkg-shlibdeps finds, the package needs what the list of packages has to run with.
+# Besides the libraries, which dpkg-shlibdeps finds, the package needs the [run] section of the list of packages.
 execute_process(COMMAND bash -euc ". '${packaging}/packages.sh'; packages_in run"
   OUTPUT_VARIABLE run_packages OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 string(REPLACE "\n" ", " CPACK_DEBIAN_PACKAGE_DEPENDS "${run_packages}")

@@ -6,7 +6,7 @@ set -euo pipefail
 source_folder=$(readlink -f "$(dirname "${BASH_SOURCE[0]}")/../..")
 failures=0
 
-# A folder of the test's own, gone at its end. No folder above it has a dot in its name.
+# A folder of the test's own, removed at its end. No folder above it has a dot in its name.
 work=$(mktemp -d /tmp/zelvia-XXXXXX)
 started=()
 tidy() {

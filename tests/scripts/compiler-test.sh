@@ -23,12 +23,12 @@ options_for() {
   cat "$work/build/options"
 }
 
-# wrapper NAME BODY: a compiler that is g++ with something of its own.
+# wrapper NAME BODY: a compiler that is g++ with a difference.
 wrapper() {
   printf '#!/bin/bash\n%s\n' "$2" >"$work/$1"
   chmod +x "$work/$1"
 }
-# The program that asks, as this compiler would build it, without CMake.
+# The program that tests the compiler, as this one builds it, without CMake.
 drops() {
   local level
   for level in -O1 -O2 -O3; do

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A kill between any two steps and a disk that is full at any step leave whole copies only:
+# A kill between any two steps and a disk that is full at any step leave only complete copies:
 # copies-faults-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
@@ -46,7 +46,7 @@ expect_whole() {
 first_29=$(seq 2 30 | tr '\n' ' ')
 steps=200
 
-# Killed at every step of a copy: the copies that show are whole and none of the last thirty is missing; the next start
+# Killed at every step of a copy: the visible copies are complete and none of the last thirty is missing; the next start
 # does what is left to do.
 for ((step = 1; step < steps; step++)); do
   renew
@@ -60,7 +60,7 @@ for ((step = 1; step < steps; step++)); do
   esac
   run "$copies" crea
   expect "after a kill at step $step" "$status|$errors" "0|"
-  # An old one whose turn had come may go only with the next copy.
+  # An old one that is due may go only with the next copy.
   case $(numbers) in
     "${first_29}31 " | "1 ${first_29}31 ") ;;
     *) expect "after a kill at step $step: copies" "$(kept_names)" "2..31" ;;
@@ -70,7 +70,7 @@ done
 expect "steps of a copy" "$((step > 20 && step < steps))" 1
 expect "the last copy of all" "$(numbers)" "${first_29}31 "
 
-# A disk full at every step: an error that says so, and the copies as they were.
+# A disk full at every step: an error that says so, and unchanged copies.
 for ((step = 1; step < steps; step++)); do
   renew
   run faulty full $step "$copies" crea
@@ -80,7 +80,7 @@ for ((step = 1; step < steps; step++)); do
     *) expect "full at step $step" "$status|$errors" "1|Disco pieno" ;;
   esac
   expect_whole "full at step $step"
-  # What was renamed into place already is whole, if perhaps not on the disk yet.
+  # What was already renamed into place is complete, though perhaps not yet on the disk.
   case $(numbers) in
     "1 $first_29" | "1 ${first_29}31 ") ;;
     *) expect "full at step $step: copies" "$(kept_names)" "1..30" ;;
@@ -91,7 +91,7 @@ for ((step = 1; step < steps; step++)); do
 done
 expect "steps that take space" "$((step > 10 && step < steps))" 1
 
-# The same for putting a copy back: the new folder is there as a whole or not at all.
+# The same for putting a copy back: the new folder is complete or absent.
 for kind in kill full; do
   for ((step = 1; step < steps; step++)); do
     renew
@@ -106,7 +106,7 @@ for kind in kill full; do
   expect "steps of putting back, $kind" "$((step > 10 && step < steps))" 1
 done
 
-# A real disk that is full: files that may not grow and, where this machine lets us, a file system that is too small.
+# A real disk that is full: files that may not grow and, where this machine allows it, a file system that is too small.
 rm -rf "$kept" "$diary"
 mkdir -p "$diary/ZelviaFile"
 lay_sample_year "$diary"

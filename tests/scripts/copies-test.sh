@@ -14,7 +14,7 @@ set_line() {
   sed -i "$((($1 - 1) * 136 + $2))s/.*/$3\r/" "$diary/ZelviaFile/prova.zlv"
 }
 
-# The command line: what is wrong with it, then what is said.
+# The command line: what is wrong with it, then the message.
 rows=(
   "" "Manca il COMANDO."
   "mostra" "Comando sconosciuto: mostra"
@@ -104,7 +104,7 @@ rm "$diary/ZelviaFile/prova.zlv"
 run "$copies" confronta 2
 expect "a missing diary" "$(sed -n 3p <<<"$output")" "  Adesso il diario non c'è."
 
-# Putting back: never over what is there, never where the program can't live.
+# Restoring: never over what is there, never where the program can't run.
 run "$copies" rimetti 1 "$diary"
 expect "over the diary" "$status|$output|$errors" \
   "1||zelvia-copie: «$diary» non è una cartella vuota: una copia si rimette soltanto in una cartella nuova o vuota"

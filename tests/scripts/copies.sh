@@ -11,13 +11,13 @@ kept=$HOME/.local/state/zelvia/copie
 copies=$work/usr/bin/zelvia-copie
 mkdir -p "$diary/ZelviaFile"
 
-# What is loaded ahead of a program comes ahead of the sanitizer, too.
+# What is preloaded comes before the sanitizer, too.
 export ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0
 
-# kept_names [FOLDER]: all that lies among the copies but the lock.
+# kept_names [FOLDER]: all entries among the copies except the lock.
 kept_names() { ls -A "${1:-$kept}" 2>/dev/null | grep -vx .blocco | tr '\n' '|' || true; }
 
-# expect_same WHAT FOLDER WANTED: two folders with the same files, the copy's own note aside.
+# expect_same WHAT FOLDER WANTED: two folders with the same files, ignoring the copy's own note.
 expect_same() {
   diff -r -x .cartella "$2" "$3" >"$work/difference" 2>&1 || expect "$1" "$(<"$work/difference")" ""
 }

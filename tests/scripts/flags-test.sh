@@ -5,8 +5,8 @@
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
 
-# commands BUILD-FOLDER: what makes the programs there, but for the folder's name, the launcher of the compiler and the
-# word that makes an error of each warning.
+# commands BUILD-FOLDER: what makes the programs there, without the folder's name, the compiler's launcher and the
+# option that makes warnings errors.
 commands() {
   ninja -C "$1" -t commands zelvia zelvia-copie zelvia-avviso | grep -F " -o " |
     sed -E "s#$1(/|\\b)#BUILD\\1#g; s#(^|&& )[^ ]*ccache #\\1#g; s# -Werror( |\$)#\\1#g" | sort

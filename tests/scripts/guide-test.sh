@@ -27,7 +27,7 @@ for page in *.html; do
     "$(grep -o '<h1>[^<]*' "$page" | sed 's/<h1>//')"
 done
 
-# Pictures: of the kind that their name says, told in words, shown somewhere.
+# Pictures: of the kind that their name says, with a description, shown somewhere.
 for picture in *.png; do
   expect "$picture: its kind" "$(identify -format '%m' "$picture")" PNG
   expect "$picture: small" "$(($(stat -c %s "$picture") < 60000))" 1

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The list of packages and its reader. Nothing is installed: apt-get, sudo and id are stood in for.
+# The list of packages and its reader. Nothing is installed: apt-get, sudo and id are replaced.
 . "$(dirname "$0")/check.sh"
 . "$source_folder/packaging/packages.sh"
 
@@ -61,7 +61,7 @@ for ((i = 0; i < ${#rows[@]}; i += 3)); do
   expect "user ${rows[i]} installs ${rows[i + 1]}" "$(tr '\n' '|' <"$work/calls")" "${rows[i + 2]}"
 done
 
-# A failed apt-get is not passed over.
+# A failed apt-get is not ignored.
 printf '#!/bin/sh\nexit 100\n' >"$work/bin/apt-get"
 ZELVIA_TEST_ID=0 run bash -euc ". '$source_folder/packaging/packages.sh'; PACKAGE_LIST='$PACKAGE_LIST'; packages_install two; echo went on"
 expect "a failed apt-get" "$status $(grep -c 'went on' <<<"$output" || true)" "100 0"

@@ -8,7 +8,7 @@ use Texts;
 
 my ($list, $folder) = @ARGV;
 
-# What a line of the list matches of what was shown: kind, text and detail. What stands for a placeholder is no report.
+# What a line of the list matches of what was shown: kind, text and detail. What fills a placeholder is not a report.
 sub pattern {
     my ($entry) = @_;
     my $text = join '(?:(?!ERRORE : ).)+', map { quotemeta } split /\{[a-z]+\}/, $entry->{text}, -1;
