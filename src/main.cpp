@@ -7,8 +7,10 @@
 #include "toolkit/Application.h"
 #include "windows/page/FrmMain.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 namespace
 {
@@ -35,8 +37,18 @@ bool ChooseFolder(const CommandLine& line)
     return line.folder || ProgramFolder() != SystemPath(own.string());
 }
 
+/// Qt takes its own options, such as -platform and -session, out of the command line.
+bool MayBeOfQt(std::string_view word)
+{
+    return word.starts_with('-') && !word.starts_with("--");
+}
+
 int Run(int argc, char* argv[])
 {
+    std::unique_ptr<const Application> application;
+    if (std::any_of(argv + 1, argv + argc, MayBeOfQt)) {
+        application = std::make_unique<const Application>(argc, argv);
+    }
     const CommandLine line = ReadCommandLine(std::span(argv + 1, argv + argc));
     if (line.help) {
         Say(stdout, kUsage);
@@ -46,9 +58,9 @@ int Run(int argc, char* argv[])
         SetClock([today = *line.today] { return today; });
     }
     const bool toBeLaid = ChooseFolder(line);
-    // Qt knows options of its own; the program has none but those above.
-    argc = 1;
-    const Application application(argc, argv);
+    if (application == nullptr) {
+        application = std::make_unique<const Application>(argc, argv);
+    }
     if (toBeLaid && !LayProgramFolder(ProgramFolder())) {
         return kMisused;
     }

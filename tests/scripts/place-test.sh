@@ -13,7 +13,6 @@ rm -rf "$diary"
 usage="Uso: zelvia [--oggi AAAA-MM-GG] [CARTELLA]"
 refused=(
   "--prova" "Opzione sconosciuta: --prova"
-  "-platform" "Opzione sconosciuta: -platform"
   "$work/a $work/b" "Si può indicare una sola CARTELLA."
   "--oggi" "Dopo --oggi ci vuole un giorno, AAAA-MM-GG: «» non lo è."
   "--oggi 2027-02-29 $work/a" "Dopo --oggi ci vuole un giorno, AAAA-MM-GG: «2027-02-29» non lo è."
@@ -24,6 +23,8 @@ for ((i = 0; i < ${#refused[@]}; i += 2)); do
   run env -u DISPLAY -u QT_QPA_PLATFORM "$installed" ${refused[i]}
   expect "«${refused[i]}»" "$status|$output|$(sed -n '1p;2p' <<<"$errors")" "2||${refused[i + 1]}"$'\n'"$usage"
 done
+run env -u DISPLAY -u QT_QPA_PLATFORM "$installed" -platform offscreen -x
+expect "Qt's own options are taken out" "$status|$output|${errors%%$'\n'*}" "2||Opzione sconosciuta: -x"
 run env -u DISPLAY -u QT_QPA_PLATFORM "$installed" --help
 expect "help" "$status|${output%%$'\n'*}|$errors" "0|$usage|"
 run env -u HOME "$installed"
