@@ -34,7 +34,7 @@ void Rename(const fs::path& from, const fs::path& to)
     }
 }
 
-/// Copies `files` of one folder into another, to the disk, each by `copy`.
+/// Copies `files` of one folder into another with `copy`, and syncs them.
 template <typename CopyOne>
 void CopyFiles(const fs::path& from, const fs::path& to, const std::vector<std::string>& files, CopyOne&& copy)
 {
@@ -174,7 +174,7 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
         throw FileFailure("«" + target.string() +
                           "» non è una cartella vuota: una copia si rimette soltanto in una cartella nuova o vuota");
     }
-    // While it is read the copy must not go for its age.
+    // The copy must not be deleted for its age while it is being read.
     const FileLock lock(root_ / kLock, patience_);
     const std::string origin = "\"" + SystemPath(copy.folder.string()) + "\\";
     const std::string place = "\"" + SystemPath(target.string()) + "\\";
@@ -194,7 +194,7 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
         }
         WriteNewFile(to, bytes);
     });
-    // Takes the place of an empty folder, too.
+    // Replaces an empty folder, too.
     passing.PutInPlace(target);
     return elsewhere;
 }

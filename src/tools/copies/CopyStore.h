@@ -13,26 +13,27 @@ namespace zelvia
 
 /// A copy of the runner's files in a program folder.
 struct Copy {
-    int number = 0;   ///< Counts up from 1 over all copies, so it tells their order even when the clock is set back.
+    int number = 0;   ///< Counts up from 1 over all copies, so it gives their order even when the clock is set back.
     std::string date; ///< 2026-11-21, local time.
     std::string time; ///< 14-05-33
-    std::filesystem::path place;  ///< Where the copy lies: a folder with the files as they lay in the program folder.
+    std::filesystem::path place;  ///< The copy's folder, with the files as they were in the program folder.
     std::filesystem::path folder; ///< The program folder it was taken of.
 };
 
 enum class CopyOutcome { Made, Unchanged, NothingThere, InUse };
 
-/// Keeps dated copies of program folders, each a folder of its own. Every change is made under a name that is not a
-/// copy's and shows by one renaming, so a copy is whole or not there, whatever ends the work half-way; what such an end
-/// leaves is swept away by the next one. Two processes wait for each other.
-/// Everything raises FileFailure or std::filesystem::filesystem_error.
+/// Keeps dated copies of program folders, each in its own folder. Every change is made in a temporary folder and
+/// becomes visible by one renaming, so a copy is complete or absent even after a crash; the next run removes what a
+/// crash has left. Two processes wait for each other. Everything raises FileFailure or
+/// std::filesystem::filesystem_error.
 class CopyStore
 {
 public:
-    /// Copies of one program folder that are kept in any case. Of the older ones the last of each month stays.
+    /// The number of copies of one program folder that are always kept. Of the older ones the last of each month is
+    /// kept.
     static constexpr std::size_t kKept = 30;
 
-    /// How long the work of another process on the copies is waited for.
+    /// How long to wait for another process that is working on the copies.
     static constexpr std::chrono::milliseconds kPatience{10'000};
 
     explicit CopyStore(std::filesystem::path root, std::chrono::milliseconds patience = kPatience)
@@ -46,11 +47,11 @@ public:
     std::vector<Copy> List() const;
     std::optional<Copy> Find(int number) const;
 
-    /// Takes a copy of `folder` unless the newest one of it holds the same, there is nothing of the runner's in it, or
-    /// a program runs in it. Copies that are too old go when one has been made.
+    /// Takes a copy of `folder` unless its newest copy is the same, it holds nothing of the runner's, or a program runs
+    /// in it. Copies that are too old are deleted afterwards.
     CopyOutcome Take(const std::filesystem::path& folder, std::chrono::system_clock::time_point now);
 
-    /// Puts a copy into `target`, which must be empty or not be there. The pointer files that lead into the program
+    /// Restores a copy into `target`, which must be empty or absent. The pointer files that lead into the program
     /// folder of the copy then lead into `target`; returns those that lead elsewhere.
     std::vector<std::string> PutBack(const Copy& copy, const std::filesystem::path& target);
 
@@ -62,8 +63,8 @@ private:
     std::chrono::milliseconds patience_;
 };
 
-/// Where the copies of the present user lie, `zelvia/copie` in the folder of the state of programs; empty when the
-/// environment names neither that folder nor a home.
+/// The folder of the current user's copies, `zelvia/copie` in the user's state folder; empty when the environment names
+/// neither that folder nor a home.
 std::filesystem::path CopyFolder();
 
 } // namespace zelvia

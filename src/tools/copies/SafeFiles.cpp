@@ -47,13 +47,13 @@ int OpenOrFail(const fs::path& path, int flags)
     return file;
 }
 
-/// Reads a file piece by piece, each but the last of the same length: it may be longer than the memory is.
+/// Reads a file in pieces, all but the last of the same length: the file may be larger than memory.
 class PieceReader
 {
 public:
     explicit PieceReader(const fs::path& path) : path_(path), file_(OpenOrFail(path, O_RDONLY)) {}
 
-    /// What comes next, empty at the end.
+    /// The next piece, empty at the end.
     std::string_view Next()
     {
         std::size_t filled = 0;
@@ -77,7 +77,7 @@ private:
     std::array<char, 1 << 16> piece_;
 };
 
-/// A file that must not be there yet, for its owner alone.
+/// A file that must not exist yet, readable by its owner only.
 class NewFile
 {
 public:
@@ -94,7 +94,7 @@ public:
         }
     }
 
-    /// Brings it to the disk.
+    /// Syncs and closes it.
     void Finish()
     {
         if (Again([&] { return ::fsync(file_.Number()); }) != 0 || !file_.Close()) {
@@ -165,7 +165,7 @@ void MakeFolders(const fs::path& path)
     }
     if (::mkdir(path.c_str(), kOwnersFolder) != 0) {
         const int reason = errno;
-        // Another start may have been quicker.
+        // Another start may have been faster.
         if (!fs::is_directory(path, ignored)) {
             throw FileFailure(path, reason);
         }
@@ -175,7 +175,7 @@ void MakeFolders(const fs::path& path)
 void SyncFolder(const fs::path& path)
 {
     const Descriptor folder(OpenOrFail(path, O_RDONLY | O_DIRECTORY));
-    // A file system that can't do this for a folder says EINVAL, and has nothing more to be done.
+    // A file system that can't sync folders says EINVAL, and needs no more.
     if (Again([&] { return ::fsync(folder.Number()); }) != 0 && errno != EINVAL) {
         throw FileFailure(path, errno);
     }
@@ -195,7 +195,7 @@ FileLock::FileLock(const fs::path& path, std::chrono::milliseconds patience) : f
 {
     constexpr std::chrono::milliseconds pause(20);
     for (; ::flock(file_.Number(), LOCK_EX | LOCK_NB) != 0; patience -= pause) {
-        // Where files can't be locked at all the copies are made without.
+        // Where files can't be locked at all the copies are made without a lock.
         if (errno == ENOLCK || errno == ENOTSUP || errno == ENOSYS) {
             return;
         }

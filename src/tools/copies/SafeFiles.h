@@ -13,7 +13,7 @@
 namespace zelvia
 {
 
-/// What went wrong with a file of the machine, as the runner reads it: Italian, UTF-8.
+/// What went wrong with a file, as the runner reads it: Italian, UTF-8.
 class FileFailure : public std::runtime_error
 {
 public:
@@ -21,29 +21,29 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The whole file. Raises FileFailure, as everything below.
+/// The whole file. Raises FileFailure, as do all of the following.
 std::string ReadFile(const std::filesystem::path& path);
 
 /// True when two files have the same bytes, however long they are.
 bool HoldTheSame(const std::filesystem::path& one, const std::filesystem::path& other);
 
-/// Writes a file that must not be there yet, for its owner alone, and brings it to the disk.
+/// Writes and syncs a file that must not exist yet, readable by its owner only.
 void WriteNewFile(const std::filesystem::path& path, std::string_view bytes);
 
-/// The same with the bytes of another file, however long it is.
+/// The same with the content of another file, however long it is.
 void CopyNewFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
-/// Makes a folder for its owner alone, and those above it that are missing.
+/// Makes a folder, accessible to its owner only, and the missing ones above it.
 void MakeFolders(const std::filesystem::path& path);
 
-/// Brings a folder's own entries to the disk.
+/// Syncs a folder's own entries.
 void SyncFolder(const std::filesystem::path& path);
 
 /// The same for a folder and all folders below it.
 void SyncFolders(const std::filesystem::path& path);
 
-/// A lock on a file, made when it is missing, for the life of the object. Fails when another process holds it for all
-/// of `patience`; the machine frees it when its holder ends, in whatever way.
+/// A lock on a file, created when missing, for the life of the object. Fails when another process holds it for all of
+/// `patience`; the kernel releases it when its holder ends, however it ends.
 class FileLock
 {
 public:
