@@ -83,17 +83,17 @@ std::optional<Copy> CopyNamed(const std::string& name)
 }
 
 /// A temporary folder next to the final one, removed unless it was put in place.
-class PassingFolder
+class TemporaryFolder
 {
 public:
-    explicit PassingFolder(fs::path place) : place_(std::move(place))
+    explicit TemporaryFolder(fs::path place) : place_(std::move(place))
     {
         fs::remove_all(place_);
         MakeFolders(place_);
     }
-    PassingFolder(const PassingFolder&) = delete;
-    PassingFolder& operator=(const PassingFolder&) = delete;
-    ~PassingFolder()
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder()
     {
         std::error_code ignored;
         fs::remove_all(place_, ignored);
@@ -160,10 +160,10 @@ CopyOutcome CopyStore::Take(const fs::path& folder, std::chrono::system_clock::t
     if (newest != copies.rend() && HoldsTheSame(folder, files, newest->place)) {
         return CopyOutcome::Unchanged;
     }
-    PassingFolder passing(root_ / kNew);
-    CopyFiles(folder, passing.Place(), files, CopyNewFile);
-    WriteNewFile(passing.Place() / kOrigin, folder.string());
-    passing.PutInPlace(root_ / NameOf(copies.empty() ? 1 : copies.back().number + 1, now));
+    TemporaryFolder temporary(root_ / kNew);
+    CopyFiles(folder, temporary.Place(), files, CopyNewFile);
+    WriteNewFile(temporary.Place() / kOrigin, folder.string());
+    temporary.PutInPlace(root_ / NameOf(copies.empty() ? 1 : copies.back().number + 1, now));
     Thin(folder);
     return CopyOutcome::Made;
 }
@@ -180,8 +180,8 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
     const std::string place = "\"" + SystemPath(target.string()) + "\\";
     std::vector<std::string> elsewhere;
     MakeFolders(target.parent_path());
-    PassingFolder passing(target.parent_path() / ("." + target.filename().string() + kNew));
-    CopyFiles(copy.place, passing.Place(), FilesBelow(copy.place), [&](const fs::path& from, const fs::path& to) {
+    TemporaryFolder temporary(target.parent_path() / ("." + target.filename().string() + kNew));
+    CopyFiles(copy.place, temporary.Place(), FilesBelow(copy.place), [&](const fs::path& from, const fs::path& to) {
         if (from.filename() != "nomeload" && from.filename() != "nometab") {
             CopyNewFile(from, to);
             return;
@@ -195,7 +195,7 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
         WriteNewFile(to, bytes);
     });
     // Replaces an empty folder, too.
-    passing.PutInPlace(target);
+    temporary.PutInPlace(target);
     return elsewhere;
 }
 
