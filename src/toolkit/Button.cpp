@@ -3,9 +3,13 @@
 #include "toolkit/Button.h"
 
 #include "toolkit/Events.h"
+#include "toolkit/Fonts.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
 #include <QKeyEvent>
+
+#include <utility>
 
 namespace zelvia
 {
@@ -20,11 +24,21 @@ Button::Button(QWidget* parent, const QString& name, TextView caption)
 
 void Button::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (ControlKey(event->key()) == kEnter) {
         click();
         return;
     }
     QPushButton::keyPressEvent(event);
+}
+
+Button* MakeButton(QWidget* parent, const char* name, TextView caption, const QRect& place, std::function<void()> click)
+{
+    constexpr int pixels = 15;
+    auto* button = new Button(parent, QLatin1String(name), caption);
+    button->setGeometry(place);
+    button->setFont(PageFont("Times New Roman", pixels));
+    button->Click = std::move(click);
+    return button;
 }
 
 } // namespace zelvia

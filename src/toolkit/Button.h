@@ -24,4 +24,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
+/// A button in the face of the printed pages.
+Button* MakeButton(QWidget* parent, const char* name, TextView caption, const QRect& place,
+                   std::function<void()> click = {});
+
 } // namespace zelvia

@@ -28,6 +28,13 @@ Control& Form::FocusSink()
     return *sink_;
 }
 
+void Form::ShowInFront()
+{
+    show();
+    raise();
+    activateWindow();
+}
+
 Form* Form::Of(QWidget* widget)
 {
     return widget == nullptr ? nullptr : qobject_cast<Form*>(widget->window());

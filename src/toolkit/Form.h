@@ -28,6 +28,9 @@ public:
     /// The control that takes the focus when none should have it.
     virtual Control& FocusSink();
 
+    /// Shows the window, or brings the one that is open to the front.
+    void ShowInFront();
+
     /// Ends the window as its close box does. False when it refused.
     bool Unload() { return close(); }
 

@@ -21,13 +21,6 @@ Label* MakeLabel(QWidget* parent, const QString& name, TextView caption, const Q
     return label;
 }
 
-void ThrowAwayNonDigit(int& keyAscii)
-{
-    if (keyAscii >= ' ' && (keyAscii < '0' || keyAscii > '9')) {
-        keyAscii = 0;
-    }
-}
-
 bool LimitHolds(double value, double limit, TextView message)
 {
     if (value <= limit) {

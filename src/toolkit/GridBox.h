@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Text.h"
+#include "toolkit/Keys.h"
 #include "toolkit/Label.h"
 
 #include <QFont>
@@ -13,16 +14,10 @@
 namespace zelvia
 {
 
-/// The character that Enter sends to a box's KeyPress.
-inline constexpr int kEnter = 13;
-
 /// The name of an element of an array of controls: txtKm(5).
 QString Indexed(const char* name, int index);
 
 Label* MakeLabel(QWidget* parent, const QString& name, TextView caption, const QRect& place, const QFont& font);
-
-/// Throws away a printable character that is no digit.
-void ThrowAwayNonDigit(int& keyAscii);
 
 /// True when `value` is not above `limit`; else shows the message with the exclamation icon.
 bool LimitHolds(double value, double limit, TextView message);

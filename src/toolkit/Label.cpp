@@ -3,6 +3,7 @@
 #include "toolkit/Label.h"
 
 #include "toolkit/Events.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
 #include <QKeyEvent>
@@ -65,7 +66,7 @@ void Label::mouseReleaseEvent(QMouseEvent* event)
 void Label::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
-    if (click_ && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)) {
+    if (click_ && (ControlKey(key) == kEnter || key == Qt::Key_Space)) {
         Fire(click_);
         return;
     }

@@ -5,6 +5,7 @@
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
 #include "toolkit/Form.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
 #include <QContextMenuEvent>
@@ -127,16 +128,10 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event)
 
 void ListBox::keyPressEvent(QKeyEvent* event)
 {
-    const int key = event->key();
-    const int keyAscii = key == Qt::Key_Return || key == Qt::Key_Enter ? 13 : key == Qt::Key_Escape ? 27 : 0;
-    if (keyAscii != 0) {
-        Fire([&] {
-            if (KeyPress) {
-                KeyPress(keyAscii);
-            }
-        });
+    if (FireListKey(*event, KeyPress)) {
         return;
     }
+    const int key = event->key();
     const int before = ListIndex();
     if (before < 0 && count() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up)) {
         // The base class has its cursor on the first entry already, and would pass over it.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/ListView.h"
 
-#include "toolkit/Events.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
 #include <QHeaderView>
@@ -46,16 +46,10 @@ void ListView::AddRow(std::initializer_list<TextView> texts)
 
 void ListView::keyPressEvent(QKeyEvent* event)
 {
-    const int key = event->key();
-    const int keyAscii = key == Qt::Key_Return || key == Qt::Key_Enter ? 13 : key == Qt::Key_Escape ? 27 : 0;
-    if (keyAscii != 0) {
-        Fire([&] {
-            if (KeyPress) {
-                KeyPress(keyAscii);
-            }
-        });
+    if (FireListKey(*event, KeyPress)) {
         return;
     }
+    const int key = event->key();
     if (selectedItems().isEmpty() && ListCount() > 0 && (key == Qt::Key_Down || key == Qt::Key_Up)) {
         // The base class may have its cursor on the first row already, and would pass over it.
         setCurrentItem(topLevelItem(0));

@@ -3,6 +3,7 @@
 #include "toolkit/TextBox.h"
 
 #include "toolkit/Events.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
 #include <QApplication>
@@ -22,22 +23,6 @@ namespace zelvia
 {
 namespace
 {
-
-constexpr int kBackspace = 8;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
-
-/// The key's character as the handlers see it, or 0 for a key that is none.
-int ControlKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter: return kEnter;
-    case Qt::Key_Escape: return kEscape;
-    case Qt::Key_Backspace: return kBackspace;
-    default: return 0;
-    }
-}
 
 /// True for the codes of keys that enter no character: control characters, those of the second block too.
 bool IsControl(char32_t character)

@@ -108,22 +108,12 @@ void frmMain::DispatchCommand(TextView key)
 
 void frmMain::mnuAllenamenti_Click()
 {
-    Trap("mnuAllenamenti - ERRORE : ", [this] {
-        frmTabAllenamenti& list = tables_.CurrentList();
-        list.show();
-        list.raise();
-        list.activateWindow();
-    });
+    Trap("mnuAllenamenti - ERRORE : ", [this] { tables_.CurrentList().ShowInFront(); });
 }
 
 void frmMain::mnuGare_Click()
 {
-    Trap("mnuGare - ERRORE : ", [this] {
-        frmCalendario& calendario = calendario_.Load();
-        calendario.show();
-        calendario.raise();
-        calendario.activateWindow();
-    });
+    Trap("mnuGare - ERRORE : ", [this] { calendario_.Load().ShowInFront(); });
 }
 
 void frmMain::mnuHelpContents_Click()
@@ -149,12 +139,7 @@ void frmMain::ShowHelp(int comando, const QString& argomento)
 
 void frmMain::mnuHelpAbout_Click()
 {
-    Trap("mnuHelpAbout - ERRORE : ", [this] {
-        frmInfo& info = info_.Load();
-        info.show();
-        info.raise();
-        info.activateWindow();
-    });
+    Trap("mnuHelpAbout - ERRORE : ", [this] { info_.Load().ShowInFront(); });
 }
 
 } // namespace zelvia

@@ -20,20 +20,13 @@ void frmMain::ShowStatistic(void (frmMain::*statis)())
 {
     AssegnaCampi();
     (this->*statis)();
-    frmStatistiche1& window = StatisticsWindow();
-    window.show();
-    window.raise();
-    window.activateWindow();
+    StatisticsWindow().ShowInFront();
 }
 
 void frmMain::mnuMedie_Click()
 {
     AssegnaCampi();
-    frmRicercheStatistiche& search =
-        ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); });
-    search.show();
-    search.raise();
-    search.activateWindow();
+    ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); }).ShowInFront();
 }
 
 } // namespace zelvia

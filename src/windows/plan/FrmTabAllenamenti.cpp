@@ -30,22 +30,20 @@ Text PathOf(const Text& voce)
     return CartellaDiario + "\\" + voce;
 }
 
-Button* MakeButton(QWidget* parent, const char* name, TextView caption, int top)
+constexpr QRect ButtonPlace(int top)
 {
-    auto* button = new Button(parent, QLatin1String(name), caption);
-    button->setGeometry(328, top, 176, 36);
-    button->setFont(PageFont("Times New Roman", 15));
-    return button;
+    return {328, top, 176, 36};
 }
 
 } // namespace
 
 frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
     : Form(QStringLiteral("frmTabAllenamenti")), flbListaTabelle(new ListBox(this, QStringLiteral("flbListaTabelle"))),
-      cmdOK(MakeButton(this, "cmdOK", "          O K         ", 20)),
-      cmdNuovaTab(MakeButton(this, "cmdNuovaTab", "Nuova Tabella", 72)),
-      cmdCancellaTab(MakeButton(this, "cmdCancellaTab", "Cancella Tabella", 124)),
-      cmdEsci(MakeButton(this, "cmdEsci", "Esci", 244)), windows_(windows)
+      cmdOK(MakeButton(this, "cmdOK", "          O K         ", ButtonPlace(20), [this] { cmdOK_Click(); })),
+      cmdNuovaTab(MakeButton(this, "cmdNuovaTab", "Nuova Tabella", ButtonPlace(72), [this] { cmdNuovaTab_Click(); })),
+      cmdCancellaTab(
+          MakeButton(this, "cmdCancellaTab", "Cancella Tabella", ButtonPlace(124), [this] { cmdCancellaTab_Click(); })),
+      cmdEsci(MakeButton(this, "cmdEsci", "Esci", ButtonPlace(244), [this] { Unload(); })), windows_(windows)
 {
     setWindowTitle(QStringLiteral("Lista Tabelle Allenamenti"));
     setPalette(PagePalette());
@@ -54,10 +52,6 @@ frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
     flbListaTabelle->setGeometry(20, 20, 288, 260);
     flbListaTabelle->setFont(PageFont("Times New Roman", 16));
     flbListaTabelle->setAccessibleName(QStringLiteral("Tabelle di allenamento"));
-    cmdOK->Click = [this] { cmdOK_Click(); };
-    cmdNuovaTab->Click = [this] { cmdNuovaTab_Click(); };
-    cmdCancellaTab->Click = [this] { cmdCancellaTab_Click(); };
-    cmdEsci->Click = [this] { Unload(); };
     Reload();
 }
 
@@ -114,10 +108,7 @@ Text frmTabAllenamenti::Selected() const
 
 void frmTabAllenamenti::ShowEditor()
 {
-    frmAllenamento& editor = windows_.Editor();
-    editor.show();
-    editor.raise();
-    editor.activateWindow();
+    windows_.Editor().ShowInFront();
 }
 
 void frmTabAllenamenti::cmdOK_Click()

@@ -8,6 +8,7 @@
 #include "diary/Module1.h"
 #include "diary/StatisticSheets.h"
 #include "toolkit/Fonts.h"
+#include "toolkit/Keys.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
 #include "toolkit/Printer.h"
@@ -111,13 +112,13 @@ std::vector<StatisticSheetSlot> SlotsOnPaper()
 
 frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
     : Form(QStringLiteral("frmStatistiche1")), lblTitolo(new Label(this, QStringLiteral("lblTitolo"))),
-      cmdStatitolo(MakeButton("cmdStatitolo", "descrizione", kNameHead)),
-      cmdStatfre(MakeButton("cmdStatfre", "frequenza", kCountHead)),
+      cmdStatitolo(MakeButton(this, "cmdStatitolo", "descrizione", kNameHead)),
+      cmdStatfre(MakeButton(this, "cmdStatfre", "frequenza", kCountHead)),
       lstStatistica(new ListBox(this, QStringLiteral("lstStatistica"))),
-      cmdTempiLO(MakeButton("cmdTempiLO", "Tempi", ButtonPlace(0))),
-      cmGrafico(MakeButton("cmGrafico", "Grafico", ButtonPlace(1))),
-      cmdStampa(MakeButton("cmdStampa", "Stampa", ButtonPlace(2))),
-      cmdEsci(MakeButton("cmdEsci", "Esci", ButtonPlace(3))),
+      cmdTempiLO(MakeButton(this, "cmdTempiLO", "Tempi", ButtonPlace(0), [this] { cmdTempiLO_Click(); })),
+      cmGrafico(MakeButton(this, "cmGrafico", "Grafico", ButtonPlace(1), [this] { cmGrafico_Click(); })),
+      cmdStampa(MakeButton(this, "cmdStampa", "Stampa", ButtonPlace(2), [this] { cmdStampa_Click(); })),
+      cmdEsci(MakeButton(this, "cmdEsci", "Esci", ButtonPlace(3), [this] { Unload(); })),
       // 1587, 2117, 1587 and 2117 twips, of which 15 are a pixel.
       lvListaOrdinata(new ListView(this, QStringLiteral("lvListaOrdinata"),
                                    {{"classifica", 106}, {"tempo", 141}, {"media", 106}, {"data", 141}})),
@@ -128,25 +129,12 @@ frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
     setAutoFillBackground(true);
     setFixedSize(kSize);
     Build();
-    cmdTempiLO->Click = [this] { cmdTempiLO_Click(); };
-    cmGrafico->Click = [this] { cmGrafico_Click(); };
-    cmdStampa->Click = [this] { cmdStampa_Click(); };
-    cmdEsci->Click = [this] { Unload(); };
     lvListaOrdinata->LostFocus = [this] { lvListaOrdinata_LostFocus(); };
     lvListaOrdinata->KeyPress = [this](int keyAscii) {
-        constexpr int escape = 27;
-        if (keyAscii == escape) {
+        if (keyAscii == kEscape) {
             lvListaOrdinata_LostFocus();
         }
     };
-}
-
-Button* frmStatistiche1::MakeButton(const char* name, TextView caption, const QRect& place)
-{
-    auto* button = new Button(this, QLatin1String(name), caption);
-    button->setGeometry(place);
-    button->setFont(PageFont("Times New Roman", 15));
-    return button;
 }
 
 void frmStatistiche1::Build()

@@ -59,7 +59,6 @@ private:
     using ProvaGiorno = std::function<bool(const RecordGiorno&)>;
 
     void Build();
-    Button* MakeButton(const char* name, TextView caption, const QRect& place);
 
     void ListaWOrdinata(const Text& valore);
     void ListavOrdinata(i16 valore);
