@@ -4,7 +4,7 @@
 #include "Harness.h"
 #include "core/Conversions.h"
 #include "core/Files.h"
-#include "diary/TextRoutines.h"
+#include "core/TextRoutines.h"
 #include "diary/Workspace.h"
 
 using namespace zelvia;

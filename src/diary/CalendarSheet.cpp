@@ -5,7 +5,7 @@
 namespace zelvia
 {
 
-using CalendarGrid::Casella;
+using CalendarGrid::RaceColumn;
 
 namespace
 {
@@ -33,33 +33,33 @@ void PrintHeads(Sheet& sheet)
 
 void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& riga)
 {
-    const auto box = [&](Casella casella) -> const Text& { return riga[CalendarGrid::IndexOf(casella)]; };
-    sheet.Print(DigitColumn(box(Casella::Giorno), 2), y, box(Casella::Giorno));
-    sheet.Print(DigitColumn(box(Casella::Mese), 5), y, box(Casella::Mese));
-    sheet.Print(8, y, box(Casella::Anno));
-    sheet.Print(13, y, box(Casella::Gara));
-    sheet.Print(45, y, box(Casella::Localita));
-    sheet.Print(DigitColumn(box(Casella::Km), 66), y, box(Casella::Km));
-    if (!box(Casella::Km).empty()) {
+    const auto box = [&](RaceColumn column) -> const Text& { return riga[CalendarGrid::IndexOf(column)]; };
+    sheet.Print(DigitColumn(box(RaceColumn::Giorno), 2), y, box(RaceColumn::Giorno));
+    sheet.Print(DigitColumn(box(RaceColumn::Mese), 5), y, box(RaceColumn::Mese));
+    sheet.Print(8, y, box(RaceColumn::Anno));
+    sheet.Print(13, y, box(RaceColumn::Gara));
+    sheet.Print(45, y, box(RaceColumn::Localita));
+    sheet.Print(DigitColumn(box(RaceColumn::Km), 66), y, box(RaceColumn::Km));
+    if (!box(RaceColumn::Km).empty()) {
         sheet.Print(68, y, ",");
-        if (box(Casella::Metri).empty()) {
+        if (box(RaceColumn::Metri).empty()) {
             sheet.Print(69, y, "0");
         }
     }
-    sheet.Print(69, y, box(Casella::Metri));
-    sheet.Print(78, y, box(Casella::Partecipanti));
-    sheet.Print(90, y, box(Casella::Risultato));
-    sheet.Print(100, y, box(Casella::Ore));
-    if (!box(Casella::Ore).empty()) {
+    sheet.Print(69, y, box(RaceColumn::Metri));
+    sheet.Print(78, y, box(RaceColumn::Partecipanti));
+    sheet.Print(90, y, box(RaceColumn::Risultato));
+    sheet.Print(100, y, box(RaceColumn::Ore));
+    if (!box(RaceColumn::Ore).empty()) {
         sheet.Print(102, y, ":");
     }
-    sheet.Print(103, y, box(Casella::Minuti));
-    if (!box(Casella::Minuti).empty()) {
+    sheet.Print(103, y, box(RaceColumn::Minuti));
+    if (!box(RaceColumn::Minuti).empty()) {
         sheet.Print(105, y, ":");
     }
-    sheet.Print(106, y, box(Casella::Secondi));
-    sheet.Print(112, y, box(Casella::Categoria));
-    sheet.Print(124, y, box(Casella::RisultatoCat));
+    sheet.Print(106, y, box(RaceColumn::Secondi));
+    sheet.Print(112, y, box(RaceColumn::Categoria));
+    sheet.Print(124, y, box(RaceColumn::RisultatoCat));
 }
 
 } // namespace

@@ -65,20 +65,6 @@ void Check(const Estremo& estremo, TestiPeriodo& testi, std::vector<CorrezionePe
 
 } // namespace
 
-LimitePeriodo LimiteDi(Campo campo)
-{
-    static constexpr LimitePeriodo day{31, "MAX 31 GIORNI                 "};
-    static constexpr LimitePeriodo month{12, "MAX 12 MESI                   "};
-    static constexpr LimitePeriodo year{2099, "MAX ANNO 2099                 "};
-    switch (campo) {
-    case GiornoInizio:
-    case GiornoFine: return day;
-    case MeseInizio:
-    case MeseFine: return month;
-    default: return year;
-    }
-}
-
 ControlloPeriodo ControllaPeriodo(TestiPeriodo testi)
 {
     ControlloPeriodo controllo;

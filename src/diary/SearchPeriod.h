@@ -20,14 +20,6 @@ inline constexpr std::size_t kCampi = 6;
 
 using TestiPeriodo = std::array<Text, CampoPeriodo::kCampi>;
 
-/// The highest value of a box, and the message for a higher one.
-struct LimitePeriodo {
-    int massimo;
-    TextView messaggio;
-};
-
-LimitePeriodo LimiteDi(CampoPeriodo::Campo campo);
-
 /// A correction made before a search, and its message.
 struct CorrezionePeriodo {
     TextView messaggio;

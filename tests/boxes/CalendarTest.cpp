@@ -16,36 +16,36 @@ const QString kThousands = QStringLiteral("MAX 999.999                   ");
 
 struct BoxRow {
     const char* name;
-    Casella box;
+    RaceColumn box;
     int limit;
     const NumberKind* kind; ///< None for texts.
     QString message;        ///< Of a number beyond the limit.
 };
 
 const BoxRow kBoxes[] = {
-    {"txtGiornoGara", Casella::Giorno, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 31 GIORNI                 ")},
-    {"txtMeseGara", Casella::Mese, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 12 MESI                   ")},
-    {"txtAnnoGara", Casella::Anno, 4, &kYear, QStringLiteral("MAX ANNO 2099                 ")},
-    {"txtGare", Casella::Gara, 31, nullptr, {}},
-    {"txtLocalita", Casella::Localita, 20, nullptr, {}},
-    {"txtKm", Casella::Km, 2, &kTwoCharacters, {}},
-    {"txtMetri", Casella::Metri, 3, &kThreeDigits, {}},
-    {"txtPartecipanti", Casella::Partecipanti, 7, &kThousandsTo999999, kThousands},
-    {"txtRisultato", Casella::Risultato, 7, &kThousandsTo999999, kThousands},
-    {"txtOre", Casella::Ore, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 24 ORE                ")},
-    {"txtMinuti", Casella::Minuti, 2, &kTwoDigitsToALimit, QStringLiteral("MAX 59 MINUTI                ")},
-    {"txtSecondi", Casella::Secondi, 2, &kTwoDigitsToALimit, QStringLiteral("MAX 59 SECONDI                ")},
-    {"txtCategoria", Casella::Categoria, 8, nullptr, {}},
-    {"txtRisultatoCat", Casella::RisultatoCat, 7, &kThousandsTo999999, kThousands},
+    {"txtGiornoGara", RaceColumn::Giorno, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 31 GIORNI                 ")},
+    {"txtMeseGara", RaceColumn::Mese, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 12 MESI                   ")},
+    {"txtAnnoGara", RaceColumn::Anno, 4, &kYear, QStringLiteral("MAX ANNO 2099                 ")},
+    {"txtGare", RaceColumn::Gara, 31, nullptr, {}},
+    {"txtLocalita", RaceColumn::Localita, 20, nullptr, {}},
+    {"txtKm", RaceColumn::Km, 2, &kTwoCharacters, {}},
+    {"txtMetri", RaceColumn::Metri, 3, &kThreeDigits, {}},
+    {"txtPartecipanti", RaceColumn::Partecipanti, 7, &kThousandsTo999999, kThousands},
+    {"txtRisultato", RaceColumn::Risultato, 7, &kThousandsTo999999, kThousands},
+    {"txtOre", RaceColumn::Ore, 2, &kTwoCharactersToALimit, QStringLiteral("MAX 24 ORE                ")},
+    {"txtMinuti", RaceColumn::Minuti, 2, &kTwoDigitsToALimit, QStringLiteral("MAX 59 MINUTI                ")},
+    {"txtSecondi", RaceColumn::Secondi, 2, &kTwoDigitsToALimit, QStringLiteral("MAX 59 SECONDI                ")},
+    {"txtCategoria", RaceColumn::Categoria, 8, nullptr, {}},
+    {"txtRisultatoCat", RaceColumn::RisultatoCat, 7, &kThousandsTo999999, kThousands},
 };
 
 /// A box of the free row, other than the one tried.
-Casella OtherThan(Casella box)
+RaceColumn OtherThan(RaceColumn box)
 {
-    return box == Casella::Categoria ? Casella::Gara : Casella::Categoria;
+    return box == RaceColumn::Categoria ? RaceColumn::Gara : RaceColumn::Categoria;
 }
 
-int LineOf(Casella box)
+int LineOf(RaceColumn box)
 {
     return static_cast<int>(CalendarGrid::IndexOf(box)) + 2;
 }
@@ -63,8 +63,8 @@ public:
     /// The other two parts of a date that no other row has.
     void CompleteDate(int row)
     {
-        const std::pair<Casella, int> parts[] = {
-            {Casella::Giorno, row}, {Casella::Mese, 1 + row % 7}, {Casella::Anno, 2026 + row / 7}};
+        const std::pair<RaceColumn, int> parts[] = {
+            {RaceColumn::Giorno, row}, {RaceColumn::Mese, 1 + row % 7}, {RaceColumn::Anno, 2026 + row / 7}};
         for (const auto& [box, value] : parts) {
             if (box != row_->box) {
                 Box(box, row).setText(QString::number(value));
@@ -78,7 +78,7 @@ public:
     /// Fills a box of another row, saves with those messages, and reads the file again.
     void GoOn(const QStringList& messages)
     {
-        const Casella other = OtherThan(row_->box);
+        const RaceColumn other = OtherThan(row_->box);
         Fill(Box(other, kFreeRow), {"", Entry::Typed, QStringLiteral("altra")});
         file_.SetLine(kFreeRow, LineOf(other), "\"altra\"");
         script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
@@ -91,7 +91,7 @@ public:
         AwaitFront(*Window());
         // The closing checks the dates once more; what was put right stays so.
         for (const QString& message : messages) {
-            if (row_->box != Casella::Anno) {
+            if (row_->box != RaceColumn::Anno) {
                 script.Expect(Warning(message));
             }
         }
@@ -116,15 +116,15 @@ struct Repair {
     int value;
 };
 
-Repair RepairOf(Casella box, int row, int value)
+Repair RepairOf(RaceColumn box, int row, int value)
 {
-    if (box == Casella::Giorno && value < 1) {
+    if (box == RaceColumn::Giorno && value < 1) {
         return {QStringLiteral(" MANCA AL N° %1 :   GIORNO   ").arg(row), value};
     }
-    if (box == Casella::Mese && value < 1) {
+    if (box == RaceColumn::Mese && value < 1) {
         return {QStringLiteral(" MANCA AL N° %1 :   MESE   ").arg(row), value};
     }
-    if (box == Casella::Anno && value < 2007) {
+    if (box == RaceColumn::Anno && value < 2007) {
         return {QStringLiteral(" MODIFICA AL N° %1 :   ANNO 2026  ").arg(row), 2026};
     }
     return {{}, value};
@@ -163,7 +163,7 @@ void CalendarTest::numbers()
 {
     QFETCH(int, index);
     const BoxRow& row = kBoxes[index];
-    const bool isDate = row.box == Casella::Giorno || row.box == Casella::Mese || row.box == Casella::Anno;
+    const bool isDate = row.box == RaceColumn::Giorno || row.box == RaceColumn::Mese || row.box == RaceColumn::Anno;
     Desk desk;
     desk.Begin(row);
     QStringList messages;

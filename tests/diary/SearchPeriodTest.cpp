@@ -18,8 +18,6 @@ class SearchPeriodTest : public QObject
 private Q_SLOTS:
     void Checks_data();
     void Checks();
-    void Limits_data();
-    void Limits();
 };
 
 void SearchPeriodTest::Checks_data()
@@ -96,30 +94,6 @@ void SearchPeriodTest::Checks()
     QCOMPARE(told, messages);
     QCOMPARE(texts.join('|'), after);
     QCOMPARE(check.invertito, refused);
-}
-
-void SearchPeriodTest::Limits_data()
-{
-    QTest::addColumn<int>("field");
-    QTest::addColumn<int>("highest");
-    QTest::addColumn<QByteArray>("message");
-    const QByteArray day("MAX 31 GIORNI                 ");
-    const QByteArray month("MAX 12 MESI                   ");
-    const QByteArray year("MAX ANNO 2099                 ");
-    QTest::newRow("start day") << int{CampoPeriodo::GiornoInizio} << 31 << day;
-    QTest::newRow("start month") << int{CampoPeriodo::MeseInizio} << 12 << month;
-    QTest::newRow("start year") << int{CampoPeriodo::AnnoInizio} << 2099 << year;
-    QTest::newRow("end day") << int{CampoPeriodo::GiornoFine} << 31 << day;
-    QTest::newRow("end month") << int{CampoPeriodo::MeseFine} << 12 << month;
-    QTest::newRow("end year") << int{CampoPeriodo::AnnoFine} << 2099 << year;
-}
-
-void SearchPeriodTest::Limits()
-{
-    QFETCH(int, field);
-    const LimitePeriodo limit = LimiteDi(static_cast<CampoPeriodo::Campo>(field));
-    QTEST(limit.massimo, "highest");
-    QTEST(Bytes(limit.messaggio), "message");
 }
 
 QTEST_APPLESS_MAIN(SearchPeriodTest)

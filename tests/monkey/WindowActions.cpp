@@ -364,7 +364,7 @@ void Actions::WriteRace(QWidget& window)
     const CalendarDate date = Module1::DataCorrente;
     const int other[] = {dice_.Between(0, 31), dice_.Between(0, 12), dice_.Between(2025, 2027)};
     const int shown[] = {date.Day().value(), date.Month().value(), date.Year().value()};
-    hand_.Click(*calendar->Box(CalendarGrid::Casella::Giorno, row));
+    hand_.Click(*calendar->Box(CalendarGrid::RaceColumn::Giorno, row));
     hand_.Key(Qt::Key_A, Qt::ControlModifier);
     for (const int number : onPage ? shown : other) {
         hand_.Type(QString::number(number));

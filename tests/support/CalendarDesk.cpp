@@ -47,7 +47,7 @@ void CalendarDesk::StartOpen()
     OpenCalendar();
 }
 
-void CalendarDesk::Write(Casella box, int row, const QString& text) const
+void CalendarDesk::Write(RaceColumn box, int row, const QString& text) const
 {
     TextBox& written = Box(box, row);
     hand::Click(written);
@@ -61,14 +61,14 @@ void CalendarDesk::Write(Casella box, int row, const QString& text) const
 
 void CalendarDesk::WriteDate(int row, const QByteArray& day, const QByteArray& month, const QByteArray& year) const
 {
-    Write(Casella::Giorno, row, QString::fromLatin1(day));
-    Write(Casella::Mese, row, QString::fromLatin1(month));
-    Write(Casella::Anno, row, QString::fromLatin1(year));
+    Write(RaceColumn::Giorno, row, QString::fromLatin1(day));
+    Write(RaceColumn::Mese, row, QString::fromLatin1(month));
+    Write(RaceColumn::Anno, row, QString::fromLatin1(year));
 }
 
 void CalendarDesk::WriteRow(int row, const char* values) const
 {
-    hand::Click(Box(Casella::Giorno, row));
+    hand::Click(Box(RaceColumn::Giorno, row));
     for (const QByteArray& value : QByteArray(values).split('|')) {
         if (!value.isEmpty()) {
             hand::Type(QString::fromLatin1(value));
@@ -81,7 +81,7 @@ QByteArray CalendarDesk::Row(int row) const
 {
     QByteArrayList parts;
     for (std::size_t column = 0; column < CalendarGrid::kColumns; ++column) {
-        parts << Box(static_cast<Casella>(column), row).text().toLatin1();
+        parts << Box(static_cast<RaceColumn>(column), row).text().toLatin1();
     }
     return parts.join('|');
 }

@@ -9,7 +9,7 @@
 namespace zelvia::test
 {
 
-using CalendarGrid::Casella;
+using CalendarGrid::RaceColumn;
 
 /// A page of an empty year 2026 on 20 May with the window of its race calendar, worked by hand.
 class CalendarDesk : public EntryPage
@@ -23,9 +23,9 @@ public:
     void StartOpen();
 
     frmCalendario* Window() const;
-    TextBox& Box(Casella box, int row) const { return *Window()->Box(box, row); }
+    TextBox& Box(RaceColumn box, int row) const { return *Window()->Box(box, row); }
     /// Clicks into a box and types over what it holds.
-    void Write(Casella box, int row, const QString& text) const;
+    void Write(RaceColumn box, int row, const QString& text) const;
     void WriteDate(int row, const QByteArray& day, const QByteArray& month, const QByteArray& year) const;
     /// Types a whole row from its first box on, Enter after each value; values are parted by "|".
     void WriteRow(int row, const char* values) const;

@@ -61,9 +61,16 @@ void frmAllenamento::PaintRow(int riga, const QColor& back)
     for (const auto& strip : strips_) {
         SetBackColour(*strip[riga], back);
     }
-    for (const auto& column : boxes_) {
-        SetBackColour(*column[riga], back);
+    grid_.VisitRow(riga, [&](TextBox& box) { SetBackColour(box, back); });
+}
+
+void frmAllenamento::WriteRow(int riga, const QColor& fore)
+{
+    SetForeColour(*lblGiorni[riga], fore);
+    for (const auto& strip : strips_) {
+        SetForeColour(*strip[riga], fore);
     }
+    grid_.VisitRow(riga, [&](TextBox& box) { SetForeColour(box, fore); });
 }
 
 void frmAllenamento::PaintDate(const QColor& back)
@@ -79,19 +86,10 @@ void frmAllenamento::AssegnaTxt(i16 riga)
     Trap("AssegnaTxt - ERRORE : ", [&] {
         const int row = riga.value();
         PaintRow(row, TableColours::Accepted);
-        const auto fore = [&](const QColor& colour) {
-            SetForeColour(*lblGiorni[row], colour);
-            for (const auto& strip : strips_) {
-                SetForeColour(*strip[row], colour);
-            }
-            for (const auto& column : boxes_) {
-                SetForeColour(*column[row], colour);
-            }
-        };
         if (riga >= IndiceTabella) {
-            fore(TableColours::Fore);
+            WriteRow(row, TableColours::Fore);
         } else if (IsActiveTable()) {
-            fore(TableColours::Passed);
+            WriteRow(row, TableColours::Passed);
         }
         if (!IsActiveTable()) {
             PaintDate(TableColours::Accepted);

@@ -5,13 +5,14 @@
 #include "core/BoundedArray.h"
 #include "core/Date.h"
 #include "diary/TableCalculations.h"
-#include "diary/TableGrid.h"
 #include "diary/TableSheet.h"
+#include "toolkit/BoxGrid.h"
 #include "toolkit/Button.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
 #include "toolkit/TextBox.h"
+#include "windows/plan/PlanColumns.h"
 
 #include <array>
 
@@ -61,7 +62,7 @@ public:
     void mnuInserisciRiga_Click();
     void mnuEliminaRiga_Click();
 
-    TextBox* Box(TableGrid::Column column, int riga) const { return boxes_[static_cast<std::size_t>(column)][riga]; }
+    TextBox* Box(TableGrid::Column column, int riga) const { return grid_.Box(column, riga); }
     Label* StripOf(TableGrid::Strip strip, int riga) const { return strips_[static_cast<std::size_t>(strip)][riga]; }
 
     i16 TabellaModificata; ///< 1 when rows moved, or when cmdOK found the boxes different from the columns.
@@ -86,34 +87,28 @@ protected:
 
 private:
     void BuildHeads();
-    void BuildRow(int riga);
+    void BuildLabels(int riga);
+    void BuildGrid();
     void BuildPanel();
-    Button* MakeButton(const char* name, TextView caption, int top, void (frmAllenamento::*click)());
-    void ConnectBox(TableGrid::Column column, int riga);
-    void ConnectDateBox(std::size_t index);
+    void BuildStartDate();
+    void BuildRowMenu();
     void Load();
 
     void ShowRowMenu(int riga, const QPoint& position);
     void BeginEditing();
-    bool ColumnLimitHolds(TableGrid::Column column, int riga);
-    bool DateLimitHolds(std::size_t index);
-    void FormatBox(TableGrid::Column column, int riga, bool limitHeld);
-    void MoveOn(TableGrid::Column column, int riga);
 
-    Text Content(TableGrid::Column column, int riga) const;
-    i16 Number(TableGrid::Column column, int riga) const;
+    Text Content(int column, int riga) const { return grid_.Content(column, riga); }
     int DateNumber(std::size_t index) const;
     CalendarDate DateOfBoxes() const;
-    void AssignColumns(i16 destinazione, i16 sorgente, bool dotIsThousands);
     bool RowDiffers(int riga) const;
     void ShowRow(int riga);
-    void EmptyBlankBoxes(int riga);
     void ShowStartDate();
     GruppiRiga Groups(int riga) const;
     void CalculateRow(i16 riga);
 
     bool IsActiveTable() const;
     void PaintRow(int riga, const QColor& back);
+    void WriteRow(int riga, const QColor& fore);
     void PaintDate(const QColor& back);
     void AcceptAllRows();
     void RecolourAllRows();
@@ -122,7 +117,8 @@ private:
     TableSheetTexts SheetTexts() const;
 
     TableWindows& windows_;
-    std::array<BoundedArray<TextBox*, 1, 31>, TableGrid::kColumns> boxes_;
+    BoxGrid grid_{TableGrid::kPlanColumns};
+    BoxGrid start_{TableGrid::kStartColumns};
     std::array<BoundedArray<Label*, 1, 31>, TableGrid::kStrips> strips_;
     Text percorsoSalvato_; ///< Where this window last saved, for a table that was not opened from a file.
 };

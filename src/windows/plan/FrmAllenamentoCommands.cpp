@@ -86,11 +86,9 @@ bool frmAllenamento::ChooseActivePath()
 TableSheetTexts frmAllenamento::SheetTexts() const
 {
     TableSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}, .dataInizio = {}};
-    for (std::size_t riga = 0; riga < testi.righe.size(); ++riga) {
-        for (std::size_t column = 0; column < kData.size(); ++column) {
-            testi.righe[riga][column] = Content(static_cast<Column>(column), static_cast<int>(riga) + 1);
-        }
-    }
+    grid_.Visit([&](int column, int riga) {
+        testi.righe[static_cast<std::size_t>(riga - 1)][static_cast<std::size_t>(column)] = Content(column, riga);
+    });
     for (std::size_t i = 0; i < dateBoxes.size(); ++i) {
         testi.dataInizio[i] = dateBoxes[i]->Content();
     }

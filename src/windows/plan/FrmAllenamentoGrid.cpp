@@ -2,10 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The table editor's controls: what stands where, and the events of its boxes.
 #include "core/Conversions.h"
-#include "core/RunTimeError.h"
-#include "diary/TextRoutines.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/GridBox.h"
 #include "toolkit/Menu.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
@@ -18,7 +15,6 @@
 namespace zelvia
 {
 
-using namespace Module1;
 using namespace TableGrid;
 
 namespace
@@ -35,16 +31,15 @@ QFont HeadFont()
     return PageFont("Times New Roman", 14);
 }
 
-TextBox* MakeBox(QWidget* parent, const QString& name, int maxLength, const QRect& place, TextView spoken)
+GridLook Look(int rows, int top, int height)
 {
-    auto* box = new TextBox(parent, name, maxLength);
-    box->setGeometry(place);
-    box->setFont(PageFont("Times New Roman", 14));
-    box->setAccessibleName(ToQString(spoken));
-    box->setTextMargins(0, -2, -1, -2);
-    SetBackColour(*box, TableColours::Editing);
-    SetForeColour(*box, TableColours::Fore);
-    return box;
+    return {.rows = rows,
+            .top = top,
+            .step = kStep,
+            .height = height,
+            .font = PageFont("Times New Roman", 14),
+            .margins = {0, -2, -1, -2},
+            .digitsRight = rows > 1};
 }
 
 } // namespace
@@ -77,63 +72,85 @@ void frmAllenamento::BuildHeads()
     }
 }
 
-void frmAllenamento::BuildRow(int riga)
+void frmAllenamento::BuildLabels(int riga)
 {
     const int top = RowTop(riga);
     lblGiorni[riga] =
         MakeLabel(this, Indexed("lblGiorni", riga), " " + PlainText(i32(riga)), {4, top, 46, kBoxHeight}, HeadFont());
     SetBackColour(*lblGiorni[riga], TableColours::Accepted);
-    SetForeColour(*lblGiorni[riga], TableColours::Fore);
-    for (std::size_t strip = 0; strip < kStripData.size(); ++strip) {
-        const StripData& row = kStripData[strip];
-        Label* label =
-            MakeLabel(this, Indexed(row.name, riga), "", {row.left, top, row.width, kBoxHeight}, StripFont());
-        SetBackColour(*label, TableColours::Editing);
-        SetForeColour(*label, TableColours::Fore);
-        strips_[strip][riga] = label;
-    }
-    const Text spokenRow = "Giorno " + PlainText(i32(riga)) + ", ";
-    for (std::size_t column = 0; column < kData.size(); ++column) {
-        const ColumnData& row = kData[column];
-        boxes_[column][riga] = MakeBox(this, Indexed(row.name, riga), row.maxLength,
-                                       {row.left, top, row.width, kBoxHeight}, spokenRow + Text(row.spoken));
-        if (row.digitsOnly) {
-            boxes_[column][riga]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblGiorni[riga]->MouseUp = [this, riga](Qt::MouseButton button, const QPoint& position) {
+        if (button == Qt::RightButton) {
+            ShowRowMenu(riga, position);
         }
+    };
+    for (std::size_t strip = 0; strip < kStripData.size(); ++strip) {
+        const StripData& place = kStripData[strip];
+        strips_[strip][riga] =
+            MakeLabel(this, Indexed(place.name, riga), "", {place.left, top, place.width, kBoxHeight}, StripFont());
     }
 }
 
-Button* frmAllenamento::MakeButton(const char* name, TextView caption, int top, void (frmAllenamento::*click)())
+void frmAllenamento::BuildGrid()
 {
-    auto* button = new Button(this, QLatin1String(name), caption);
-    button->setGeometry(kPanelLeft, top, 176, 34);
-    button->setFont(PageFont("Times New Roman", 15));
-    button->Click = [this, click] { (this->*click)(); };
-    return button;
+    grid_.Click = [this] { BeginEditing(); };
+    grid_.signs = {RipetVolte, kRepetitionStrip, kBlankRepetitionStrip,
+                   [this](int riga) { return StripOf(LblRipetizioni, riga); }};
+    grid_.Build(this, Look(kRows, kTop, kBoxHeight));
+    grid_.Speak("Giorno");
+    for (int riga = 1; riga <= kRows; ++riga) {
+        PaintRow(riga, TableColours::Editing);
+        WriteRow(riga, TableColours::Fore);
+        grid_.VisitRow(riga, [&](TextBox& box) {
+            box.MenuKey = [this, riga](const QPoint& position) { ShowRowMenu(riga, position); };
+        });
+    }
+}
+
+void frmAllenamento::BuildStartDate()
+{
+    lblGiorniInizio =
+        MakeLabel(this, QStringLiteral("lblGiorniInizio"), kBlankDateStrip, {kPanelLeft, kTop, 176, 28}, StripFont());
+    start_.Click = [this] { BeginEditing(); };
+    start_.LastEntered = [this] { cmdOK->SetFocus(); };
+    start_.signs = {0, kDateStrip, kBlankDateStrip, [this](int) { return lblGiorniInizio; }};
+    start_.Build(this, Look(1, kTop + 4, 20));
+    for (int i = 0; i < 3; ++i) {
+        dateBoxes[static_cast<std::size_t>(i)] = start_.Box(i, 1);
+        SetForeColour(*start_.Box(i, 1), TableColours::Fore);
+    }
+    PaintDate(TableColours::Editing);
 }
 
 void frmAllenamento::BuildPanel()
 {
-    lblGiorniInizio =
-        MakeLabel(this, QStringLiteral("lblGiorniInizio"), kBlankDateStrip, {kPanelLeft, kTop, 176, 28}, StripFont());
-    SetBackColour(*lblGiorniInizio, TableColours::Editing);
-    for (std::size_t i = 0; i < kDateBoxes.size(); ++i) {
-        const DateBoxData& row = kDateBoxes[i];
-        dateBoxes[i] =
-            MakeBox(this, QLatin1String(row.name), row.maxLength, {row.left, kTop + 4, row.width, 20}, row.spoken);
-    }
-    constexpr int first = kTop + 60;
-    constexpr int step = 44;
-    cmdOK = MakeButton("cmdOK", " OK", first, &frmAllenamento::cmdOK_Click);
-    cmdAttiva = MakeButton("cmdAttiva", "Attiva", first + step, &frmAllenamento::cmdAttiva_Click);
-    cmdDisattiva = MakeButton("cmdDisattiva", "Disattiva", first + 2 * step, &frmAllenamento::cmdDisattiva_Click);
-    cmdCalcoloMedie =
-        MakeButton("cmdCalcoloMedie", "Calcolo Medie", first + 3 * step, &frmAllenamento::cmdCalcoloMedie_Click);
-    cmdSalva = MakeButton("cmdSalva", "Salva", first + 4 * step, &frmAllenamento::cmdSalva_Click);
-    cmdStampa = MakeButton("cmdStampa", "Stampa", first + 5 * step, &frmAllenamento::cmdStampa_Click);
-    cmdEsci = MakeButton("cmdEsci", "Esci", first + 6 * step, &frmAllenamento::cmdEsci_Click);
+    BuildStartDate();
+    int top = kTop + 60;
+    const auto make = [&](const char* name, TextView caption, void (frmAllenamento::*click)()) {
+        constexpr int step = 44;
+        Button* button =
+            MakeButton(this, name, caption, {kPanelLeft, top, 176, 34}, [this, click] { (this->*click)(); });
+        top += step;
+        return button;
+    };
+    cmdOK = make("cmdOK", " OK", &frmAllenamento::cmdOK_Click);
+    cmdAttiva = make("cmdAttiva", "Attiva", &frmAllenamento::cmdAttiva_Click);
+    cmdDisattiva = make("cmdDisattiva", "Disattiva", &frmAllenamento::cmdDisattiva_Click);
+    cmdCalcoloMedie = make("cmdCalcoloMedie", "Calcolo Medie", &frmAllenamento::cmdCalcoloMedie_Click);
+    cmdSalva = make("cmdSalva", "Salva", &frmAllenamento::cmdSalva_Click);
+    cmdStampa = make("cmdStampa", "Stampa", &frmAllenamento::cmdStampa_Click);
+    cmdEsci = make("cmdEsci", "Esci", &frmAllenamento::cmdEsci_Click);
     cmdAttiva->setEnabled(false);
     cmdDisattiva->setEnabled(false);
+}
+
+void frmAllenamento::BuildRowMenu()
+{
+    mnuRigheTabella->setObjectName(QStringLiteral("mnuRigheTabella"));
+    mnuRigheTabella->setTitle(QStringLiteral("&Righe Tabella"));
+    FillMenu(*mnuRigheTabella,
+             {{"mnuInserisciRiga", "&Inserisci Riga", [this] { mnuInserisciRiga_Click(); }},
+              {"mnuEliminaRiga", "&Elimina Riga", [this] { mnuEliminaRiga_Click(); }}},
+             MenuKind::PopUp);
 }
 
 void frmAllenamento::BeginEditing()
@@ -152,89 +169,6 @@ void frmAllenamento::ShowRowMenu(int riga, const QPoint& position)
     mnuRigheTabella->exec(position);
 }
 
-void frmAllenamento::ConnectBox(Column column, int riga)
-{
-    TextBox& box = *Box(column, riga);
-    box.Click = [this] { BeginEditing(); };
-    box.KeyPress = [this, column, riga](int& keyAscii) {
-        if (kData[static_cast<std::size_t>(column)].digitsOnly) {
-            ThrowAwayNonDigit(keyAscii);
-        }
-        if (keyAscii == kEnter && ColumnLimitHolds(column, riga)) {
-            MoveOn(column, riga);
-        }
-    };
-    box.Validate = [this, column, riga] {
-        const bool holds = ColumnLimitHolds(column, riga);
-        FormatBox(column, riga, holds);
-        return !holds;
-    };
-    box.MenuKey = [this, riga](const QPoint& position) { ShowRowMenu(riga, position); };
-    if (column == RipetVolte) {
-        box.GotFocus = [this, riga] { StripOf(LblRipetizioni, riga)->SetCaption(kRepetitionStrip); };
-    }
-}
-
-void frmAllenamento::ConnectDateBox(std::size_t index)
-{
-    TextBox& box = *dateBoxes[index];
-    box.Click = [this] { BeginEditing(); };
-    box.KeyPress = [this, index](int& keyAscii) {
-        ThrowAwayNonDigit(keyAscii);
-        if (keyAscii == kEnter && DateLimitHolds(index)) {
-            if (index + 1 < dateBoxes.size()) {
-                dateBoxes[index + 1]->SetFocus();
-            } else {
-                cmdOK->SetFocus();
-            }
-        }
-    };
-    box.Validate = [this, index] {
-        const bool holds = DateLimitHolds(index);
-        if (index == 0 && DateNumber(0) == 0) {
-            lblGiorniInizio->SetCaption(kBlankDateStrip);
-        }
-        return !holds;
-    };
-    if (index == 0) {
-        box.GotFocus = [this] { lblGiorniInizio->SetCaption(kDateStrip); };
-    }
-}
-
-bool frmAllenamento::ColumnLimitHolds(Column column, int riga)
-{
-    const ColumnData& row = kData[static_cast<std::size_t>(column)];
-    return row.limit == 0 || LimitHolds(Val(SenzaPuntoMigliaia(Content(column, riga))), row.limit, row.message);
-}
-
-bool frmAllenamento::DateLimitHolds(std::size_t index)
-{
-    return LimitHolds(Val(dateBoxes[index]->Content()), kDateBoxes[index].limit, kDateBoxes[index].message);
-}
-
-void frmAllenamento::FormatBox(Column column, int riga, bool limitHeld)
-{
-    TextBox& box = *Box(column, riga);
-    const Text testo = box.Content();
-    const Formato formato = kData[static_cast<std::size_t>(column)].formato;
-    const Text formattato = formato == Formato::Migliaia && !limitHeld ? testo : Formattato(testo, formato);
-    if (formattato != testo) {
-        box.SetContent(formattato);
-    }
-    if (column == RipetVolte && Val(testo) == 0) {
-        StripOf(LblRipetizioni, riga)->SetCaption(kBlankRepetitionStrip);
-    }
-}
-
-void frmAllenamento::MoveOn(Column column, int riga)
-{
-    if (column != RipetTempi) {
-        Box(static_cast<Column>(column + 1), riga)->SetFocus();
-    } else if (riga < kRows) {
-        Box(Km, riga + 1)->SetFocus();
-    }
-}
-
 frmAllenamento::frmAllenamento(TableWindows& windows)
     : Form(QStringLiteral("frmAllenamento")), mnuRigheTabella(new QMenu(this)), windows_(windows)
 {
@@ -244,28 +178,11 @@ frmAllenamento::frmAllenamento(TableWindows& windows)
     setFixedSize(kWidth, kHeight);
     BuildHeads();
     for (int riga = 1; riga <= kRows; ++riga) {
-        BuildRow(riga);
+        BuildLabels(riga);
     }
+    BuildGrid();
     BuildPanel();
-    for (int riga = 1; riga <= kRows; ++riga) {
-        for (std::size_t column = 0; column < kData.size(); ++column) {
-            ConnectBox(static_cast<Column>(column), riga);
-        }
-        lblGiorni[riga]->MouseUp = [this, riga](Qt::MouseButton button, const QPoint& position) {
-            if (button == Qt::RightButton) {
-                ShowRowMenu(riga, position);
-            }
-        };
-    }
-    for (std::size_t i = 0; i < dateBoxes.size(); ++i) {
-        ConnectDateBox(i);
-    }
-    mnuRigheTabella->setObjectName(QStringLiteral("mnuRigheTabella"));
-    mnuRigheTabella->setTitle(QStringLiteral("&Righe Tabella"));
-    FillMenu(*mnuRigheTabella,
-             {{"mnuInserisciRiga", "&Inserisci Riga", [this] { mnuInserisciRiga_Click(); }},
-              {"mnuEliminaRiga", "&Elimina Riga", [this] { mnuEliminaRiga_Click(); }}},
-             MenuKind::PopUp);
+    BuildRowMenu();
     Load();
 }
 

@@ -4,7 +4,6 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "diary/TableModel.h"
-#include "diary/TextRoutines.h"
 #include "windows/plan/FrmAllenamento.h"
 
 #include <utility>
@@ -18,60 +17,9 @@ using namespace TableGrid;
 namespace
 {
 
-/// The values behind a column of boxes: numbers or texts.
-struct ColumnValues {
-    Column column;
-    ColonnaTabella<i16>* numeri;
-    TextView pattern; ///< Of numbers, empty for plain digits.
-    ColonnaTabella<Text>* testi = nullptr;
-};
-
-/// In the order in which a row is taken, so that a box that fails leaves those before it taken.
-const ColumnValues kValues[] = {
-    {Km, &TabKm, {}},
-    {Metri, &TabMetri, "000"},
-    {Ore, &TabOre, {}},
-    {Minuti, &TabMinuti, "00"},
-    {Secondi, &TabSecondi, "00"},
-    {MediaMinuti, &TabMediaMinuti, {}},
-    {MediaSecondi, &TabMediaSecondi, "00"},
-    {MediaMillesimi, &TabMediaMillesimi, "000"},
-    {Andatura, nullptr, {}, &TabAndatura},
-    {Fondo, nullptr, {}, &TabFondo},
-    {RipetVolte, &TabRipetVolte, {}},
-    {RipetDistanza, &TabRipetDistanza, {}},
-    {RipetQuante, &TabRipetQuante, {}},
-    {RipetTempi, &TabRipetTempi, "00"},
-};
-
 const CalendarDate kNoStartDate(2000, 1, 1);
 
-/// What the box of a column shows of a row; nothing for 0.
-Text TextOf(const ColumnValues& colonna, int riga)
-{
-    if (colonna.testi != nullptr) {
-        return (*colonna.testi)[riga];
-    }
-    const i16 value = (*colonna.numeri)[riga];
-    if (value == 0) {
-        return {};
-    }
-    const Text testo = colonna.pattern.empty() ? PlainText(value) : Format(value, colonna.pattern);
-    return colonna.column == RipetDistanza ? ConPuntoMigliaia(testo) : testo;
-}
-
 } // namespace
-
-Text frmAllenamento::Content(Column column, int riga) const
-{
-    return Box(column, riga)->Content();
-}
-
-i16 frmAllenamento::Number(Column column, int riga) const
-{
-    const Text testo = Content(column, riga);
-    return RoundTo<i16>(Val(column == RipetDistanza ? SenzaPuntoMigliaia(testo) : testo));
-}
 
 int frmAllenamento::DateNumber(std::size_t index) const
 {
@@ -83,23 +31,13 @@ CalendarDate frmAllenamento::DateOfBoxes() const
     return DateValue(dateBoxes[0]->Content() + "/" + dateBoxes[1]->Content() + "/" + dateBoxes[2]->Content());
 }
 
-void frmAllenamento::AssignColumns(i16 destinazione, i16 sorgente, bool dotIsThousands)
-{
-    const int row = sorgente.value();
-    for (const ColumnValues& colonna : kValues) {
-        if (colonna.testi != nullptr) {
-            (*colonna.testi)[destinazione] = Content(colonna.column, row);
-        } else {
-            (*colonna.numeri)[destinazione] =
-                dotIsThousands ? Number(colonna.column, row) : RoundTo<i16>(Val(Content(colonna.column, row)));
-        }
-    }
-}
-
 void frmAllenamento::AssegnaTab(i16 riga)
 {
     Trap("AssegnaTab - ERRORE : ", [&] {
-        AssignColumns(riga, riga, true);
+        const int row = riga.value();
+        for (int column = 0; column < kColumns; ++column) {
+            grid_.Store(column, row, row);
+        }
         if (ContaCampiData() == 3) {
             TabDataInizio = DateOfBoxes();
         }
@@ -108,47 +46,32 @@ void frmAllenamento::AssegnaTab(i16 riga)
 
 void frmAllenamento::CopiaRiga(i16 destinazione, i16 sorgente)
 {
-    AssignColumns(destinazione, sorgente, false);
+    for (int column = 0; column < kColumns; ++column) {
+        SetCell(grid_.Column(column).cell(destinazione.value()), Content(column, sorgente.value()), CellFormat::Plain);
+    }
 }
 
 void frmAllenamento::AzzeraRiga(i16 riga)
 {
-    for (const ColumnValues& colonna : kValues) {
-        if (colonna.testi != nullptr) {
-            (*colonna.testi)[riga].clear();
-        } else {
-            (*colonna.numeri)[riga] = 0;
-        }
+    for (const GridColumn& column : kPlanColumns) {
+        SetCell(column.cell(riga.value()), {}, column.format);
     }
 }
 
 void frmAllenamento::ShowRow(int riga)
 {
-    for (const ColumnValues& colonna : kValues) {
-        const Text testo = TextOf(colonna, riga);
-        if (testo.empty()) {
-            continue;
-        }
-        if (colonna.column == RipetVolte) {
-            StripOf(LblRipetizioni, riga)->SetCaption(kRepetitionStrip);
-        }
-        Box(colonna.column, riga)->SetContent(testo);
+    if (TabRipetVolte[riga] != 0) {
+        grid_.ShowSigns(riga, true);
     }
-}
-
-void frmAllenamento::EmptyBlankBoxes(int riga)
-{
-    for (const ColumnValues& colonna : kValues) {
-        if (TextOf(colonna, riga).empty()) {
-            Box(colonna.column, riga)->SetContent({});
-        }
+    for (int column = 0; column < kColumns; ++column) {
+        grid_.Box(column, riga)->SetContent(grid_.Stored(column, riga));
     }
 }
 
 void frmAllenamento::ShowStartDate()
 {
     if (TabDataInizio > kNoStartDate) {
-        lblGiorniInizio->SetCaption(kDateStrip);
+        start_.ShowSigns(1, true);
         dateBoxes[0]->SetContent(PlainText(TabDataInizio.Day()));
         dateBoxes[1]->SetContent(PlainText(TabDataInizio.Month()));
         dateBoxes[2]->SetContent(PlainText(TabDataInizio.Year()));
@@ -161,9 +84,6 @@ void frmAllenamento::TabAssegnaTxt()
         for (int riga = 1; riga <= kRows; ++riga) {
             ShowRow(riga);
         }
-        for (int riga = 1; riga <= kRows; ++riga) {
-            EmptyBlankBoxes(riga);
-        }
         ShowStartDate();
     });
 }
@@ -171,11 +91,9 @@ void frmAllenamento::TabAssegnaTxt()
 bool frmAllenamento::RowDiffers(int riga) const
 {
     bool differs = false;
-    for (const ColumnValues& colonna : kValues) {
-        // Each box is read, so that one that can't be is told.
-        const bool same = colonna.testi != nullptr ? Content(colonna.column, riga) == (*colonna.testi)[riga]
-                                                   : Number(colonna.column, riga) == (*colonna.numeri)[riga];
-        differs = differs || !same;
+    for (int column = 0; column < kColumns; ++column) {
+        // Each box is read, so that one that can't be is reported.
+        differs = !grid_.Holds(column, riga, riga) || differs;
     }
     return differs;
 }

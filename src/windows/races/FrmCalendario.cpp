@@ -5,7 +5,6 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
-#include "diary/CalendarCells.h"
 #include "diary/CalendarDates.h"
 #include "diary/CalendarModel.h"
 #include "diary/Module1.h"
@@ -18,25 +17,8 @@ namespace zelvia
 {
 
 using namespace Module1;
-using CalendarGrid::Casella;
-using CalendarGrid::kColumns;
 using CalendarGrid::kRows;
-
-namespace
-{
-
-/// Hands every box of the grid's rows to `visit`, row by row in the order of Enter.
-template <typename Visitor>
-void VisitBoxes(Visitor&& visit)
-{
-    for (int riga = 1; riga <= kRows; ++riga) {
-        for (std::size_t column = 0; column < kColumns; ++column) {
-            visit(static_cast<Casella>(column), riga);
-        }
-    }
-}
-
-} // namespace
+using CalendarGrid::RaceColumn;
 
 void frmCalendario::Load()
 {
@@ -67,7 +49,7 @@ void frmCalendario::ShowOtherDiary()
 
 void frmCalendario::AzzeraPaginaGare()
 {
-    VisitBoxes([this](Casella casella, int riga) { Box(casella, riga)->SetContent({}); });
+    grid_.Visit([this](int column, int riga) { grid_.Box(column, riga)->SetContent({}); });
 }
 
 void frmCalendario::VisualizzaCalendarioGare()
@@ -76,36 +58,28 @@ void frmCalendario::VisualizzaCalendarioGare()
         for (int riga = 1; riga <= kRows; ++riga) {
             const int gara = RaceOf(riga);
             lblNumeroGara[riga]->SetCaption(PlainText(NumeroGara[gara]));
-            lblGiornoGara[riga]->SetCaption(GiornoGara[gara] > 0 ? CalendarGrid::kDateStrip
-                                                                 : CalendarGrid::kBlankDateStrip);
+            grid_.ShowSigns(riga, GiornoGara[gara] > 0);
         }
-        VisitBoxes([this](Casella casella, int riga) {
-            TextBox& box = *Box(casella, riga);
-            box.SetContent(TestoCasella(casella, RaceOf(riga)));
-            box.setAccessibleName(QStringLiteral("Gara %1, ").arg(RaceOf(riga)) +
-                                  ToQString(CalendarGrid::DataOf(casella).spoken));
+        grid_.Visit([this](int column, int riga) {
+            grid_.Box(column, riga)->SetContent(RaceText(static_cast<RaceColumn>(column), RaceOf(riga)));
         });
+        grid_.Speak("Gara", PrimaGaraPagina.value());
         lblPaginaGare->setText(
             QStringLiteral("Pagina %1 di %2").arg(PrimaGaraPagina.value() / kRows + 1).arg(CalendarGrid::kPages));
     });
-}
-
-double frmCalendario::Number(Casella casella, int riga) const
-{
-    return NumeroCasella(casella, Box(casella, riga)->Content());
 }
 
 void frmCalendario::ContrData()
 {
     Trap("ContrData - ERRORE : ", [this] {
         for (int riga = 1; riga <= kRows; ++riga) {
-            const DataGara letta = {Number(Casella::Giorno, riga), Number(Casella::Mese, riga),
-                                    Number(Casella::Anno, riga)};
+            const DataGara letta = {Number(RaceColumn::Giorno, riga), Number(RaceColumn::Mese, riga),
+                                    Number(RaceColumn::Anno, riga)};
             for (const CorrezioneData& correzione : CorreggiData(letta, RaceOf(riga), DataCorrente.Year())) {
                 MsgBox(correzione.messaggio, MsgButtons::OK, MsgIcon::Exclamation);
                 if (correzione.campo != CorrezioneData::Campo::Nessuno) {
                     const bool day = correzione.campo == CorrezioneData::Campo::Giorno;
-                    Box(day ? Casella::Giorno : Casella::Anno, riga)->SetContent(correzione.valore);
+                    Box(day ? RaceColumn::Giorno : RaceColumn::Anno, riga)->SetContent(correzione.valore);
                 }
             }
         }
@@ -115,16 +89,15 @@ void frmCalendario::ContrData()
 void frmCalendario::AssegnaPaginaGare()
 {
     ContrData();
-    VisitBoxes(
-        [this](Casella casella, int riga) { AssegnaCasella(casella, RaceOf(riga), Box(casella, riga)->Content()); });
+    grid_.Visit([this](int column, int riga) { grid_.Store(column, riga, RaceOf(riga)); });
 }
 
 void frmCalendario::ControllaSaveGar(i16& esito)
 {
     Trap("ControllaSaveGar - ERRORE : ", [&] {
         esito = 0;
-        VisitBoxes([&](Casella casella, int riga) {
-            if (CasellaDiversa(casella, RaceOf(riga), Box(casella, riga)->Content())) {
+        grid_.Visit([&](int column, int riga) {
+            if (RaceDiffers(static_cast<RaceColumn>(column), RaceOf(riga), grid_.Content(column, riga))) {
                 esito = 1;
             }
         });
@@ -177,8 +150,8 @@ void frmCalendario::cmdSalva_Click()
 CalendarSheetTexts frmCalendario::SheetTexts() const
 {
     CalendarSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}};
-    VisitBoxes([&](Casella casella, int riga) {
-        testi.righe[static_cast<std::size_t>(riga - 1)][CalendarGrid::IndexOf(casella)] = Box(casella, riga)->Content();
+    grid_.Visit([&](int column, int riga) {
+        testi.righe[static_cast<std::size_t>(riga - 1)][static_cast<std::size_t>(column)] = grid_.Content(column, riga);
     });
     return testi;
 }

@@ -4,16 +4,16 @@
 
 #include "core/BoundedArray.h"
 #include "core/Numbers.h"
-#include "diary/CalendarGrid.h"
 #include "diary/CalendarSheet.h"
+#include "toolkit/BoxGrid.h"
 #include "toolkit/Button.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
 #include "toolkit/TextBox.h"
 #include "toolkit/UpDown.h"
+#include "windows/races/RaceColumns.h"
 
 #include <array>
-#include <functional>
 
 namespace zelvia
 {
@@ -27,7 +27,7 @@ class frmCalendario : public Form
 public:
     frmCalendario();
 
-    Control& FocusSink() override { return *Box(CalendarGrid::Casella::Giorno, 1); }
+    Control& FocusSink() override { return *Box(CalendarGrid::RaceColumn::Giorno, 1); }
 
     /// Corrects the dates of the page, with a message for each correction and for each part that is missing.
     void ContrData();
@@ -43,7 +43,7 @@ public:
     void upPaginaGare_Change();
 
     /// A box of the grid; rows are 1..20.
-    TextBox* Box(CalendarGrid::Casella casella, int riga) const { return boxes_[IndexOf(casella)][riga]; }
+    TextBox* Box(CalendarGrid::RaceColumn column, int riga) const { return grid_.Box(static_cast<int>(column), riga); }
 
     i16 PrimaGaraPagina;      ///< Row of the calendar before the first of the page: 0, 20, 40, 60 or 80.
     i16 CalendarioModificato; ///< 1 when the last comparison found the page different from the columns.
@@ -62,14 +62,13 @@ protected:
 
 private:
     void BuildHeads();
-    void BuildRow(int riga);
+    void BuildLabels(int riga);
+    void BuildGrid();
     void BuildFoot();
-    Button* MakeButton(const char* name, TextView caption, int left, std::function<void()> click);
-    void ConnectBox(CalendarGrid::Casella casella, int riga);
-    void MoveOn(CalendarGrid::Casella casella, int riga);
-    bool BoxLimitHolds(CalendarGrid::Casella casella, int riga) const;
-    bool Leave(CalendarGrid::Casella casella, int riga);
-    double Number(CalendarGrid::Casella casella, int riga) const;
+    double Number(CalendarGrid::RaceColumn column, int riga) const
+    {
+        return grid_.Number(static_cast<int>(column), riga);
+    }
     int RaceOf(int riga) const { return PrimaGaraPagina.value() + riga; }
 
     void Load();
@@ -83,7 +82,7 @@ private:
     /// `esito` becomes 1 when two rows carry the same date, else 0; says so for each two.
     void ControllaDateGare(i16& esito);
 
-    std::array<BoundedArray<TextBox*, 1, CalendarGrid::kRows>, CalendarGrid::kColumns> boxes_;
+    BoxGrid grid_{CalendarGrid::kRaceColumns};
     std::array<BoundedArray<Label*, 1, CalendarGrid::kRows>, CalendarGrid::kPrintLabels.size()> printLabels_;
 };
 

@@ -3,12 +3,14 @@
 // The race calendar's controls: what stands where, and the events of its boxes.
 #include "toolkit/Colours.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
 #include "windows/races/FrmCalendario.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+
+#include <functional>
+#include <utility>
 
 namespace zelvia
 {
@@ -106,14 +108,10 @@ frmCalendario::frmCalendario() : Form(QStringLiteral("frmCalendario"))
     setFixedSize(kWidth, kHeight);
     BuildHeads();
     for (int riga = 1; riga <= kRows; ++riga) {
-        BuildRow(riga);
+        BuildLabels(riga);
     }
+    BuildGrid();
     BuildFoot();
-    for (int riga = 1; riga <= kRows; ++riga) {
-        for (std::size_t column = 0; column < kColumns; ++column) {
-            ConnectBox(static_cast<Casella>(column), riga);
-        }
-    }
     Load();
 }
 
@@ -130,13 +128,14 @@ void frmCalendario::BuildHeads()
     for (const Group& group : kGroups) {
         head(QLatin1String(group.name), group.caption, {group.left, kUpperHeads, group.width, kHeadHeight});
     }
-    for (const ColumnData& column : kData) {
-        head(QLatin1String("lblTitolo_") + QLatin1String(column.name), column.head,
+    for (std::size_t i = 0; i < kColumns; ++i) {
+        const GridColumn& column = kRaceColumns[i];
+        head(QLatin1String("lblTitolo_") + QLatin1String(column.name), kHeads[i],
              {column.left - 4, kLowerHeads, column.width + 8, kHeadHeight});
     }
 }
 
-void frmCalendario::BuildRow(int riga)
+void frmCalendario::BuildLabels(int riga)
 {
     const int top = RowTop(riga);
     lblNumeroGara[riga] = MakeLabel(this, Indexed("lblNumeroGara", riga), {},
@@ -151,26 +150,17 @@ void frmCalendario::BuildRow(int riga)
         printLabels_[i][riga] = new Label(this, Indexed(kPrintLabels[i].name, riga));
         printLabels_[i][riga]->SetVisible(false);
     }
-    for (std::size_t column = 0; column < kColumns; ++column) {
-        const ColumnData& row = kData[column];
-        auto* box = new TextBox(this, Indexed(row.name, riga), row.maxLength);
-        box->setGeometry(row.left, top, row.width, kBoxHeight);
-        box->setFont(PenFont());
-        box->setTextMargins(0, -2, 0, -2);
-        if (row.digitsOnly) {
-            box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        }
-        boxes_[column][riga] = box;
-    }
 }
 
-Button* frmCalendario::MakeButton(const char* name, TextView caption, int left, std::function<void()> click)
+void frmCalendario::BuildGrid()
 {
-    auto* button = new Button(this, QLatin1String(name), caption);
-    button->setGeometry(left, kFoot, kButtonWidth, kButtonHeight);
-    button->setFont(PrintFont(15));
-    button->Click = std::move(click);
-    return button;
+    grid_.signs = {0, kDateStrip, kBlankDateStrip, [this](int riga) { return lblGiornoGara[riga]; }};
+    grid_.Build(this, {.rows = kRows,
+                       .top = kTop,
+                       .step = kStep,
+                       .height = kBoxHeight,
+                       .font = PenFont(),
+                       .margins = {0, -2, 0, -2}});
 }
 
 void frmCalendario::BuildFoot()
@@ -182,59 +172,14 @@ void frmCalendario::BuildFoot()
     upPaginaGare->setToolTip(QStringLiteral("pagina (Pag Giù e Pag Su)"));
     upPaginaGare->setAccessibleName(QStringLiteral("pagina delle gare"));
     upPaginaGare->Change = [this] { upPaginaGare_Change(); };
-    constexpr int step = kButtonWidth + 14;
-    cmdSalva = MakeButton("cmdSalva", "Salva", kRight - 2 * step - kButtonWidth, [this] { cmdSalva_Click(); });
-    cmdStampa = MakeButton("cmdStampa", "Stampa", kRight - step - kButtonWidth, [this] { cmdStampa_Click(); });
-    cmdEsci = MakeButton("cmdEsci", "Esci", kRight - kButtonWidth, [this] { Unload(); });
-}
-
-bool frmCalendario::BoxLimitHolds(Casella casella, int riga) const
-{
-    const ColumnData& row = DataOf(casella);
-    return row.limit == 0 || LimitHolds(Number(casella, riga), row.limit, row.message);
-}
-
-void frmCalendario::ConnectBox(Casella casella, int riga)
-{
-    TextBox& box = *Box(casella, riga);
-    box.KeyPress = [this, casella, riga](int& keyAscii) {
-        if (DataOf(casella).digitsOnly) {
-            ThrowAwayNonDigit(keyAscii);
-        }
-        if (keyAscii == kEnter && (!DataOf(casella).testedOnEnter || BoxLimitHolds(casella, riga))) {
-            MoveOn(casella, riga);
-        }
+    const auto make = [this](const char* name, TextView caption, int fromRight, std::function<void()> click) {
+        constexpr int step = kButtonWidth + 14;
+        const int left = kRight - kButtonWidth - fromRight * step;
+        return MakeButton(this, name, caption, {left, kFoot, kButtonWidth, kButtonHeight}, std::move(click));
     };
-    box.Validate = [this, casella, riga] { return !Leave(casella, riga); };
-    if (casella == Casella::Giorno) {
-        box.GotFocus = [this, riga] { lblGiornoGara[riga]->SetCaption(kDateStrip); };
-    }
-}
-
-void frmCalendario::MoveOn(Casella casella, int riga)
-{
-    if (casella != Casella::RisultatoCat) {
-        Box(static_cast<Casella>(IndexOf(casella) + 1), riga)->SetFocus();
-    } else if (riga < kRows) {
-        Box(Casella::Giorno, riga + 1)->SetFocus();
-    }
-}
-
-/// Tests and formats a box that is being left; false when the focus has to stay.
-bool frmCalendario::Leave(Casella casella, int riga)
-{
-    if (!BoxLimitHolds(casella, riga)) {
-        return false;
-    }
-    TextBox& box = *Box(casella, riga);
-    const Text formattato = Module1::Formattato(box.Content(), DataOf(casella).formato);
-    if (formattato != box.Content()) {
-        box.SetContent(formattato);
-    }
-    if (casella == Casella::Giorno && Number(casella, riga) == 0) {
-        lblGiornoGara[riga]->SetCaption(kBlankDateStrip);
-    }
-    return true;
+    cmdSalva = make("cmdSalva", "Salva", 2, [this] { cmdSalva_Click(); });
+    cmdStampa = make("cmdStampa", "Stampa", 1, [this] { cmdStampa_Click(); });
+    cmdEsci = make("cmdEsci", "Esci", 0, [this] { Unload(); });
 }
 
 void frmCalendario::keyPressEvent(QKeyEvent* event)

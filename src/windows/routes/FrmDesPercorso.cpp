@@ -8,7 +8,6 @@
 #include "diary/RouteModel.h"
 #include "diary/RouteTotals.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/GridBox.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "windows/routes/RoutePage.h"
@@ -43,6 +42,29 @@ constexpr int RowTop(int riga)
     return kTop + (riga - 1) * kRowStep;
 }
 
+constexpr int kTotalTop = RowTop(kRows + 1) + 10;
+
+constexpr std::array<GridColumn, 3> kColumns = {{
+    {"txtTratto", 80, false, {}, CellFormat::Plain, kTextLeft, kTextWidth, "descrizione"},
+    {"txtKm", 2, true, {}, CellFormat::Plain, kKmLeft, kKmWidth, "chilometri"},
+    {"txtMetri", 3, true, {}, CellFormat::Plain, kMetriLeft, kMetriWidth, "metri"},
+}};
+
+constexpr std::array<GridColumn, 2> kTotals = {{
+    {"txtDistanzaKm", 0, false, {}, CellFormat::Plain, kKmLeft, kKmWidth, "Totale, chilometri"},
+    {"txtDistanzaMetri", 0, false, {}, CellFormat::Plain, kMetriLeft, kMetriWidth, "Totale, metri"},
+}};
+
+GridLook Look(int rows, int top)
+{
+    return {.rows = rows,
+            .top = top,
+            .step = kRowStep,
+            .height = kRowHeight,
+            .font = PageFont("Times New Roman", 16),
+            .digitsRight = false};
+}
+
 i32 Parsed(const TextBox& box)
 {
     return RoundTo<i32>(Val(box.Content()));
@@ -65,95 +87,56 @@ Text EmptyForZero(i32 number)
 } // namespace
 
 frmDesPercorso::frmDesPercorso(QWidget* owner, RoutePage& page)
-    : Form(QStringLiteral("frmDesPercorso"), owner), page_(page)
+    : Form(QStringLiteral("frmDesPercorso"), owner), page_(page), grid_(kColumns)
 {
     setWindowTitle(QStringLiteral(" Percorso "));
     setWindowModality(Qt::WindowModal);
     setPalette(PagePalette());
     setAutoFillBackground(true);
     setFixedSize(kSize);
+    BuildLabels();
     BuildGrid();
+    BuildTotals();
     VisualizzaListaPercorso();
 }
 
-TextBox* frmDesPercorso::MakeBox(const QString& name, int limit, const QRect& place, const QString& spoken)
+void frmDesPercorso::BuildLabels()
 {
-    auto* box = new TextBox(this, name, limit);
-    box->setGeometry(place);
-    box->setFont(PageFont("Times New Roman", 16));
-    box->setAccessibleName(spoken);
-    return box;
-}
-
-void frmDesPercorso::MakeLabel(const QString& name, TextView caption, const QRect& place)
-{
-    auto* label = new Label(this, name);
-    label->SetCaption(caption);
-    label->setFont(PageFont("Times New Roman", 15));
-    label->setGeometry(place);
+    const auto make = [this](const QString& name, TextView caption, int left, int top, int width) {
+        MakeLabel(this, name, caption, {left, top, width, kRowHeight}, PageFont("Times New Roman", 15));
+    };
+    constexpr int headTop = 10;
+    make(QStringLiteral("lblDescrizione"), " Descrizione ", kTextLeft, headTop, 200);
+    make(QStringLiteral("lblKm"), " Km ", kKmLeft, headTop, kKmWidth);
+    make(QStringLiteral("lblMetri"), " Metri ", kMetriLeft, headTop, kMetriWidth);
+    for (int riga = 1; riga <= kRows; ++riga) {
+        const Text caption = (riga < 10 ? " " : "") + PlainText(i32(riga)) + Text("°Tratto"_t);
+        make(Indexed("lblTratto", riga), caption, kLabelLeft, RowTop(riga), kTextLeft - kLabelLeft - 8);
+        make(Indexed("lblDescr", riga), "", kTextLeft, RowTop(riga), kTextWidth);
+    }
+    make(QStringLiteral("lblTotale"), " Totale", kKmLeft - 80, kTotalTop, 76);
 }
 
 void frmDesPercorso::BuildGrid()
 {
-    constexpr int headTop = 10;
-    MakeLabel(QStringLiteral("lblDescrizione"), " Descrizione ", {kTextLeft, headTop, 200, kRowHeight});
-    MakeLabel(QStringLiteral("lblKm"), " Km ", {kKmLeft, headTop, kKmWidth, kRowHeight});
-    MakeLabel(QStringLiteral("lblMetri"), " Metri ", {kMetriLeft, headTop, kMetriWidth, kRowHeight});
+    // Every key counts as a change, one that is thrown away too. What is pasted, cut or undone comes without a key.
+    grid_.Edited = [] { FileModificato = 1; };
+    grid_.Build(this, Look(kRows, kTop));
+    grid_.Speak("Tratto");
     for (int riga = 1; riga <= kRows; ++riga) {
-        const int top = RowTop(riga);
-        const Text caption = (riga < 10 ? " " : "") + PlainText(i32(riga)) + Text("°Tratto"_t);
-        MakeLabel(Indexed("lblTratto", riga), caption, {kLabelLeft, top, kTextLeft - kLabelLeft - 8, kRowHeight});
-        MakeLabel(Indexed("lblDescr", riga), "", {kTextLeft, top, kTextWidth, kRowHeight});
-        const QString spoken = QStringLiteral("Tratto %1, ").arg(riga);
-        txtTratto[riga] = MakeBox(Indexed("txtTratto", riga), 80, {kTextLeft, top, kTextWidth, kRowHeight},
-                                  spoken + QStringLiteral("descrizione"));
-        txtKm[riga] = MakeBox(Indexed("txtKm", riga), 2, {kKmLeft, top, kKmWidth, kRowHeight},
-                              spoken + QStringLiteral("chilometri"));
-        txtMetri[riga] = MakeBox(Indexed("txtMetri", riga), 3, {kMetriLeft, top, kMetriWidth, kRowHeight},
-                                 spoken + QStringLiteral("metri"));
-    }
-    const int totalTop = RowTop(kRows + 1) + 10;
-    MakeLabel(QStringLiteral("lblTotale"), " Totale", {kKmLeft - 80, totalTop, 76, kRowHeight});
-    txtDistanzaKm = MakeBox(QStringLiteral("txtDistanzaKm"), 0, {kKmLeft, totalTop, kKmWidth, kRowHeight},
-                            QStringLiteral("Totale, chilometri"));
-    txtDistanzaMetri = MakeBox(QStringLiteral("txtDistanzaMetri"), 0, {kMetriLeft, totalTop, kMetriWidth, kRowHeight},
-                               QStringLiteral("Totale, metri"));
-    txtDistanzaKm->setReadOnly(true);
-    txtDistanzaMetri->setReadOnly(true);
-    for (int riga = 1; riga <= kRows; ++riga) {
-        ConnectRow(riga);
+        txtTratto[riga] = grid_.Box(0, riga);
+        txtKm[riga] = grid_.Box(1, riga);
+        txtMetri[riga] = grid_.Box(2, riga);
+        txtKm[riga]->LostFocus = txtMetri[riga]->LostFocus = [this] { CalcolaDistanza(); };
     }
 }
 
-void frmDesPercorso::ConnectRow(int riga)
+void frmDesPercorso::BuildTotals()
 {
-    // Every key counts as a change, one that is thrown away too.
-    txtTratto[riga]->KeyPress = [this, riga](int& keyAscii) {
-        FileModificato = 1;
-        if (keyAscii == kEnter) {
-            txtKm[riga]->SetFocus();
-        }
-    };
-    txtKm[riga]->KeyPress = [this, riga](int& keyAscii) {
-        FileModificato = 1;
-        ThrowAwayNonDigit(keyAscii);
-        if (keyAscii == kEnter) {
-            txtMetri[riga]->SetFocus();
-        }
-    };
-    txtMetri[riga]->KeyPress = [this, riga](int& keyAscii) {
-        FileModificato = 1;
-        ThrowAwayNonDigit(keyAscii);
-        if (keyAscii == kEnter && riga < kRows) {
-            txtTratto[riga + 1]->SetFocus();
-        }
-    };
-    // What is pasted, cut or undone is a change as well, and comes with no character.
-    for (TextBox* box : {txtTratto[riga], txtKm[riga], txtMetri[riga]}) {
-        box->Change = [] { FileModificato = 1; };
-    }
-    txtKm[riga]->LostFocus = [this] { CalcolaDistanza(); };
-    txtMetri[riga]->LostFocus = [this] { CalcolaDistanza(); };
+    txtDistanzaKm = MakeBox(this, kTotals[0], Look(1, kTotalTop));
+    txtDistanzaMetri = MakeBox(this, kTotals[1], Look(1, kTotalTop));
+    txtDistanzaKm->setReadOnly(true);
+    txtDistanzaMetri->setReadOnly(true);
 }
 
 void frmDesPercorso::VisualizzaListaPercorso()
@@ -215,11 +198,7 @@ void frmDesPercorso::AssegnaArray()
 void frmDesPercorso::AzzeraVideo()
 {
     Trap("AzzeraVideo - ERRORE : ", [this] {
-        for (int j = 1; j <= kRows; ++j) {
-            for (TextBox* box : {txtTratto[j], txtKm[j], txtMetri[j]}) {
-                box->SetContent({});
-            }
-        }
+        grid_.Visit([this](int column, int riga) { grid_.Box(column, riga)->SetContent({}); });
         txtDistanzaKm->SetContent({});
         txtDistanzaMetri->SetContent({});
     });

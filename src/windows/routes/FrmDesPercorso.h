@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/BoundedArray.h"
+#include "toolkit/BoxGrid.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
 #include "toolkit/TextBox.h"
@@ -32,8 +33,8 @@ public:
     BoundedArray<TextBox*, 1, 20> txtTratto;
     BoundedArray<TextBox*, 1, 20> txtKm;
     BoundedArray<TextBox*, 1, 20> txtMetri;
-    TextBox* txtDistanzaKm;
-    TextBox* txtDistanzaMetri;
+    TextBox* txtDistanzaKm = nullptr;
+    TextBox* txtDistanzaMetri = nullptr;
 
     i32 TotaleKm;    ///< With the whole kilometres of the metres.
     i32 TotaleMetri; ///< As they stand in the boxes.
@@ -44,11 +45,11 @@ protected:
 
 private:
     void BuildGrid();
-    void ConnectRow(int riga);
-    TextBox* MakeBox(const QString& name, int limit, const QRect& place, const QString& spoken);
-    void MakeLabel(const QString& name, TextView caption, const QRect& place);
+    void BuildLabels();
+    void BuildTotals();
 
     RoutePage& page_;
+    BoxGrid grid_;
 };
 
 } // namespace zelvia

@@ -106,28 +106,6 @@ void frmRicercheStatistiche::cmdPeriodo_Click()
     }
 }
 
-bool frmRicercheStatistiche::LimitHolds(CampoPeriodo::Campo campo)
-{
-    const LimitePeriodo limite = LimiteDi(campo);
-    if (Val(campiPeriodo[campo]->Content()) <= limite.massimo) {
-        return true;
-    }
-    MsgBox(limite.messaggio, MsgButtons::OK, MsgIcon::Exclamation);
-    return false;
-}
-
-void frmRicercheStatistiche::MoveOn(CampoPeriodo::Campo campo)
-{
-    if (!LimitHolds(campo)) {
-        return;
-    }
-    if (campo == CampoPeriodo::AnnoFine) {
-        ControlliDi(Categoria::Percorso).cmd->SetFocus();
-    } else {
-        campiPeriodo[campo + 1]->SetFocus();
-    }
-}
-
 void frmRicercheStatistiche::ControlloData(i16& errore)
 {
     errore = 0;

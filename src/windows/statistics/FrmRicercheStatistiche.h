@@ -8,6 +8,7 @@
 #include "diary/RunSearch.h"
 #include "diary/SearchPeriod.h"
 #include "diary/StatisticSheets.h"
+#include "toolkit/BoxGrid.h"
 #include "toolkit/Button.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
@@ -106,14 +107,10 @@ private:
     void BuildPeriod();
     void BuildResult();
     void BuildTotals();
-    Button* MakeButton(const char* name, TextView caption, const QRect& place);
     Label* MakeLabel(const char* name, TextView caption, const QRect& place, int pixels);
     Label* MakeSlip(const char* name, const QRect& place);
     ListBox* MakeList(const char* name, const QRect& place, const QString& spoken);
-    void ConnectField(CampoPeriodo::Campo campo);
 
-    bool LimitHolds(CampoPeriodo::Campo campo);
-    void MoveOn(CampoPeriodo::Campo campo);
     void Lista(Categoria categoria);
     void AddUp();
     void NascondiMedie();
@@ -123,6 +120,7 @@ private:
     SearchSheetTexts SheetTexts() const;
 
     AperturaGraficoMedia apriGrafico_;
+    BoxGrid period_;
     std::array<ControlliCondizione, kCondizioni.size()> controlli_;
     std::vector<Control*> totals_;     ///< The totals and their heads.
     std::array<Picture*, 3> shapes_{}; ///< shp6 .. shp8, the empty form where the totals will stand.

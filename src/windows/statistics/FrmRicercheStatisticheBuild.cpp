@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The search window's controls: where they stand, how they look and what they set off.
 #include "core/Conversions.h"
+#include "diary/Limits.h"
 #include "toolkit/Colours.h"
 #include "toolkit/Fonts.h"
+#include "toolkit/Keys.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "windows/statistics/FrmRicercheStatistiche.h"
@@ -39,20 +41,9 @@ constexpr int kPeriodTop = kTop + kListHeight + 20;
 constexpr int kCommandTop = 568;
 constexpr int kCommandHeight = 36;
 
-constexpr int kEnter = 13;
-
 /// The names of the twelve, behind "cmd" and "lbl", in the order of the categories.
 constexpr const char* kNames[] = {"Percorso", "Lunghezza", "Km",          "Andatura",  "Fondo", "Tipo",
                                   "Stagione", "Meteo",     "Temperatura", "Corridori", "Peso",  "Ripetizioni"};
-
-/// One of the boxes of the period: where it stands on the frame of its date.
-struct BoxPlace {
-    const char* name;
-    int limit;
-    int left;
-    int width;
-    const char* spoken;
-};
 
 constexpr int kFrameHeight = 32;
 constexpr int kFrameWidth = 152;
@@ -60,14 +51,14 @@ constexpr int kStartLeft = kValueLeft + 36;
 constexpr int kEndLeft = kStartLeft + kFrameWidth + 44;
 
 // The strokes between them are those of the frame's caption.
-constexpr BoxPlace kBoxes[] = {
-    {"txtGiornoInizio", 2, kStartLeft + 2, 34, "Inizio del periodo, giorno"},
-    {"txtMeseInizio", 2, kStartLeft + 46, 34, "Inizio del periodo, mese"},
-    {"txtAnnoInizio", 4, kStartLeft + 90, 58, "Inizio del periodo, anno"},
-    {"txtGiornoFine", 2, kEndLeft + 2, 34, "Fine del periodo, giorno"},
-    {"txtMeseFine", 2, kEndLeft + 46, 34, "Fine del periodo, mese"},
-    {"txtAnnoFine", 4, kEndLeft + 90, 58, "Fine del periodo, anno"},
-};
+constexpr std::array<GridColumn, CampoPeriodo::kCampi> kPeriodColumns = {{
+    {"txtGiornoInizio", 2, true, Limits::kDay, CellFormat::Plain, kStartLeft + 2, 34, "Inizio del periodo, giorno"},
+    {"txtMeseInizio", 2, true, Limits::kMonth, CellFormat::Plain, kStartLeft + 46, 34, "Inizio del periodo, mese"},
+    {"txtAnnoInizio", 4, true, Limits::kYear, CellFormat::Plain, kStartLeft + 90, 58, "Inizio del periodo, anno"},
+    {"txtGiornoFine", 2, true, Limits::kDay, CellFormat::Plain, kEndLeft + 2, 34, "Fine del periodo, giorno"},
+    {"txtMeseFine", 2, true, Limits::kMonth, CellFormat::Plain, kEndLeft + 46, 34, "Fine del periodo, mese"},
+    {"txtAnnoFine", 4, true, Limits::kYear, CellFormat::Plain, kEndLeft + 90, 58, "Fine del periodo, anno"},
+}};
 
 /// The columns of the totals: name and caption of the head, name of the value, width.
 struct TotalPlace {
@@ -94,18 +85,10 @@ void DrawEmptyForm(QPainter& painter, const QRectF& area)
     }
 }
 
-/// Throws away a printable character that is no digit.
-void DigitsOnly(int& keyAscii)
-{
-    if (keyAscii >= ' ' && (keyAscii < '0' || keyAscii > '9')) {
-        keyAscii = 0;
-    }
-}
-
 } // namespace
 
 frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
-    : Form(QStringLiteral("frmRicercheStatistiche")), apriGrafico_(std::move(apriGrafico))
+    : Form(QStringLiteral("frmRicercheStatistiche")), apriGrafico_(std::move(apriGrafico)), period_(kPeriodColumns)
 {
     setWindowTitle(QStringLiteral("Ricerche Statistiche"));
     setPalette(PagePalette());
@@ -129,14 +112,6 @@ void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
     painter.drawLine(between, kHeadTop, between, kCommandTop - 18);
     constexpr int ruleTop = kCommandTop - 16;
     painter.fillRect(kMargin, ruleTop, width() - 2 * kMargin, 2, Ink::Accent);
-}
-
-Button* frmRicercheStatistiche::MakeButton(const char* name, TextView caption, const QRect& place)
-{
-    auto* button = new Button(this, QLatin1String(name), caption);
-    button->setFont(PageFont("Times New Roman", 15));
-    button->setGeometry(place);
-    return button;
 }
 
 Label* frmRicercheStatistiche::MakeLabel(const char* name, TextView caption, const QRect& place, int pixels)
@@ -175,9 +150,9 @@ void frmRicercheStatistiche::BuildConditions()
         const TextView word = StatisticaDi(categoria).titolo;
         const QByteArray name(kNames[i]);
         ControlliCondizione& controlli = controlli_[i];
-        controlli.cmd = MakeButton(("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight});
+        controlli.cmd = MakeButton(this, ("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight},
+                                   [this, categoria] { cmdCategoria_Click(categoria); });
         controlli.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
-        controlli.cmd->Click = [this, categoria] { cmdCategoria_Click(categoria); };
         controlli.lbl = MakeSlip(("lbl" + name).constData(), {kValueLeft, top, kValueWidth, kRowHeight});
         controlli.lbl->setIndent(6);
         controlli.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
@@ -200,8 +175,8 @@ void frmRicercheStatistiche::BuildConditions()
 
 void frmRicercheStatistiche::BuildPeriod()
 {
-    cmdPeriodo = MakeButton("cmdPeriodo", "Periodo", {kMargin, kPeriodTop, kButtonWidth, kFrameHeight});
-    cmdPeriodo->Click = [this] { cmdPeriodo_Click(); };
+    cmdPeriodo = MakeButton(this, "cmdPeriodo", "Periodo", {kMargin, kPeriodTop, kButtonWidth, kFrameHeight},
+                            [this] { cmdPeriodo_Click(); });
     constexpr int captionPixels = 24; // Its blanks part the strokes by the width of a box.
     constexpr int wordPixels = 16;
     lblDalTit = MakeLabel("lblDalTit", "Dal", {kValueLeft, kPeriodTop, 32, kFrameHeight}, wordPixels);
@@ -213,29 +188,20 @@ void frmRicercheStatistiche::BuildPeriod()
     for (Label* label : {lblDalTit, lblDataInizio, lblAlTit, lblDataFine}) {
         label->SetVisible(false);
     }
+    period_.LastEntered = [this] { ControlliDi(Categoria::Percorso).cmd->SetFocus(); };
+    period_.Build(this, {.rows = 1,
+                         .top = kPeriodTop + 2,
+                         .step = 0,
+                         .height = kFrameHeight - 4,
+                         .font = PageFont("Times New Roman", 16),
+                         .digitsRight = false});
     for (std::size_t i = 0; i < campiPeriodo.size(); ++i) {
-        const BoxPlace& place = kBoxes[i];
-        auto* box = new TextBox(this, QLatin1String(place.name), place.limit);
-        box->setGeometry(place.left, kPeriodTop + 2, place.width, kFrameHeight - 4);
-        box->setFont(PageFont("Times New Roman", 16));
-        box->setAccessibleName(QLatin1String(place.spoken));
-        box->SetVisible(false);
-        campiPeriodo[i] = box;
-        ConnectField(static_cast<CampoPeriodo::Campo>(i));
+        campiPeriodo[i] = period_.Box(static_cast<int>(i), 1);
+        campiPeriodo[i]->SetVisible(false);
     }
-    cmdAvvia = MakeButton("cmdAvvia", "Avvia", {kMargin, kCommandTop, kButtonWidth + 8 + kValueWidth, kCommandHeight});
-    cmdAvvia->Click = [this] { cmdAvvia_Click(); };
-}
-
-void frmRicercheStatistiche::ConnectField(CampoPeriodo::Campo campo)
-{
-    campiPeriodo[campo]->KeyPress = [this, campo](int& keyAscii) {
-        DigitsOnly(keyAscii);
-        if (keyAscii == kEnter) {
-            MoveOn(campo);
-        }
-    };
-    campiPeriodo[campo]->Validate = [this, campo] { return !LimitHolds(campo); };
+    cmdAvvia =
+        MakeButton(this, "cmdAvvia", "Avvia", {kMargin, kCommandTop, kButtonWidth + 8 + kValueWidth, kCommandHeight},
+                   [this] { cmdAvvia_Click(); });
 }
 
 void frmRicercheStatistiche::BuildResult()
@@ -253,15 +219,13 @@ void frmRicercheStatistiche::BuildResult()
 
     constexpr int width = 126;
     constexpr int step = (kResultWidth - width) / 2;
-    const auto command = [&](const char* name, TextView caption, int place) {
-        return MakeButton(name, caption, {kResultLeft + place * step, kCommandTop, width, kCommandHeight});
+    const auto command = [this](const char* name, TextView caption, int place, std::function<void()> click) {
+        const int left = kResultLeft + place * step;
+        return MakeButton(this, name, caption, {left, kCommandTop, width, kCommandHeight}, std::move(click));
     };
-    cmGrafico = command("cmGrafico", "Grafico", 0);
-    cmdStampa = command("cmdStampa", "Stampa", 1);
-    cmdStampa->Click = [this] { cmdStampa_Click(); };
-    cmdEsci = command("cmdEsci", "Esci", 2);
-    cmGrafico->Click = [this] { apriGrafico_(totali.Medie); };
-    cmdEsci->Click = [this] { Unload(); };
+    cmGrafico = command("cmGrafico", "Grafico", 0, [this] { apriGrafico_(totali.Medie); });
+    cmdStampa = command("cmdStampa", "Stampa", 1, [this] { cmdStampa_Click(); });
+    cmdEsci = command("cmdEsci", "Esci", 2, [this] { Unload(); });
 }
 
 void frmRicercheStatistiche::BuildTotals()

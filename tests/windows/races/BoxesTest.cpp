@@ -3,7 +3,7 @@
 // The boxes of the calendar's grid: lengths, digits, limits, formats, Enter and the dashes of the date.
 #include "support/CalendarDesk.h"
 
-Q_DECLARE_METATYPE(zelvia::CalendarGrid::Casella)
+Q_DECLARE_METATYPE(zelvia::CalendarGrid::RaceColumn)
 
 namespace zelvia::test
 {
@@ -26,30 +26,30 @@ private Q_SLOTS:
 
 void BoxesTest::limitsHoldTheFocus_data()
 {
-    QTest::addColumn<Casella>("box");
+    QTest::addColumn<RaceColumn>("box");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("message");
     const QString thousands = QStringLiteral("MAX 999.999                   ");
-    QTest::newRow("day") << Casella::Giorno << "32"
+    QTest::newRow("day") << RaceColumn::Giorno << "32"
                          << "MAX 31 GIORNI                 ";
-    QTest::newRow("month") << Casella::Mese << "13"
+    QTest::newRow("month") << RaceColumn::Mese << "13"
                            << "MAX 12 MESI                   ";
-    QTest::newRow("year") << Casella::Anno << "2100"
+    QTest::newRow("year") << RaceColumn::Anno << "2100"
                           << "MAX ANNO 2099                 ";
-    QTest::newRow("runners") << Casella::Partecipanti << "1000000" << thousands;
-    QTest::newRow("placing") << Casella::Risultato << "9999999" << thousands;
-    QTest::newRow("hours") << Casella::Ore << "25"
+    QTest::newRow("runners") << RaceColumn::Partecipanti << "1000000" << thousands;
+    QTest::newRow("placing") << RaceColumn::Risultato << "9999999" << thousands;
+    QTest::newRow("hours") << RaceColumn::Ore << "25"
                            << "MAX 24 ORE                ";
-    QTest::newRow("minutes") << Casella::Minuti << "60"
+    QTest::newRow("minutes") << RaceColumn::Minuti << "60"
                              << "MAX 59 MINUTI                ";
-    QTest::newRow("seconds") << Casella::Secondi << "99"
+    QTest::newRow("seconds") << RaceColumn::Secondi << "99"
                              << "MAX 59 SECONDI                ";
-    QTest::newRow("placing in the category") << Casella::RisultatoCat << "1000000" << thousands;
+    QTest::newRow("placing in the category") << RaceColumn::RisultatoCat << "1000000" << thousands;
 }
 
 void BoxesTest::limitsHoldTheFocus()
 {
-    QFETCH(Casella, box);
+    QFETCH(RaceColumn, box);
     QFETCH(QString, typed);
     QFETCH(QString, message);
     CalendarDesk desk;
@@ -61,7 +61,7 @@ void BoxesTest::limitsHoldTheFocus()
         if (way < 2) {
             hand::Key(way == 0 ? Qt::Key_Return : Qt::Key_Tab);
         } else {
-            hand::Click(way == 2 ? static_cast<QWidget&>(desk.Box(Casella::Gara, 9)) : *desk.Window()->cmdSalva);
+            hand::Click(way == 2 ? static_cast<QWidget&>(desk.Box(RaceColumn::Gara, 9)) : *desk.Window()->cmdSalva);
         }
         QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
@@ -80,7 +80,7 @@ void BoxesTest::theHighestIsTaken()
     QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtGiornoGara(8)"));
     QCOMPARE(desk.Row(7), QByteArray("31|12|2099|||99|999|999.999|999.999|24|59|59||999.999"));
     // With the dot the limit is tested on the number without it.
-    hand::Click(desk.Box(Casella::Partecipanti, 7));
+    hand::Click(desk.Box(RaceColumn::Partecipanti, 7));
     hand::Key(Qt::Key_Tab);
     QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtRisultato(7)"));
     VERIFY_SCRIPT(desk.script);
@@ -91,20 +91,21 @@ void BoxesTest::lengthsAndDigits()
     CalendarDesk desk;
     desk.StartOpen();
     const QString mixed = QStringLiteral("a1-2. 3x4,5z6y7w8v9");
-    const std::pair<Casella, const char*> digits[] = {
-        {Casella::Giorno, "12"},           {Casella::Mese, "12"},
-        {Casella::Anno, "1234"},           {Casella::Km, "12"},
-        {Casella::Metri, "123"},           {Casella::Partecipanti, "1234567"},
-        {Casella::Risultato, "1234567"},   {Casella::Ore, "12"},
-        {Casella::Minuti, "12"},           {Casella::Secondi, "12"},
-        {Casella::RisultatoCat, "1234567"}};
+    const std::pair<RaceColumn, const char*> digits[] = {
+        {RaceColumn::Giorno, "12"},           {RaceColumn::Mese, "12"},
+        {RaceColumn::Anno, "1234"},           {RaceColumn::Km, "12"},
+        {RaceColumn::Metri, "123"},           {RaceColumn::Partecipanti, "1234567"},
+        {RaceColumn::Risultato, "1234567"},   {RaceColumn::Ore, "12"},
+        {RaceColumn::Minuti, "12"},           {RaceColumn::Secondi, "12"},
+        {RaceColumn::RisultatoCat, "1234567"}};
     for (const auto& [box, held] : digits) {
         desk.Write(box, 2, mixed);
         QTRY_COMPARE(desk.Box(box, 2).text(), QLatin1String(held));
         desk.Write(box, 2, QStringLiteral("1"));
     }
     const QString letters = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
-    for (const auto& [box, length] : {std::pair{Casella::Gara, 31}, {Casella::Localita, 20}, {Casella::Categoria, 8}}) {
+    for (const auto& [box, length] :
+         {std::pair{RaceColumn::Gara, 31}, {RaceColumn::Localita, 20}, {RaceColumn::Categoria, 8}}) {
         desk.Write(box, 2, letters);
         QTRY_COMPARE(desk.Box(box, 2).text(), letters.left(length));
     }
@@ -115,27 +116,27 @@ void BoxesTest::formatsOnLeaving()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    const std::tuple<Casella, const char*, const char*> rows[] = {
-        {Casella::Giorno, "05", "05"},
-        {Casella::Mese, "5", "5"},
-        {Casella::Anno, "26", "26"},
-        {Casella::Gara, "MEZZA DEL LAGO", "Mezza Del Lago"},
-        {Casella::Gara, "mezza del Lago", "mezza del Lago"},
-        {Casella::Localita, "SANT'ANNA", "Sant'Anna"},
-        {Casella::Km, "05", "05"},
-        {Casella::Metri, "5", "005"},
-        {Casella::Metri, "97", "097"},
-        {Casella::Metri, "", ""},
-        {Casella::Partecipanti, "999", "999"},
-        {Casella::Partecipanti, "1234", "1.234"},
-        {Casella::Risultato, "12345", "12.345"},
-        {Casella::Ore, "1", "1"},
-        {Casella::Minuti, "5", "05"},
-        {Casella::Minuti, "", ""},
-        {Casella::Secondi, "0", "00"},
-        {Casella::Categoria, "MM45", "MM45"},
-        {Casella::RisultatoCat, "1000", "1.000"},
-        {Casella::RisultatoCat, "", ""},
+    const std::tuple<RaceColumn, const char*, const char*> rows[] = {
+        {RaceColumn::Giorno, "05", "05"},
+        {RaceColumn::Mese, "5", "5"},
+        {RaceColumn::Anno, "26", "26"},
+        {RaceColumn::Gara, "MEZZA DEL LAGO", "Mezza Del Lago"},
+        {RaceColumn::Gara, "mezza del Lago", "mezza del Lago"},
+        {RaceColumn::Localita, "SANT'ANNA", "Sant'Anna"},
+        {RaceColumn::Km, "05", "05"},
+        {RaceColumn::Metri, "5", "005"},
+        {RaceColumn::Metri, "97", "097"},
+        {RaceColumn::Metri, "", ""},
+        {RaceColumn::Partecipanti, "999", "999"},
+        {RaceColumn::Partecipanti, "1234", "1.234"},
+        {RaceColumn::Risultato, "12345", "12.345"},
+        {RaceColumn::Ore, "1", "1"},
+        {RaceColumn::Minuti, "5", "05"},
+        {RaceColumn::Minuti, "", ""},
+        {RaceColumn::Secondi, "0", "00"},
+        {RaceColumn::Categoria, "MM45", "MM45"},
+        {RaceColumn::RisultatoCat, "1000", "1.000"},
+        {RaceColumn::RisultatoCat, "", ""},
     };
     for (const auto& [box, typed, left] : rows) {
         desk.Write(box, 3, QLatin1String(typed));
@@ -150,7 +151,7 @@ void BoxesTest::enterGoesAlong()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    hand::Click(desk.Box(Casella::Giorno, 1));
+    hand::Click(desk.Box(RaceColumn::Giorno, 1));
     for (const char* next :
          {"txtMeseGara(1)", "txtAnnoGara(1)", "txtGare(1)", "txtLocalita(1)", "txtKm(1)", "txtMetri(1)",
           "txtPartecipanti(1)", "txtRisultato(1)", "txtOre(1)", "txtMinuti(1)", "txtSecondi(1)", "txtCategoria(1)",
@@ -186,10 +187,10 @@ void BoxesTest::enterInTheLastBoxStays()
     CalendarDesk desk;
     desk.StartOpen();
     // It does not leave the box, so nothing is tested or formatted.
-    desk.Write(Casella::RisultatoCat, 20, QStringLiteral("1000000"));
+    desk.Write(RaceColumn::RisultatoCat, 20, QStringLiteral("1000000"));
     hand::Key(Qt::Key_Return);
     QCOMPARE(CalendarDesk::Focused(), QByteArray("txtRisultatoCat(20)"));
-    QCOMPARE(desk.Box(Casella::RisultatoCat, 20).text(), QStringLiteral("1000000"));
+    QCOMPARE(desk.Box(RaceColumn::RisultatoCat, 20).text(), QStringLiteral("1000000"));
     QVERIFY(QApplication::activeModalWidget() == nullptr);
     VERIFY_SCRIPT(desk.script);
 }
@@ -203,7 +204,7 @@ void BoxesTest::theDashesComeWithTheDay()
     QCOMPARE(desk.Dashes(5), blank);
     const std::pair<const char*, QByteArray> rows[] = {{"", blank}, {"0", blank}, {"7", dashes}, {"00", blank}};
     for (const auto& [typed, after] : rows) {
-        desk.Write(Casella::Giorno, 5, QLatin1String(typed));
+        desk.Write(RaceColumn::Giorno, 5, QLatin1String(typed));
         QTRY_COMPARE(desk.Dashes(5), dashes);
         hand::Key(Qt::Key_Tab);
         QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtMeseGara(5)"));

@@ -118,7 +118,7 @@ void CalendarPrintTest::theFocusComesBack()
     CalendarDesk desk;
     PrinterTray tray;
     desk.StartOpen();
-    hand::Click(desk.Box(Casella::Gara, 2));
+    hand::Click(desk.Box(RaceColumn::Gara, 2));
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtGare(2)"));
     tray.broken = broken;
     if (broken) {

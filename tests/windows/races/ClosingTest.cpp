@@ -47,7 +47,7 @@ void ClosingTest::nothingChangedAsksNothing()
     desk.StartOpen();
     desk.Leave();
     desk.OpenCalendar();
-    desk.Write(Casella::Gara, 1, QStringLiteral("CORRIDA")); // The case does not count.
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("CORRIDA")); // The case does not count.
     const QPointer<frmCalendario> window = desk.Window();
     PressCloseBox(desk);
     QTRY_VERIFY(window.isNull());
@@ -102,7 +102,7 @@ void ClosingTest::theExitButtonTestsTheBox()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Minuti, 1, QStringLiteral("75"));
+    desk.Write(RaceColumn::Minuti, 1, QStringLiteral("75"));
     desk.script.Expect(Warning(QStringLiteral("MAX 59 MINUTI                ")));
     desk.TryToLeave();
     QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtMinuti(1)"));
@@ -113,7 +113,7 @@ void ClosingTest::theCloseBoxDoesNot()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Minuti, 1, QStringLiteral("75"));
+    desk.Write(RaceColumn::Minuti, 1, QStringLiteral("75"));
     const QPointer<frmCalendario> window = desk.Window();
     desk.script.Expect(CalendarCloseQuestion(QMessageBox::Yes));
     PressCloseBox(desk);
@@ -209,7 +209,7 @@ void ClosingTest::errorsOfTheQuestion()
     const QString overflow = QStringLiteral("6 Numero oltre i limiti");
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Box(Casella::Anno, 1).SetContent("9999999999");
+    desk.Box(RaceColumn::Anno, 1).SetContent("9999999999");
     desk.script.Expect(Report(QStringLiteral("ContrData - ERRORE : ") + overflow));
     desk.script.Expect(Report(QStringLiteral("Query - ERRORE : ") + overflow));
     // As if the question had ended normally, so the window goes.
@@ -217,7 +217,7 @@ void ClosingTest::errorsOfTheQuestion()
     QCOMPARE(desk.File(), CalendarBytes().Bytes());
 
     desk.OpenCalendar();
-    desk.Box(Casella::Anno, 1).SetContent(Text(400, '9'));
+    desk.Box(RaceColumn::Anno, 1).SetContent(Text(400, '9'));
     const QPointer<frmCalendario> window = desk.Window();
     desk.script.Expect(Report(QStringLiteral("ControllaSaveGar - ERRORE : ") + overflow));
     desk.script.Expect(Report(QStringLiteral("ContrData - ERRORE : ") + overflow));

@@ -72,7 +72,7 @@ void DatesTest::datesAreCorrected()
         desk.StartOpen();
         const QByteArrayList date = typed.split('/');
         desk.WriteDate(3, date[0], date[1], date[2]);
-        hand::Click(desk.Box(Casella::Gara, 3));
+        hand::Click(desk.Box(RaceColumn::Gara, 3));
         QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtGare(3)"));
         QCOMPARE(desk.Row(3), date.join('|') + "|||||||||||");
         VERIFY_SCRIPT(desk.script);
@@ -173,8 +173,8 @@ void DatesTest::twoRacesOnOneDate()
     QCOMPARE(RaceInMemory(2), QByteArray("5|9|2026|Prima||0|0|0|0|0|0|0||0"));
     QCOMPARE(RaceInMemory(7), QByteArray("5|9|2026|Seconda||0|0|0|0|0|0|0||0"));
 
-    desk.Write(Casella::Giorno, 2, QStringLiteral("6"));
-    desk.Write(Casella::Giorno, 7, QStringLiteral("7"));
+    desk.Write(RaceColumn::Giorno, 2, QStringLiteral("6"));
+    desk.Write(RaceColumn::Giorno, 7, QStringLiteral("7"));
     desk.Save();
     file.SetRow(2, "6|9|2026|Prima").SetRow(7, "7|9|2026|Seconda");
     QTRY_COMPARE(desk.File(), file.Bytes());
@@ -185,7 +185,7 @@ void DatesTest::aNameWithoutADate()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 4, QStringLiteral("Forse"));
+    desk.Write(RaceColumn::Gara, 4, QStringLiteral("Forse"));
     desk.Save();
     QTRY_COMPARE(desk.File(), CalendarBytes().SetRow(4, "|||Forse").Bytes());
     VERIFY_SCRIPT(desk.script);

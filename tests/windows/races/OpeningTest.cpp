@@ -93,7 +93,7 @@ void OpeningTest::aSecondOpeningBringsTheSameWindow()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("corrida"));
     const frmCalendario* window = desk.Window();
     desk.Page().DispatchCommand("Gare");
     QTRY_VERIFY(desk.Window()->isActiveWindow());

@@ -108,7 +108,7 @@ void OtherDiaryTest::openShowsItsCalendar()
     QTRY_VERIFY(desk.Page().isActiveWindow());
     // What is written from now on is the second diary's.
     desk.ToCalendar();
-    desk.Write(Casella::Localita, 1, QStringLiteral("lido"));
+    desk.Write(RaceColumn::Localita, 1, QStringLiteral("lido"));
     desk.LeaveAnswering(QMessageBox::Yes);
     QCOMPARE(desk.SecondFile(), SecondCalendar().SetRow(1, "1|3|2026|Stracitta|lido").Bytes());
     QCOMPARE(desk.File(), FirstCalendar().Bytes());

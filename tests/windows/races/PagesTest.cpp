@@ -33,7 +33,7 @@ void PagesTest::fivePages()
         QVERIFY(desk.Window()->PrimaGaraPagina == first - 1);
         QVERIFY(desk.Window()->upPaginaGare->Value() == first - 1);
         QCOMPARE(desk.Window()->lblPaginaGare->text(), QStringLiteral("Pagina %1 di 5").arg(first / 20 + 1));
-        QCOMPARE(desk.Box(Casella::Km, 20).accessibleName(), QStringLiteral("Gara %1, chilometri").arg(first + 19));
+        QCOMPARE(desk.Box(RaceColumn::Km, 20).accessibleName(), QStringLiteral("Gara %1, chilometri").arg(first + 19));
     }
     QCOMPARE(desk.Row(20), QByteArray("31|12|2026|San Silvestro||||||||||"));
     for (const int first : {61, 41, 21, 1, 1}) {
@@ -48,7 +48,7 @@ void PagesTest::pagesByTheKeys()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    hand::Click(desk.Box(Casella::RisultatoCat, 20));
+    hand::Click(desk.Box(RaceColumn::RisultatoCat, 20));
     hand::Key(Qt::Key_PageDown);
     QTRY_COMPARE(desk.FirstNumber(), QByteArray("21"));
     hand::Key(Qt::Key_PageDown);
@@ -93,7 +93,7 @@ void PagesTest::aTurnForgetsTheChangesOfAnother()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Corrida"));
     desk.NextPage();
     QVERIFY(desk.Window()->CalendarioModificato == 1);
     desk.NextPage();
@@ -108,7 +108,7 @@ void PagesTest::aTurnRemembersThePageLeft()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Corrida"));
     desk.NextPage();
     desk.LeaveAnswering(QMessageBox::Yes);
     QCOMPARE(desk.File(), CalendarBytes().SetRow(1, "|||Corrida").Bytes());
@@ -119,7 +119,7 @@ void PagesTest::aTurnDoesNotTestTheBox()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Minuti, 1, QStringLiteral("75"));
+    desk.Write(RaceColumn::Minuti, 1, QStringLiteral("75"));
     desk.NextPage();
     QTRY_COMPARE(desk.FirstNumber(), QByteArray("21"));
     QCOMPARE(CalendarDesk::Focused(), QByteArray("txtMinuti(1)"));
@@ -131,7 +131,7 @@ void PagesTest::aPartOfADateReturnsToNothing()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Anno, 1, QStringLiteral("2026"));
+    desk.Write(RaceColumn::Anno, 1, QStringLiteral("2026"));
     desk.script.Expect(Warning(QStringLiteral(" MANCA AL N° 1 :   GIORNO   ")));
     desk.script.Expect(Warning(QStringLiteral(" MANCA AL N° 1 :   MESE   ")));
     desk.NextPage();

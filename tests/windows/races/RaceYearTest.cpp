@@ -20,11 +20,11 @@ namespace
 /// Types three races on two pages, each with a date or a number to be mended.
 void PlanRaces(CalendarDesk& desk)
 {
-    desk.Write(Casella::Giorno, 1, QStringLiteral("35"));
+    desk.Write(RaceColumn::Giorno, 1, QStringLiteral("35"));
     desk.script.Expect(Warning(QStringLiteral("MAX 31 GIORNI                 ")));
     hand::Key(Qt::Key_Return);
     QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
-    desk.Write(Casella::Giorno, 1, QStringLiteral("31"));
+    desk.Write(RaceColumn::Giorno, 1, QStringLiteral("31"));
     hand::Key(Qt::Key_Return);
     for (const char* value : {"4", "2026", "GIRO DELLE MURA", "CITTA ALTA", "10"}) {
         hand::Type(QLatin1String(value));
@@ -57,14 +57,14 @@ void RaceYearTest::fromThePlanToTheResult()
     file.SetRow(1, "30|4|2026|Giro Delle Mura|Citta Alta|10").SetRow(2, "24|5|2026|Notturna|Lido|9|500");
     file.SetRow(21, "24|0|2026|Doppia|Ponte|21|97");
     QTRY_COMPARE(desk.File(), file.Bytes());
-    desk.Write(Casella::Mese, 1, QStringLiteral("5"));
+    desk.Write(RaceColumn::Mese, 1, QStringLiteral("5"));
     desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
     desk.script.Expect(Stop(QStringLiteral("24-5-2026   DATA PRESENTE AL  N° 2  E AL N° 21  ")));
     hand::Click(*desk.Window()->cmdSalva);
     QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(desk.File(), file.Bytes());
-    desk.Write(Casella::Mese, 1, QStringLiteral("6"));
+    desk.Write(RaceColumn::Mese, 1, QStringLiteral("6"));
     desk.Save();
     file.SetRow(21, "24|6|2026|Doppia|Ponte|21|97");
     QTRY_COMPARE(desk.File(), file.Bytes());
@@ -85,7 +85,7 @@ void RaceYearTest::fromThePlanToTheResult()
 
     desk.OpenCalendar();
     QCOMPARE(desk.Row(2), QByteArray("24|5|2026|Notturna|Lido|9|500|||||||"));
-    hand::Click(desk.Box(Casella::Partecipanti, 2));
+    hand::Click(desk.Box(RaceColumn::Partecipanti, 2));
     for (const char* value : {"1234", "217", "", "44", "5", "MM45", "27"}) {
         if (*value != '\0') {
             hand::Type(QLatin1String(value));

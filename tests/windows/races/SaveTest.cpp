@@ -42,7 +42,7 @@ void SaveTest::cancelSavesNothing()
 {
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Corrida"));
     desk.Save(QMessageBox::Cancel);
     QCOMPARE(desk.File(), CalendarBytes().Bytes());
     QCOMPARE(RaceInMemory(1), QByteArray("0|0|0|||0|0|0|0|0|0|0||0"));
@@ -82,7 +82,7 @@ void SaveTest::aFileThatCannotBeWritten()
     const QString path = QStringLiteral("prova/CalendarioGare");
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Corrida"));
     if (target == QLatin1String("a folder")) {
         desk.folder.Block(path);
     } else if (target == QLatin1String("nowhere")) {
@@ -107,7 +107,7 @@ void SaveTest::errorsEndTheSave()
     const QString overflow = QStringLiteral("6 Numero oltre i limiti");
     CalendarDesk desk;
     desk.StartOpen();
-    desk.Box(Casella::Anno, 1).SetContent("9999999999");
+    desk.Box(RaceColumn::Anno, 1).SetContent("9999999999");
     desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
     desk.script.Expect(Report(QStringLiteral("ContrData - ERRORE : ") + overflow));
     desk.script.Expect(BareReport(overflow));
@@ -124,7 +124,7 @@ void SaveTest::theRowNumbersStay()
     CalendarDesk desk(file);
     desk.StartOpen();
     QCOMPARE(desk.FirstNumber(), QByteArray("77"));
-    desk.Write(Casella::Gara, 1, QStringLiteral("Corrida"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Corrida"));
     desk.Save();
     QTRY_COMPARE(desk.File(), file.SetRow(1, "|||Corrida").Bytes());
     VERIFY_SCRIPT(desk.script);

@@ -159,7 +159,7 @@ void SlipTest::changesWaitForTheNextDay()
     file.SetRow(1, "20|5|2026|Corrida");
     CalendarDesk desk(file);
     desk.StartOpen();
-    desk.Write(Casella::Gara, 1, QStringLiteral("Notturna"));
+    desk.Write(RaceColumn::Gara, 1, QStringLiteral("Notturna"));
     desk.Save();
     QTRY_COMPARE(desk.File(), CalendarBytes().SetRow(1, "20|5|2026|Notturna").Bytes());
     QCOMPARE(desk.Caption("lblGara"), QStringLiteral("Corrida"));

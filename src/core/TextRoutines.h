@@ -16,10 +16,4 @@ Text SenzaPuntoMigliaia(TextView testo);
 /// Converts each A-Z that follows an ASCII letter to lower case, in place, and returns the text.
 Text ControlloMaiuscole(Text& testo);
 
-/// How the text of a grid's box is formatted when the box is left.
-enum class Formato { Nessuno, DueCifre, TreCifre, Maiuscole, Migliaia };
-
-/// The text in one of the formats; an empty one stays empty.
-Text Formattato(TextView testo, Formato formato);
-
 } // namespace zelvia::Module1

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/TextRoutines.h"
-
-#include "core/Conversions.h"
+#include "core/TextRoutines.h"
 
 namespace zelvia::Module1
 {
@@ -48,22 +46,6 @@ Text ControlloMaiuscole(Text& testo)
         }
     }
     return testo;
-}
-
-Text Formattato(TextView testo, Formato formato)
-{
-    Text formattato(testo);
-    if (testo.empty()) {
-        return formattato;
-    }
-    switch (formato) {
-    case Formato::DueCifre: return Format(Val(testo), "00");
-    case Formato::TreCifre: return Format(Val(testo), "000");
-    case Formato::Maiuscole: return ControlloMaiuscole(formattato);
-    case Formato::Migliaia: return ConPuntoMigliaia(testo);
-    case Formato::Nessuno: break;
-    }
-    return formattato;
 }
 
 } // namespace zelvia::Module1

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/TextRoutines.h"
+#include "core/TextRoutines.h"
 
+#include "core/Cell.h"
 #include "support/Bytes.h"
 
 #include <QTest>
@@ -100,24 +101,24 @@ void TextRoutinesTest::Formats_data()
     QTest::addColumn<int>("format");
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("result");
-    const auto row = [](Formato format, const char* text, const char* result) {
+    const auto row = [](CellFormat format, const char* text, const char* result) {
         QTest::addRow("%d, \"%s\"", static_cast<int>(format), text)
             << static_cast<int>(format) << QByteArray(text) << QByteArray(result);
     };
-    for (const Formato format :
-         {Formato::Nessuno, Formato::DueCifre, Formato::TreCifre, Formato::Maiuscole, Formato::Migliaia}) {
+    for (const CellFormat format : {CellFormat::Plain, CellFormat::TwoDigits, CellFormat::ThreeDigits,
+                                    CellFormat::Capitals, CellFormat::Thousands}) {
         row(format, "", "");
     }
-    row(Formato::Nessuno, "07", "07");
-    row(Formato::DueCifre, "7", "07");
-    row(Formato::DueCifre, "0", "00");
-    row(Formato::DueCifre, "59", "59");
-    row(Formato::TreCifre, "7", "007");
-    row(Formato::TreCifre, "097", "097");
-    row(Formato::Maiuscole, "MEZZA DEL LAGO", "Mezza Del Lago");
-    row(Formato::Migliaia, "999", "999");
-    row(Formato::Migliaia, "1234", "1.234");
-    row(Formato::Migliaia, "1.234", "1.234");
+    row(CellFormat::Plain, "07", "07");
+    row(CellFormat::TwoDigits, "7", "07");
+    row(CellFormat::TwoDigits, "0", "00");
+    row(CellFormat::TwoDigits, "59", "59");
+    row(CellFormat::ThreeDigits, "7", "007");
+    row(CellFormat::ThreeDigits, "097", "097");
+    row(CellFormat::Capitals, "MEZZA DEL LAGO", "Mezza Del Lago");
+    row(CellFormat::Thousands, "999", "999");
+    row(CellFormat::Thousands, "1234", "1.234");
+    row(CellFormat::Thousands, "1.234", "1.234");
 }
 
 void TextRoutinesTest::Formats()
@@ -125,7 +126,7 @@ void TextRoutinesTest::Formats()
     QFETCH(int, format);
     QFETCH(QByteArray, text);
     QFETCH(QByteArray, result);
-    QCOMPARE(Bytes(Formattato(TextOf(text), static_cast<Formato>(format))), result);
+    QCOMPARE(Bytes(Formatted(TextOf(text), static_cast<CellFormat>(format))), result);
 }
 
 QTEST_APPLESS_MAIN(TextRoutinesTest)

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "toolkit/BoxGrid.h"
+
+#include "core/BoundedArray.h"
+#include "core/MessageBox.h"
+#include "toolkit/Keys.h"
+#include "toolkit/QtText.h"
+
+namespace zelvia
+{
+
+QString Indexed(const char* name, int index)
+{
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+Label* MakeLabel(QWidget* parent, const QString& name, TextView caption, const QRect& place, const QFont& font)
+{
+    auto* label = new Label(parent, name);
+    label->SetCaption(caption);
+    label->setGeometry(place);
+    label->setFont(font);
+    return label;
+}
+
+TextBox* MakeBox(QWidget* parent, const GridColumn& column, const GridLook& look, int row)
+{
+    const QString name = look.rows == 1 ? QString::fromLatin1(column.name) : Indexed(column.name, row);
+    auto* box = new TextBox(parent, name, column.maxLength);
+    box->setGeometry(column.left, look.top + (row - 1) * look.step, column.width, look.height);
+    box->setFont(look.font);
+    box->setTextMargins(look.margins);
+    box->setAccessibleName(ToQString(column.spoken));
+    if (column.digitsOnly && look.digitsRight) {
+        box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return box;
+}
+
+void BoxGrid::Build(QWidget* parent, const GridLook& look)
+{
+    rows_ = look.rows;
+    for (int row = 1; row <= rows_; ++row) {
+        for (const GridColumn& column : columns_) {
+            boxes_.push_back(MakeBox(parent, column, look, row));
+        }
+    }
+    Visit([this](int column, int row) { Connect(column, row); });
+}
+
+TextBox* BoxGrid::Box(int column, int row) const
+{
+    const std::size_t place = OffsetWithin(row, 1, rows_) * columns_.size() + OffsetWithin(column, 0, Columns() - 1);
+    return boxes_[place];
+}
+
+Text BoxGrid::Stored(int column, int place) const
+{
+    return CellText(Column(column).cell(place), Column(column).format);
+}
+
+void BoxGrid::Store(int column, int row, int place) const
+{
+    SetCell(Column(column).cell(place), Content(column, row), Column(column).format);
+}
+
+bool BoxGrid::Holds(int column, int row, int place) const
+{
+    return CellHolds(Column(column).cell(place), Content(column, row), Column(column).format);
+}
+
+void BoxGrid::Speak(TextView word, int rowsBefore)
+{
+    Visit([&](int column, int row) {
+        Box(column, row)
+            ->setAccessibleName(QStringLiteral("%1 %2, %3")
+                                    .arg(ToQString(word))
+                                    .arg(rowsBefore + row)
+                                    .arg(ToQString(Column(column).spoken)));
+    });
+}
+
+void BoxGrid::Connect(int column, int row)
+{
+    TextBox& box = *Box(column, row);
+    box.Click = Click;
+    box.Change = Edited;
+    box.KeyPress = [this, column, row](int& keyAscii) {
+        if (Edited) {
+            Edited();
+        }
+        if (Column(column).digitsOnly) {
+            ThrowAwayNonDigit(keyAscii);
+        }
+        if (keyAscii == kEnter && (!Column(column).testedOnEnter || LimitHolds(column, row))) {
+            MoveOn(column, row);
+        }
+    };
+    box.Validate = [this, column, row] { return !Leave(column, row); };
+    if (column == signs.column) {
+        box.GotFocus = [this, row] { ShowSigns(row, true); };
+    }
+}
+
+bool BoxGrid::LimitHolds(int column, int row) const
+{
+    const Limit& limit = Column(column).limit;
+    if (limit.highest == 0 || Number(column, row) <= limit.highest) {
+        return true;
+    }
+    MsgBox(limit.message, MsgButtons::OK, MsgIcon::Exclamation);
+    return false;
+}
+
+/// Tests and formats a box that is being left; false when the focus has to stay.
+bool BoxGrid::Leave(int column, int row) const
+{
+    if (!LimitHolds(column, row)) {
+        return false;
+    }
+    TextBox& box = *Box(column, row);
+    const Text text = box.Content();
+    if (const Text formatted = Formatted(text, Column(column).format); formatted != text) {
+        box.SetContent(formatted);
+    }
+    if (column == signs.column && Number(column, row) == 0) {
+        ShowSigns(row, false);
+    }
+    return true;
+}
+
+void BoxGrid::MoveOn(int column, int row) const
+{
+    if (column + 1 < Columns()) {
+        Box(column + 1, row)->SetFocus();
+    } else if (row < rows_) {
+        Box(0, row + 1)->SetFocus();
+    } else if (LastEntered) {
+        LastEntered();
+    }
+}
+
+} // namespace zelvia

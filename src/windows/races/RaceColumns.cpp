@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/races/RaceColumns.h"
+
+#include "core/Conversions.h"
+
+#include <concepts>
+
+namespace zelvia::CalendarGrid
+{
+
+Text RaceText(RaceColumn column, int race)
+{
+    if (column <= RaceColumn::Anno && !(Module1::GiornoGara[race] > 0)) {
+        return {};
+    }
+    const GridColumn& data = kRaceColumns[IndexOf(column)];
+    return CellText(data.cell(race), data.format);
+}
+
+bool RaceDiffers(RaceColumn column, int race, TextView text)
+{
+    const GridColumn& data = kRaceColumns[IndexOf(column)];
+    return std::visit(
+        [&]<typename Value>(const Value* value) {
+            if constexpr (std::same_as<Value, Text>) {
+                return !SameText(*value, text);
+            } else {
+                return CellNumber(text, data.format) != static_cast<double>(value->value());
+            }
+        },
+        data.cell(race));
+}
+
+} // namespace zelvia::CalendarGrid
