@@ -4,6 +4,7 @@
 
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
+#include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
 
 #include <QCloseEvent>
@@ -26,6 +27,13 @@ Form::~Form() = default;
 Control& Form::FocusSink()
 {
     return *sink_;
+}
+
+void Form::LayOnPaper(const QSize& size)
+{
+    setPalette(PagePalette());
+    setAutoFillBackground(true);
+    setFixedSize(size);
 }
 
 void Form::ShowInFront()

@@ -44,6 +44,9 @@ public:
     static Form* Of(QWidget* widget);
 
 protected:
+    /// Gives the window the look of paper, and a size that stays.
+    void LayOnPaper(const QSize& size);
+
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;

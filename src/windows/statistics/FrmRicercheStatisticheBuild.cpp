@@ -91,9 +91,7 @@ frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
     : Form(QStringLiteral("frmRicercheStatistiche")), apriGrafico_(std::move(apriGrafico)), period_(kPeriodColumns)
 {
     setWindowTitle(QStringLiteral("Ricerche Statistiche"));
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(kSize);
+    LayOnPaper(kSize);
     BuildConditions();
     BuildPeriod();
     BuildResult();
@@ -116,11 +114,7 @@ void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
 
 Label* frmRicercheStatistiche::MakeLabel(const char* name, TextView caption, const QRect& place, int pixels)
 {
-    auto* label = new Label(this, QLatin1String(name));
-    label->SetCaption(caption);
-    label->setFont(PageFont("Times New Roman", pixels));
-    label->setGeometry(place);
-    return label;
+    return zelvia::MakeLabel(this, QLatin1String(name), caption, place, PageFont("Times New Roman", pixels));
 }
 
 /// A label on a slip of its own, for what the runner chose or ran.

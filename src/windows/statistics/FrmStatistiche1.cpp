@@ -125,9 +125,7 @@ frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
       apriGrafico_(std::move(apriGrafico))
 {
     setWindowTitle(QStringLiteral("Statistiche"));
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(kSize);
+    LayOnPaper(kSize);
     Build();
     lvListaOrdinata->LostFocus = [this] { lvListaOrdinata_LostFocus(); };
     lvListaOrdinata->KeyPress = [this](int keyAscii) {
