@@ -16,7 +16,7 @@ namespace
 
 bool NoQuotes()
 {
-    const auto quoted = [](const ColonnaGare<Text>& column) {
+    const auto quoted = [](const RaceValues<Text>& column) {
         return std::any_of(column.begin(), column.end(), HasQuote);
     };
     return !quoted(Gara) && !quoted(Localita) && !quoted(Categoria);

@@ -46,49 +46,50 @@ bool Near(double actual, double expected, double margin)
     return std::fabs(actual - expected) <= margin + expected * 1e-6;
 }
 
-void CheckAverage(const GruppiRiga& row, const Numbers& numbers)
+void CheckAverage(const RowGroups& row, const Numbers& numbers)
 {
-    std::optional<MediaRiga> average;
-    const int error = RaisedBy([&] { average = MediaDi(row); });
+    std::optional<RowAverage> average;
+    const int error = RaisedBy([&] { average = AverageFrom(row); });
     RequireError(error, {Errore::Overflow, Errore::DivisionePerZero});
     // The whole minutes are a short.
     const bool tooSlow = numbers.seconds * 1000 / 60 > INT16_MAX * std::max(numbers.metres, 1.0);
-    Require(error == 0 || tooSlow || !numbers.usable || !ChiedeMediaKm(row), "an average that is asked for can be had");
+    Require(error == 0 || tooSlow || !numbers.usable || !AsksForAverage(row),
+            "an average that is asked for can be had");
     if (error != 0 || !average || !numbers.usable) {
         return;
     }
-    Require(average->minuti >= 0 && average->minuti <= 60 && average->secondi >= 0 && average->secondi <= 59,
+    Require(average->minutes >= 0 && average->minutes <= 60 && average->seconds >= 0 && average->seconds <= 59,
             "the range of an average");
     const double shown =
-        average->minuti.value() * 60 + average->secondi.value() + LocaleDouble(average->millesimi) / 1000;
+        average->minutes.value() * 60 + average->seconds.value() + LocaleDouble(average->thousandths) / 1000;
     Require(Near(shown, numbers.seconds * 1000 / numbers.metres, 0.001), "the average of distance and time");
 }
 
-void CheckTime(const GruppiRiga& row, const Numbers& numbers)
+void CheckTime(const RowGroups& row, const Numbers& numbers)
 {
-    TempoRiga time{};
-    const int error = RaisedBy([&] { time = TempoDi(row); });
+    RowTime time{};
+    const int error = RaisedBy([&] { time = TimeFrom(row); });
     RequireError(error, {Errore::Overflow});
     if (error != 0 || !numbers.usable) {
         Require(error == 0 || !numbers.usable, "the time of a row in range");
         return;
     }
-    Require(time.minuti >= 0 && time.minuti <= 59 && time.secondi >= 0 && time.secondi <= 59, "the range of a time");
-    const double shown = (time.ore.value() * 60.0 + time.minuti.value()) * 60.0 + time.secondi.value();
+    Require(time.minutes >= 0 && time.minutes <= 59 && time.seconds >= 0 && time.seconds <= 59, "the range of a time");
+    const double shown = (time.hours.value() * 60.0 + time.minutes.value()) * 60.0 + time.seconds.value();
     Require(Near(shown, numbers.pace * numbers.metres / 1000, 0.6), "the time of distance and average");
 }
 
-void CheckDistance(const GruppiRiga& row, const Numbers& numbers)
+void CheckDistance(const RowGroups& row, const Numbers& numbers)
 {
-    DistanzaRiga distance{};
-    const int error = RaisedBy([&] { distance = DistanzaDi(row); });
+    RowDistance distance{};
+    const int error = RaisedBy([&] { distance = DistanceFrom(row); });
     RequireError(error, {Errore::Overflow, Errore::DivisionePerZero});
-    Require(error == 0 || !numbers.usable || !ChiedeDistanza(row), "a distance that is asked for can be had");
+    Require(error == 0 || !numbers.usable || !AsksForDistance(row), "a distance that is asked for can be had");
     if (error != 0 || !numbers.usable) {
         return;
     }
-    Require(distance.metri >= 0 && distance.metri <= 1000, "the range of the metres");
-    const double shown = distance.km.value() * 1000.0 + distance.metri.value();
+    Require(distance.metres >= 0 && distance.metres <= 1000, "the range of the metres");
+    const double shown = distance.km.value() * 1000.0 + distance.metres.value();
     Require(Near(shown, numbers.seconds * 1000 / numbers.pace, 0.6), "the distance of time and average");
 }
 
@@ -97,11 +98,11 @@ void CheckDistance(const GruppiRiga& row, const Numbers& numbers)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::vector<Text> boxes = InputLines(data, size, 8);
-    const GruppiRiga row{boxes[0], boxes[1], boxes[2], boxes[3], boxes[4], boxes[5], boxes[6], boxes[7]};
+    const RowGroups row{boxes[0], boxes[1], boxes[2], boxes[3], boxes[4], boxes[5], boxes[6], boxes[7]};
     Numbers numbers;
     const int beyond = RaisedBy([&] { numbers = NumbersOf(boxes); });
     RequireError(beyond, {Errore::Overflow});
-    RequireError(RaisedBy([&] { SoloUnGruppo(row); }), {Errore::Overflow});
+    RequireError(RaisedBy([&] { OnlyOneGroup(row); }), {Errore::Overflow});
     if (beyond == 0) {
         CheckAverage(row, numbers);
         CheckTime(row, numbers);

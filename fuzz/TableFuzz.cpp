@@ -17,7 +17,7 @@ constexpr const char* kFile = "Base.tab";
 
 bool NoQuotes()
 {
-    const auto quoted = [](const ColonnaTabella<Text>& column) {
+    const auto quoted = [](const PlanColumn<Text>& column) {
         return std::any_of(column.begin(), column.end(), HasQuote);
     };
     return !quoted(TabAndatura) && !quoted(TabFondo);

@@ -13,85 +13,85 @@ namespace
 constexpr i16 kRaces = 100;
 constexpr int kFirstYear = 2007;
 
-using Campo = CorrezioneData::Campo;
+using Field = DateCorrection::Field;
 
-Text Told(TextView what, i16 numero, TextView detail)
+Text MessageAt(TextView what, i16 row, TextView detail)
 {
-    return Text(what) + PlainText(numero) + " : " + Text(detail);
+    return Text(what) + PlainText(row) + " : " + Text(detail);
 }
 
-void CorrectDay(DataGara& data, i16 numero, std::vector<CorrezioneData>& correzioni)
+void CorrectDay(RaceDate& date, i16 row, std::vector<DateCorrection>& corrections)
 {
     constexpr TextView wrong = " ERRORE AL N° "_t;
     const auto cut = [&](int days) {
         const Text last = PlainText(i16(days));
-        correzioni.push_back({Told(wrong, numero, " MAX " + last + " GIORNI "), Campo::Giorno, last});
-        data.giorno = days;
+        corrections.push_back({MessageAt(wrong, row, " MAX " + last + " GIORNI "), Field::Day, last});
+        date.day = days;
     };
     for (const int shortMonth : {4, 6, 9, 11}) {
-        if (data.mese == shortMonth && data.giorno > 30) {
+        if (date.month == shortMonth && date.day > 30) {
             cut(30);
         }
     }
-    const bool leap = RoundTo<i32>(data.anno).value() % 4 == 0;
-    if (leap && data.mese == 2 && data.giorno > 29) {
+    const bool leap = RoundTo<i32>(date.year).value() % 4 == 0;
+    if (leap && date.month == 2 && date.day > 29) {
         cut(29);
     }
-    if (!leap && data.mese == 2 && data.giorno > 28) {
+    if (!leap && date.month == 2 && date.day > 28) {
         cut(28);
     }
 }
 
 } // namespace
 
-std::vector<CorrezioneData> CorreggiData(const DataGara& data, i16 numero, i16 annoCorrente)
+std::vector<DateCorrection> CorrectDate(const RaceDate& date, i16 row, i16 currentYear)
 {
-    std::vector<CorrezioneData> correzioni;
-    DataGara corretta = data;
-    CorrectDay(corretta, numero, correzioni);
-    if (corretta.giorno < 1 && corretta.mese < 1 && corretta.anno < 1) {
-        return correzioni;
+    std::vector<DateCorrection> corrections;
+    RaceDate corrected = date;
+    CorrectDay(corrected, row, corrections);
+    if (corrected.day < 1 && corrected.month < 1 && corrected.year < 1) {
+        return corrections;
     }
     constexpr TextView missing = " MANCA AL N° "_t;
-    if (corretta.giorno < 1) {
-        correzioni.push_back({Told(missing, numero, "  GIORNO   ")});
+    if (corrected.day < 1) {
+        corrections.push_back({MessageAt(missing, row, "  GIORNO   ")});
     }
-    if (corretta.mese < 1) {
-        correzioni.push_back({Told(missing, numero, "  MESE   ")});
+    if (corrected.month < 1) {
+        corrections.push_back({MessageAt(missing, row, "  MESE   ")});
     }
-    if (corretta.anno < kFirstYear) {
-        const Text anno = PlainText(annoCorrente);
-        correzioni.push_back({Told(" MODIFICA AL N° "_t, numero, "  ANNO " + anno + "  "), Campo::Anno, anno});
+    if (corrected.year < kFirstYear) {
+        const Text year = PlainText(currentYear);
+        corrections.push_back({MessageAt(" MODIFICA AL N° "_t, row, "  ANNO " + year + "  "), Field::Year, year});
     }
-    return correzioni;
+    return corrections;
 }
 
-std::vector<std::pair<i16, i16>> DateDoppie()
+std::vector<std::pair<i16, i16>> SameDates()
 {
-    std::vector<std::pair<i16, i16>> coppie;
+    std::vector<std::pair<i16, i16>> pairs;
     for (i16 i = 1; i <= kRaces; i += 1) {
         if (GiornoGara[i] == 0) {
             continue;
         }
         for (i16 j = i + 1; j <= kRaces; j += 1) {
             if (GiornoGara[i] == GiornoGara[j] && MeseGara[i] == MeseGara[j] && AnnoGara[i] == AnnoGara[j]) {
-                coppie.emplace_back(i, j);
+                pairs.emplace_back(i, j);
             }
         }
     }
-    return coppie;
+    return pairs;
 }
 
-Text MessaggioDateDoppie(i16 prima, i16 seconda)
+Text SameDatesMessage(i16 first, i16 second)
 {
-    return PlainText(GiornoGara[prima]) + "-" + PlainText(MeseGara[prima]) + "-" + PlainText(AnnoGara[prima]) +
-           Text("   DATA PRESENTE AL  N° "_t) + PlainText(prima) + Text("  E AL N° "_t) + PlainText(seconda) + "  ";
+    return PlainText(GiornoGara[first]) + "-" + PlainText(MeseGara[first]) + "-" + PlainText(AnnoGara[first]) +
+           Text("   DATA PRESENTE AL  N° "_t) + PlainText(first) + Text("  E AL N° "_t) + PlainText(second) + "  ";
 }
 
-i16 GaraDelGiorno(i16 giorno, i16 mese, i16 anno)
+i16 RaceOnDate(i16 day, i16 month, i16 year)
 {
     for (i16 i = 1; i <= kRaces; i += 1) {
-        if (GiornoGara[i] == giorno && MeseGara[i] == mese && AnnoGara[i] == anno) {
+        if (GiornoGara[i] == day && MeseGara[i] == month && AnnoGara[i] == year) {
             return i;
         }
     }

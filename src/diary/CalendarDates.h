@@ -13,35 +13,35 @@ namespace zelvia::Module1
 {
 
 /// The date of a row as its boxes give it, 0 for an empty box.
-struct DataGara {
-    double giorno = 0;
-    double mese = 0;
-    double anno = 0;
+struct RaceDate {
+    double day = 0;
+    double month = 0;
+    double year = 0;
 };
 
-/// What a date gives cause to say, and what then becomes of a box of it.
-struct CorrezioneData {
-    enum class Campo { Nessuno, Giorno, Anno };
+/// What is wrong with a date, and what a box of it is to hold instead.
+struct DateCorrection {
+    enum class Field { None, Day, Year };
 
-    Text messaggio;
-    Campo campo = Campo::Nessuno;
-    Text valore = {};
+    Text message;
+    Field field = Field::None;
+    Text value = {};
 
-    friend bool operator==(const CorrezioneData&, const CorrezioneData&) = default;
+    friend bool operator==(const DateCorrection&, const DateCorrection&) = default;
 };
 
-/// The corrections of the date at row `numero`, in the order in which they are told. A year below 2007 gives way to
-/// `annoCorrente`. A year that 4 divides has a 29 February, no other rule of leap years applies; an empty one counts
+/// The corrections of the date in a row, in the order in which they are reported. A year below 2007 gives way to
+/// `currentYear`. A year that 4 divides has a 29 February, no other rule of leap years applies; an empty one counts
 /// among them.
-std::vector<CorrezioneData> CorreggiData(const DataGara& data, i16 numero, i16 annoCorrente);
+std::vector<DateCorrection> CorrectDate(const RaceDate& date, i16 row, i16 currentYear);
 
 /// The pairs of rows of the calendar that carry the same date, the earlier row of each first.
-std::vector<std::pair<i16, i16>> DateDoppie();
+std::vector<std::pair<i16, i16>> SameDates();
 
 /// What is said of such a pair.
-Text MessaggioDateDoppie(i16 prima, i16 seconda);
+Text SameDatesMessage(i16 first, i16 second);
 
 /// The first row of the calendar with a race on a date, 0 for none.
-i16 GaraDelGiorno(i16 giorno, i16 mese, i16 anno);
+i16 RaceOnDate(i16 day, i16 month, i16 year);
 
 } // namespace zelvia::Module1

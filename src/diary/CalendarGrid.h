@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-/// The grid of the race calendar's window: what stands in its columns, in the order of Enter.
+/// The grid of the race calendar's window: its columns in the order of Enter.
 namespace zelvia::CalendarGrid
 {
 

@@ -9,21 +9,21 @@
 namespace zelvia::Module1
 {
 
-ColonnaGare<i16> NumeroGara;
-ColonnaGare<i16> GiornoGara;
-ColonnaGare<i16> MeseGara;
-ColonnaGare<i16> AnnoGara;
-ColonnaGare<Text> Gara;
-ColonnaGare<Text> Localita;
-ColonnaGare<i16> KmGara;
-ColonnaGare<i16> MetriGara;
-ColonnaGare<i32> Partecipanti;
-ColonnaGare<i32> Risultato;
-ColonnaGare<i16> OreGara;
-ColonnaGare<i16> MinutiGara;
-ColonnaGare<i16> SecondiGara;
-ColonnaGare<Text> Categoria;
-ColonnaGare<i32> RisultatoCat;
+RaceValues<i16> NumeroGara;
+RaceValues<i16> GiornoGara;
+RaceValues<i16> MeseGara;
+RaceValues<i16> AnnoGara;
+RaceValues<Text> Gara;
+RaceValues<Text> Localita;
+RaceValues<i16> KmGara;
+RaceValues<i16> MetriGara;
+RaceValues<i32> Partecipanti;
+RaceValues<i32> Risultato;
+RaceValues<i16> OreGara;
+RaceValues<i16> MinutiGara;
+RaceValues<i16> SecondiGara;
+RaceValues<Text> Categoria;
+RaceValues<i32> RisultatoCat;
 
 namespace
 {

@@ -10,25 +10,25 @@ namespace zelvia::Module1
 {
 
 template <typename T>
-using ColonnaGare = BoundedArray<T, 0, 100>;
+using RaceValues = BoundedArray<T, 0, 100>;
 
 // The race calendar: fifteen columns of rows 1..100; row 0 is never used. A row holds a race when GiornoGara is above
 // 0.
-extern ColonnaGare<i16> NumeroGara;   ///< Row number.
-extern ColonnaGare<i16> GiornoGara;   ///< Day of the month, 0 when the row is free.
-extern ColonnaGare<i16> MeseGara;     ///< Month 1..12.
-extern ColonnaGare<i16> AnnoGara;     ///< Year, four digits.
-extern ColonnaGare<Text> Gara;        ///< Name.
-extern ColonnaGare<Text> Localita;    ///< Place.
-extern ColonnaGare<i16> KmGara;       ///< Distance, kilometres.
-extern ColonnaGare<i16> MetriGara;    ///< Metres beyond them.
-extern ColonnaGare<i32> Partecipanti; ///< Number of runners.
-extern ColonnaGare<i32> Risultato;    ///< Placing overall.
-extern ColonnaGare<i16> OreGara;      ///< Finishing time, hours.
-extern ColonnaGare<i16> MinutiGara;   ///< Minutes.
-extern ColonnaGare<i16> SecondiGara;  ///< Seconds.
-extern ColonnaGare<Text> Categoria;   ///< Age or class category, such as S50.
-extern ColonnaGare<i32> RisultatoCat; ///< Placing in the category.
+extern RaceValues<i16> NumeroGara;   ///< Row number.
+extern RaceValues<i16> GiornoGara;   ///< Day of the month, 0 when the row is free.
+extern RaceValues<i16> MeseGara;     ///< Month 1..12.
+extern RaceValues<i16> AnnoGara;     ///< Year, four digits.
+extern RaceValues<Text> Gara;        ///< Name.
+extern RaceValues<Text> Localita;    ///< Place.
+extern RaceValues<i16> KmGara;       ///< Distance, kilometres.
+extern RaceValues<i16> MetriGara;    ///< Metres beyond them.
+extern RaceValues<i32> Partecipanti; ///< Number of runners.
+extern RaceValues<i32> Risultato;    ///< Placing overall.
+extern RaceValues<i16> OreGara;      ///< Finishing time, hours.
+extern RaceValues<i16> MinutiGara;   ///< Minutes.
+extern RaceValues<i16> SecondiGara;  ///< Seconds.
+extern RaceValues<Text> Categoria;   ///< Age or class category, such as S50.
+extern RaceValues<i32> RisultatoCat; ///< Placing in the category.
 
 /// Blanks all rows, each keeping its number.
 void AzzeraCalendario();

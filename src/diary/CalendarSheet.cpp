@@ -31,9 +31,9 @@ void PrintHeads(Sheet& sheet)
     }
 }
 
-void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& riga)
+void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& row)
 {
-    const auto box = [&](RaceColumn column) -> const Text& { return riga[CalendarGrid::IndexOf(column)]; };
+    const auto box = [&](RaceColumn column) -> const Text& { return row[CalendarGrid::IndexOf(column)]; };
     sheet.Print(DigitColumn(box(RaceColumn::Giorno), 2), y, box(RaceColumn::Giorno));
     sheet.Print(DigitColumn(box(RaceColumn::Mese), 5), y, box(RaceColumn::Mese));
     sheet.Print(8, y, box(RaceColumn::Anno));
@@ -64,23 +64,23 @@ void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& riga)
 
 } // namespace
 
-Sheet CalendarSheet(const CalendarSheetTexts& pagina)
+Sheet CalendarSheet(const CalendarSheetTexts& page)
 {
     constexpr int dateSize = 8;
     constexpr int titleSize = 12;
     constexpr int textSize = 10;
     constexpr int firstLine = 7;
     Sheet sheet(Orientation::Landscape, {.name = "Times New Roman", .size = dateSize},
-                JobName("calendario", pagina.data));
-    sheet.Print(124, 0, pagina.data);
+                JobName("calendario", page.date));
+    sheet.Print(124, 0, page.date);
     sheet.SetFontSize(titleSize);
     PrintFrame(sheet);
-    sheet.Print(60, 1, pagina.titolo);
+    sheet.Print(60, 1, page.title);
     sheet.SetFontSize(textSize);
     PrintHeads(sheet);
     int y = firstLine;
-    for (const CalendarSheetRow& riga : pagina.righe) {
-        PrintRow(sheet, y++, riga);
+    for (const CalendarSheetRow& row : page.rows) {
+        PrintRow(sheet, y++, row);
     }
     return sheet;
 }

@@ -13,14 +13,14 @@ namespace zelvia
 /// The boxes of a row of the calendar, in the order of the grid.
 using CalendarSheetRow = std::array<Text, CalendarGrid::kColumns>;
 
-/// What stands on a page of the calendar window.
+/// The texts on a page of the calendar window.
 struct CalendarSheetTexts {
-    CalendarDate data;
-    Text titolo;
-    std::array<CalendarSheetRow, CalendarGrid::kRows> righe;
+    CalendarDate date;
+    Text title;
+    std::array<CalendarSheetRow, CalendarGrid::kRows> rows;
 };
 
 /// The sheet of a page of the race calendar.
-Sheet CalendarSheet(const CalendarSheetTexts& pagina);
+Sheet CalendarSheet(const CalendarSheetTexts& page);
 
 } // namespace zelvia

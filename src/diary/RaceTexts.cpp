@@ -8,20 +8,20 @@
 namespace zelvia::Module1
 {
 
-TestiGara TestiDellaGara(i16 riga)
+RaceTexts RaceTextsOf(i16 row)
 {
     constexpr TextView thousands = "###,###";
-    TestiGara testi;
-    testi.gara = Gara[riga];
-    testi.localita = Localita[riga];
-    testi.partecipanti = Format(Partecipanti[riga], thousands);
-    testi.tempo =
-        PlainText(OreGara[riga]) + ":" + Format(MinutiGara[riga], "00") + ":" + Format(SecondiGara[riga], "00");
-    testi.risultato = Format(Risultato[riga], thousands);
-    testi.categoria = Categoria[riga];
-    testi.risultatoCat = Format(RisultatoCat[riga], thousands);
-    testi.lunghezza = Format(KmGara[riga], KmGara[riga] > 0 ? "##" : "0") + "," + Format(MetriGara[riga], "##0");
-    return testi;
+    RaceTexts texts;
+    texts.gara = Gara[row];
+    texts.localita = Localita[row];
+    texts.partecipanti = Format(Partecipanti[row], thousands);
+    texts.tempo =
+        PlainText(OreGara[row]) + ":" + Format(MinutiGara[row], "00") + ":" + Format(SecondiGara[row], "00");
+    texts.risultato = Format(Risultato[row], thousands);
+    texts.categoria = Categoria[row];
+    texts.risultatoCat = Format(RisultatoCat[row], thousands);
+    texts.lunghezza = Format(KmGara[row], KmGara[row] > 0 ? "##" : "0") + "," + Format(MetriGara[row], "##0");
+    return texts;
 }
 
 } // namespace zelvia::Module1

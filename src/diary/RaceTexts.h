@@ -9,7 +9,7 @@ namespace zelvia::Module1
 {
 
 /// What the day page shows of a race.
-struct TestiGara {
+struct RaceTexts {
     Text gara;
     Text localita;
     Text partecipanti;
@@ -21,6 +21,6 @@ struct TestiGara {
 };
 
 /// The texts of a row of the calendar, 1..100; any other raises error 9.
-TestiGara TestiDellaGara(i16 riga);
+RaceTexts RaceTextsOf(i16 row);
 
 } // namespace zelvia::Module1

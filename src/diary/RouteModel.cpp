@@ -9,11 +9,11 @@
 namespace zelvia::Module1
 {
 
-PerPercorso<Text> NomiPercorso;
-PerPercorso<i32> DistanzePercorso;
-PerTratto<Text> TrattoDescrizione;
-PerTratto<i32> TrattoKm;
-PerTratto<i32> TrattoMetri;
+PerRoute<Text> NomiPercorso;
+PerRoute<i32> DistanzePercorso;
+PerStretch<Text> TrattoDescrizione;
+PerStretch<i32> TrattoKm;
+PerStretch<i32> TrattoMetri;
 
 namespace
 {

@@ -10,16 +10,16 @@ namespace zelvia::Module1
 {
 
 template <typename T>
-using PerPercorso = BoundedArray<T, 0, 200>;
+using PerRoute = BoundedArray<T, 0, 200>;
 template <typename T>
-using PerTratto = PerPercorso<BoundedArray<T, 0, 20>>;
+using PerStretch = PerRoute<BoundedArray<T, 0, 20>>;
 
 // The descriptions of routes 1..200, each of stretches 1..20. Place 0 is not in the file: it takes what has no place.
-extern PerPercorso<Text> NomiPercorso;    ///< Name; empty means the place is free.
-extern PerPercorso<i32> DistanzePercorso; ///< Length of the whole route, metres.
-extern PerTratto<Text> TrattoDescrizione; ///< Text of a stretch.
-extern PerTratto<i32> TrattoKm;           ///< Its kilometres.
-extern PerTratto<i32> TrattoMetri;        ///< Its metres beyond them.
+extern PerRoute<Text> NomiPercorso;        ///< Name; empty means the place is free.
+extern PerRoute<i32> DistanzePercorso;     ///< Length of the whole route, metres.
+extern PerStretch<Text> TrattoDescrizione; ///< Text of a stretch.
+extern PerStretch<i32> TrattoKm;           ///< Its kilometres.
+extern PerStretch<i32> TrattoMetri;        ///< Its metres beyond them.
 
 /// Blanks all routes 1..200.
 void AzzeraPercorsi();

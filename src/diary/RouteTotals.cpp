@@ -12,26 +12,26 @@ namespace zelvia
 
 using namespace Module1;
 
-i32 SommaTratti(std::span<const i32> tratti)
+i32 SumOfStretches(std::span<const i32> stretches)
 {
-    return std::accumulate(tratti.begin(), tratti.end(), i32(0));
+    return std::accumulate(stretches.begin(), stretches.end(), i32(0));
 }
 
-LunghezzaPercorso Lunghezza(i32 km, i32 metri)
+RouteLength LengthOf(i32 km, i32 metres)
 {
     constexpr int metresPerKm = 1000;
-    if (metri < metresPerKm) {
-        return {km, metri};
+    if (metres < metresPerKm) {
+        return {km, metres};
     }
-    const i32 interi = metri.value() / metresPerKm;
-    return {km + interi, metri - interi * metresPerKm};
+    const i32 whole = metres.value() / metresPerKm;
+    return {km + whole, metres - whole * metresPerKm};
 }
 
-std::optional<i16> PostoPercorso(TextView nome)
+std::optional<i16> RoutePlace(TextView name)
 {
     bool free = false;
-    for (i16 i = 1; i <= PerPercorso<Text>::kLast; i += 1) {
-        if (SameText(NomiPercorso[i], nome)) {
+    for (i16 i = 1; i <= PerRoute<Text>::kLast; i += 1) {
+        if (SameText(NomiPercorso[i], name)) {
             return i;
         }
         free = free || NomiPercorso[i].empty();
@@ -39,9 +39,9 @@ std::optional<i16> PostoPercorso(TextView nome)
     return free ? std::optional<i16>(0) : std::nullopt;
 }
 
-i16 PrimoPostoLibero()
+i16 LowestFreePlace()
 {
-    for (i16 i = 1; i <= PerPercorso<Text>::kLast; i += 1) {
+    for (i16 i = 1; i <= PerRoute<Text>::kLast; i += 1) {
         if (NomiPercorso[i].empty()) {
             return i;
         }

@@ -29,105 +29,105 @@ bool IsZero(const Text& box)
     return Val(box) == 0;
 }
 
-bool HasDistance(const GruppiRiga& riga)
+bool HasDistance(const RowGroups& row)
 {
-    return AtLeastOne(riga.km) || AtLeastOne(riga.metri);
+    return AtLeastOne(row.km) || AtLeastOne(row.metres);
 }
 
-bool HasTime(const GruppiRiga& riga)
+bool HasTime(const RowGroups& row)
 {
-    return AtLeastOne(riga.ore) || AtLeastOne(riga.minuti) || AtLeastOne(riga.secondi);
+    return AtLeastOne(row.hours) || AtLeastOne(row.minutes) || AtLeastOne(row.seconds);
 }
 
-bool HasAverage(const GruppiRiga& riga)
+bool HasAverage(const RowGroups& row)
 {
-    return AtLeastOne(riga.mediaMinuti) || AtLeastOne(riga.mediaSecondi);
+    return AtLeastOne(row.averageMinutes) || AtLeastOne(row.averageSeconds);
 }
 
-i32 SecondsOf(const GruppiRiga& riga)
+i32 SecondsOf(const RowGroups& row)
 {
-    const i32 ore = LongOf(riga.ore);
-    const i32 minuti = LongOf(riga.minuti);
-    const i32 secondi = LongOf(riga.secondi);
-    if (ore >= 1) {
-        return (ore * 60 + minuti) * 60 + secondi;
+    const i32 hours = LongOf(row.hours);
+    const i32 minutes = LongOf(row.minutes);
+    const i32 seconds = LongOf(row.seconds);
+    if (hours >= 1) {
+        return (hours * 60 + minutes) * 60 + seconds;
     }
-    if (minuti > 0) {
-        return minuti * 60 + secondi;
+    if (minutes > 0) {
+        return minutes * 60 + seconds;
     }
-    return secondi >= 1 ? secondi : i32(0);
+    return seconds >= 1 ? seconds : i32(0);
 }
 
 /// Seconds per kilometre: the whole seconds are short arithmetic.
-f32 SecondsPerKm(const GruppiRiga& riga)
+f32 SecondsPerKm(const RowGroups& row)
 {
-    const i16 interi = ShortOf(riga.mediaMinuti) * 60 + ShortOf(riga.mediaSecondi);
-    const auto millesimi = static_cast<f32>(Val(riga.mediaMillesimi));
-    return millesimi / 1000.0F + static_cast<f32>(interi.value());
+    const i16 whole = ShortOf(row.averageMinutes) * 60 + ShortOf(row.averageSeconds);
+    const auto thousandths = static_cast<f32>(Val(row.averageThousandths));
+    return thousandths / 1000.0F + static_cast<f32>(whole.value());
 }
 
-i32 MetresOf(const GruppiRiga& riga)
+i32 MetresOf(const RowGroups& row)
 {
-    return LongOf(riga.km) * 1000 + LongOf(riga.metri);
+    return LongOf(row.km) * 1000 + LongOf(row.metres);
 }
 
 } // namespace
 
-bool ChiedeMediaKm(const GruppiRiga& riga)
+bool AsksForAverage(const RowGroups& row)
 {
-    return HasDistance(riga) && HasTime(riga) && IsZero(riga.mediaMinuti) && IsZero(riga.mediaSecondi);
+    return HasDistance(row) && HasTime(row) && IsZero(row.averageMinutes) && IsZero(row.averageSeconds);
 }
 
-bool ChiedeTempo(const GruppiRiga& riga)
+bool AsksForTime(const RowGroups& row)
 {
-    return HasDistance(riga) && IsZero(riga.ore) && IsZero(riga.minuti) && IsZero(riga.secondi) && HasAverage(riga);
+    return HasDistance(row) && IsZero(row.hours) && IsZero(row.minutes) && IsZero(row.seconds) && HasAverage(row);
 }
 
-bool ChiedeDistanza(const GruppiRiga& riga)
+bool AsksForDistance(const RowGroups& row)
 {
-    return IsZero(riga.km) && IsZero(riga.metri) && HasTime(riga) && HasAverage(riga);
+    return IsZero(row.km) && IsZero(row.metres) && HasTime(row) && HasAverage(row);
 }
 
-bool SoloUnGruppo(const GruppiRiga& riga)
+bool OnlyOneGroup(const RowGroups& row)
 {
-    const bool average = AtLeastOne(riga.mediaMinuti) && AtLeastOne(riga.mediaSecondi);
-    return (HasDistance(riga) ? 1 : 0) + (HasTime(riga) ? 1 : 0) + (average ? 1 : 0) == 1;
+    const bool average = AtLeastOne(row.averageMinutes) && AtLeastOne(row.averageSeconds);
+    return (HasDistance(row) ? 1 : 0) + (HasTime(row) ? 1 : 0) + (average ? 1 : 0) == 1;
 }
 
-std::optional<MediaRiga> MediaDi(const GruppiRiga& riga)
+std::optional<RowAverage> AverageFrom(const RowGroups& row)
 {
-    const double metriAlSecondo = Quotient<double>(MetresOf(riga).value(), SecondsOf(riga).value());
-    const auto velocita = static_cast<f32>(metriAlSecondo * 3.6);
-    const f32 passo = Quotient<f32>(60.0F, velocita);
-    const i16 minuti = RoundTo<i16>(Fix(static_cast<double>(passo)));
+    const double metresPerSecond = Quotient<double>(MetresOf(row).value(), SecondsOf(row).value());
+    const auto speed = static_cast<f32>(metresPerSecond * 3.6);
+    const f32 pace = Quotient<f32>(60.0F, speed);
+    const i16 minutes = RoundTo<i16>(Fix(static_cast<double>(pace)));
     constexpr int tooSlow = 61;
-    if (minuti >= tooSlow) {
+    if (minutes >= tooSlow) {
         return std::nullopt;
     }
-    const f32 resto = (passo - static_cast<f32>(minuti.value())) * 60.0F;
-    const i16 secondi = RoundTo<i16>(Fix(static_cast<double>(resto)));
-    const f32 millesimi = (resto - static_cast<f32>(secondi.value())) * 1000.0F;
-    return MediaRiga{minuti, secondi, Format(static_cast<double>(millesimi), "000.00")};
+    const f32 rest = (pace - static_cast<f32>(minutes.value())) * 60.0F;
+    const i16 seconds = RoundTo<i16>(Fix(static_cast<double>(rest)));
+    const f32 thousandths = (rest - static_cast<f32>(seconds.value())) * 1000.0F;
+    return RowAverage{minutes, seconds, Format(static_cast<double>(thousandths), "000.00")};
 }
 
-DistanzaRiga DistanzaDi(const GruppiRiga& riga)
+RowDistance DistanceFrom(const RowGroups& row)
 {
-    const double durata = SecondsOf(riga).value();
-    const auto chilometri = static_cast<f32>(Quotient<double>(durata, static_cast<double>(SecondsPerKm(riga))));
-    const i32 km = RoundTo<i32>(Fix(static_cast<double>(chilometri)));
-    const double resto = (static_cast<double>(chilometri) - km.value()) * 1000.0;
-    return {km, RoundTo<i32>(resto)};
+    const double duration = SecondsOf(row).value();
+    const auto kilometres = static_cast<f32>(Quotient<double>(duration, static_cast<double>(SecondsPerKm(row))));
+    const i32 km = RoundTo<i32>(Fix(static_cast<double>(kilometres)));
+    const double rest = (static_cast<double>(kilometres) - km.value()) * 1000.0;
+    return {km, RoundTo<i32>(rest)};
 }
 
-TempoRiga TempoDi(const GruppiRiga& riga)
+RowTime TimeFrom(const RowGroups& row)
 {
-    const auto metri = static_cast<f32>(MetresOf(riga).value());
-    const f32 durata = SecondsPerKm(riga) / 1000.0F * metri;
-    const i32 totale = RoundTo<i32>(static_cast<double>(durata));
-    const i32 ore = totale.value() / 3600;
-    const i32 resto = totale - ore * 3600;
-    const i32 minuti = resto.value() / 60;
-    return {ore, minuti, resto - minuti * 60};
+    const auto metres = static_cast<f32>(MetresOf(row).value());
+    const f32 duration = SecondsPerKm(row) / 1000.0F * metres;
+    const i32 total = RoundTo<i32>(static_cast<double>(duration));
+    const i32 hours = total.value() / 3600;
+    const i32 rest = total - hours * 3600;
+    const i32 minutes = rest.value() / 60;
+    return {hours, minutes, rest - minutes * 60};
 }
 
 } // namespace zelvia

@@ -11,54 +11,51 @@ namespace zelvia
 {
 
 /// A row's distance, time and average per kilometre as its boxes hold them; an empty box counts as 0.
-struct GruppiRiga {
+struct RowGroups {
     Text km;
-    Text metri;
-    Text ore;
-    Text minuti;
-    Text secondi;
-    Text mediaMinuti;
-    Text mediaSecondi;
-    Text mediaMillesimi;
+    Text metres;
+    Text hours;
+    Text minutes;
+    Text seconds;
+    Text averageMinutes;
+    Text averageSeconds;
+    Text averageThousandths;
 };
-
-/// What a row of the plan asks of the calculation.
-enum class CalcoloRiga { Niente, MediaKm, Tempo, Distanza };
 
 /// Average minutes, seconds and thousandths, the last as text with two decimals.
-struct MediaRiga {
-    i16 minuti;
-    i16 secondi;
-    Text millesimi;
+struct RowAverage {
+    i16 minutes;
+    i16 seconds;
+    Text thousandths;
 };
 
-struct DistanzaRiga {
+struct RowDistance {
     i32 km;
-    i32 metri;
+    i32 metres;
 };
 
-struct TempoRiga {
-    i32 ore;
-    i32 minuti;
-    i32 secondi;
+struct RowTime {
+    i32 hours;
+    i32 minutes;
+    i32 seconds;
 };
 
 // When each of the three is to be computed; the tests follow one another, each seeing what the one before wrote.
-bool ChiedeMediaKm(const GruppiRiga& riga);
-bool ChiedeTempo(const GruppiRiga& riga);
-bool ChiedeDistanza(const GruppiRiga& riga);
+bool AsksForAverage(const RowGroups& row);
+bool AsksForTime(const RowGroups& row);
+bool AsksForDistance(const RowGroups& row);
 
 /// True when exactly one of the three groups is given; the average counts only with both minutes and seconds.
-bool SoloUnGruppo(const GruppiRiga& riga);
+bool OnlyOneGroup(const RowGroups& row);
 
 /// The average from distance and time; nothing when it is 61 minutes or more. Raises error 6 or 11 when one of them is
 /// 0, 6 when a number is out of range.
-std::optional<MediaRiga> MediaDi(const GruppiRiga& riga);
+std::optional<RowAverage> AverageFrom(const RowGroups& row);
 
-/// The distance from time and average. Raises as MediaDi.
-DistanzaRiga DistanzaDi(const GruppiRiga& riga);
+/// The distance from time and average. Raises as AverageFrom.
+RowDistance DistanceFrom(const RowGroups& row);
 
 /// The time from distance and average; hours can be above 24. Raises error 6 when a number is out of range.
-TempoRiga TempoDi(const GruppiRiga& riga);
+RowTime TimeFrom(const RowGroups& row);
 
 } // namespace zelvia

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/// The grid of the table editor: what stands in its columns, in the order of Enter.
+/// The grid of the table editor: its columns in the order of Enter.
 namespace zelvia::TableGrid
 {
 

@@ -9,21 +9,21 @@
 namespace zelvia::Module1
 {
 
-ColonnaTabella<i16> TabGiorno;
-ColonnaTabella<i16> TabKm;
-ColonnaTabella<i16> TabMetri;
-ColonnaTabella<i16> TabOre;
-ColonnaTabella<i16> TabMinuti;
-ColonnaTabella<i16> TabSecondi;
-ColonnaTabella<i16> TabMediaMinuti;
-ColonnaTabella<i16> TabMediaSecondi;
-ColonnaTabella<i16> TabMediaMillesimi;
-ColonnaTabella<Text> TabAndatura;
-ColonnaTabella<Text> TabFondo;
-ColonnaTabella<i16> TabRipetVolte;
-ColonnaTabella<i16> TabRipetDistanza;
-ColonnaTabella<i16> TabRipetQuante;
-ColonnaTabella<i16> TabRipetTempi;
+PlanColumn<i16> TabGiorno;
+PlanColumn<i16> TabKm;
+PlanColumn<i16> TabMetri;
+PlanColumn<i16> TabOre;
+PlanColumn<i16> TabMinuti;
+PlanColumn<i16> TabSecondi;
+PlanColumn<i16> TabMediaMinuti;
+PlanColumn<i16> TabMediaSecondi;
+PlanColumn<i16> TabMediaMillesimi;
+PlanColumn<Text> TabAndatura;
+PlanColumn<Text> TabFondo;
+PlanColumn<i16> TabRipetVolte;
+PlanColumn<i16> TabRipetDistanza;
+PlanColumn<i16> TabRipetQuante;
+PlanColumn<i16> TabRipetTempi;
 CalendarDate TabDataInizio;
 
 namespace

@@ -14,7 +14,7 @@ using namespace TableGrid;
 namespace
 {
 
-using Riga = std::array<Text, kColumns>;
+using Row = std::array<Text, kColumns>;
 
 bool Filled(const Text& text)
 {
@@ -42,73 +42,73 @@ void PrintHeads(Sheet& sheet)
     }
 }
 
-void PrintRun(Sheet& sheet, int y, const Riga& riga)
+void PrintRun(Sheet& sheet, int y, const Row& row)
 {
-    sheet.Print(DigitColumn(riga[Km], 6), y, riga[Km]);
-    if (Filled(riga[Km])) {
+    sheet.Print(DigitColumn(row[Km], 6), y, row[Km]);
+    if (Filled(row[Km])) {
         sheet.Print(8, y, ",");
-        if (!Filled(riga[Metri])) {
+        if (!Filled(row[Metri])) {
             sheet.Print(10, y, "0");
         }
     }
-    sheet.Print(9, y, riga[Metri]);
+    sheet.Print(9, y, row[Metri]);
 
     const auto separator = [&](int x, const Text& before) {
         if (Filled(before)) {
             sheet.Print(x, y, ":");
         }
     };
-    sheet.Print(DigitColumn(riga[Ore], 14), y, riga[Ore]);
-    separator(16, riga[Ore]);
-    sheet.Print(17, y, riga[Minuti]);
-    separator(19, riga[Minuti]);
-    sheet.Print(20, y, riga[Secondi]);
+    sheet.Print(DigitColumn(row[Ore], 14), y, row[Ore]);
+    separator(16, row[Ore]);
+    sheet.Print(17, y, row[Minuti]);
+    separator(19, row[Minuti]);
+    sheet.Print(20, y, row[Secondi]);
 
-    sheet.Print(DigitColumn(riga[MediaMinuti], 23), y, riga[MediaMinuti]);
-    separator(25, riga[MediaMinuti]);
-    sheet.Print(26, y, riga[MediaSecondi]);
-    separator(28, riga[MediaSecondi]);
-    sheet.Print(29, y, riga[MediaMillesimi]);
+    sheet.Print(DigitColumn(row[MediaMinuti], 23), y, row[MediaMinuti]);
+    separator(25, row[MediaMinuti]);
+    sheet.Print(26, y, row[MediaSecondi]);
+    separator(28, row[MediaSecondi]);
+    sheet.Print(29, y, row[MediaMillesimi]);
 
-    sheet.Print(33, y, riga[Andatura]);
-    sheet.Print(57, y, riga[Fondo]);
+    sheet.Print(33, y, row[Andatura]);
+    sheet.Print(57, y, row[Fondo]);
 }
 
-void PrintRepetitions(Sheet& sheet, int y, const Riga& riga)
+void PrintRepetitions(Sheet& sheet, int y, const Row& row)
 {
-    const bool planned = Val(riga[RipetVolte]) >= 1;
+    const bool planned = Val(row[RipetVolte]) >= 1;
     const auto sign = [&](int x, TextView text) {
         if (planned) {
             sheet.Print(x, y, text);
         }
     };
-    sheet.Print(DigitColumn(riga[RipetVolte], 78), y, riga[RipetVolte]);
+    sheet.Print(DigitColumn(row[RipetVolte], 78), y, row[RipetVolte]);
     sign(80, "x");
-    sheet.Print(81, y, riga[RipetDistanza]);
+    sheet.Print(81, y, row[RipetDistanza]);
     sign(86, "@");
-    sheet.Print(DigitColumn(riga[RipetQuante], 88), y, riga[RipetQuante]);
+    sheet.Print(DigitColumn(row[RipetQuante], 88), y, row[RipetQuante]);
     sign(90, ":");
-    sheet.Print(91, y, riga[RipetTempi]);
+    sheet.Print(91, y, row[RipetTempi]);
 }
 
 } // namespace
 
-Sheet TableSheet(const TableSheetTexts& tabella)
+Sheet TableSheet(const TableSheetTexts& table)
 {
     constexpr int dateSize = 8;
     constexpr int titleSize = 12;
     constexpr int textSize = 10;
-    Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = dateSize}, JobName("tabella", tabella.data));
-    sheet.Print(80, 0, tabella.data);
+    Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = dateSize}, JobName("tabella", table.date));
+    sheet.Print(80, 0, table.date);
     PrintFrame(sheet);
     sheet.SetFontSize(titleSize);
-    sheet.Print(26, 1, tabella.titolo);
+    sheet.Print(26, 1, table.title);
     sheet.SetFontSize(textSize);
     PrintHeads(sheet);
-    for (int riga = 1; riga <= kRows; ++riga) {
-        const int y = 6 + riga;
-        const Riga& boxes = tabella.righe[static_cast<std::size_t>(riga - 1)];
-        sheet.PrintNumber(riga < 10 ? 3 : 2, y, riga);
+    for (int row = 1; row <= kRows; ++row) {
+        const int y = 6 + row;
+        const Row& boxes = table.rows[static_cast<std::size_t>(row - 1)];
+        sheet.PrintNumber(row < 10 ? 3 : 2, y, row);
         PrintRun(sheet, y, boxes);
         PrintRepetitions(sheet, y, boxes);
     }
@@ -116,7 +116,7 @@ Sheet TableSheet(const TableSheetTexts& tabella)
     sheet.Print(2, startLine, " Data Inizio");
     constexpr std::array<int, 3> columns = {14, 17, 20};
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        sheet.Print(columns[i], startLine, tabella.dataInizio[i]);
+        sheet.Print(columns[i], startLine, table.start[i]);
     }
     return sheet;
 }

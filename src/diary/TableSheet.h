@@ -10,17 +10,17 @@
 namespace zelvia
 {
 
-/// What stands in the boxes of the table editor.
+/// The texts of the boxes of the table editor.
 struct TableSheetTexts {
-    CalendarDate data;
-    Text titolo;
+    CalendarDate date;
+    Text title;
     /// Rows 1..31 at the indices 0..30, in the order of the grid's columns.
-    std::array<std::array<Text, TableGrid::kColumns>, TableGrid::kRows> righe;
+    std::array<std::array<Text, TableGrid::kColumns>, TableGrid::kRows> rows;
     /// Day, month and year of the start.
-    std::array<Text, 3> dataInizio;
+    std::array<Text, 3> start;
 };
 
 /// The sheet of a training table.
-Sheet TableSheet(const TableSheetTexts& tabella);
+Sheet TableSheet(const TableSheetTexts& table);
 
 } // namespace zelvia

@@ -19,14 +19,14 @@ i16 Parsed(TextView text)
     return RoundTo<i16>(Val(text));
 }
 
-struct TempoGiorno {
+struct DayTime {
     i16 ore;
     i16 minuti;
     i16 secondi;
 };
 
-/// A time as its text tells it; without two separators there is none.
-TempoGiorno TimeOf(TextView text)
+/// The time that a text holds; none without two separators.
+DayTime TimeOf(TextView text)
 {
     constexpr TextView separators = ".:";
     const auto first = text.find_first_of(separators);
@@ -38,12 +38,12 @@ TempoGiorno TimeOf(TextView text)
             Parsed(text.substr(second + 1))};
 }
 
-struct MediaGiorno {
+struct DayAverage {
     i16 minuti;
     i16 secondi;
 };
 
-MediaGiorno AverageOf(TextView text)
+DayAverage AverageOf(TextView text)
 {
     const auto separator = text.find_first_of(",:");
     if (separator == TextView::npos) {
@@ -53,108 +53,108 @@ MediaGiorno AverageOf(TextView text)
 }
 
 /// A demand of the row against what the day holds.
-struct Gruppo {
-    bool rigaVuota;
-    bool giornoVuoto;
-    bool fallito; ///< Counts only when the row is not empty.
+struct Demand {
+    bool rowEmpty;
+    bool dayEmpty;
+    bool failed; ///< Counts only when the row is not empty.
 };
 
-Gruppo Distance(const RecordGiorno& giorno, const RigaPiano& riga)
+Demand Distance(const RecordGiorno& day, const PlanRow& row)
 {
-    return {riga.km == 0 && riga.metri == 0, giorno.Km == 0 && giorno.Metri == 0,
-            std::tie(riga.km, riga.metri) > std::tie(giorno.Km, giorno.Metri)};
+    return {row.km == 0 && row.metri == 0, day.Km == 0 && day.Metri == 0,
+            std::tie(row.km, row.metri) > std::tie(day.Km, day.Metri)};
 }
 
-Gruppo Time(const RecordGiorno& giorno, const RigaPiano& riga)
+Demand Time(const RecordGiorno& day, const PlanRow& row)
 {
-    const TempoGiorno run = TimeOf(giorno.TempoImpiegato);
-    return {riga.ore == 0 && riga.minuti == 0 && riga.secondi == 0, run.ore == 0 && run.minuti == 0 && run.secondi == 0,
-            std::tie(riga.ore, riga.minuti, riga.secondi) > std::tie(run.ore, run.minuti, run.secondi)};
+    const DayTime run = TimeOf(day.TempoImpiegato);
+    return {row.ore == 0 && row.minuti == 0 && row.secondi == 0, run.ore == 0 && run.minuti == 0 && run.secondi == 0,
+            std::tie(row.ore, row.minuti, row.secondi) > std::tie(run.ore, run.minuti, run.secondi)};
 }
 
-Gruppo Average(const RecordGiorno& giorno, const RigaPiano& riga)
+Demand Average(const RecordGiorno& day, const PlanRow& row)
 {
-    const MediaGiorno run = AverageOf(giorno.MediaKm);
+    const DayAverage run = AverageOf(day.MediaKm);
     const bool none = run.minuti == 0 && run.secondi == 0;
-    return {riga.mediaMinuti == 0 && riga.mediaSecondi == 0, none,
-            none || std::tie(riga.mediaMinuti, riga.mediaSecondi) < std::tie(run.minuti, run.secondi)};
+    return {row.mediaMinuti == 0 && row.mediaSecondi == 0, none,
+            none || std::tie(row.mediaMinuti, row.mediaSecondi) < std::tie(run.minuti, run.secondi)};
 }
 
-Gruppo SameClass(const Text& giorno, const Text& riga)
+Demand SameClass(const Text& day, const Text& row)
 {
-    return {!CampoNonVuoto(riga), !CampoNonVuoto(giorno), !SameText(Trim(giorno), Trim(riga))};
+    return {!CampoNonVuoto(row), !CampoNonVuoto(day), !SameText(Trim(day), Trim(row))};
 }
 
-Gruppo Repetitions(const RecordGiorno& giorno, const RigaPiano& riga)
+Demand Repetitions(const RecordGiorno& day, const PlanRow& row)
 {
-    const bool tooLittle = riga.ripetVolte > giorno.Ripetizioni || riga.ripetDistanza > giorno.RipetizioniDistanza;
+    const bool tooLittle = row.ripetVolte > day.Ripetizioni || row.ripetDistanza > day.RipetizioniDistanza;
     const bool tooSlow =
-        std::tie(riga.ripetQuante, riga.ripetTempi) < std::tie(giorno.RipetizioniQuante, giorno.RipetizioniTempi);
-    return {riga.ripetVolte == 0, giorno.Ripetizioni == 0, riga.ripetVolte > 0 && (tooLittle || tooSlow)};
+        std::tie(row.ripetQuante, row.ripetTempi) < std::tie(day.RipetizioniQuante, day.RipetizioniTempi);
+    return {row.ripetVolte == 0, day.Ripetizioni == 0, row.ripetVolte > 0 && (tooLittle || tooSlow)};
 }
 
 } // namespace
 
-RigaPiano RigaDellaTabella(i16 riga)
+PlanRow PlanRowAt(i16 row)
 {
     using namespace Module1;
-    return {TabKm[riga],        TabMetri[riga],       TabOre[riga],           TabMinuti[riga],
-            TabSecondi[riga],   TabMediaMinuti[riga], TabMediaSecondi[riga],  TabAndatura[riga],
-            TabFondo[riga],     TabRipetVolte[riga],  TabRipetDistanza[riga], TabRipetQuante[riga],
-            TabRipetTempi[riga]};
+    return {TabKm[row],        TabMetri[row],       TabOre[row],           TabMinuti[row],
+            TabSecondi[row],   TabMediaMinuti[row], TabMediaSecondi[row],  TabAndatura[row],
+            TabFondo[row],     TabRipetVolte[row],  TabRipetDistanza[row], TabRipetQuante[row],
+            TabRipetTempi[row]};
 }
 
-i16 ConfrontaAllenamento(const RecordGiorno& giorno, const RigaPiano& riga)
+i16 FailedDemands(const RecordGiorno& day, const PlanRow& row)
 {
-    i16 falliti = 0;
-    bool rigaVuota = true;
-    bool giornoVuoto = true;
-    for (const Gruppo& gruppo :
-         {Distance(giorno, riga), Time(giorno, riga), Average(giorno, riga), SameClass(giorno.Modo, riga.andatura),
-          SameClass(giorno.Fondo, riga.fondo), Repetitions(giorno, riga)}) {
-        rigaVuota = rigaVuota && gruppo.rigaVuota;
-        giornoVuoto = giornoVuoto && gruppo.giornoVuoto;
-        if (!gruppo.rigaVuota && gruppo.fallito) {
-            falliti += 1;
+    i16 failed = 0;
+    bool rowEmpty = true;
+    bool dayEmpty = true;
+    for (const Demand& demand :
+         {Distance(day, row), Time(day, row), Average(day, row), SameClass(day.Modo, row.andatura),
+          SameClass(day.Fondo, row.fondo), Repetitions(day, row)}) {
+        rowEmpty = rowEmpty && demand.rowEmpty;
+        dayEmpty = dayEmpty && demand.dayEmpty;
+        if (!demand.rowEmpty && demand.failed) {
+            failed += 1;
         }
     }
-    if (rigaVuota) {
-        return giornoVuoto ? 0 : 1;
+    if (rowEmpty) {
+        return dayEmpty ? 0 : 1;
     }
-    return falliti;
+    return failed;
 }
 
 namespace Module1
 {
 
-void ControlloAllenamento(i16 giorno, i16 riga, i16& esito)
+void ControlloAllenamento(i16 day, i16 row, i16& result)
 {
-    esito = TrapValue("ControlloAllenamento - ERRORE : ", esito,
-                      [&] { return ConfrontaAllenamento(Giorni[giorno], RigaDellaTabella(riga)); });
+    result = TrapValue("ControlloAllenamento - ERRORE : ", result,
+                       [&] { return FailedDemands(Giorni[day], PlanRowAt(row)); });
 }
 
-EsitoCammino CamminaTabella()
+WalkResult WalkTable()
 {
     constexpr int allBehind = 32;
     IndiceTabella = 1;
     if (DataCorrente < TabDataInizio) {
-        return {EsitoCammino::Stato::PrimaDellInizio, 0};
+        return {WalkResult::State::BeforeStart, 0};
     }
-    i16 esito = 0;
-    for (i16 giorno = TabDataInizio.DayOfYear(); giorno <= GiornoCorrente; giorno += 1) {
-        if (Giorni[giorno].Data < TabDataInizio) {
+    i16 result = 0;
+    for (i16 day = TabDataInizio.DayOfYear(); day <= GiornoCorrente; day += 1) {
+        if (Giorni[day].Data < TabDataInizio) {
             continue;
         }
         if (IndiceTabella >= allBehind) {
             IndiceTabella = 1;
-            return {EsitoCammino::Stato::Finita, 0};
+            return {WalkResult::State::Finished, 0};
         }
-        ControlloAllenamento(giorno, IndiceTabella, esito);
-        if (esito == 0) {
+        ControlloAllenamento(day, IndiceTabella, result);
+        if (result == 0) {
             IndiceTabella += 1;
         }
     }
-    return {EsitoCammino::Stato::InCorso, esito != 0 ? IndiceTabella : IndiceTabella - 1};
+    return {WalkResult::State::UnderWay, result != 0 ? IndiceTabella : IndiceTabella - 1};
 }
 
 } // namespace Module1

@@ -10,7 +10,7 @@ namespace zelvia
 {
 
 /// One row of a training table, field by field as its columns.
-struct RigaPiano {
+struct PlanRow {
     i16 km;
     i16 metri;
     i16 ore;
@@ -27,33 +27,33 @@ struct RigaPiano {
 };
 
 /// Row 0..31 of the table in memory. Raises error 9 for any other.
-RigaPiano RigaDellaTabella(i16 riga);
+PlanRow PlanRowAt(i16 row);
 
 /// How many of the six demands of a row a day fails, 0..6; a row without demands is failed by one unless the day is
 /// empty too.
-i16 ConfrontaAllenamento(const RecordGiorno& giorno, const RigaPiano& riga);
+i16 FailedDemands(const RecordGiorno& day, const PlanRow& row);
 
 /// What a walk along the days of the diary found.
-struct EsitoCammino {
-    enum class Stato {
-        PrimaDellInizio, ///< The day shown lies before the table's start.
-        Finita,          ///< A day came after the one that met the last row.
-        InCorso
+struct WalkResult {
+    enum class State {
+        BeforeStart, ///< The day shown lies before the table's start.
+        Finished,    ///< A day came after the one that met the last row.
+        UnderWay
     };
-    Stato stato;
-    i16 riga; ///< While under way, the row to show, 0..31.
+    State state;
+    i16 row; ///< While under way, the row to show, 0..31.
 };
 
 namespace Module1
 {
 
-/// Compares day `giorno` with row `riga` of the table in memory; `esito` 0 means the row is met. Reports its own
-/// failure and then leaves `esito` as it is.
-void ControlloAllenamento(i16 giorno, i16 riga, i16& esito);
+/// Compares day `day` with row `row` of the table in memory; `result` 0 means the row is met. Reports its own
+/// failure and then leaves `result` as it is.
+void ControlloAllenamento(i16 day, i16 row, i16& result);
 
 /// Walks the days from the table's start to the day shown, leaving a row behind only when a day has met it;
 /// IndiceTabella is then the row to be met next, 32 when all are behind.
-EsitoCammino CamminaTabella();
+WalkResult WalkTable();
 
 } // namespace Module1
 } // namespace zelvia

@@ -60,7 +60,7 @@ struct GridSigns {
 };
 
 /// Rows of edit boxes. Enter moves on along the row and then to the next one. A number beyond its column's limit is
-/// told and keeps the focus; a box that is left has its text written in the column's format.
+/// reported and keeps the focus; a box that is left has its text rewritten in the column's format.
 /// Columns count from 0, rows from 1; any other raises error 9.
 class BoxGrid
 {
@@ -69,7 +69,7 @@ public:
     BoxGrid(const BoxGrid&) = delete;
     BoxGrid& operator=(const BoxGrid&) = delete;
 
-    /// Creates the boxes row by row; what the grid is to tell must be set before.
+    /// Creates the boxes row by row. The handlers and the signs must be set before.
     void Build(QWidget* parent, const GridLook& look);
 
     TextBox* Box(int column, int row) const;
@@ -102,13 +102,13 @@ public:
         }
     }
 
-    /// Names the boxes for those who hear them: the word, the row's number and the column.
+    /// Gives each box its accessible name: the word, the row's number and the column.
     void Speak(TextView word, int rowsBefore = 0);
     void ShowSigns(int row, bool shown) const { signs.label(row)->SetCaption(shown ? signs.shown : signs.blank); }
 
-    GridSigns signs;
+    GridSigns signs; ///< None as long as no column is named.
     std::function<void()> Click;
-    std::function<void()> Edited;      ///< A key was pressed, be it thrown away, or the text changed by hand.
+    std::function<void()> Edited; ///< A key was pressed, even one that is thrown away, or the text was changed by hand.
     std::function<void()> LastEntered; ///< Enter in the last box.
 
 private:

@@ -27,8 +27,8 @@ struct BoxRow {
     const NumberKind* kind; ///< None for texts.
     QString message;        ///< Of a number beyond the limit.
     TableBytes::Column inFile;
-    Module1::ColonnaTabella<i16>* values;
-    Module1::ColonnaTabella<Text>* texts = nullptr;
+    Module1::PlanColumn<i16>* values;
+    Module1::PlanColumn<Text>* texts = nullptr;
 };
 
 const BoxRow kBoxes[] = {

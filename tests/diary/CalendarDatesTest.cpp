@@ -110,26 +110,26 @@ void CalendarDatesTest::Corrections()
     QFETCH(QByteArray, told);
     const QByteArrayList parts = date.split('/');
     QByteArray got;
-    for (const CorrezioneData& correzione :
-         CorreggiData({parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble()}, 7, 2026)) {
+    for (const DateCorrection& correction :
+         CorrectDate({parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble()}, 7, 2026)) {
         const char* boxes[] = {"-", "G", "A"};
-        got += '[' + Bytes(correzione.messaggio) + '|' + boxes[static_cast<int>(correzione.campo)] +
-               Bytes(correzione.valore) + ']';
+        got += '[' + Bytes(correction.message) + '|' + boxes[static_cast<int>(correction.field)] +
+               Bytes(correction.value) + ']';
     }
     QCOMPARE(got, told);
 }
 
 void CalendarDatesTest::TheYearOfACorrectionIsThatShown()
 {
-    const auto correzioni = CorreggiData({1, 1, 0}, 100, 2099);
-    QCOMPARE(correzioni.size(), std::size_t{1});
-    QCOMPARE(Bytes(correzioni[0].messaggio), QByteArray(" MODIFICA AL N\xB0 100 :   ANNO 2099  "));
-    QCOMPARE(Bytes(correzioni[0].valore), QByteArray("2099"));
+    const auto corrections = CorrectDate({1, 1, 0}, 100, 2099);
+    QCOMPARE(corrections.size(), std::size_t{1});
+    QCOMPARE(Bytes(corrections[0].message), QByteArray(" MODIFICA AL N\xB0 100 :   ANNO 2099  "));
+    QCOMPARE(Bytes(corrections[0].value), QByteArray("2099"));
 }
 
 void CalendarDatesTest::AYearBeyondALong()
 {
-    QCOMPARE(RaisedBy([] { (void)CorreggiData({1, 1, 9999999999.0}, 1, 2026); }), 6);
+    QCOMPARE(RaisedBy([] { (void)CorrectDate({1, 1, 9999999999.0}, 1, 2026); }), 6);
 }
 
 void CalendarDatesTest::DoubleDates_data()
@@ -157,8 +157,8 @@ void CalendarDatesTest::DoubleDates()
     QFETCH(QByteArray, pairs);
     PutDates(rows);
     QByteArray got;
-    for (const auto& [prima, seconda] : DateDoppie()) {
-        got += QByteArray::number(int{prima.value()}) + '+' + QByteArray::number(int{seconda.value()}) + ' ';
+    for (const auto& [first, second] : SameDates()) {
+        got += QByteArray::number(int{first.value()}) + '+' + QByteArray::number(int{second.value()}) + ' ';
     }
     QCOMPARE(got, pairs);
 }
@@ -166,7 +166,7 @@ void CalendarDatesTest::DoubleDates()
 void CalendarDatesTest::TheMessageOfADoubleDate()
 {
     PutDates("7=5/9/2026 21=5/9/2026");
-    QCOMPARE(Bytes(MessaggioDateDoppie(7, 21)), QByteArray("5-9-2026   DATA PRESENTE AL  N\xB0 7  E AL N\xB0 21  "));
+    QCOMPARE(Bytes(SameDatesMessage(7, 21)), QByteArray("5-9-2026   DATA PRESENTE AL  N\xB0 7  E AL N\xB0 21  "));
 }
 
 void CalendarDatesTest::RaceOfADay_data()
@@ -187,7 +187,7 @@ void CalendarDatesTest::RaceOfADay()
     QFETCH(QByteArray, rows);
     QFETCH(int, race);
     PutDates(rows);
-    QCOMPARE(int{GaraDelGiorno(24, 5, 2026).value()}, race);
+    QCOMPARE(int{RaceOnDate(24, 5, 2026).value()}, race);
 }
 
 QTEST_APPLESS_MAIN(CalendarDatesTest)

@@ -15,10 +15,10 @@ namespace
 
 CalendarSheetTexts Blank()
 {
-    CalendarSheetTexts pagina;
-    pagina.data = CalendarDate(2026, 5, 20);
-    pagina.titolo = "Calendario Gare       di  ";
-    return pagina;
+    CalendarSheetTexts page;
+    page.date = CalendarDate(2026, 5, 20);
+    page.title = "Calendario Gare       di  ";
+    return page;
 }
 
 } // namespace
@@ -88,9 +88,9 @@ private Q_SLOTS:
     {
         QFETCH(int, row);
         QFETCH(CalendarSheetRow, boxes);
-        CalendarSheetTexts pagina = Blank();
-        pagina.righe[static_cast<std::size_t>(row - 1)] = boxes;
-        QTEST(SheetRow(CalendarSheet(pagina), 6 + row), "printed");
+        CalendarSheetTexts page = Blank();
+        page.rows[static_cast<std::size_t>(row - 1)] = boxes;
+        QTEST(SheetRow(CalendarSheet(page), 6 + row), "printed");
     }
 };
 

@@ -52,15 +52,15 @@ void TakeAllPlaces()
     }
 }
 
-LunghezzaPercorso TotalOf(const std::vector<i32>& km, const std::vector<i32>& metres)
+RouteLength TotalOf(const std::vector<i32>& km, const std::vector<i32>& metres)
 {
-    return Lunghezza(SommaTratti(km), SommaTratti(metres));
+    return LengthOf(SumOfStretches(km), SumOfStretches(metres));
 }
 
 /// The place as a plain number, -1 for nothing.
 int PlaceOf(TextView name)
 {
-    const auto place = PostoPercorso(name);
+    const auto place = RoutePlace(name);
     return place ? int{place->value()} : -1;
 }
 
@@ -106,7 +106,7 @@ void RouteTotalsTest::Totals()
     QFETCH(int, totalMetres);
     const auto total = TotalOf({km.begin(), km.end()}, {metres.begin(), metres.end()});
     QCOMPARE(total.km.value(), totalKm);
-    QCOMPARE(total.metri.value(), totalMetres);
+    QCOMPARE(total.metres.value(), totalMetres);
 }
 
 void RouteTotalsTest::TotalsOutOfRange_data()
@@ -142,7 +142,7 @@ void RouteTotalsTest::RandomTotals()
         }
         const auto total = TotalOf(km, metres);
         QCOMPARE(std::int64_t{total.km.value()}, length / 1000);
-        QCOMPARE(std::int64_t{total.metri.value()}, length % 1000);
+        QCOMPARE(std::int64_t{total.metres.value()}, length % 1000);
     }
 }
 
@@ -240,14 +240,14 @@ void RouteTotalsTest::EmptyNameIsTheFirstFreePlace()
 
 void RouteTotalsTest::FirstFreePlace()
 {
-    QCOMPARE(int{PrimoPostoLibero().value()}, 1);
+    QCOMPARE(int{LowestFreePlace().value()}, 1);
     for (int taken = 1; taken <= kPlaces; ++taken) {
         NomiPercorso[taken] = "Percorso";
-        QCOMPARE(int{PrimoPostoLibero().value()}, taken < kPlaces ? taken + 1 : 0);
+        QCOMPARE(int{LowestFreePlace().value()}, taken < kPlaces ? taken + 1 : 0);
     }
     // What has no place does not count as one.
     NomiPercorso[0].clear();
-    QCOMPARE(int{PrimoPostoLibero().value()}, 0);
+    QCOMPARE(int{LowestFreePlace().value()}, 0);
 }
 
 void RouteTotalsTest::AFreedPlaceIsTakenAgain()
@@ -257,7 +257,7 @@ void RouteTotalsTest::AFreedPlaceIsTakenAgain()
     AzzeraPercorso(3);
     AzzeraPercorso(40);
     for (const int place : {3, 40, 150, 0}) {
-        QCOMPARE(int{PrimoPostoLibero().value()}, place);
+        QCOMPARE(int{LowestFreePlace().value()}, place);
         NomiPercorso[place] = "Pineta " + std::to_string(place);
     }
     QCOMPARE(PlaceOf("PINETA 40"), 40);

@@ -41,7 +41,7 @@ QByteArrayList Parts(const QByteArray& text, int count)
 }
 
 /// km|metres|h m s|m s|pace|terrain|times x distance @ minutes seconds
-RigaPiano RowOf(const QByteArray& text)
+PlanRow RowOf(const QByteArray& text)
 {
     const QByteArrayList parts = Parts(text, 7);
     const QByteArrayList time = parts[2].split(' ');
@@ -186,7 +186,7 @@ void RowComparisonTest::Failures()
 {
     QFETCH(QByteArray, row);
     QFETCH(QByteArray, day);
-    QTEST(int{ConfrontaAllenamento(DayOf(day), RowOf(row)).value()}, "failures");
+    QTEST(int{FailedDemands(DayOf(day), RowOf(row)).value()}, "failures");
 }
 
 void RowComparisonTest::ThousandthsAreNotCompared()

@@ -43,7 +43,7 @@ namespace
 constexpr int kRandomRows = 20000;
 
 /// A row from its eight boxes parted by "|".
-GruppiRiga RowOf(const QByteArray& boxes)
+RowGroups RowOf(const QByteArray& boxes)
 {
     const QByteArrayList parts = boxes.split('|');
     if (parts.size() != 8) {
@@ -53,30 +53,30 @@ GruppiRiga RowOf(const QByteArray& boxes)
             TextOf(parts[4]), TextOf(parts[5]), TextOf(parts[6]), TextOf(parts[7])};
 }
 
-QByteArray Shown(const std::optional<MediaRiga>& media)
+QByteArray Shown(const std::optional<RowAverage>& average)
 {
-    return media ? QByteArray::number(media->minuti.value()) + " " + QByteArray::number(media->secondi.value()) + " " +
-                       Bytes(media->millesimi)
-                 : QByteArray("too slow");
+    return average ? QByteArray::number(average->minutes.value()) + " " + QByteArray::number(average->seconds.value()) +
+                         " " + Bytes(average->thousandths)
+                   : QByteArray("too slow");
 }
 
-QByteArray Shown(const DistanzaRiga& distanza)
+QByteArray Shown(const RowDistance& distance)
 {
-    return QByteArray::number(distanza.km.value()) + " " + QByteArray::number(distanza.metri.value());
+    return QByteArray::number(distance.km.value()) + " " + QByteArray::number(distance.metres.value());
 }
 
-QByteArray Shown(const TempoRiga& tempo)
+QByteArray Shown(const RowTime& time)
 {
-    return QByteArray::number(tempo.ore.value()) + " " + QByteArray::number(tempo.minuti.value()) + " " +
-           QByteArray::number(tempo.secondi.value());
+    return QByteArray::number(time.hours.value()) + " " + QByteArray::number(time.minutes.value()) + " " +
+           QByteArray::number(time.seconds.value());
 }
 
 /// The same eight boxes as plain numbers, for the second computation.
 struct Numbers {
-    int km, metri, ore, minuti, secondi, mm, ss, ms;
+    int km, metres, hours, minutes, seconds, mm, ss, ms;
 
-    int Metres() const { return km * 1000 + metri; }
-    int Seconds() const { return (ore * 60 + minuti) * 60 + secondi; }
+    int Metres() const { return km * 1000 + metres; }
+    int Seconds() const { return (hours * 60 + minutes) * 60 + seconds; }
     float SecondsPerKm() const
     {
         const float fraction = float(ms) / 1000.0f;
@@ -85,7 +85,7 @@ struct Numbers {
     QByteArray Boxes() const
     {
         QByteArrayList parts;
-        for (const int number : {km, metri, ore, minuti, secondi, mm, ss, ms}) {
+        for (const int number : {km, metres, hours, minutes, seconds, mm, ss, ms}) {
             parts << (number == 0 ? QByteArray() : QByteArray::number(number));
         }
         return parts.join('|');
@@ -180,30 +180,30 @@ void TableCalculationsTest::WhatARowAsksFor()
 {
     QFETCH(QByteArray, boxes);
     QFETCH(QByteArray, asked);
-    GruppiRiga row = RowOf(boxes);
+    RowGroups row = RowOf(boxes);
     QByteArray answer;
     // One after the other, each seeing what the one before has written.
-    if (ChiedeMediaKm(row)) {
+    if (AsksForAverage(row)) {
         answer += 'M';
-        const auto media = MediaDi(row);
-        QVERIFY(media.has_value());
-        row.mediaMinuti = std::to_string(media->minuti.value());
-        row.mediaSecondi = std::to_string(media->secondi.value());
+        const auto average = AverageFrom(row);
+        QVERIFY(average.has_value());
+        row.averageMinutes = std::to_string(average->minutes.value());
+        row.averageSeconds = std::to_string(average->seconds.value());
     }
-    if (ChiedeTempo(row)) {
+    if (AsksForTime(row)) {
         answer += 'T';
-        const TempoRiga tempo = TempoDi(row);
-        row.ore = std::to_string(tempo.ore.value());
-        row.minuti = std::to_string(tempo.minuti.value());
-        row.secondi = std::to_string(tempo.secondi.value());
+        const RowTime time = TimeFrom(row);
+        row.hours = std::to_string(time.hours.value());
+        row.minutes = std::to_string(time.minutes.value());
+        row.seconds = std::to_string(time.seconds.value());
     }
-    if (ChiedeDistanza(row)) {
+    if (AsksForDistance(row)) {
         answer += 'D';
-        const DistanzaRiga distanza = DistanzaDi(row);
-        row.km = std::to_string(distanza.km.value());
-        row.metri = std::to_string(distanza.metri.value());
+        const RowDistance distance = DistanceFrom(row);
+        row.km = std::to_string(distance.km.value());
+        row.metres = std::to_string(distance.metres.value());
     }
-    answer += SoloUnGruppo(row) ? "!" : "";
+    answer += OnlyOneGroup(row) ? "!" : "";
     QCOMPARE(answer, asked);
 }
 
@@ -228,7 +228,7 @@ void TableCalculationsTest::Average_data()
 void TableCalculationsTest::Average()
 {
     QFETCH(QByteArray, boxes);
-    QTEST(Shown(MediaDi(RowOf(boxes))), "average");
+    QTEST(Shown(AverageFrom(RowOf(boxes))), "average");
 }
 
 void TableCalculationsTest::Distance_data()
@@ -250,7 +250,7 @@ void TableCalculationsTest::Distance_data()
 void TableCalculationsTest::Distance()
 {
     QFETCH(QByteArray, boxes);
-    QTEST(Shown(DistanzaDi(RowOf(boxes))), "distance");
+    QTEST(Shown(DistanceFrom(RowOf(boxes))), "distance");
 }
 
 void TableCalculationsTest::Time_data()
@@ -271,7 +271,7 @@ void TableCalculationsTest::Time_data()
 void TableCalculationsTest::Time()
 {
     QFETCH(QByteArray, boxes);
-    QTEST(Shown(TempoDi(RowOf(boxes))), "time");
+    QTEST(Shown(TimeFrom(RowOf(boxes))), "time");
 }
 
 void TableCalculationsTest::Errors_data()
@@ -301,14 +301,14 @@ void TableCalculationsTest::Errors()
 {
     QFETCH(char, what);
     QFETCH(QByteArray, boxes);
-    const GruppiRiga row = RowOf(boxes);
+    const RowGroups row = RowOf(boxes);
     const int raised = RaisedBy([&] {
         if (what == 'M') {
-            (void)MediaDi(row);
+            (void)AverageFrom(row);
         } else if (what == 'D') {
-            (void)DistanzaDi(row);
+            (void)DistanceFrom(row);
         } else {
-            (void)TempoDi(row);
+            (void)TimeFrom(row);
         }
     });
     QTEST(raised, "number");
@@ -324,7 +324,7 @@ void TableCalculationsTest::RandomAverages()
         }
         ++i;
         const QByteArray boxes = row.Boxes();
-        const QByteArray got = Shown(MediaDi(RowOf(boxes)));
+        const QByteArray got = Shown(AverageFrom(RowOf(boxes)));
         QVERIFY2(got == ExpectedAverage(row), (boxes + ": " + got + " for " + ExpectedAverage(row)).constData());
     }
 }
@@ -339,7 +339,7 @@ void TableCalculationsTest::RandomDistances()
         }
         ++i;
         const QByteArray boxes = row.Boxes();
-        const QByteArray got = Shown(DistanzaDi(RowOf(boxes)));
+        const QByteArray got = Shown(DistanceFrom(RowOf(boxes)));
         QVERIFY2(got == ExpectedDistance(row), (boxes + ": " + got + " for " + ExpectedDistance(row)).constData());
     }
 }
@@ -350,7 +350,7 @@ void TableCalculationsTest::RandomTimes()
     for (int i = 0; i < kRandomRows; ++i) {
         const Numbers row = rows.Next();
         const QByteArray boxes = row.Boxes();
-        const QByteArray got = Shown(TempoDi(RowOf(boxes)));
+        const QByteArray got = Shown(TimeFrom(RowOf(boxes)));
         QVERIFY2(got == ExpectedTime(row), (boxes + ": " + got + " for " + ExpectedTime(row)).constData());
     }
 }

@@ -16,10 +16,10 @@ namespace
 
 TableSheetTexts Blank()
 {
-    TableSheetTexts tabella;
-    tabella.data = CalendarDate(2026, 5, 20);
-    tabella.titolo = "Tabella allenamento : Base 10 km    di   ";
-    return tabella;
+    TableSheetTexts table;
+    table.date = CalendarDate(2026, 5, 20);
+    table.title = "Tabella allenamento : Base 10 km    di   ";
+    return table;
 }
 
 } // namespace
@@ -52,9 +52,9 @@ private Q_SLOTS:
                                    "40,5 Times New Roman 10|Andatura",
                                    "63,5 Times New Roman 10| Terreno ",
                                    "82,5 Times New Roman 10|Ripetizioni"};
-        for (int riga = 1; riga <= 31; ++riga) {
-            expected << (riga < 10 ? "3," : "2,") + QByteArray::number(6 + riga) + " Times New Roman 10| " +
-                            QByteArray::number(riga) + " ";
+        for (int row = 1; row <= 31; ++row) {
+            expected << (row < 10 ? "3," : "2,") + QByteArray::number(6 + row) + " Times New Roman 10| " +
+                            QByteArray::number(row) + " ";
         }
         expected << "2,40 Times New Roman 10| Data Inizio";
         QCOMPARE(SheetLines(sheet), expected);
@@ -62,9 +62,9 @@ private Q_SLOTS:
 
     void theStartDateStandsBelowTheFrame()
     {
-        TableSheetTexts tabella = Blank();
-        tabella.dataInizio = {"2", "3", "2026"};
-        QCOMPARE(SheetRow(TableSheet(tabella), 40), (QByteArrayList{"2| Data Inizio", "14|2", "17|3", "20|2026"}));
+        TableSheetTexts table = Blank();
+        table.start = {"2", "3", "2026"};
+        QCOMPARE(SheetRow(TableSheet(table), 40), (QByteArrayList{"2| Data Inizio", "14|2", "17|3", "20|2026"}));
     }
 
     void rows_data()
@@ -104,11 +104,11 @@ private Q_SLOTS:
     {
         QFETCH(int, row);
         QFETCH(QList<QByteArray>, boxes);
-        TableSheetTexts tabella = Blank();
+        TableSheetTexts table = Blank();
         for (std::size_t column = 0; column < kColumns; ++column) {
-            tabella.righe[static_cast<std::size_t>(row - 1)][column] = boxes[static_cast<int>(column)].toStdString();
+            table.rows[static_cast<std::size_t>(row - 1)][column] = boxes[static_cast<int>(column)].toStdString();
         }
-        QTEST(SheetRow(TableSheet(tabella), 6 + row), "printed");
+        QTEST(SheetRow(TableSheet(table), 6 + row), "printed");
     }
 };
 

@@ -53,21 +53,21 @@ void BlankYear(int year)
     AzzeraAnno();
 }
 
-EsitoCammino WalkTo(CalendarDate date)
+WalkResult WalkTo(CalendarDate date)
 {
     DataCorrente = date;
     GiornoCorrente = date.DayOfYear();
-    return CamminaTabella();
+    return WalkTable();
 }
 
-QByteArray Shown(const EsitoCammino& outcome)
+QByteArray Shown(const WalkResult& outcome)
 {
-    switch (outcome.stato) {
-    case EsitoCammino::Stato::PrimaDellInizio: return "before";
-    case EsitoCammino::Stato::Finita: return "finished";
-    case EsitoCammino::Stato::InCorso: break;
+    switch (outcome.state) {
+    case WalkResult::State::BeforeStart: return "before";
+    case WalkResult::State::Finished: return "finished";
+    case WalkResult::State::UnderWay: break;
     }
-    return "row " + QByteArray::number(outcome.riga.value()) + ", next " + QByteArray::number(IndiceTabella.value());
+    return "row " + QByteArray::number(outcome.row.value()) + ", next " + QByteArray::number(IndiceTabella.value());
 }
 
 /// What is to come out, by a walk that keeps no position of its own but the list of rows still ahead.
@@ -90,7 +90,7 @@ QByteArray Expected(CalendarDate start, CalendarDate date)
         if (ahead.empty()) {
             return "finished";
         }
-        lastDayMet = ConfrontaAllenamento(day, RigaDellaTabella(ahead.back())) == 0;
+        lastDayMet = FailedDemands(day, PlanRowAt(ahead.back())) == 0;
         if (lastDayMet) {
             met = ahead.back();
             ahead.pop_back();

@@ -17,10 +17,10 @@ void frmMain::SalvaNomePercorso()
 {
     Trap("SalvaNomePercorso - ERRORE : ", [this] {
         const Text nome = Campo(ListaScelta::Percorso).txt->Content();
-        if (nome.empty() || PostoPercorso(nome).value_or(0) > 0) {
+        if (nome.empty() || RoutePlace(nome).value_or(0) > 0) {
             return;
         }
-        const i16 libero = PrimoPostoLibero();
+        const i16 libero = LowestFreePlace();
         if (libero == 0) {
             MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
             return;
@@ -32,7 +32,7 @@ void frmMain::SalvaNomePercorso()
 
 i16 frmMain::NumeroPercorso()
 {
-    return TrapValue("NumeroPercorso - ERRORE : ", i16(0), [] { return PostoPercorso(PercorsoCorrente).value_or(0); });
+    return TrapValue("NumeroPercorso - ERRORE : ", i16(0), [] { return RoutePlace(PercorsoCorrente).value_or(0); });
 }
 
 void frmMain::mnuDescrizionePercorso_Click()

@@ -54,11 +54,11 @@ void Slips::ShowActiveTable()
 void Slips::AssegnaTabella()
 {
     Trap("AssegnaTabella - ERRORE : ", [this] {
-        const EsitoCammino esito = CamminaTabella();
-        if (esito.stato == EsitoCammino::Stato::Finita) {
+        const WalkResult esito = WalkTable();
+        if (esito.state == WalkResult::State::Finished) {
             EndTable();
-        } else if (esito.stato == EsitoCammino::Stato::InCorso) {
-            ShowTableRow(esito.riga);
+        } else if (esito.state == WalkResult::State::UnderWay) {
+            ShowTableRow(esito.row);
         }
     });
 }
@@ -77,7 +77,7 @@ void Slips::EndTable()
 
 void Slips::ShowTableRow(i16 riga)
 {
-    const RigaPiano row = RigaDellaTabella(riga);
+    const PlanRow row = PlanRowAt(riga);
     const auto digits = [](i16 number) { return PlainText(number); };
     page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metri));
     page_.lblTempoTab->SetCaption(digits(row.ore) + ":" + digits(row.minuti) + ":" + digits(row.secondi));
@@ -105,7 +105,7 @@ void Slips::AssegnaGara()
 {
     Trap("AssegnaGara - ERRORE : ", [this] {
         ShowRacePanel(false);
-        i16 riga = GaraDelGiorno(session.GiornoMese, session.MeseCorrente, session.AnnoCorrente);
+        i16 riga = RaceOnDate(session.GiornoMese, session.MeseCorrente, session.AnnoCorrente);
         if (riga > 0) {
             GiornodellaGara(riga);
         }
@@ -117,7 +117,7 @@ void Slips::GiornodellaGara(i16& indice)
     Trap("GiornodellaGara - ERRORE : ", [&] {
         ShowTablePanel(false);
         ShowRacePanel(true);
-        const TestiGara testi = TestiDellaGara(indice);
+        const RaceTexts testi = RaceTextsOf(indice);
         page_.lblGara->SetCaption(testi.gara);
         page_.lblLocalita->SetCaption(testi.localita);
         page_.lblPartecipanti->SetCaption(testi.partecipanti);

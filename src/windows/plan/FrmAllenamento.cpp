@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table editor: how it opens and closes, and the colours that tell the state of its rows.
+// The table editor: how it opens and closes, and the colours that show the state of its rows.
 #include "windows/plan/FrmAllenamento.h"
 
 #include "core/Conversions.h"
@@ -56,21 +56,21 @@ bool frmAllenamento::IsActiveTable() const
     return SameText(NomeFileForm, NomeTabellaAttiva);
 }
 
-void frmAllenamento::PaintRow(int riga, const QColor& back)
+void frmAllenamento::PaintRow(int row, const QColor& back)
 {
     for (const auto& strip : strips_) {
-        SetBackColour(*strip[riga], back);
+        SetBackColour(*strip[row], back);
     }
-    grid_.VisitRow(riga, [&](TextBox& box) { SetBackColour(box, back); });
+    grid_.VisitRow(row, [&](TextBox& box) { SetBackColour(box, back); });
 }
 
-void frmAllenamento::WriteRow(int riga, const QColor& fore)
+void frmAllenamento::WriteRow(int row, const QColor& fore)
 {
-    SetForeColour(*lblGiorni[riga], fore);
+    SetForeColour(*lblGiorni[row], fore);
     for (const auto& strip : strips_) {
-        SetForeColour(*strip[riga], fore);
+        SetForeColour(*strip[row], fore);
     }
-    grid_.VisitRow(riga, [&](TextBox& box) { SetForeColour(box, fore); });
+    grid_.VisitRow(row, [&](TextBox& box) { SetForeColour(box, fore); });
 }
 
 void frmAllenamento::PaintDate(const QColor& back)
@@ -81,15 +81,14 @@ void frmAllenamento::PaintDate(const QColor& back)
     }
 }
 
-void frmAllenamento::AssegnaTxt(i16 riga)
+void frmAllenamento::AssegnaTxt(i16 row)
 {
     Trap("AssegnaTxt - ERRORE : ", [&] {
-        const int row = riga.value();
-        PaintRow(row, TableColours::Accepted);
-        if (riga >= IndiceTabella) {
-            WriteRow(row, TableColours::Fore);
+        PaintRow(row.value(), TableColours::Accepted);
+        if (row >= IndiceTabella) {
+            WriteRow(row.value(), TableColours::Fore);
         } else if (IsActiveTable()) {
-            WriteRow(row, TableColours::Passed);
+            WriteRow(row.value(), TableColours::Passed);
         }
         if (!IsActiveTable()) {
             PaintDate(TableColours::Accepted);
@@ -97,11 +96,11 @@ void frmAllenamento::AssegnaTxt(i16 riga)
     });
 }
 
-void frmAllenamento::ColoreSfondo(i16 riga)
+void frmAllenamento::ColoreSfondo(i16 row)
 {
     Trap("ColoreSfondo - ERRORE : ", [&] {
-        SetBackColour(*lblGiorni[riga], TableColours::Accepted);
-        PaintRow(riga.value(), TableColours::Editing);
+        SetBackColour(*lblGiorni[row], TableColours::Accepted);
+        PaintRow(row.value(), TableColours::Editing);
         if (!IsActiveTable()) {
             PaintDate(TableColours::Editing);
         }
@@ -109,15 +108,15 @@ void frmAllenamento::ColoreSfondo(i16 riga)
     });
 }
 
-void frmAllenamento::ColoreRiga(i16 riga)
+void frmAllenamento::ColoreRiga(i16 row)
 {
-    Trap("ColoreRiga - ERRORE : ", [&] { PaintRow(riga.value(), TableColours::Chosen); });
+    Trap("ColoreRiga - ERRORE : ", [&] { PaintRow(row.value(), TableColours::Chosen); });
 }
 
 void frmAllenamento::RecolourAllRows()
 {
-    for (i16 riga = 1; riga <= kRows; riga += 1) {
-        AssegnaTxt(riga);
+    for (i16 row = 1; row <= kRows; row += 1) {
+        AssegnaTxt(row);
     }
 }
 

@@ -34,23 +34,23 @@ public:
     Control& FocusSink() override { return *Box(TableGrid::Km, 1); }
 
     // The grid and the columns; rows are 1..31.
-    void AssegnaTab(i16 riga);
-    void AssegnaTxt(i16 riga);
+    void AssegnaTab(i16 row);
+    void AssegnaTxt(i16 row);
     void TabAssegnaTxt();
-    void ColoreSfondo(i16 riga);
-    void ColoreRiga(i16 riga);
+    void ColoreSfondo(i16 row);
+    void ColoreRiga(i16 row);
     i16 ControllaSaveTab();
     /// How many of day, month and year of the start date are valid, 0..3.
     i16 ContaCampiData();
     /// Repairs the boxes of the start date, with a message for each repair.
     void ControlloData();
-    /// Boxes of `sorgente` into the columns at `destinazione`. A shown 1.500 arrives as 2: its dot is a decimal point
+    /// Boxes of `source` into the columns at `target`. A shown 1.500 arrives as 2: its dot is a decimal point
     /// here.
-    void CopiaRiga(i16 destinazione, i16 sorgente);
-    void AzzeraRiga(i16 riga);
-    void CalcolaMediaKm(i16 riga);
-    void CalcolaDistanza(i16 riga);
-    void CalcolaTempo(i16 riga);
+    void CopiaRiga(i16 target, i16 source);
+    void AzzeraRiga(i16 row);
+    void CalcolaMediaKm(i16 row);
+    void CalcolaDistanza(i16 row);
+    void CalcolaTempo(i16 row);
 
     void cmdOK_Click();
     void cmdAttiva_Click();
@@ -62,8 +62,8 @@ public:
     void mnuInserisciRiga_Click();
     void mnuEliminaRiga_Click();
 
-    TextBox* Box(TableGrid::Column column, int riga) const { return grid_.Box(column, riga); }
-    Label* StripOf(TableGrid::Strip strip, int riga) const { return strips_[static_cast<std::size_t>(strip)][riga]; }
+    TextBox* Box(TableGrid::Column column, int row) const { return grid_.Box(column, row); }
+    Label* StripOf(TableGrid::Strip strip, int row) const { return strips_[static_cast<std::size_t>(strip)][row]; }
 
     i16 TabellaModificata; ///< 1 when rows moved, or when cmdOK found the boxes different from the columns.
     Text NomeFileForm;     ///< Full path of the table opened here; empty for a new one.
@@ -87,31 +87,32 @@ protected:
 
 private:
     void BuildHeads();
-    void BuildLabels(int riga);
+    void BuildLabels(int row);
     void BuildGrid();
     void BuildPanel();
     void BuildStartDate();
     void BuildRowMenu();
     void Load();
 
-    void ShowRowMenu(int riga, const QPoint& position);
+    void ShowRowMenu(int row, const QPoint& position);
     void BeginEditing();
 
-    Text Content(int column, int riga) const { return grid_.Content(column, riga); }
+    Text Content(int column, int row) const { return grid_.Content(column, row); }
     int DateNumber(std::size_t index) const;
     CalendarDate DateOfBoxes() const;
-    bool RowDiffers(int riga) const;
-    void ShowRow(int riga);
+    bool RowDiffers(int row) const;
+    void ShowRow(int row);
     void ShowStartDate();
-    GruppiRiga Groups(int riga) const;
-    void CalculateRow(i16 riga);
+    RowGroups Groups(int row) const;
+    void CalculateRow(i16 row);
 
     bool IsActiveTable() const;
-    void PaintRow(int riga, const QColor& back);
-    void WriteRow(int riga, const QColor& fore);
+    void PaintRow(int row, const QColor& back);
+    void WriteRow(int row, const QColor& fore);
     void PaintDate(const QColor& back);
     void AcceptAllRows();
     void RecolourAllRows();
+    void ShowMovedRows();
     void SaveUnderName();
     bool ChooseActivePath();
     TableSheetTexts SheetTexts() const;
@@ -120,7 +121,7 @@ private:
     BoxGrid grid_{TableGrid::kPlanColumns};
     BoxGrid start_{TableGrid::kStartColumns};
     std::array<BoundedArray<Label*, 1, 31>, TableGrid::kStrips> strips_;
-    Text percorsoSalvato_; ///< Where this window last saved, for a table that was not opened from a file.
+    Text savedPath_; ///< Where this window last saved, for a table that was not opened from a file.
 };
 
 } // namespace zelvia

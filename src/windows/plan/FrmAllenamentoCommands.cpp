@@ -24,9 +24,9 @@ using namespace TableGrid;
 
 void frmAllenamento::AcceptAllRows()
 {
-    for (i16 riga = 1; riga <= kRows; riga += 1) {
-        AssegnaTxt(riga);
-        AssegnaTab(riga);
+    for (i16 row = 1; row <= kRows; row += 1) {
+        AssegnaTxt(row);
+        AssegnaTab(row);
     }
 }
 
@@ -63,10 +63,10 @@ void frmAllenamento::cmdSalva_Click()
 void frmAllenamento::SaveUnderName()
 {
     if (SalvaTabellaConNome(tabCommonDialog)) {
-        percorsoSalvato_ = tabCommonDialog.FileName;
+        savedPath_ = tabCommonDialog.FileName;
     } else if (FlagTabellaSalvata != 1) {
         // A file that may be half written must not be activated.
-        percorsoSalvato_.clear();
+        savedPath_.clear();
     }
 }
 
@@ -76,23 +76,23 @@ bool frmAllenamento::ChooseActivePath()
     if (!NomeFileForm.empty()) {
         return true;
     }
-    if (percorsoSalvato_.empty()) {
+    if (savedPath_.empty()) {
         SaveUnderName();
     }
-    NomeFileForm = percorsoSalvato_;
+    NomeFileForm = savedPath_;
     return !NomeFileForm.empty();
 }
 
 TableSheetTexts frmAllenamento::SheetTexts() const
 {
-    TableSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}, .dataInizio = {}};
-    grid_.Visit([&](int column, int riga) {
-        testi.righe[static_cast<std::size_t>(riga - 1)][static_cast<std::size_t>(column)] = Content(column, riga);
+    TableSheetTexts texts{.date = DataCorrente, .title = FromQString(windowTitle()), .rows = {}, .start = {}};
+    grid_.Visit([&](int column, int row) {
+        texts.rows[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)] = Content(column, row);
     });
     for (std::size_t i = 0; i < dateBoxes.size(); ++i) {
-        testi.dataInizio[i] = dateBoxes[i]->Content();
+        texts.start[i] = dateBoxes[i]->Content();
     }
-    return testi;
+    return texts;
 }
 
 void frmAllenamento::cmdStampa_Click()
@@ -143,108 +143,106 @@ void frmAllenamento::cmdDisattiva_Click()
     });
 }
 
+void frmAllenamento::ShowMovedRows()
+{
+    TabAssegnaTxt();
+    RecolourAllRows();
+    TabellaModificata = 1;
+}
+
 void frmAllenamento::mnuInserisciRiga_Click()
 {
     Trap("mnuInserisciRiga - ERRORE : ", [this] {
-        const i16 scelta = RigaSelezionata;
-        for (i16 i = scelta; i <= kRows - 1; i += 1) {
+        const i16 chosen = RigaSelezionata;
+        for (i16 i = chosen; i <= kRows - 1; i += 1) {
             CopiaRiga(i + 1, i);
         }
-        AzzeraRiga(scelta);
-        for (i16 i = 1; i <= scelta - 1; i += 1) {
+        AzzeraRiga(chosen);
+        for (i16 i = 1; i <= chosen - 1; i += 1) {
             AssegnaTab(i);
         }
-        TabAssegnaTxt();
-        RecolourAllRows();
-        TabellaModificata = 1;
+        ShowMovedRows();
     });
 }
 
 void frmAllenamento::mnuEliminaRiga_Click()
 {
     Trap("mnuEliminaRiga - ERRORE : ", [this] {
-        const i16 scelta = RigaSelezionata;
-        for (i16 i = 1; i <= scelta - 1; i += 1) {
+        const i16 chosen = RigaSelezionata;
+        for (i16 i = 1; i <= chosen - 1; i += 1) {
             AssegnaTab(i);
         }
-        for (i16 i = scelta; i <= kRows - 1; i += 1) {
+        for (i16 i = chosen; i <= kRows - 1; i += 1) {
             CopiaRiga(i, i + 1);
         }
         AzzeraRiga(kRows);
-        TabAssegnaTxt();
-        RecolourAllRows();
-        TabellaModificata = 1;
+        ShowMovedRows();
     });
 }
 
-GruppiRiga frmAllenamento::Groups(int riga) const
+RowGroups frmAllenamento::Groups(int row) const
 {
-    return {Content(Km, riga),           Content(Metri, riga),         Content(Ore, riga),
-            Content(Minuti, riga),       Content(Secondi, riga),       Content(MediaMinuti, riga),
-            Content(MediaSecondi, riga), Content(MediaMillesimi, riga)};
+    return {Content(Km, row),      Content(Metri, row),       Content(Ore, row),          Content(Minuti, row),
+            Content(Secondi, row), Content(MediaMinuti, row), Content(MediaSecondi, row), Content(MediaMillesimi, row)};
 }
 
 void frmAllenamento::cmdCalcoloMedie_Click()
 {
     Trap("cmdCalcoloMedie - ERRORE : ", [this] {
-        for (i16 riga = 1; riga <= kRows; riga += 1) {
-            CalculateRow(riga);
+        for (i16 row = 1; row <= kRows; row += 1) {
+            CalculateRow(row);
         }
     });
 }
 
-void frmAllenamento::CalculateRow(i16 riga)
+void frmAllenamento::CalculateRow(i16 row)
 {
-    const int row = riga.value();
-    if (ChiedeMediaKm(Groups(row))) {
-        CalcolaMediaKm(riga);
+    if (AsksForAverage(Groups(row.value()))) {
+        CalcolaMediaKm(row);
     }
-    if (ChiedeTempo(Groups(row))) {
-        CalcolaTempo(riga);
+    if (AsksForTime(Groups(row.value()))) {
+        CalcolaTempo(row);
     }
-    if (ChiedeDistanza(Groups(row))) {
-        CalcolaDistanza(riga);
+    if (AsksForDistance(Groups(row.value()))) {
+        CalcolaDistanza(row);
     }
-    if (SoloUnGruppo(Groups(row))) {
-        MsgBox("GIORNO " + PlainText(riga) + Text(" : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       "_t),
-               MsgButtons::OK, MsgIcon::Exclamation);
+    if (OnlyOneGroup(Groups(row.value()))) {
+        MsgBox("GIORNO " + PlainText(row) + Text(" : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       "_t), MsgButtons::OK,
+               MsgIcon::Exclamation);
     }
 }
 
-void frmAllenamento::CalcolaMediaKm(i16 riga)
+void frmAllenamento::CalcolaMediaKm(i16 row)
 {
     Trap("CalcolaMediaKm - ERRORE : ", [&] {
-        const int row = riga.value();
-        const auto media = MediaDi(Groups(row));
-        if (!media) {
-            MsgBox("GIORNO " + PlainText(riga) + ": OLTRE 60 MINUTI                 ", MsgButtons::OK,
+        const auto average = AverageFrom(Groups(row.value()));
+        if (!average) {
+            MsgBox("GIORNO " + PlainText(row) + ": OLTRE 60 MINUTI                 ", MsgButtons::OK,
                    MsgIcon::Exclamation);
             return;
         }
-        Box(MediaMinuti, row)->SetContent(PlainText(media->minuti));
-        Box(MediaSecondi, row)->SetContent(PlainText(media->secondi));
-        Box(MediaMillesimi, row)->SetContent(media->millesimi);
+        Box(MediaMinuti, row.value())->SetContent(PlainText(average->minutes));
+        Box(MediaSecondi, row.value())->SetContent(PlainText(average->seconds));
+        Box(MediaMillesimi, row.value())->SetContent(average->thousandths);
     });
 }
 
-void frmAllenamento::CalcolaDistanza(i16 riga)
+void frmAllenamento::CalcolaDistanza(i16 row)
 {
     Trap("CalcolaDistanza - ERRORE : ", [&] {
-        const int row = riga.value();
-        const DistanzaRiga distanza = DistanzaDi(Groups(row));
-        Box(Km, row)->SetContent(PlainText(distanza.km));
-        Box(Metri, row)->SetContent(PlainText(distanza.metri));
+        const RowDistance distance = DistanceFrom(Groups(row.value()));
+        Box(Km, row.value())->SetContent(PlainText(distance.km));
+        Box(Metri, row.value())->SetContent(PlainText(distance.metres));
     });
 }
 
-void frmAllenamento::CalcolaTempo(i16 riga)
+void frmAllenamento::CalcolaTempo(i16 row)
 {
     Trap("CalcolaTempo - ERRORE : ", [&] {
-        const int row = riga.value();
-        const TempoRiga tempo = TempoDi(Groups(row));
-        Box(Ore, row)->SetContent(PlainText(tempo.ore));
-        Box(Minuti, row)->SetContent(PlainText(tempo.minuti));
-        Box(Secondi, row)->SetContent(PlainText(tempo.secondi));
+        const RowTime time = TimeFrom(Groups(row.value()));
+        Box(Ore, row.value())->SetContent(PlainText(time.hours));
+        Box(Minuti, row.value())->SetContent(PlainText(time.minutes));
+        Box(Secondi, row.value())->SetContent(PlainText(time.seconds));
     });
 }
 

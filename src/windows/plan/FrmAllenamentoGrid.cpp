@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The table editor's controls: what stands where, and the events of its boxes.
+// The table editor's controls: their places, and the events of its boxes.
 #include "core/Conversions.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/Menu.h"
-#include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "windows/plan/FrmAllenamento.h"
 #include "windows/plan/TableColours.h"
@@ -72,21 +71,21 @@ void frmAllenamento::BuildHeads()
     }
 }
 
-void frmAllenamento::BuildLabels(int riga)
+void frmAllenamento::BuildLabels(int row)
 {
-    const int top = RowTop(riga);
-    lblGiorni[riga] =
-        MakeLabel(this, Indexed("lblGiorni", riga), " " + PlainText(i32(riga)), {4, top, 46, kBoxHeight}, HeadFont());
-    SetBackColour(*lblGiorni[riga], TableColours::Accepted);
-    lblGiorni[riga]->MouseUp = [this, riga](Qt::MouseButton button, const QPoint& position) {
+    const int top = RowTop(row);
+    lblGiorni[row] =
+        MakeLabel(this, Indexed("lblGiorni", row), " " + PlainText(i32(row)), {4, top, 46, kBoxHeight}, HeadFont());
+    SetBackColour(*lblGiorni[row], TableColours::Accepted);
+    lblGiorni[row]->MouseUp = [this, row](Qt::MouseButton button, const QPoint& position) {
         if (button == Qt::RightButton) {
-            ShowRowMenu(riga, position);
+            ShowRowMenu(row, position);
         }
     };
     for (std::size_t strip = 0; strip < kStripData.size(); ++strip) {
         const StripData& place = kStripData[strip];
-        strips_[strip][riga] =
-            MakeLabel(this, Indexed(place.name, riga), "", {place.left, top, place.width, kBoxHeight}, StripFont());
+        strips_[strip][row] =
+            MakeLabel(this, Indexed(place.name, row), "", {place.left, top, place.width, kBoxHeight}, StripFont());
     }
 }
 
@@ -94,14 +93,14 @@ void frmAllenamento::BuildGrid()
 {
     grid_.Click = [this] { BeginEditing(); };
     grid_.signs = {RipetVolte, kRepetitionStrip, kBlankRepetitionStrip,
-                   [this](int riga) { return StripOf(LblRipetizioni, riga); }};
+                   [this](int row) { return StripOf(LblRipetizioni, row); }};
     grid_.Build(this, Look(kRows, kTop, kBoxHeight));
     grid_.Speak("Giorno");
-    for (int riga = 1; riga <= kRows; ++riga) {
-        PaintRow(riga, TableColours::Editing);
-        WriteRow(riga, TableColours::Fore);
-        grid_.VisitRow(riga, [&](TextBox& box) {
-            box.MenuKey = [this, riga](const QPoint& position) { ShowRowMenu(riga, position); };
+    for (int row = 1; row <= kRows; ++row) {
+        PaintRow(row, TableColours::Editing);
+        WriteRow(row, TableColours::Fore);
+        grid_.VisitRow(row, [&](TextBox& box) {
+            box.MenuKey = [this, row](const QPoint& position) { ShowRowMenu(row, position); };
         });
     }
 }
@@ -155,17 +154,17 @@ void frmAllenamento::BuildRowMenu()
 
 void frmAllenamento::BeginEditing()
 {
-    for (i16 riga = 1; riga <= kRows; riga += 1) {
-        ColoreSfondo(riga);
+    for (i16 row = 1; row <= kRows; row += 1) {
+        ColoreSfondo(row);
     }
     cmdAttiva->setEnabled(false);
 }
 
 /// Chooses a row and offers what can be done with it.
-void frmAllenamento::ShowRowMenu(int riga, const QPoint& position)
+void frmAllenamento::ShowRowMenu(int row, const QPoint& position)
 {
-    RigaSelezionata = riga;
-    ColoreRiga(riga);
+    RigaSelezionata = row;
+    ColoreRiga(row);
     mnuRigheTabella->exec(position);
 }
 
@@ -173,12 +172,10 @@ frmAllenamento::frmAllenamento(TableWindows& windows)
     : Form(QStringLiteral("frmAllenamento")), mnuRigheTabella(new QMenu(this)), windows_(windows)
 {
     setWindowTitle(QStringLiteral("Tabella allenamento "));
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(kWidth, kHeight);
+    LayOnPaper({kWidth, kHeight});
     BuildHeads();
-    for (int riga = 1; riga <= kRows; ++riga) {
-        BuildLabels(riga);
+    for (int row = 1; row <= kRows; ++row) {
+        BuildLabels(row);
     }
     BuildGrid();
     BuildPanel();

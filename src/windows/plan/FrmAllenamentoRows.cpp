@@ -31,12 +31,11 @@ CalendarDate frmAllenamento::DateOfBoxes() const
     return DateValue(dateBoxes[0]->Content() + "/" + dateBoxes[1]->Content() + "/" + dateBoxes[2]->Content());
 }
 
-void frmAllenamento::AssegnaTab(i16 riga)
+void frmAllenamento::AssegnaTab(i16 row)
 {
     Trap("AssegnaTab - ERRORE : ", [&] {
-        const int row = riga.value();
         for (int column = 0; column < kColumns; ++column) {
-            grid_.Store(column, row, row);
+            grid_.Store(column, row.value(), row.value());
         }
         if (ContaCampiData() == 3) {
             TabDataInizio = DateOfBoxes();
@@ -44,27 +43,27 @@ void frmAllenamento::AssegnaTab(i16 riga)
     });
 }
 
-void frmAllenamento::CopiaRiga(i16 destinazione, i16 sorgente)
+void frmAllenamento::CopiaRiga(i16 target, i16 source)
 {
     for (int column = 0; column < kColumns; ++column) {
-        SetCell(grid_.Column(column).cell(destinazione.value()), Content(column, sorgente.value()), CellFormat::Plain);
+        SetCell(grid_.Column(column).cell(target.value()), Content(column, source.value()), CellFormat::Plain);
     }
 }
 
-void frmAllenamento::AzzeraRiga(i16 riga)
+void frmAllenamento::AzzeraRiga(i16 row)
 {
     for (const GridColumn& column : kPlanColumns) {
-        SetCell(column.cell(riga.value()), {}, column.format);
+        SetCell(column.cell(row.value()), {}, column.format);
     }
 }
 
-void frmAllenamento::ShowRow(int riga)
+void frmAllenamento::ShowRow(int row)
 {
-    if (TabRipetVolte[riga] != 0) {
-        grid_.ShowSigns(riga, true);
+    if (TabRipetVolte[row] != 0) {
+        grid_.ShowSigns(row, true);
     }
     for (int column = 0; column < kColumns; ++column) {
-        grid_.Box(column, riga)->SetContent(grid_.Stored(column, riga));
+        grid_.Box(column, row)->SetContent(grid_.Stored(column, row));
     }
 }
 
@@ -81,50 +80,50 @@ void frmAllenamento::ShowStartDate()
 void frmAllenamento::TabAssegnaTxt()
 {
     Trap("TabAssegnaTxt - ERRORE : ", [this] {
-        for (int riga = 1; riga <= kRows; ++riga) {
-            ShowRow(riga);
+        for (int row = 1; row <= kRows; ++row) {
+            ShowRow(row);
         }
         ShowStartDate();
     });
 }
 
-bool frmAllenamento::RowDiffers(int riga) const
+bool frmAllenamento::RowDiffers(int row) const
 {
     bool differs = false;
     for (int column = 0; column < kColumns; ++column) {
         // Each box is read, so that one that can't be is reported.
-        differs = !grid_.Holds(column, riga, riga) || differs;
+        differs = !grid_.Holds(column, row, row) || differs;
     }
     return differs;
 }
 
 i16 frmAllenamento::ControllaSaveTab()
 {
-    i16 esito = 0;
+    i16 result = 0;
     Trap("ControllaSaveTab - ERRORE : ", [&] {
-        for (int riga = 1; riga <= kRows; ++riga) {
-            if (RowDiffers(riga)) {
-                esito = 1;
+        for (int row = 1; row <= kRows; ++row) {
+            if (RowDiffers(row)) {
+                result = 1;
             }
         }
         if (ContaCampiData() == 3 && DateOfBoxes() != TabDataInizio) {
-            esito = 1;
+            result = 1;
         }
     });
-    return esito;
+    return result;
 }
 
 i16 frmAllenamento::ContaCampiData()
 {
     ControlloData();
-    i16 validi = 0;
+    i16 valid = 0;
     const std::pair<int, int> fields[] = {{DateNumber(0), 31}, {DateNumber(1), 12}, {DateNumber(2), 2099}};
     for (const auto& [value, highest] : fields) {
         if (value >= 1 && value <= highest) {
-            validi += 1;
+            valid += 1;
         }
     }
-    return validi;
+    return valid;
 }
 
 void frmAllenamento::ControlloData()

@@ -8,7 +8,6 @@
 #include "diary/Module1.h"
 #include "diary/Workspace.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "windows/plan/TablePage.h"
 #include "windows/plan/TableWindows.h"
@@ -25,9 +24,9 @@ namespace
 
 constexpr TextView kChooseTable = "SELEZIONARE UNA TABELLA       ";
 
-Text PathOf(const Text& voce)
+Text PathOf(const Text& entry)
 {
-    return CartellaDiario + "\\" + voce;
+    return CartellaDiario + "\\" + entry;
 }
 
 constexpr QRect ButtonPlace(int top)
@@ -46,9 +45,7 @@ frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
       cmdEsci(MakeButton(this, "cmdEsci", "Esci", ButtonPlace(244), [this] { Unload(); })), windows_(windows)
 {
     setWindowTitle(QStringLiteral("Lista Tabelle Allenamenti"));
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(524, 300);
+    LayOnPaper({524, 300});
     flbListaTabelle->setGeometry(20, 20, 288, 260);
     flbListaTabelle->setFont(PageFont("Times New Roman", 16));
     flbListaTabelle->setAccessibleName(QStringLiteral("Tabelle di allenamento"));
@@ -94,11 +91,11 @@ void frmTabAllenamenti::SelectActive()
     }
 }
 
-void frmTabAllenamenti::Select(const Text& voce)
+void frmTabAllenamenti::Select(const Text& entry)
 {
-    const std::vector<Text> voci = flbListaTabelle->Items();
-    const auto found = std::find(voci.begin(), voci.end(), voce);
-    flbListaTabelle->SetListIndex(found == voci.end() ? -1 : static_cast<int>(found - voci.begin()));
+    const std::vector<Text> entries = flbListaTabelle->Items();
+    const auto found = std::find(entries.begin(), entries.end(), entry);
+    flbListaTabelle->SetListIndex(found == entries.end() ? -1 : static_cast<int>(found - entries.begin()));
 }
 
 Text frmTabAllenamenti::Selected() const
@@ -115,14 +112,15 @@ void frmTabAllenamenti::cmdOK_Click()
 {
     Trap("cmdOk - ERRORE : ", [this] {
         NomeTabellaAperta.clear();
-        const Text voce = Selected();
-        if (voce.empty()) {
+        const Text entry = Selected();
+        if (entry.empty()) {
             MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
             return;
         }
-        NomeTabellaAperta = PathOf(voce);
+        NomeTabellaAperta = PathOf(entry);
         ShowEditor();
-        windows_.Editor().setWindowTitle(ToQString("Tabella allenamento : " + NomeSenzaEstensione(voce) + "    di   "));
+        windows_.Editor().setWindowTitle(
+            ToQString("Tabella allenamento : " + NomeSenzaEstensione(entry) + "    di   "));
     });
 }
 
@@ -134,17 +132,17 @@ void frmTabAllenamenti::cmdNuovaTab_Click()
 void frmTabAllenamenti::cmdCancellaTab_Click()
 {
     Trap("cmdCancellaTab - ERRORE : ", [this] {
-        const Text voce = Selected();
-        const Text percorso = PathOf(voce);
-        if (voce.empty()) {
+        const Text entry = Selected();
+        const Text path = PathOf(entry);
+        if (entry.empty()) {
             MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
-        } else if (MsgBox(" CANCELLARE LA TABELLA " + voce + " ?", MsgButtons::YesNoCancel, MsgIcon::Information) ==
+        } else if (MsgBox(" CANCELLARE LA TABELLA " + entry + " ?", MsgButtons::YesNoCancel, MsgIcon::Information) ==
                    MsgAnswer::Yes) {
-            DeleteFile(percorso);
+            DeleteFile(path);
             RefreshList();
         }
         // Whatever the answer was, the active table is switched off.
-        if (SameText(percorso, NomeTabellaAttiva)) {
+        if (SameText(path, NomeTabellaAttiva)) {
             NomeTabellaAttiva.clear();
             SalvaNomeTabella();
             windows_.Page().SetActiveTableName({});

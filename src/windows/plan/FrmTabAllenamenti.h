@@ -43,7 +43,7 @@ public:
 
 private:
     Text Selected() const;
-    void Select(const Text& voce);
+    void Select(const Text& entry);
     void ShowEditor();
 
     TableWindows& windows_;

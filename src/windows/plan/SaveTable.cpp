@@ -17,8 +17,8 @@ using namespace Module1;
 
 bool SalvaTabellaConNome(CommonDialog& dialog)
 {
-    bool riprova = false;
-    bool scritta = false;
+    bool again = false;
+    bool written = false;
     TrapWith(
         [&] {
             FlagTabellaSalvata = 0;
@@ -28,15 +28,14 @@ bool SalvaTabellaConNome(CommonDialog& dialog)
             dialog.Filter = "File Tabella (*.tab)|*.tab|";
             dialog.DialogTitle = "Salva Tabella con nome";
             dialog.ShowSave();
-            const Text cartella =
-                Left(dialog.FileName, std::max<std::ptrdiff_t>(InStrRev(dialog.FileName, "\\") - 1, 0));
-            if (cartella == CartellaDiario) {
-                scritta = ScriviTabella(dialog.FileName);
+            const Text folder = Left(dialog.FileName, std::max<std::ptrdiff_t>(InStrRev(dialog.FileName, "\\") - 1, 0));
+            if (folder == CartellaDiario) {
+                written = ScriviTabella(dialog.FileName);
                 return;
             }
             dialog.FileName = NomeSenzaCartella(dialog.FileName);
             MsgBox(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   ", MsgButtons::OK, MsgIcon::Critical);
-            riprova = true;
+            again = true;
             throw ErroreRunTime(Errore::Annullato);
         },
         [&](const ErroreRunTime& error) {
@@ -45,11 +44,11 @@ bool SalvaTabellaConNome(CommonDialog& dialog)
                 return;
             }
             FlagTabellaSalvata = 1;
-            if (riprova) {
-                scritta = SalvaTabellaConNome(dialog);
+            if (again) {
+                written = SalvaTabellaConNome(dialog);
             }
         });
-    return scritta;
+    return written;
 }
 
 } // namespace zelvia

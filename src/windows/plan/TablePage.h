@@ -13,7 +13,7 @@ class TablePage
 public:
     virtual ~TablePage() = default;
     /// Shows the name of the active table, or nothing.
-    virtual void SetActiveTableName(TextView nome) = 0;
+    virtual void SetActiveTableName(TextView name) = 0;
     /// Has the page read the active table again at its next tick.
     virtual void RequestTableReading() = 0;
 };

@@ -49,19 +49,19 @@ void frmCalendario::ShowOtherDiary()
 
 void frmCalendario::AzzeraPaginaGare()
 {
-    grid_.Visit([this](int column, int riga) { grid_.Box(column, riga)->SetContent({}); });
+    grid_.Visit([this](int column, int row) { grid_.Box(column, row)->SetContent({}); });
 }
 
 void frmCalendario::VisualizzaCalendarioGare()
 {
     Trap("VisualizzaCalendarioGare - ERRORE : ", [this] {
-        for (int riga = 1; riga <= kRows; ++riga) {
-            const int gara = RaceOf(riga);
-            lblNumeroGara[riga]->SetCaption(PlainText(NumeroGara[gara]));
-            grid_.ShowSigns(riga, GiornoGara[gara] > 0);
+        for (int row = 1; row <= kRows; ++row) {
+            const int race = RaceOf(row);
+            lblNumeroGara[row]->SetCaption(PlainText(NumeroGara[race]));
+            grid_.ShowSigns(row, GiornoGara[race] > 0);
         }
-        grid_.Visit([this](int column, int riga) {
-            grid_.Box(column, riga)->SetContent(RaceText(static_cast<RaceColumn>(column), RaceOf(riga)));
+        grid_.Visit([this](int column, int row) {
+            grid_.Box(column, row)->SetContent(RaceText(static_cast<RaceColumn>(column), RaceOf(row)));
         });
         grid_.Speak("Gara", PrimaGaraPagina.value());
         lblPaginaGare->setText(
@@ -72,14 +72,14 @@ void frmCalendario::VisualizzaCalendarioGare()
 void frmCalendario::ContrData()
 {
     Trap("ContrData - ERRORE : ", [this] {
-        for (int riga = 1; riga <= kRows; ++riga) {
-            const DataGara letta = {Number(RaceColumn::Giorno, riga), Number(RaceColumn::Mese, riga),
-                                    Number(RaceColumn::Anno, riga)};
-            for (const CorrezioneData& correzione : CorreggiData(letta, RaceOf(riga), DataCorrente.Year())) {
-                MsgBox(correzione.messaggio, MsgButtons::OK, MsgIcon::Exclamation);
-                if (correzione.campo != CorrezioneData::Campo::Nessuno) {
-                    const bool day = correzione.campo == CorrezioneData::Campo::Giorno;
-                    Box(day ? RaceColumn::Giorno : RaceColumn::Anno, riga)->SetContent(correzione.valore);
+        for (int row = 1; row <= kRows; ++row) {
+            const RaceDate read = {Number(RaceColumn::Giorno, row), Number(RaceColumn::Mese, row),
+                                   Number(RaceColumn::Anno, row)};
+            for (const DateCorrection& correction : CorrectDate(read, RaceOf(row), DataCorrente.Year())) {
+                MsgBox(correction.message, MsgButtons::OK, MsgIcon::Exclamation);
+                if (correction.field != DateCorrection::Field::None) {
+                    const bool day = correction.field == DateCorrection::Field::Day;
+                    Box(day ? RaceColumn::Giorno : RaceColumn::Anno, row)->SetContent(correction.value);
                 }
             }
         }
@@ -89,35 +89,35 @@ void frmCalendario::ContrData()
 void frmCalendario::AssegnaPaginaGare()
 {
     ContrData();
-    grid_.Visit([this](int column, int riga) { grid_.Store(column, riga, RaceOf(riga)); });
+    grid_.Visit([this](int column, int row) { grid_.Store(column, row, RaceOf(row)); });
 }
 
-void frmCalendario::ControllaSaveGar(i16& esito)
+void frmCalendario::ControllaSaveGar(i16& result)
 {
     Trap("ControllaSaveGar - ERRORE : ", [&] {
-        esito = 0;
-        grid_.Visit([&](int column, int riga) {
-            if (RaceDiffers(static_cast<RaceColumn>(column), RaceOf(riga), grid_.Content(column, riga))) {
-                esito = 1;
+        result = 0;
+        grid_.Visit([&](int column, int row) {
+            if (RaceDiffers(static_cast<RaceColumn>(column), RaceOf(row), grid_.Content(column, row))) {
+                result = 1;
             }
         });
     });
 }
 
-void frmCalendario::ControllaDateGare(i16& esito)
+void frmCalendario::ControllaDateGare(i16& result)
 {
-    esito = 0;
-    for (const auto& [prima, seconda] : DateDoppie()) {
-        MsgBox(MessaggioDateDoppie(prima, seconda), MsgButtons::OK, MsgIcon::Critical);
-        esito = 1;
+    result = 0;
+    for (const auto& [first, second] : SameDates()) {
+        MsgBox(SameDatesMessage(first, second), MsgButtons::OK, MsgIcon::Critical);
+        result = 1;
     }
 }
 
 void frmCalendario::AllineaLbl()
 {
     for (std::size_t i = 0; i < CalendarGrid::kPrintLabels.size(); ++i) {
-        for (int riga = 1; riga <= kRows; ++riga) {
-            printLabels_[i][riga]->SetCaption(Box(CalendarGrid::kPrintLabels[i].box, riga)->Content());
+        for (int row = 1; row <= kRows; ++row) {
+            printLabels_[i][row]->SetCaption(Box(CalendarGrid::kPrintLabels[i].box, row)->Content());
         }
     }
 }
@@ -138,9 +138,9 @@ void frmCalendario::cmdSalva_Click()
         return;
     }
     AssegnaPaginaGare();
-    i16 doppie;
-    ControllaDateGare(doppie);
-    if (doppie != 1) {
+    i16 twice;
+    ControllaDateGare(twice);
+    if (twice != 1) {
         ScriviCalendario();
         CalendarioModificato = 0;
     }
@@ -149,11 +149,11 @@ void frmCalendario::cmdSalva_Click()
 /// What the page on the screen shows, saved or not.
 CalendarSheetTexts frmCalendario::SheetTexts() const
 {
-    CalendarSheetTexts testi{.data = DataCorrente, .titolo = FromQString(windowTitle()), .righe = {}};
-    grid_.Visit([&](int column, int riga) {
-        testi.righe[static_cast<std::size_t>(riga - 1)][static_cast<std::size_t>(column)] = grid_.Content(column, riga);
+    CalendarSheetTexts texts{.date = DataCorrente, .title = FromQString(windowTitle()), .rows = {}};
+    grid_.Visit([&](int column, int row) {
+        texts.rows[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)] = grid_.Content(column, row);
     });
-    return testi;
+    return texts;
 }
 
 void frmCalendario::cmdStampa_Click()
@@ -166,7 +166,7 @@ void frmCalendario::cmdStampa_Click()
 
 bool frmCalendario::QueryUnload()
 {
-    bool annullata = false;
+    bool cancelled = false;
     Trap("Query - ERRORE : ", [&] {
         if (CalendarioModificato == 0) {
             ControllaSaveGar(CalendarioModificato);
@@ -175,21 +175,21 @@ bool frmCalendario::QueryUnload()
         if (CalendarioModificato != 1) {
             return;
         }
-        const MsgAnswer risposta = MsgBox(" IL CALENDARIO GARE NON E' STATO SALVATO, SALVARE ?           ",
-                                          MsgButtons::YesNoCancel, MsgIcon::Information);
-        annullata = risposta == MsgAnswer::Cancel;
-        if (risposta != MsgAnswer::Yes) {
+        const MsgAnswer answer = MsgBox(" IL CALENDARIO GARE NON E' STATO SALVATO, SALVARE ?           ",
+                                        MsgButtons::YesNoCancel, MsgIcon::Information);
+        cancelled = answer == MsgAnswer::Cancel;
+        if (answer != MsgAnswer::Yes) {
             return;
         }
-        i16 doppie;
-        ControllaDateGare(doppie);
-        annullata = doppie == 1;
-        if (!annullata) {
+        i16 twice;
+        ControllaDateGare(twice);
+        cancelled = twice == 1;
+        if (!cancelled) {
             ScriviCalendario();
             CalendarioModificato = 0;
         }
     });
-    return annullata;
+    return cancelled;
 }
 
 } // namespace zelvia

@@ -43,7 +43,7 @@ public:
     void upPaginaGare_Change();
 
     /// A box of the grid; rows are 1..20.
-    TextBox* Box(CalendarGrid::RaceColumn column, int riga) const { return grid_.Box(static_cast<int>(column), riga); }
+    TextBox* Box(CalendarGrid::RaceColumn column, int row) const { return grid_.Box(static_cast<int>(column), row); }
 
     i16 PrimaGaraPagina;      ///< Row of the calendar before the first of the page: 0, 20, 40, 60 or 80.
     i16 CalendarioModificato; ///< 1 when the last comparison found the page different from the columns.
@@ -62,14 +62,14 @@ protected:
 
 private:
     void BuildHeads();
-    void BuildLabels(int riga);
+    void BuildLabels(int row);
     void BuildGrid();
     void BuildFoot();
-    double Number(CalendarGrid::RaceColumn column, int riga) const
+    double Number(CalendarGrid::RaceColumn column, int row) const
     {
-        return grid_.Number(static_cast<int>(column), riga);
+        return grid_.Number(static_cast<int>(column), row);
     }
-    int RaceOf(int riga) const { return PrimaGaraPagina.value() + riga; }
+    int RaceOf(int row) const { return PrimaGaraPagina.value() + row; }
 
     void Load();
     void ShowPage();
@@ -77,10 +77,10 @@ private:
     void AssegnaPaginaGare();
     void AzzeraPaginaGare();
     CalendarSheetTexts SheetTexts() const;
-    /// `esito` becomes 1 when the page differs from the columns, else 0.
-    void ControllaSaveGar(i16& esito);
-    /// `esito` becomes 1 when two rows carry the same date, else 0; says so for each two.
-    void ControllaDateGare(i16& esito);
+    /// `result` becomes 1 when the page differs from the columns, else 0.
+    void ControllaSaveGar(i16& result);
+    /// `result` becomes 1 when two rows carry the same date, else 0; says so for each two.
+    void ControllaDateGare(i16& result);
 
     BoxGrid grid_{CalendarGrid::kRaceColumns};
     std::array<BoundedArray<Label*, 1, CalendarGrid::kRows>, CalendarGrid::kPrintLabels.size()> printLabels_;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The race calendar's controls: what stands where, and the events of its boxes.
+// The race calendar's controls: their places, and the events of its boxes.
 #include "toolkit/Colours.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
@@ -20,7 +20,7 @@ using namespace CalendarGrid;
 namespace
 {
 
-// Places of what stands above and below the grid.
+// Places above and below the grid.
 constexpr QRect kTitle{40, 22, 500, 38};
 constexpr QRect kPageName{1000, 22, 150, 38};
 constexpr QRect kPageSpin{1184, 25, 26, 32};
@@ -51,7 +51,7 @@ QFont PenFont()
     return font;
 }
 
-/// The signs that stand between the boxes of a distance and of a time.
+/// The signs between the boxes of a distance and of a time.
 struct Separators {
     const char* name;
     TextView caption;
@@ -72,7 +72,7 @@ constexpr Group kGroups[] = {{"lblTitoloData", "Data", 66, 147},
                              {"lblTitoloTempo", "Tempo", 930, 118},
                              {"lblTitoloRisultato", "Risultato", 1152, 76}};
 
-/// Where the printed rules between the groups of columns stand.
+/// The printed rules between the groups of columns.
 constexpr int kColumnRules[] = {57, 218, 481, 659, 753, 839, 925, 1053, 1147};
 
 void DrawHead(QPainter& painter)
@@ -90,8 +90,8 @@ void DrawHead(QPainter& painter)
 void DrawGridRules(QPainter& painter)
 {
     constexpr int bottom = RowTop(kRows) + kBoxHeight + 1;
-    for (int riga = 1; riga <= kRows; ++riga) {
-        painter.fillRect(kNumberLeft, RowTop(riga) + kBoxHeight + 1, kRight - kNumberLeft, 1, Ink::Rule);
+    for (int row = 1; row <= kRows; ++row) {
+        painter.fillRect(kNumberLeft, RowTop(row) + kBoxHeight + 1, kRight - kNumberLeft, 1, Ink::Rule);
     }
     painter.fillRect(kNumberLeft, kTop - 3, kRight - kNumberLeft, 1, Ink::Rule);
     for (const int x : kColumnRules) {
@@ -103,12 +103,10 @@ void DrawGridRules(QPainter& painter)
 
 frmCalendario::frmCalendario() : Form(QStringLiteral("frmCalendario"))
 {
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(kWidth, kHeight);
+    LayOnPaper({kWidth, kHeight});
     BuildHeads();
-    for (int riga = 1; riga <= kRows; ++riga) {
-        BuildLabels(riga);
+    for (int row = 1; row <= kRows; ++row) {
+        BuildLabels(row);
     }
     BuildGrid();
     BuildFoot();
@@ -135,26 +133,27 @@ void frmCalendario::BuildHeads()
     }
 }
 
-void frmCalendario::BuildLabels(int riga)
+void frmCalendario::BuildLabels(int row)
 {
-    const int top = RowTop(riga);
-    lblNumeroGara[riga] = MakeLabel(this, Indexed("lblNumeroGara", riga), {},
-                                    {kNumberLeft, top, kNumberWidth, kBoxHeight}, PrintFont(14));
-    lblNumeroGara[riga]->setAlignment(Qt::AlignCenter);
-    lblGiornoGara[riga] = MakeLabel(this, Indexed("lblGiornoGara", riga), kBlankDateStrip,
-                                    {kDateStripLeft, top, kDateStripWidth, kBoxHeight}, StripFont());
-    for (const Separators& row : kSeparators) {
-        MakeLabel(this, Indexed(row.name, riga), row.caption, {row.left, top, row.width, kBoxHeight}, StripFont());
+    const int top = RowTop(row);
+    lblNumeroGara[row] =
+        MakeLabel(this, Indexed("lblNumeroGara", row), {}, {kNumberLeft, top, kNumberWidth, kBoxHeight}, PrintFont(14));
+    lblNumeroGara[row]->setAlignment(Qt::AlignCenter);
+    lblGiornoGara[row] = MakeLabel(this, Indexed("lblGiornoGara", row), kBlankDateStrip,
+                                   {kDateStripLeft, top, kDateStripWidth, kBoxHeight}, StripFont());
+    for (const Separators& signs : kSeparators) {
+        MakeLabel(this, Indexed(signs.name, row), signs.caption, {signs.left, top, signs.width, kBoxHeight},
+                  StripFont());
     }
     for (std::size_t i = 0; i < kPrintLabels.size(); ++i) {
-        printLabels_[i][riga] = new Label(this, Indexed(kPrintLabels[i].name, riga));
-        printLabels_[i][riga]->SetVisible(false);
+        printLabels_[i][row] = new Label(this, Indexed(kPrintLabels[i].name, row));
+        printLabels_[i][row]->SetVisible(false);
     }
 }
 
 void frmCalendario::BuildGrid()
 {
-    grid_.signs = {0, kDateStrip, kBlankDateStrip, [this](int riga) { return lblGiornoGara[riga]; }};
+    grid_.signs = {0, kDateStrip, kBlankDateStrip, [this](int row) { return lblGiornoGara[row]; }};
     grid_.Build(this, {.rows = kRows,
                        .top = kTop,
                        .step = kStep,

@@ -14,22 +14,22 @@ Text RaceText(RaceColumn column, int race)
     if (column <= RaceColumn::Anno && !(Module1::GiornoGara[race] > 0)) {
         return {};
     }
-    const GridColumn& data = kRaceColumns[IndexOf(column)];
-    return CellText(data.cell(race), data.format);
+    const GridColumn& shown = kRaceColumns[IndexOf(column)];
+    return CellText(shown.cell(race), shown.format);
 }
 
 bool RaceDiffers(RaceColumn column, int race, TextView text)
 {
-    const GridColumn& data = kRaceColumns[IndexOf(column)];
+    const GridColumn& shown = kRaceColumns[IndexOf(column)];
     return std::visit(
         [&]<typename Value>(const Value* value) {
             if constexpr (std::same_as<Value, Text>) {
                 return !SameText(*value, text);
             } else {
-                return CellNumber(text, data.format) != static_cast<double>(value->value());
+                return CellNumber(text, shown.format) != static_cast<double>(value->value());
             }
         },
-        data.cell(race));
+        shown.cell(race));
 }
 
 } // namespace zelvia::CalendarGrid

@@ -8,11 +8,11 @@
 #include "diary/RouteModel.h"
 #include "diary/RouteTotals.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "windows/routes/RoutePage.h"
 
 #include <array>
+#include <optional>
 
 namespace zelvia
 {
@@ -37,9 +37,9 @@ constexpr int kKmWidth = 56;
 constexpr int kMetriLeft = 776;
 constexpr int kMetriWidth = 64;
 
-constexpr int RowTop(int riga)
+constexpr int RowTop(int row)
 {
-    return kTop + (riga - 1) * kRowStep;
+    return kTop + (row - 1) * kRowStep;
 }
 
 constexpr int kTotalTop = RowTop(kRows + 1) + 10;
@@ -79,6 +79,16 @@ std::array<i32, kRows> Parsed(const BoundedArray<TextBox*, 1, kRows>& boxes)
     return numbers;
 }
 
+/// Tells when there is no place for the route.
+std::optional<i16> PlaceOfCurrentRoute()
+{
+    const auto place = RoutePlace(PercorsoCorrente);
+    if (!place) {
+        MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+    }
+    return place;
+}
+
 Text EmptyForZero(i32 number)
 {
     return number == 0 ? Text() : PlainText(number);
@@ -91,9 +101,7 @@ frmDesPercorso::frmDesPercorso(QWidget* owner, RoutePage& page)
 {
     setWindowTitle(QStringLiteral(" Percorso "));
     setWindowModality(Qt::WindowModal);
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
-    setFixedSize(kSize);
+    LayOnPaper(kSize);
     BuildLabels();
     BuildGrid();
     BuildTotals();
@@ -109,10 +117,10 @@ void frmDesPercorso::BuildLabels()
     make(QStringLiteral("lblDescrizione"), " Descrizione ", kTextLeft, headTop, 200);
     make(QStringLiteral("lblKm"), " Km ", kKmLeft, headTop, kKmWidth);
     make(QStringLiteral("lblMetri"), " Metri ", kMetriLeft, headTop, kMetriWidth);
-    for (int riga = 1; riga <= kRows; ++riga) {
-        const Text caption = (riga < 10 ? " " : "") + PlainText(i32(riga)) + Text("°Tratto"_t);
-        make(Indexed("lblTratto", riga), caption, kLabelLeft, RowTop(riga), kTextLeft - kLabelLeft - 8);
-        make(Indexed("lblDescr", riga), "", kTextLeft, RowTop(riga), kTextWidth);
+    for (int row = 1; row <= kRows; ++row) {
+        const Text caption = (row < 10 ? " " : "") + PlainText(i32(row)) + Text("°Tratto"_t);
+        make(Indexed("lblTratto", row), caption, kLabelLeft, RowTop(row), kTextLeft - kLabelLeft - 8);
+        make(Indexed("lblDescr", row), "", kTextLeft, RowTop(row), kTextWidth);
     }
     make(QStringLiteral("lblTotale"), " Totale", kKmLeft - 80, kTotalTop, 76);
 }
@@ -123,11 +131,11 @@ void frmDesPercorso::BuildGrid()
     grid_.Edited = [] { FileModificato = 1; };
     grid_.Build(this, Look(kRows, kTop));
     grid_.Speak("Tratto");
-    for (int riga = 1; riga <= kRows; ++riga) {
-        txtTratto[riga] = grid_.Box(0, riga);
-        txtKm[riga] = grid_.Box(1, riga);
-        txtMetri[riga] = grid_.Box(2, riga);
-        txtKm[riga]->LostFocus = txtMetri[riga]->LostFocus = [this] { CalcolaDistanza(); };
+    for (int row = 1; row <= kRows; ++row) {
+        txtTratto[row] = grid_.Box(0, row);
+        txtKm[row] = grid_.Box(1, row);
+        txtMetri[row] = grid_.Box(2, row);
+        txtKm[row]->LostFocus = txtMetri[row]->LostFocus = [this] { CalcolaDistanza(); };
     }
 }
 
@@ -142,15 +150,14 @@ void frmDesPercorso::BuildTotals()
 void frmDesPercorso::VisualizzaListaPercorso()
 {
     Trap("VisualizzaListaPercorso - ERRORE : ", [this] {
-        const auto posto = PostoPercorso(PercorsoCorrente);
-        if (!posto) {
-            MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+        const auto place = PlaceOfCurrentRoute();
+        if (!place) {
             return;
         }
         for (int j = 1; j <= kRows; ++j) {
-            txtTratto[j]->SetContent(TrattoDescrizione[*posto][j]);
-            txtKm[j]->SetContent(EmptyForZero(TrattoKm[*posto][j]));
-            txtMetri[j]->SetContent(EmptyForZero(TrattoMetri[*posto][j]));
+            txtTratto[j]->SetContent(TrattoDescrizione[*place][j]);
+            txtKm[j]->SetContent(EmptyForZero(TrattoKm[*place][j]));
+            txtMetri[j]->SetContent(EmptyForZero(TrattoMetri[*place][j]));
         }
         CalcolaDistanza();
     });
@@ -161,36 +168,35 @@ void frmDesPercorso::CalcolaDistanza()
     Trap("CalcolaDistanza - ERRORE : ", [this] {
         TotaleKm = TotaleMetri = RestoMetri = 0;
         // The kilometres are on show before the metres are added: these may be too many.
-        TotaleKm = SommaTratti(Parsed(txtKm));
+        TotaleKm = SumOfStretches(Parsed(txtKm));
         txtDistanzaKm->SetContent(PlainText(TotaleKm));
-        TotaleMetri = SommaTratti(Parsed(txtMetri));
-        const LunghezzaPercorso totale = Lunghezza(TotaleKm, TotaleMetri);
-        TotaleKm = totale.km;
-        if (TotaleMetri != totale.metri) {
-            RestoMetri = totale.metri;
+        TotaleMetri = SumOfStretches(Parsed(txtMetri));
+        const RouteLength total = LengthOf(TotaleKm, TotaleMetri);
+        TotaleKm = total.km;
+        if (TotaleMetri != total.metres) {
+            RestoMetri = total.metres;
         }
-        txtDistanzaKm->SetContent(PlainText(totale.km));
-        txtDistanzaMetri->SetContent(PlainText(totale.metri));
+        txtDistanzaKm->SetContent(PlainText(total.km));
+        txtDistanzaMetri->SetContent(PlainText(total.metres));
     });
 }
 
 void frmDesPercorso::AssegnaArray()
 {
     Trap("AssegnaArray - ERRORE : ", [this] {
-        const auto posto = PostoPercorso(PercorsoCorrente);
-        if (!posto) {
-            MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+        const auto place = PlaceOfCurrentRoute();
+        if (!place) {
             return;
         }
         for (int j = 1; j <= kRows; ++j) {
-            TrattoDescrizione[*posto][j] = txtTratto[j]->Content();
-            TrattoKm[*posto][j] = Parsed(*txtKm[j]);
-            TrattoMetri[*posto][j] = Parsed(*txtMetri[j]);
+            TrattoDescrizione[*place][j] = txtTratto[j]->Content();
+            TrattoKm[*place][j] = Parsed(*txtKm[j]);
+            TrattoMetri[*place][j] = Parsed(*txtMetri[j]);
         }
         const i32 km = Parsed(*txtDistanzaKm);
-        const i32 metri = Parsed(*txtDistanzaMetri);
-        DistanzePercorso[*posto] = km * 1000 + metri;
-        page_.SetDistance(km, metri);
+        const i32 metres = Parsed(*txtDistanzaMetri);
+        DistanzePercorso[*place] = km * 1000 + metres;
+        page_.SetDistance(km, metres);
         AzzeraVideo();
     });
 }
@@ -198,7 +204,7 @@ void frmDesPercorso::AssegnaArray()
 void frmDesPercorso::AzzeraVideo()
 {
     Trap("AzzeraVideo - ERRORE : ", [this] {
-        grid_.Visit([this](int column, int riga) { grid_.Box(column, riga)->SetContent({}); });
+        grid_.Visit([this](int column, int row) { grid_.Box(column, row)->SetContent({}); });
         txtDistanzaKm->SetContent({});
         txtDistanzaMetri->SetContent({});
     });

@@ -13,7 +13,7 @@ class RoutePage
 public:
     virtual ~RoutePage() = default;
     /// Puts a distance into the spin controls of the day.
-    virtual void SetDistance(i32 km, i32 metri) = 0;
+    virtual void SetDistance(i32 km, i32 metres) = 0;
 };
 
 } // namespace zelvia

@@ -42,8 +42,8 @@ namespace
 
 void Take(RaceColumn column, int race, TextView text)
 {
-    const GridColumn& data = CalendarGrid::kRaceColumns[IndexOf(column)];
-    SetCell(data.cell(race), text, data.format);
+    const GridColumn& taken = CalendarGrid::kRaceColumns[IndexOf(column)];
+    SetCell(taken.cell(race), text, taken.format);
 }
 
 /// The number that a row of a column holds.
@@ -243,7 +243,7 @@ void CellsTest::RowsAreBounded()
     QCOMPARE(RaisedBy([] { (void)RaceText(RaceColumn::Km, 101); }), 9);
     QCOMPARE(RaisedBy([] { Take(RaceColumn::Gara, -1, "x"); }), 9);
     QCOMPARE(RaisedBy([] { (void)RaceDiffers(RaceColumn::Km, 101, ""); }), 9);
-    QCOMPARE(RaisedBy([] { (void)TestiDellaGara(101); }), 9);
+    QCOMPARE(RaisedBy([] { (void)RaceTextsOf(101); }), 9);
 }
 
 void CellsTest::RaceOnThePage_data()
@@ -275,11 +275,11 @@ void CellsTest::RaceOnThePage()
     Gara[8] = "stracitt\xE0";
     Localita[8] = " LAGO";
     Categoria[8] = "S50 ";
-    const TestiGara testi = TestiDellaGara(8);
-    QCOMPARE(Bytes(testi.lunghezza + "|" + testi.partecipanti + "|" + testi.tempo + "|" + testi.risultato + "|" +
-                   testi.risultatoCat),
+    const RaceTexts texts = RaceTextsOf(8);
+    QCOMPARE(Bytes(texts.lunghezza + "|" + texts.partecipanti + "|" + texts.tempo + "|" + texts.risultato + "|" +
+                   texts.risultatoCat),
              shown);
-    QCOMPARE(Bytes(testi.gara + "|" + testi.localita + "|" + testi.categoria), QByteArray("stracitt\xE0| LAGO|S50 "));
+    QCOMPARE(Bytes(texts.gara + "|" + texts.localita + "|" + texts.categoria), QByteArray("stracitt\xE0| LAGO|S50 "));
 }
 
 QTEST_APPLESS_MAIN(CellsTest)
