@@ -15,8 +15,7 @@ RaceTexts RaceTextsOf(i16 row)
     texts.gara = Gara[row];
     texts.localita = Localita[row];
     texts.partecipanti = Format(Partecipanti[row], thousands);
-    texts.tempo =
-        PlainText(OreGara[row]) + ":" + Format(MinutiGara[row], "00") + ":" + Format(SecondiGara[row], "00");
+    texts.tempo = PlainText(OreGara[row]) + ":" + Format(MinutiGara[row], "00") + ":" + Format(SecondiGara[row], "00");
     texts.risultato = Format(Risultato[row], thousands);
     texts.categoria = Categoria[row];
     texts.risultatoCat = Format(RisultatoCat[row], thousands);

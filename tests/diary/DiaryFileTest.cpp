@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/DiaryFile.h"
-#include "diary/Fields.h"
 
+#include "diary/Fields.h"
 #include "diary/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
