@@ -19,18 +19,18 @@ bool IsLetter(char c)
 
 } // namespace
 
-Text SenzaPuntoMigliaia(TextView testo)
+Text SenzaPuntoMigliaia(TextView text)
 {
-    Text plain(testo);
+    Text plain(text);
     if (const auto dot = plain.find('.'); dot != Text::npos) {
         plain.erase(dot, 1);
     }
     return plain;
 }
 
-Text ConPuntoMigliaia(TextView testo)
+Text ConPuntoMigliaia(TextView text)
 {
-    Text dotted = SenzaPuntoMigliaia(testo);
+    Text dotted = SenzaPuntoMigliaia(text);
     constexpr std::size_t shortest = 4;
     if (dotted.size() >= shortest) {
         dotted.insert(dotted.size() - 3, 1, '.');
@@ -38,14 +38,14 @@ Text ConPuntoMigliaia(TextView testo)
     return dotted;
 }
 
-Text ControlloMaiuscole(Text& testo)
+Text ControlloMaiuscole(Text& text)
 {
-    for (std::size_t i = 1; i < testo.size(); ++i) {
-        if (IsLetter(testo[i - 1]) && IsUpper(testo[i])) {
-            testo[i] = static_cast<char>(testo[i] + ('a' - 'A'));
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (IsLetter(text[i - 1]) && IsUpper(text[i])) {
+            text[i] = static_cast<char>(text[i] + ('a' - 'A'));
         }
     }
-    return testo;
+    return text;
 }
 
 } // namespace zelvia::Module1
