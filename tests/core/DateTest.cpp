@@ -4,7 +4,7 @@
 
 #include "core/Conversions.h"
 #include "support/Bytes.h"
-#include "support/Days.h"
+#include "support/FixedClock.h"
 
 #include <QTest>
 

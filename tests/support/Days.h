@@ -4,6 +4,7 @@
 
 #include "core/Date.h"
 #include "diary/Module1.h"
+#include "support/FixedClock.h"
 
 #include <cstdio>
 #include <string>
@@ -12,19 +13,6 @@
 
 namespace zelvia::test
 {
-
-/// Holds the system date at one day for as long as it lives.
-class FixedClock
-{
-public:
-    explicit FixedClock(CalendarDate date)
-    {
-        SetClock([date] { return date; });
-    }
-    FixedClock(const FixedClock&) = delete;
-    FixedClock& operator=(const FixedClock&) = delete;
-    ~FixedClock() { SetClock({}); }
-};
 
 inline void ForgetDays()
 {
