@@ -66,6 +66,9 @@ FocusController& FocusController::Instance()
 
 FocusController::FocusController()
 {
+    constexpr std::size_t room = 64;
+    deferred_.reserve(room);
+    shown_.reserve(room);
     connect(qApp, &QApplication::focusChanged, this, &FocusController::OnFocusChanged);
 }
 
@@ -236,10 +239,11 @@ bool FocusController::DeferVisibility(Control& control)
 
 void FocusController::ShowDeferred()
 {
+    shown_.clear();
+    shown_.swap(deferred_);
     // What is shown comes first: it may have been given the focus, which then does not pass through the sink.
-    std::vector<Control*> controls = std::exchange(deferred_, {});
-    std::stable_partition(controls.begin(), controls.end(), [](const Control* control) { return control->Visible(); });
-    for (Control* control : controls) {
+    std::stable_partition(shown_.begin(), shown_.end(), [](const Control* control) { return control->Visible(); });
+    for (Control* control : shown_) {
         if (control->Visible() != control->Widget().isVisibleTo(control->Widget().parentWidget())) {
             control->ApplyVisible();
         }
