@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The start, and the files that belong to a diary.
+#include "core/Conversions.h"
+#include "core/Files.h"
+#include "core/RunTimeError.h"
+#include "diary/CalendarModel.h"
+#include "diary/DiaryFile.h"
+#include "diary/FileCommands.h"
+#include "diary/Module1.h"
+#include "diary/RouteModel.h"
+#include "diary/Workspace.h"
+
+#include <algorithm>
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+namespace
+{
+
+constexpr TextView kStartPointer = "\\nomeload";
+constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
+
+} // namespace
+
+void FileCommands::Start()
+{
+    AzzeraAnno();
+    AzzeraPercorsi();
+    AzzeraCalendario();
+    AzzeraStato();
+    NuovoAnnullato = 0;
+    SetToday();
+    page_.Data();
+    CaricaNomeFile();
+    CaricaDiario(session.NomeFile);
+    NomeFleListe();
+    page_.ShowDiaryName();
+    SetUpFolder();
+    InizializzaListe();
+    page_.VisualizzaGiorno();
+    page_.DatiAnno();
+    LoadCompanions();
+}
+
+void FileCommands::SetToday()
+{
+    DataCorrente = std::clamp(Date(), kDataMinima, kDataMassima);
+}
+
+void FileCommands::CaricaNomeFile()
+{
+    TrapWith(
+        [this] {
+            session.NomeFile = ReadPointer(ProgramFolder() + Text(kStartPointer));
+            if (session.NomeFile.empty()) {
+                session.NomeFile = ProgramFolder() + Text(kDefaultDiary);
+            }
+            page_.ChosenName() = session.NomeFile;
+        },
+        [this](const ErroreRunTime& error) {
+            if (error.Number() == Errore::FileNonTrovato) {
+                NuovoFile(session.NomeFile);
+            } else {
+                ReportError("CaricaNomeFile - ERRORE : ", error);
+            }
+        });
+}
+
+void FileCommands::SalvaNomeFile()
+{
+    Trap("SalvaNomeFile - ERRORE : ", [] { WritePointer(ProgramFolder() + Text(kStartPointer), session.NomeFile); });
+}
+
+void FileCommands::NomeFleListe()
+{
+    Trap("NomeFleListe - ERRORE : ", [] {
+        const auto slash = InStrRev(session.NomeFile, "\\");
+        if (slash > 0 && InStr(Mid(session.NomeFile, slash + 1), ".") > 0) {
+            session.NomeBaseFile = NomeSenzaCartella(session.NomeFile);
+        }
+    });
+}
+
+void FileCommands::SetUpFolder()
+{
+    CartellaDiario = CAPTIONDIR(session.NomeFile);
+    session.EsitoDir = FindFolder(CartellaDiario);
+    // Without a folder's name there is nothing to make; the writes and reads that follow report.
+    if (session.EsitoDir.empty() && !CartellaDiario.empty()) {
+        MakeFolder(CartellaDiario);
+    }
+    WriteFirstSet();
+}
+
+void FileCommands::WriteFirstSet()
+{
+    if (!FilesIn(CartellaDiario).empty()) {
+        return;
+    }
+    SalvaPercorsi();
+    ScriviCalendario();
+    SalvaNomeTabella();
+    InizializzaListe();
+    SalvaListe();
+}
+
+void FileCommands::LoadTable()
+{
+    CaricaNomeTabella();
+    if (!NomeTabellaAttiva.empty()) {
+        page_.ShowActiveTable();
+    }
+}
+
+void FileCommands::LoadCompanions()
+{
+    CaricaListe();
+    LoadTable();
+    CaricaPercorsi();
+    AzzeraCalendario();
+    LeggiCalendario();
+    page_.AssegnaGara();
+}
+
+void FileCommands::InizializzaListe()
+{
+    Trap("InizializzaListe - ERRORE : ", [this] {
+        for (const ListaScelta lista : kTutteLeListe) {
+            const auto voci = VociIniziali(lista);
+            VociDi(lista).assign(voci.begin(), voci.end());
+            page_.ShowList(lista);
+        }
+    });
+}
+
+void FileCommands::SalvaLista(ListaScelta lista)
+{
+    Trap("SalvaLista" + Text(NomeLista(lista)) + " - ERRORE : ", [&] { ScriviLista(FileLista(lista), VociDi(lista)); });
+}
+
+void FileCommands::CaricaLista(ListaScelta lista)
+{
+    // The routine of the temperatures has lost a letter, and its report with it.
+    const Text nome = lista == ListaScelta::Temperatura ? "Teperatura" : Text(NomeLista(lista));
+    const auto read = [&] {
+        LeggiLista(FileLista(lista), VociDi(lista));
+        page_.ShowList(lista);
+    };
+    TrapWith(read, [&](const ErroreRunTime& error) {
+        // As far as it was read.
+        page_.ShowList(lista);
+        ReportError("CaricaLista" + nome + " - ERRORE : ", error);
+    });
+}
+
+void FileCommands::SalvaListe()
+{
+    for (const ListaScelta lista : kListeSuFile) {
+        SalvaLista(lista);
+    }
+}
+
+void FileCommands::CaricaListe()
+{
+    for (const ListaScelta lista : kListeSuFile) {
+        CaricaLista(lista);
+    }
+}
+
+void FileCommands::SaveCompanions()
+{
+    SalvaListe();
+    SalvaPercorsi();
+    ScriviCalendario();
+}
+
+} // namespace zelvia
