@@ -12,7 +12,7 @@
 namespace zelvia
 {
 
-/// A choice of a file: the diary chosen has to lie beside `diario`.
+/// What a file dialog is asked for.
 struct FileChoice {
     TextView title;
     bool opens = false;

@@ -76,7 +76,7 @@ private:
     Control* current_ = nullptr;
     Control* previous_ = nullptr; ///< The one that had the focus before `current_`.
     std::deque<Control*> waiting_;
-    // Both have room for all controls that a change can hide and show, so that hiding never fails for want of memory.
+    // Room is reserved for all that one change hides and shows, so hiding a control never runs out of memory.
     std::vector<Control*> deferred_;
     std::vector<Control*> shown_;
     Control* displaced_ = nullptr; ///< Has the focus, which the sink keeps for it: hidden during a box, or disabled.
