@@ -11,8 +11,13 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <map>
-#include <optional>
+#include <memory>
+#include <vector>
+#include <xcb/xcb.h>
 
 namespace hand
 {
@@ -65,47 +70,100 @@ private:
     std::map<QEvent::Type, int> counts_;
 };
 
-/// Has xdotool act and waits until `count` events of the kind have come in.
+/// What a press brings beside what is awaited of it.
+std::vector<QEvent::Type> KindOf(QEvent::Type awaited)
+{
+    switch (awaited) {
+    case QEvent::KeyRelease: return {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease};
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        return {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease};
+    default: return {awaited};
+    }
+}
+
+/// Has xdotool act and waits until `count` events of the kind have come in. A manager that still holds a window that
+/// has just closed keeps a click for itself: when nothing at all has come in, this presses again, as a user would.
 void Do(const QStringList& words, QEvent::Type awaited, int count = 1)
 {
+    constexpr int attempts = 3;
     Arrivals& arrivals = Arrivals::Instance();
+    const auto seen = [&] {
+        int all = 0;
+        for (const QEvent::Type type : KindOf(awaited)) {
+            all += arrivals.Count(type);
+        }
+        return all;
+    };
     const int before = arrivals.Count(awaited);
+    const int seenBefore = seen();
     const int blocked = arrivals.Count(QEvent::WindowBlocked);
     const int unblocked = arrivals.Count(QEvent::WindowUnblocked);
-    Raw(words);
     // A box that the press opened keeps the release from its window.
     const auto arrived = [&] {
         return arrivals.Count(awaited) >= before + count || arrivals.Count(QEvent::WindowBlocked) > blocked;
     };
-    // A dialog that the press closed may take the release along: no window has the keyboard for a moment.
-    if (!QTest::qWaitFor(arrived, kPatience) && arrivals.Count(QEvent::WindowUnblocked) == unblocked) {
-        QFAIL(qPrintable(QLatin1String("no event came of ") + words.join(QLatin1Char(' '))));
+    for (int i = 0; i < attempts; ++i) {
+        Raw(words);
+        // A dialog that the press closed may take the release along: no window has the keyboard for a moment.
+        if (QTest::qWaitFor(arrived, kPatience) || arrivals.Count(QEvent::WindowUnblocked) != unblocked) {
+            return;
+        }
+        if (seen() != seenBefore) {
+            break;
+        }
     }
+    QFAIL(qPrintable(QLatin1String("no event came of ") + words.join(QLatin1Char(' '))));
 }
 
-/// Runs xdotool. What it wrote, or nothing when it failed.
-std::optional<QByteArray> Output(const QStringList& words)
+/// What the X server answers, freed as its library asks for.
+template <typename T>
+using Reply = std::unique_ptr<T, decltype([](T* reply) { std::free(reply); })>;
+
+xcb_connection_t* Server()
 {
-    // A window that has just closed must not be in the way.
-    QGuiApplication::sync();
-    QProcess xdotool;
-    xdotool.start(QStringLiteral("xdotool"), words);
-    if (!xdotool.waitForFinished(kPatience) || xdotool.exitCode() != 0) {
-        return std::nullopt;
-    }
-    return xdotool.readAllStandardOutput();
+    return qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
 }
 
-/// Waits until the manager and the program hold the same window for the active one. Where a box has just gone they
-/// don't for a moment, and the manager may keep a click for itself. Another program may have the keyboard: then it goes
-/// on.
+/// A window that a property of the root window names, 0 where it names none.
+WId RootProperty(xcb_connection_t* server, const char* name)
+{
+    const auto length = static_cast<std::uint16_t>(std::strlen(name));
+    const Reply<xcb_intern_atom_reply_t> atom(
+        xcb_intern_atom_reply(server, xcb_intern_atom(server, 1, length, name), nullptr));
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
+    if (atom == nullptr) {
+        return 0;
+    }
+    const Reply<xcb_get_property_reply_t> property(
+        xcb_get_property_reply(server, xcb_get_property(server, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr));
+    if (property == nullptr || xcb_get_property_value_length(property.get()) < static_cast<int>(sizeof(xcb_window_t))) {
+        return 0;
+    }
+    return *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
+}
+
+/// The window that gets the keys.
+WId FocusOfServer(xcb_connection_t* server)
+{
+    const Reply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+    return focus != nullptr ? focus->focus : 0;
+}
+
+/// Waits until the program, the window manager and the X server agree on the active window. Where a box has just gone
+/// they don't for a moment: the manager may keep a click for itself, and a key reaches no window. Another program may
+/// have the keyboard: then it goes on.
 void AwaitAgreement()
 {
     constexpr int patience = 2000;
+    // What has come in by now must not be taken for what the next press brings.
+    QCoreApplication::processEvents();
     (void)QTest::qWaitFor(
         [] {
             const QWidget* active = QApplication::activeWindow();
-            return active != nullptr && active->internalWinId() == ManagersActiveWindow();
+            return active != nullptr && active->internalWinId() == ManagersActiveWindow() &&
+                   active->internalWinId() == FocusOfServer(Server());
         },
         patience);
 }
@@ -171,12 +229,16 @@ QPoint Middle(const QWidget& widget)
 
 void Raw(const QStringList& words)
 {
-    QVERIFY2(Output(words).has_value(), qPrintable(words.join(QLatin1Char(' '))));
+    // A window that has just closed must not be in the way.
+    QGuiApplication::sync();
+    QProcess xdotool;
+    xdotool.start(QStringLiteral("xdotool"), words);
+    QVERIFY2(xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0, qPrintable(words.join(QLatin1Char(' '))));
 }
 
 WId ManagersActiveWindow()
 {
-    return Output({QStringLiteral("getactivewindow")}).value_or(QByteArray()).trimmed().toULongLong();
+    return RootProperty(Server(), "_NET_ACTIVE_WINDOW");
 }
 
 void AwaitManager(WId window)
@@ -303,12 +365,14 @@ void Key(Qt::Key key, Qt::KeyboardModifiers modifiers)
             chord += QLatin1String(name);
         }
     }
+    AwaitAgreement();
     Do({QStringLiteral("key"), chord + KeyName(key)}, QEvent::KeyRelease);
 }
 
 void Type(const QString& text)
 {
     if (OnX11()) {
+        AwaitAgreement();
         Do({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("4"), QStringLiteral("--"), text},
            QEvent::KeyRelease, static_cast<int>(text.size()));
         return;
