@@ -4,6 +4,7 @@
 #include "boxes/BoxHand.h"
 #include "support/Bytes.h"
 #include "support/CalendarDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -237,5 +238,5 @@ void CalendarTest::keysThatAreNoneOfThePage()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::CalendarTest)
+ZELVIA_WINDOW_TEST(zelvia::test::CalendarTest)
 #include "CalendarTest.moc"

@@ -4,6 +4,7 @@
 #include "boxes/BoxHand.h"
 #include "support/FileBoxes.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 #include <QClipboard>
 #include <QFileDialog>
@@ -174,5 +175,5 @@ void FileNameTest::megabytes()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::FileNameTest)
+ZELVIA_WINDOW_TEST(zelvia::test::FileNameTest)
 #include "FileNameTest.moc"

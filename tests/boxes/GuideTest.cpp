@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the boxes of the guide.
 #include "boxes/BoxHand.h"
+#include "support/WindowTest.h"
 
 #include <QAbstractItemView>
 #include <QLabel>
@@ -127,5 +128,5 @@ void GuideTest::keysThatAreNoneOfItsLists()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::GuideTest)
+ZELVIA_WINDOW_TEST(zelvia::test::GuideTest)
 #include "GuideTest.moc"

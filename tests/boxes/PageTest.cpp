@@ -5,6 +5,7 @@
 #include "diary/DiaryFile.h"
 #include "support/Bytes.h"
 #include "support/DiaryBytes.h"
+#include "support/WindowTest.h"
 #include "windows/routes/FrmDesPercorso.h"
 
 #include <QMenuBar>
@@ -503,5 +504,5 @@ void PageTest::keysThatAreNoneOfTheSplitsAndTimes()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PageTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PageTest)
 #include "PageTest.moc"

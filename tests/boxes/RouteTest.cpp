@@ -5,6 +5,7 @@
 #include "diary/RouteModel.h"
 #include "diary/Workspace.h"
 #include "support/Bytes.h"
+#include "support/WindowTest.h"
 #include "windows/routes/FrmDesPercorso.h"
 
 #include <QClipboard>
@@ -265,5 +266,5 @@ void RouteTest::changesWithoutACharacter()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::RouteTest)
+ZELVIA_WINDOW_TEST(zelvia::test::RouteTest)
 #include "RouteTest.moc"

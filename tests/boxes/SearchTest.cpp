@@ -4,6 +4,7 @@
 #include "boxes/BoxHand.h"
 #include "support/SearchDesk.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -165,5 +166,5 @@ void SearchTest::keysThatAreNoneOfTheStatistics()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SearchTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SearchTest)
 #include "SearchTest.moc"

@@ -6,6 +6,7 @@
 #include "support/Bytes.h"
 #include "support/TableBytes.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -277,5 +278,5 @@ void TableTest::keysThatAreNoneOfTheList()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::TableTest)
+ZELVIA_WINDOW_TEST(zelvia::test::TableTest)
 #include "TableTest.moc"

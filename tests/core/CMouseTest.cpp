@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/CMouse.h"
 
+#include "support/TestProgram.h"
+
 #include <QTest>
 
 #include <stdexcept>
@@ -93,5 +95,5 @@ void CMouseTest::WithoutAChangeNothingIsTold()
     QVERIFY(told_.empty());
 }
 
-QTEST_APPLESS_MAIN(CMouseTest)
+ZELVIA_TEST(CMouseTest)
 #include "CMouseTest.moc"

@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -403,5 +404,5 @@ void ConversionsTest::FormatOfFloats()
     QCOMPARE(Bytes(Format(number, TextOf(pattern))), text);
 }
 
-QTEST_APPLESS_MAIN(ConversionsTest)
+ZELVIA_TEST(ConversionsTest)
 #include "ConversionsTest.moc"

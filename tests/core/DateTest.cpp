@@ -5,6 +5,7 @@
 #include "core/Conversions.h"
 #include "support/Bytes.h"
 #include "support/FixedClock.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -302,5 +303,5 @@ void DateTest::SystemDateComesFromTheClock()
     QVERIFY(Short(Date()) == before || Short(Date()) == today());
 }
 
-QTEST_APPLESS_MAIN(DateTest)
+ZELVIA_TEST(DateTest)
 #include "DateTest.moc"

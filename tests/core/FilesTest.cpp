@@ -5,6 +5,7 @@
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -419,5 +420,5 @@ void FilesTest::ProgramFolderIsKept()
     QCOMPARE(Bytes(ProgramFolder()), QByteArray());
 }
 
-QTEST_APPLESS_MAIN(FilesTest)
+ZELVIA_TEST(FilesTest)
 #include "FilesTest.moc"

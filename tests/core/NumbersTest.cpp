@@ -5,6 +5,7 @@
 #include "core/BoundedArray.h"
 #include "core/SparseArray.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -238,5 +239,5 @@ void NumbersTest::SparseArraysAreVisitedInTurn()
     QVERIFY(lines.begin() == lines.end());
 }
 
-QTEST_APPLESS_MAIN(NumbersTest)
+ZELVIA_TEST(NumbersTest)
 #include "NumbersTest.moc"

@@ -6,6 +6,7 @@
 #include "core/Numbers.h"
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -224,5 +225,5 @@ void RunTimeErrorTest::MsgBoxWithoutAHandlerAnswersCautiously()
     QVERIFY(yesNo == MsgAnswer::Cancel);
 }
 
-QTEST_APPLESS_MAIN(RunTimeErrorTest)
+ZELVIA_TEST(RunTimeErrorTest)
 #include "RunTimeErrorTest.moc"

@@ -3,6 +3,7 @@
 #include "core/Sheet.h"
 
 #include "support/SheetLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -62,5 +63,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(SheetTest)
+ZELVIA_TEST(SheetTest)
 #include "SheetTest.moc"

@@ -4,6 +4,7 @@
 
 #include "core/Cell.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -129,5 +130,5 @@ void TextRoutinesTest::Formats()
     QCOMPARE(Bytes(Formatted(TextOf(text), static_cast<CellFormat>(format))), result);
 }
 
-QTEST_APPLESS_MAIN(TextRoutinesTest)
+ZELVIA_TEST(TextRoutinesTest)
 #include "TextRoutinesTest.moc"

@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -328,5 +329,5 @@ void TextTest::LiteralsAreConverted()
     QCOMPARE(Bytes(""_t), QByteArray());
 }
 
-QTEST_APPLESS_MAIN(TextTest)
+ZELVIA_TEST(TextTest)
 #include "TextTest.moc"

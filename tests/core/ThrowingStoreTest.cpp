@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Numbers.h"
 #include "core/RunTimeError.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -69,5 +70,5 @@ private Q_SLOTS:
     void LongsStand() { CompareBehindTheTrap<i32>(); }
 };
 
-QTEST_APPLESS_MAIN(ThrowingStoreTest)
+ZELVIA_TEST(ThrowingStoreTest)
 #include "ThrowingStoreTest.moc"

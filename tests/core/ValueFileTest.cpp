@@ -5,6 +5,7 @@
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -495,5 +496,5 @@ void ValueFileTest::RandomValuesComeBack()
     QVERIFY(file.AtEnd());
 }
 
-QTEST_APPLESS_MAIN(ValueFileTest)
+ZELVIA_TEST(ValueFileTest)
 #include "ValueFileTest.moc"

@@ -5,6 +5,7 @@
 
 #include "diary/CalendarModel.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -190,5 +191,5 @@ void CalendarDatesTest::RaceOfADay()
     QCOMPARE(int{RaceOnDate(24, 5, 2026).value()}, race);
 }
 
-QTEST_APPLESS_MAIN(CalendarDatesTest)
+ZELVIA_TEST(CalendarDatesTest)
 #include "CalendarDatesTest.moc"

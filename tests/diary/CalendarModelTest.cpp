@@ -8,6 +8,7 @@
 #include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -324,5 +325,5 @@ void CalendarModelTest::WritingReplacesTheFile()
     QCOMPARE(boxes.Shown(), 0);
 }
 
-QTEST_APPLESS_MAIN(CalendarModelTest)
+ZELVIA_TEST(CalendarModelTest)
 #include "CalendarModelTest.moc"

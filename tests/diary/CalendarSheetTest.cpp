@@ -3,6 +3,7 @@
 #include "diary/CalendarSheet.h"
 
 #include "support/SheetLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -94,5 +95,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(CalendarSheetTest)
+ZELVIA_TEST(CalendarSheetTest)
 #include "CalendarSheetTest.moc"

@@ -6,6 +6,7 @@
 #include "support/Bytes.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QTest>
@@ -431,5 +432,5 @@ void CategoryStatisticsTest::FailuresOfTheView()
     QCOMPARE(view.titles, (QByteArrayList{"Percorso", "Peso"}));
 }
 
-QTEST_APPLESS_MAIN(CategoryStatisticsTest)
+ZELVIA_TEST(CategoryStatisticsTest)
 #include "CategoryStatisticsTest.moc"

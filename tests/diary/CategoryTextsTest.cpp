@@ -3,6 +3,7 @@
 #include "diary/CategoryTexts.h"
 
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -223,5 +224,5 @@ void CategoryTextsTest::WhatIsBuiltIsTakenApart()
     }
 }
 
-QTEST_APPLESS_MAIN(CategoryTextsTest)
+ZELVIA_TEST(CategoryTextsTest)
 #include "CategoryTextsTest.moc"

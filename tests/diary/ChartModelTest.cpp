@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QTest>
@@ -192,5 +193,5 @@ void ChartModelTest::GridOfAChart()
     QCOMPARE(RaisedBy([&] { chart.SetRowCount(-1); }), 9);
 }
 
-QTEST_APPLESS_MAIN(ChartModelTest)
+ZELVIA_TEST(ChartModelTest)
 #include "ChartModelTest.moc"

@@ -4,6 +4,7 @@
 #include "diary/ListaOrdinata.h"
 #include "diary/RunList.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QString>
@@ -362,5 +363,5 @@ void ClassificationTest::RandomLists()
     QCOMPARE(boxes.Shown(), 0);
 }
 
-QTEST_APPLESS_MAIN(ClassificationTest)
+ZELVIA_TEST(ClassificationTest)
 #include "ClassificationTest.moc"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/CommandLine.h"
 
+#include "support/TestProgram.h"
+
 #include <QTest>
 
 #include <vector>
@@ -96,5 +98,5 @@ void CommandLineTest::wrongDays()
     }
 }
 
-QTEST_APPLESS_MAIN(CommandLineTest)
+ZELVIA_TEST(CommandLineTest)
 #include "CommandLineTest.moc"

@@ -3,6 +3,7 @@
 #include "diary/DaySheet.h"
 
 #include "support/SheetLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -158,5 +159,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(DaySheetTest)
+ZELVIA_TEST(DaySheetTest)
 #include "DaySheetTest.moc"

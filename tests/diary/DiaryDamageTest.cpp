@@ -7,6 +7,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -453,5 +454,5 @@ void DiaryDamageTest::BytesOfChance()
     }
 }
 
-QTEST_APPLESS_MAIN(DiaryDamageTest)
+ZELVIA_TEST(DiaryDamageTest)
 #include "DiaryDamageTest.moc"

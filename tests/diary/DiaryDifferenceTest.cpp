@@ -4,6 +4,7 @@
 
 #include "support/Bytes.h"
 #include "support/DiaryBytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -223,5 +224,5 @@ void DiaryDifferenceTest::AMissingDiaryIsBlank()
     QCOMPARE(CompareDiaries("", "").days.size(), std::size_t(0));
 }
 
-QTEST_APPLESS_MAIN(DiaryDifferenceTest)
+ZELVIA_TEST(DiaryDifferenceTest)
 #include "DiaryDifferenceTest.moc"

@@ -9,6 +9,7 @@
 #include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -432,5 +433,5 @@ void DiaryFileTest::RandomYearsComeBack()
     QCOMPARE(boxes.Shown(), 0);
 }
 
-QTEST_APPLESS_MAIN(DiaryFileTest)
+ZELVIA_TEST(DiaryFileTest)
 #include "DiaryFileTest.moc"

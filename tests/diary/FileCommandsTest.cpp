@@ -8,6 +8,7 @@
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -335,5 +336,5 @@ void FileCommandsTest::startReadsThePointer()
     }
 }
 
-QTEST_APPLESS_MAIN(FileCommandsTest)
+ZELVIA_TEST(FileCommandsTest)
 #include "FileCommandsTest.moc"

@@ -5,6 +5,7 @@
 #include "diary/RunList.h"
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QString>
@@ -350,5 +351,5 @@ void ListaOrdinataTest::CreatedAnewItIsEmpty()
     QCOMPARE(ViewRows(list), QByteArrayList{"  1\xB0|0:30:00|5:00|09/01/2008"});
 }
 
-QTEST_APPLESS_MAIN(ListaOrdinataTest)
+ZELVIA_TEST(ListaOrdinataTest)
 #include "ListaOrdinataTest.moc"

@@ -7,6 +7,7 @@
 #include "support/Bytes.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -246,5 +247,5 @@ void Module1Test::AnyChangeMakesDaysDiffer()
     QVERIFY(LinesOfDay(other) == before);
 }
 
-QTEST_APPLESS_MAIN(Module1Test)
+ZELVIA_TEST(Module1Test)
 #include "Module1Test.moc"

@@ -6,6 +6,7 @@
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -218,5 +219,5 @@ void ProgramFilesTest::installedFiles()
     QCOMPARE(guide(), QByteArray("\\Guida.hlp"));
 }
 
-QTEST_APPLESS_MAIN(ProgramFilesTest)
+ZELVIA_TEST(ProgramFilesTest)
 #include "ProgramFilesTest.moc"

@@ -8,6 +8,7 @@
 #include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -325,5 +326,5 @@ void RouteModelTest::AFullDiskIsReported()
     QVERIFY(boxes.AllShown());
 }
 
-QTEST_APPLESS_MAIN(RouteModelTest)
+ZELVIA_TEST(RouteModelTest)
 #include "RouteModelTest.moc"

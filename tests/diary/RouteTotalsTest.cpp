@@ -5,6 +5,7 @@
 #include "core/Text.h"
 #include "diary/RouteModel.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -263,5 +264,5 @@ void RouteTotalsTest::AFreedPlaceIsTakenAgain()
     QCOMPARE(PlaceOf("PINETA 40"), 40);
 }
 
-QTEST_APPLESS_MAIN(RouteTotalsTest)
+ZELVIA_TEST(RouteTotalsTest)
 #include "RouteTotalsTest.moc"

@@ -6,6 +6,7 @@
 #include "diary/TableWalk.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -255,5 +256,5 @@ void RowComparisonTest::Errors()
     QCOMPARE(int{result.value()}, 3);
 }
 
-QTEST_APPLESS_MAIN(RowComparisonTest)
+ZELVIA_TEST(RowComparisonTest)
 #include "RowComparisonTest.moc"

@@ -5,6 +5,7 @@
 #include "diary/Module1.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QTest>
@@ -357,5 +358,5 @@ void RunSearchTest::Lines()
     QTEST(Bytes(RigaCorsa(Giorni[10], minutes)), "line");
 }
 
-QTEST_APPLESS_MAIN(RunSearchTest)
+ZELVIA_TEST(RunSearchTest)
 #include "RunSearchTest.moc"

@@ -11,6 +11,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -151,5 +152,5 @@ void SampleYearTest::TablePointer()
     CheckSame("nometab");
 }
 
-QTEST_APPLESS_MAIN(SampleYearTest)
+ZELVIA_TEST(SampleYearTest)
 #include "SampleYearTest.moc"

@@ -3,6 +3,7 @@
 #include "diary/SearchPeriod.h"
 
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QByteArrayList>
 #include <QTest>
@@ -96,5 +97,5 @@ void SearchPeriodTest::Checks()
     QCOMPARE(check.invertito, refused);
 }
 
-QTEST_APPLESS_MAIN(SearchPeriodTest)
+ZELVIA_TEST(SearchPeriodTest)
 #include "SearchPeriodTest.moc"

@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -258,5 +259,5 @@ void SearchTotalsTest::EmptyingKeepsTheLastPlaces()
     }
 }
 
-QTEST_APPLESS_MAIN(SearchTotalsTest)
+ZELVIA_TEST(SearchTotalsTest)
 #include "SearchTotalsTest.moc"

@@ -10,6 +10,7 @@
 #include "diary/RunSearch.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -292,5 +293,5 @@ void SearchYearsTest::YearsByChance()
     QVERIFY(found > 0);
 }
 
-QTEST_APPLESS_MAIN(SearchYearsTest)
+ZELVIA_TEST(SearchYearsTest)
 #include "SearchYearsTest.moc"

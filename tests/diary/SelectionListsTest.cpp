@@ -6,6 +6,7 @@
 #include "diary/Module1.h"
 #include "support/Bytes.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -215,5 +216,5 @@ void SelectionListsTest::WritingFails()
     QCOMPARE(RaisedBy([&] { ScriviLista("\\Tipo.lsx", {"a"}); }), 76);
 }
 
-QTEST_APPLESS_MAIN(SelectionListsTest)
+ZELVIA_TEST(SelectionListsTest)
 #include "SelectionListsTest.moc"

@@ -3,6 +3,7 @@
 #include "diary/StatisticSheets.h"
 
 #include "support/SheetLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -238,5 +239,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(StatisticSheetsTest)
+ZELVIA_TEST(StatisticSheetsTest)
 #include "StatisticSheetsTest.moc"

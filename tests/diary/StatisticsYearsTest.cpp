@@ -8,6 +8,7 @@
 #include "diary/PlainStatistics.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -185,5 +186,5 @@ void StatisticsYearsTest::YearsByChance()
     }
 }
 
-QTEST_APPLESS_MAIN(StatisticsYearsTest)
+ZELVIA_TEST(StatisticsYearsTest)
 #include "StatisticsYearsTest.moc"

@@ -5,6 +5,7 @@
 #include "diary/TableCalculations.h"
 
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -355,5 +356,5 @@ void TableCalculationsTest::RandomTimes()
     }
 }
 
-QTEST_APPLESS_MAIN(TableCalculationsTest)
+ZELVIA_TEST(TableCalculationsTest)
 #include "TableCalculationsTest.moc"

@@ -9,6 +9,7 @@
 #include "support/FileFailures.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -311,5 +312,5 @@ void TableModelTest::WritingFailsWithAReport()
     QVERIFY(boxes.AllShown());
 }
 
-QTEST_APPLESS_MAIN(TableModelTest)
+ZELVIA_TEST(TableModelTest)
 #include "TableModelTest.moc"

@@ -3,6 +3,7 @@
 #include "diary/TableSheet.h"
 
 #include "support/SheetLines.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -112,5 +113,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TableSheetTest)
+ZELVIA_TEST(TableSheetTest)
 #include "TableSheetTest.moc"

@@ -9,6 +9,7 @@
 #include "diary/TableModel.h"
 #include "support/Days.h"
 #include "support/MessageScript.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -314,5 +315,5 @@ void TableWalkTest::AReportDoesNotStopTheWalk()
     QVERIFY(boxes_->AllShown());
 }
 
-QTEST_APPLESS_MAIN(TableWalkTest)
+ZELVIA_TEST(TableWalkTest)
 #include "TableWalkTest.moc"

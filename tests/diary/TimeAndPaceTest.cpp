@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QString>
 #include <QTest>
@@ -471,5 +472,5 @@ void TimeAndPaceTest::EverySecondOfTwoHours()
     }
 }
 
-QTEST_APPLESS_MAIN(TimeAndPaceTest)
+ZELVIA_TEST(TimeAndPaceTest)
 #include "TimeAndPaceTest.moc"

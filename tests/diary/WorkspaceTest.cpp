@@ -7,6 +7,7 @@
 #include "support/Bytes.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -267,5 +268,5 @@ void WorkspaceTest::AFullDiskIsReported()
     QVERIFY(boxes.AllShown());
 }
 
-QTEST_APPLESS_MAIN(WorkspaceTest)
+ZELVIA_TEST(WorkspaceTest)
 #include "WorkspaceTest.moc"

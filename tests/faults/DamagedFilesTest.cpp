@@ -7,6 +7,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -309,5 +310,5 @@ void DamagedFilesTest::NothingButZeros()
     ReadGood(file, whole);
 }
 
-QTEST_APPLESS_MAIN(DamagedFilesTest)
+ZELVIA_TEST(DamagedFilesTest)
 #include "DamagedFilesTest.moc"

@@ -7,6 +7,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -410,5 +411,5 @@ void DiskTest::ChangedWhileItIsRead()
     }
 }
 
-QTEST_APPLESS_MAIN(DiskTest)
+ZELVIA_TEST(DiskTest)
 #include "DiskTest.moc"

@@ -7,6 +7,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -491,5 +492,5 @@ void FileFaultsTest::LookingAtTheNames()
     QCOMPARE(FilesIn(folder.Path("prova")), std::vector<Text>{"nome"});
 }
 
-QTEST_APPLESS_MAIN(FileFaultsTest)
+ZELVIA_TEST(FileFaultsTest)
 #include "FileFaultsTest.moc"

@@ -6,6 +6,7 @@
 #include "support/PlanDesk.h"
 #include "support/SearchDesk.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 #include "toolkit/FocusController.h"
 
 #include <QAction>
@@ -226,5 +227,5 @@ void NoSuchDayTest::timesOfAValue()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::NoSuchDayTest)
+ZELVIA_WINDOW_TEST(zelvia::test::NoSuchDayTest)
 #include "NoSuchDayTest.moc"

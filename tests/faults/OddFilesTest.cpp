@@ -6,6 +6,7 @@
 #include "support/Days.h"
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -271,5 +272,5 @@ void OddFilesTest::ChangedWhileItIsWritten()
     QCOMPARE(Difference(folder_->Read(file.name), Lines(filed)), QByteArray());
 }
 
-QTEST_APPLESS_MAIN(OddFilesTest)
+ZELVIA_TEST(OddFilesTest)
 #include "OddFilesTest.moc"

@@ -6,6 +6,7 @@
 #include "faults/CommandFailures.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -463,5 +464,5 @@ void PageTest::saveThePointer()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PageTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PageTest)
 #include "PageTest.moc"

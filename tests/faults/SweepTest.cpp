@@ -7,6 +7,7 @@
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 #include "windows/races/FrmCalendario.h"
 
 #include <algorithm>
@@ -493,5 +494,5 @@ void SweepTest::everyCall()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SweepTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SweepTest)
 #include "SweepTest.moc"

@@ -3,6 +3,7 @@
 // The commands of the training tables when the calls on one of their files go wrong.
 #include "faults/CommandFailures.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -134,5 +135,5 @@ void TablesTest::activateATable()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::TablesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::TablesTest)
 #include "TablesTest.moc"

@@ -212,5 +212,5 @@ private Q_SLOTS:
     }
 };
 
-ZELVIA_WINDOW_TEST_MAIN(PrinterTest)
+ZELVIA_WINDOW_TEST(PrinterTest)
 #include "PrinterTest.moc"

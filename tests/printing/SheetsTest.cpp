@@ -4,6 +4,7 @@
 #include "printing/PrintedPdf.h"
 #include "support/PrinterTray.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 #include "windows/races/FrmCalendario.h"
 #include "windows/statistics/FrmGrafici.h"
 #include "windows/statistics/FrmRicercheStatistiche.h"
@@ -238,5 +239,5 @@ void SheetsTest::aChart()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SheetsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SheetsTest)
 #include "SheetsTest.moc"

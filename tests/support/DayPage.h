@@ -74,13 +74,3 @@ private:
 };
 
 } // namespace zelvia::test
-
-/// The main function of a test program of the day page.
-#define DAY_PAGE_TEST_MAIN(Test)                                                                                       \
-    int main(int argc, char* argv[])                                                                                   \
-    {                                                                                                                  \
-        zelvia::Application application(argc, argv);                                                                   \
-        zelvia::Application::setQuitOnLastWindowClosed(false);                                                         \
-        Test test;                                                                                                     \
-        return QTest::qExec(&test, argc, argv);                                                                        \
-    }

@@ -3,29 +3,32 @@
 #include "support/OtherProgram.h"
 
 #include "support/Hand.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
-#include <QProcessEnvironment>
-#include <QTest>
 
 #include <iostream>
-#include <string_view>
 
 namespace
 {
 
-constexpr const char* kOption = "--other-program";
+constexpr const char* kRoutine = "other-program";
+
+const zelvia::test::TestRoutine otherProgram(kRoutine, [](int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QWidget window;
+    window.resize(200, 100);
+    window.show();
+    std::cout << window.winId() << std::endl;
+    return QCoreApplication::exec();
+});
 
 } // namespace
 
 OtherProgram::OtherProgram(QWidget& window) : window_(window)
 {
     if (hand::OnX11()) {
-        // Its notes would go over those of this program, whose name it has.
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("ZELVIA_SHOWN_TEXTS"));
-        process_.setProcessEnvironment(environment);
-        process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption)});
+        process_.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kRoutine)});
         QTRY_VERIFY_WITH_TIMEOUT(process_.canReadLine(), 20000);
         const WId other = process_.readLine().trimmed().toULongLong();
         hand::AwaitManager(other);
@@ -65,17 +68,3 @@ void OtherProgram::Report(QWidget* window)
     QApplication::setActiveWindow(window);
 }
 QT_WARNING_POP
-
-bool OtherProgram::RanInstead(int argc, char* argv[])
-{
-    if (argc < 2 || std::string_view(argv[1]) != kOption) {
-        return false;
-    }
-    QApplication application(argc, argv);
-    QWidget window;
-    window.resize(200, 100);
-    window.show();
-    std::cout << window.winId() << std::endl;
-    QCoreApplication::exec();
-    return true;
-}

@@ -23,9 +23,6 @@ public:
     /// none of this application.
     static void Report(QWidget* window);
 
-    /// The main function of the other program; to be asked first by the main function of the test. True when it ran.
-    static bool RanInstead(int argc, char* argv[]);
-
 private:
     QWidget& window_;
     QProcess process_;

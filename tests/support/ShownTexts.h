@@ -6,7 +6,6 @@
 
 #include <QTest>
 
-#include <cerrno>
 #include <cstdlib>
 #include <fstream>
 #include <string>
@@ -14,12 +13,21 @@
 namespace zelvia::test
 {
 
-/// Notes the boxes and dialogs that a test program brings up, for the check of tests/texts: a file of the program's
-/// name in the folder that ZELVIA_SHOWN_TEXTS names, a line for each, its parts parted by tabs. Without that folder
-/// nothing is noted.
+/// Notes the boxes and dialogs that a test brings up, for the check of tests/texts: a file of the test's name in the
+/// folder that ZELVIA_SHOWN_TEXTS names, a line for each, its parts parted by tabs. Without that folder nothing is
+/// noted.
 class ShownTexts
 {
 public:
+    /// Begins the notes of a test, so that nothing is left of an earlier run.
+    static void Begin(const std::string& test)
+    {
+        if (const char* folder = std::getenv("ZELVIA_SHOWN_TEXTS")) {
+            Instance().test_ = test;
+            Instance().file_.open(std::string(folder) + '/' + test);
+        }
+    }
+
     static void NoteBox(const std::string& text, const char* icon, const std::string& buttons)
     {
         Instance().Note("box\t\"" + text + "\"\t" + icon + '\t' + buttons);
@@ -39,13 +47,6 @@ public:
     }
 
 private:
-    ShownTexts()
-    {
-        if (const char* folder = std::getenv("ZELVIA_SHOWN_TEXTS")) {
-            file_.open(std::string(folder) + '/' + program_invocation_short_name);
-        }
-    }
-
     static ShownTexts& Instance()
     {
         static ShownTexts texts;
@@ -59,14 +60,12 @@ private:
         }
         const char* const function = QTest::currentTestFunction();
         const char* const row = QTest::currentDataTag();
-        file_ << line << '\t' << program_invocation_short_name << ':' << (function != nullptr ? function : "")
+        file_ << line << '\t' << test_ << ':' << (function != nullptr ? function : "")
               << (row != nullptr ? std::string(":") + row : std::string()) << std::endl;
     }
 
+    std::string test_;
     std::ofstream file_;
-
-    // Begun with the program, so that nothing is left of an earlier run.
-    inline static ShownTexts& begun_ = Instance();
 };
 
 } // namespace zelvia::test

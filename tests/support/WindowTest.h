@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/TestProgram.h"
 #include "toolkit/Application.h"
 
-#include <QTest>
-
-/// The main function of a test program whose windows live under the program's own application.
-#define ZELVIA_WINDOW_TEST_MAIN(TestClass)                                                                             \
-    int main(int argc, char* argv[])                                                                                   \
-    {                                                                                                                  \
+/// Lets the test program run a test class whose windows live under the program's own application.
+#define ZELVIA_WINDOW_TEST(TestClass)                                                                                  \
+    static const zelvia::test::TestRoutine thisTest(zelvia::test::TestName(#TestClass), [](int argc, char* argv[]) {   \
         zelvia::Application application(argc, argv);                                                                   \
+        zelvia::Application::setQuitOnLastWindowClosed(false);                                                         \
         TestClass test;                                                                                                \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
         return QTest::qExec(&test, argc, argv);                                                                        \
-    }
+    });
 
 /// For what must not happen: watches for some turns of the event loop and a while longer that `condition` does not come
 /// true.

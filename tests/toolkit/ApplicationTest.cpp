@@ -78,6 +78,6 @@ void ApplicationTest::FontsAreInLogicalPixels()
     QCOMPARE(courier.horizontalAdvance(QLatin1Char('i')), courier.horizontalAdvance(QLatin1Char('W')));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(ApplicationTest)
+ZELVIA_WINDOW_TEST(ApplicationTest)
 
 #include "ApplicationTest.moc"

@@ -207,5 +207,5 @@ void BoxGridTest::OtherPlacesAreErrors()
     QCOMPARE(RaisedBy([&] { grid_->Stored(0, 3); }), 9);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(BoxGridTest)
+ZELVIA_WINDOW_TEST(BoxGridTest)
 #include "BoxGridTest.moc"

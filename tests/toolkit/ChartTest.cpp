@@ -431,5 +431,5 @@ void ChartTest::TheCopyIsAPicture()
     QGuiApplication::clipboard()->clear();
 }
 
-ZELVIA_WINDOW_TEST_MAIN(ChartTest)
+ZELVIA_WINDOW_TEST(ChartTest)
 #include "ChartTest.moc"

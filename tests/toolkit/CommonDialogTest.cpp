@@ -524,6 +524,6 @@ void CommonDialogTest::AHandlerTakesItsPlace()
     QCOMPARE(ErrorOf([this] { settings_.ShowOpen(); }), 32755);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(CommonDialogTest)
+ZELVIA_WINDOW_TEST(CommonDialogTest)
 
 #include "CommonDialogTest.moc"

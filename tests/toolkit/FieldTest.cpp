@@ -224,14 +224,6 @@ void FieldTest::TheListStaysWhenItLosesTheFocus()
     QVERIFY(form_->txtUno->isVisible());
 }
 
-int main(int argc, char* argv[])
-{
-    if (OtherProgram::RanInstead(argc, argv)) {
-        return 0;
-    }
-    Application application(argc, argv);
-    FieldTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZELVIA_WINDOW_TEST(FieldTest)
 
 #include "FieldTest.moc"

@@ -276,14 +276,6 @@ void FocusTest::AWindowThatClosesGivesTheFocusBack()
     QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));
 }
 
-int main(int argc, char* argv[])
-{
-    if (OtherProgram::RanInstead(argc, argv)) {
-        return 0;
-    }
-    Application application(argc, argv);
-    FocusTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZELVIA_WINDOW_TEST(FocusTest)
 
 #include "FocusTest.moc"

@@ -201,12 +201,6 @@ void FormTest::AFormKnowsItsWidgets()
     QVERIFY(Form::Of(&stranger) == nullptr);
 }
 
-int main(int argc, char* argv[])
-{
-    Application application(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    FormTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZELVIA_WINDOW_TEST(FormTest)
 
 #include "FormTest.moc"

@@ -17,7 +17,6 @@
 #include <iostream>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
@@ -29,7 +28,7 @@ using namespace zelvia;
 namespace
 {
 
-constexpr const char* kOption = "--run-in";
+constexpr const char* kRoutine = "run-in";
 
 /// One run of the program: tells whether it may go on, then of each time that it is asked for its window, and stays
 /// until it is told to end.
@@ -48,12 +47,17 @@ int RunIn(const char* folder)
     return QCoreApplication::exec();
 }
 
+const test::TestRoutine runIn(kRoutine, [](int argc, char* argv[]) {
+    const Application application(argc, argv);
+    return RunIn(argv[1]);
+});
+
 class Run : public QProcess
 {
 public:
     explicit Run(const QString& folder)
     {
-        start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kOption), folder});
+        start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kRoutine), folder});
     }
     ~Run() override { End(); }
 
@@ -348,14 +352,6 @@ void InstanceLockTest::AFolderThatTakesNoFileDoesNotStopTheStart()
     QCOMPARE(run.Answer(), QByteArray("taken"));
 }
 
-int main(int argc, char* argv[])
-{
-    Application application(argc, argv);
-    if (argc == 3 && std::string_view(argv[1]) == kOption) {
-        return RunIn(argv[2]);
-    }
-    InstanceLockTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZELVIA_WINDOW_TEST(InstanceLockTest)
 
 #include "InstanceLockTest.moc"

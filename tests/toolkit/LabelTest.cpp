@@ -121,6 +121,6 @@ void LabelTest::AssistantsFindNamesAndRoles()
     QCOMPARE(QAccessible::queryAccessibleInterface(form_->upUno)->text(QAccessible::Name), QStringLiteral("giorno"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(LabelTest)
+ZELVIA_WINDOW_TEST(LabelTest)
 
 #include "LabelTest.moc"

@@ -319,6 +319,6 @@ void LastCatchTest::AReportThatFails()
     SetMsgBoxHandler(previous);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(LastCatchTest)
+ZELVIA_WINDOW_TEST(LastCatchTest)
 
 #include "LastCatchTest.moc"

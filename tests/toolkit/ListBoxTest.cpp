@@ -253,6 +253,6 @@ void ListBoxTest::TheIndexFollowsTheProgram()
     QCOMPARE(list_->ListCount(), 4);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(ListBoxTest)
+ZELVIA_WINDOW_TEST(ListBoxTest)
 
 #include "ListBoxTest.moc"

@@ -151,6 +151,6 @@ void ListViewTest::HidingItWhileFocusedGoesToTheSink()
     QVERIFY(!view_->isVisible());
 }
 
-ZELVIA_WINDOW_TEST_MAIN(ListViewTest)
+ZELVIA_WINDOW_TEST(ListViewTest)
 
 #include "ListViewTest.moc"

@@ -168,6 +168,6 @@ void MenuTest::EntriesCarryTheirNames()
     QCOMPARE(form_->mnuFile->title(), QStringLiteral("&File"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(MenuTest)
+ZELVIA_WINDOW_TEST(MenuTest)
 
 #include "MenuTest.moc"

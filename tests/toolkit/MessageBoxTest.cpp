@@ -177,6 +177,6 @@ void MessageBoxTest::AnErrorOfAHandlerIsReportedUnderTheBareTitle()
     QTRY_VERIFY(form_->told.endsWith("lblVai"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(MessageBoxTest)
+ZELVIA_WINDOW_TEST(MessageBoxTest)
 
 #include "MessageBoxTest.moc"

@@ -172,6 +172,6 @@ void PointerTest::ALabelsPointerIsItsOwn()
     QVERIFY(QApplication::overrideCursor() == nullptr);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(PointerTest)
+ZELVIA_WINDOW_TEST(PointerTest)
 
 #include "PointerTest.moc"

@@ -378,6 +378,6 @@ void TextBoxTest::TheTextIsPlain()
     QCOMPARE(form_->txtUno->Content(), Text("<b>A & B</b>"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(TextBoxTest)
+ZELVIA_WINDOW_TEST(TextBoxTest)
 
 #include "TextBoxTest.moc"

@@ -76,6 +76,6 @@ void TimerTest::AWaitingChangeOfFocusIsToldBeforeTheTick()
     QTRY_COMPARE(form.told, QByteArray("-txtUno +txtDue tick"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(TimerTest)
+ZELVIA_WINDOW_TEST(TimerTest)
 
 #include "TimerTest.moc"

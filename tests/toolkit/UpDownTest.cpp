@@ -225,6 +225,6 @@ void UpDownTest::ItsPropertiesTellTheRange()
     QCOMPARE(changes_, 2);
 }
 
-ZELVIA_WINDOW_TEST_MAIN(UpDownTest)
+ZELVIA_WINDOW_TEST(UpDownTest)
 
 #include "UpDownTest.moc"

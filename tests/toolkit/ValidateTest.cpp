@@ -223,6 +223,6 @@ void ValidateTest::IsNotAskedForKeysThatMoveNothing()
     QCOMPARE(form_->Focused(), QByteArray("txtUno"));
 }
 
-ZELVIA_WINDOW_TEST_MAIN(ValidateTest)
+ZELVIA_WINDOW_TEST(ValidateTest)
 
 #include "ValidateTest.moc"

@@ -3,6 +3,7 @@
 #include "tools/copies/CopyStore.h"
 
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 #include "tools/copies/SafeFiles.h"
 #include "tools/copies/WorkspaceData.h"
 
@@ -457,5 +458,5 @@ void CopyStoreTest::WhereTheCopiesLie()
     QCOMPARE(QString::fromStdString(CopyFolder()), place);
 }
 
-QTEST_APPLESS_MAIN(CopyStoreTest)
+ZELVIA_TEST(CopyStoreTest)
 #include "CopyStoreTest.moc"

@@ -4,6 +4,7 @@
 
 #include "support/MessageScript.h"
 #include "support/TempFolder.h"
+#include "support/TestProgram.h"
 
 #include <QStringList>
 #include <QTest>
@@ -149,5 +150,5 @@ void WorkspaceDataTest::AFolderInUse()
     QVERIFY(!IsInUse(folder.Native()));
 }
 
-QTEST_APPLESS_MAIN(WorkspaceDataTest)
+ZELVIA_TEST(WorkspaceDataTest)
 #include "WorkspaceDataTest.moc"

@@ -221,5 +221,5 @@ void FileTest::openedAgainWhenItChanges()
 
 } // namespace zelvia::test
 
-ZELVIA_WINDOW_TEST_MAIN(zelvia::test::FileTest)
+ZELVIA_WINDOW_TEST(zelvia::test::FileTest)
 #include "FileTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The search finds every entry of the menus in the topic that tells of it, and every message.
 #include "support/DayPage.h"
+#include "support/WindowTest.h"
 #include "windows/guide/HelpFile.h"
 #include "windows/guide/SearchPane.h"
 
@@ -225,5 +226,5 @@ void SearchTest::pane()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SearchTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SearchTest)
 #include "SearchTest.moc"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of the guide, worked by hand.
+#include "support/WindowTest.h"
+
 #include "support/EntryPage.h"
 #include "support/TempFolder.h"
 #include "windows/plan/FrmTabAllenamenti.h"
@@ -543,5 +545,5 @@ void WindowTest::RefusedFiles()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::WindowTest)
+ZELVIA_WINDOW_TEST(zelvia::test::WindowTest)
 #include "WindowTest.moc"

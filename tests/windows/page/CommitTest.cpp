@@ -3,6 +3,7 @@
 // A day between its record and the controls: what is shown, what is stored, what counts as a change.
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
+#include "support/WindowTest.h"
 
 #include <vector>
 
@@ -395,5 +396,5 @@ void CommitTest::aChangedDiaryStaysChanged()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::CommitTest)
+ZELVIA_WINDOW_TEST(zelvia::test::CommitTest)
 #include "CommitTest.moc"

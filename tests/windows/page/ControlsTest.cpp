@@ -3,6 +3,7 @@
 // The controls of the page: names, limits, captions, what is visible at rest, what the spins write, the hand.
 #include "core/Files.h"
 #include "support/DayPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -390,5 +391,5 @@ void ControlsTest::handFileMissingOrDamaged()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ControlsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ControlsTest)
 #include "ControlsTest.moc"

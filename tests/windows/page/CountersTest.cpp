@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The counters of the year.
 #include "support/DayPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -122,5 +123,5 @@ void CountersTest::movingBackLowersThem()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::CountersTest)
+ZELVIA_WINDOW_TEST(zelvia::test::CountersTest)
 #include "CountersTest.moc"

@@ -3,6 +3,7 @@
 // The date of the page: where it starts, how the arrows move it and where they stop.
 #include "diary/TableModel.h"
 #include "support/DayPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -294,5 +295,5 @@ void DatesTest::aRequestOfTheTableEditorIsTakenUp()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::DatesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::DatesTest)
 #include "DatesTest.moc"

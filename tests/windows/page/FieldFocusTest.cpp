@@ -5,6 +5,7 @@
 #include "support/DiaryBytes.h"
 #include "support/EntryPage.h"
 #include "support/OtherProgram.h"
+#include "support/WindowTest.h"
 #include "windows/routes/FrmDesPercorso.h"
 
 #include <QMenu>
@@ -634,15 +635,6 @@ void FieldFocusTest::oneFieldAfterTheOther()
 
 } // namespace zelvia::test
 
-int main(int argc, char* argv[])
-{
-    if (OtherProgram::RanInstead(argc, argv)) {
-        return 0;
-    }
-    zelvia::Application application(argc, argv);
-    zelvia::Application::setQuitOnLastWindowClosed(false);
-    zelvia::test::FieldFocusTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZELVIA_WINDOW_TEST(zelvia::test::FieldFocusTest)
 
 #include "FieldFocusTest.moc"

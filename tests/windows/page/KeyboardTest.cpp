@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The page without a mouse: the keys of a group of arrows, and where Tab goes on when a field is closed.
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -159,5 +160,5 @@ void KeyboardTest::TheMenuKeyOpensThePopUpOfAList()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::KeyboardTest)
+ZELVIA_WINDOW_TEST(zelvia::test::KeyboardTest)
 #include "KeyboardTest.moc"

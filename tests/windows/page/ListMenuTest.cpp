@@ -3,6 +3,7 @@
 // The pop-up of the lists, and the commands that put the lists back.
 #include "diary/RouteModel.h"
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 #include <QAction>
 #include <QMenu>
@@ -317,5 +318,5 @@ void ListMenuTest::anAddedSeasonLastsUntilTheNextStart()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ListMenuTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ListMenuTest)
 #include "ListMenuTest.moc"

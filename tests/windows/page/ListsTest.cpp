@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The eight text fields of the page: opening, typing, picking from the list, closing.
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 #include "windows/routes/FrmDesPercorso.h"
 
 #include <array>
@@ -424,5 +425,5 @@ void ListsTest::onlyTheBoxCloses()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ListsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ListsTest)
 #include "ListsTest.moc"

@@ -3,6 +3,7 @@
 // The menus, the dispatcher of commands, help, the window about the program, the end.
 #include "support/DayPage.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -379,5 +380,5 @@ void MenusTest::exitUnloadsEveryWindowInOrder()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::MenusTest)
+ZELVIA_WINDOW_TEST(zelvia::test::MenusTest)
 #include "MenusTest.moc"

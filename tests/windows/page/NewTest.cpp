@@ -5,6 +5,7 @@
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -329,5 +330,5 @@ void NewTest::aNameOfAFile()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::NewTest)
+ZELVIA_WINDOW_TEST(zelvia::test::NewTest)
 #include "NewTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The eight lines of notes: opening, running on from line to line, closing.
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -342,5 +343,5 @@ void NotesTest::aLineHolds32Characters()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::NotesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::NotesTest)
 #include "NotesTest.moc"

@@ -5,6 +5,7 @@
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -202,5 +203,5 @@ void OptionsTest::listsCancelled()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::OptionsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::OptionsTest)
 #include "OptionsTest.moc"

@@ -3,6 +3,7 @@
 // The sorted list of a route's times on the page.
 #include "core/Conversions.h"
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -342,5 +343,5 @@ void OrderedListTest::columnsLineUp()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::OrderedListTest)
+ZELVIA_WINDOW_TEST(zelvia::test::OrderedListTest)
 #include "OrderedListTest.moc"

@@ -3,6 +3,7 @@
 // The sheet of the day, from the labels of the page.
 #include "support/DayPage.h"
 #include "support/PrinterTray.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -114,5 +115,5 @@ void PrintTest::theDispatcherPrintsToo()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PrintTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PrintTest)
 #include "PrintTest.moc"

@@ -3,6 +3,7 @@
 // The field of the route: what it remembers, and what it knows of a route that was run before.
 #include "diary/RouteModel.h"
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 #include "windows/routes/FrmDesPercorso.h"
 
 namespace zelvia::test
@@ -342,5 +343,5 @@ void RouteFieldTest::aDeletedRouteComesBackFromADay()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::RouteFieldTest)
+ZELVIA_WINDOW_TEST(zelvia::test::RouteFieldTest)
 #include "RouteFieldTest.moc"

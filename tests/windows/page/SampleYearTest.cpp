@@ -3,6 +3,7 @@
 // A year of the sample diary, turned page by page and saved: every byte of the set.
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -111,5 +112,5 @@ void SampleYearTest::openAndSaveTouchesOneDay()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SampleYearTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SampleYearTest)
 #include "SampleYearTest.moc"

@@ -5,6 +5,7 @@
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -382,5 +383,5 @@ void SaveTest::saveAsBelowTheDiaryFolder()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SaveTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SaveTest)
 #include "SaveTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The eight numeric fields of the page: what a click opens, what the arrows do, what closing does.
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -439,5 +440,5 @@ void SpinsTest::weightOpensAtTheLatestOne()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SpinsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SpinsTest)
 #include "SpinsTest.moc"

@@ -3,6 +3,7 @@
 // The kilometre splits of a day.
 #include "support/DiaryBytes.h"
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -381,5 +382,5 @@ void SplitsTest::the102ndFails()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SplitsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SplitsTest)
 #include "SplitsTest.moc"

@@ -7,6 +7,7 @@
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 #include <QProcess>
 
@@ -478,5 +479,5 @@ void StartTest::secondRunBringsThePageBack()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::StartTest)
+ZELVIA_WINDOW_TEST(zelvia::test::StartTest)
 #include "StartTest.moc"

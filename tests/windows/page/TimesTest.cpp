@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Time taken and average, computed when the distance or one of the times is left.
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -250,5 +251,5 @@ void TimesTest::aBlankedDayLosesBothTexts()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::TimesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::TimesTest)
 #include "TimesTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // An active table whose file is missing or damaged: what the page reports and shows, and that it goes on.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 #include <iterator>
 
@@ -296,5 +297,5 @@ void DamagedTableTest::mendedItIsReadAgain()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::DamagedTableTest)
+ZELVIA_WINDOW_TEST(zelvia::test::DamagedTableTest)
 #include "DamagedTableTest.moc"

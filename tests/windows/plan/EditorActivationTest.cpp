@@ -8,6 +8,7 @@
 #include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -509,5 +510,5 @@ void EditorActivationTest::aPointerThatCannotBeWrittenIsReported()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorActivationTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorActivationTest)
 #include "EditorActivationTest.moc"

@@ -4,6 +4,7 @@
 #include "diary/TableModel.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -216,5 +217,5 @@ void EditorCalculationsTest::calculatedHoursAreHeldToNoLimit()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorCalculationsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorCalculationsTest)
 #include "EditorCalculationsTest.moc"

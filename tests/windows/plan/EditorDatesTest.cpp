@@ -7,6 +7,7 @@
 #include "support/Bytes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -272,5 +273,5 @@ void EditorDatesTest::datesUpToTheYear2000StayHidden()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorDatesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorDatesTest)
 #include "EditorDatesTest.moc"

@@ -3,6 +3,7 @@
 // Values of the table editor that its columns and its calculations can't hold.
 #include "support/TableBytes.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -94,5 +95,5 @@ void EditorErrorsTest::averageBeyondAShort()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorErrorsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorErrorsTest)
 #include "EditorErrorsTest.moc"

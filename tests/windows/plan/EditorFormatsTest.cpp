@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the boxes of the table editor let in, and what they make of it when they are left.
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 #include <QClipboard>
 
@@ -237,5 +238,5 @@ void EditorFormatsTest::theSignsComeAndGo()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorFormatsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorFormatsTest)
 #include "EditorFormatsTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // From box to box of the table editor, what a box that refuses holds back, and what it lets through.
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -350,5 +351,5 @@ void EditorKeysTest::aNumberBeyondAllLimitsIsReported()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorKeysTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorKeysTest)
 #include "EditorKeysTest.moc"

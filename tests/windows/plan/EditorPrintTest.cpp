@@ -3,6 +3,7 @@
 // The sheet of a training table, from the boxes of the editor.
 #include "support/PrinterTray.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -140,5 +141,5 @@ void EditorPrintTest::theFocusComesBack()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorPrintTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorPrintTest)
 #include "EditorPrintTest.moc"

@@ -4,6 +4,7 @@
 #include "support/DiaryBytes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
+#include "support/WindowTest.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -364,5 +365,5 @@ void EditorRowsTest::rowsOfAnotherTableKeepTheirColour()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorRowsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorRowsTest)
 #include "EditorRowsTest.moc"

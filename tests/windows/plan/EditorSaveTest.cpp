@@ -5,6 +5,7 @@
 #include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
+#include "support/WindowTest.h"
 
 #include <QFile>
 
@@ -406,5 +407,5 @@ void EditorSaveTest::savingTakesTheGridAsAccepted()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorSaveTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorSaveTest)
 #include "EditorSaveTest.moc"

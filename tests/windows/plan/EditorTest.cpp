@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The editor of a training table, worked by mouse and keys.
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 #include "toolkit/Colours.h"
 #include "windows/plan/TableColours.h"
 
@@ -126,5 +127,5 @@ void EditorTest::activatesAndDeactivates()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::EditorTest)
+ZELVIA_WINDOW_TEST(zelvia::test::EditorTest)
 #include "EditorTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The active table on the page: its panel from day to day.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -431,5 +432,5 @@ void PanelTest::daysStillOfAnotherYear()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PanelTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PanelTest)
 #include "PanelTest.moc"

@@ -280,5 +280,5 @@ void PanelTimerTest::aTableInOtherLettersIsTheActiveOne()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PanelTimerTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PanelTimerTest)
 #include "PanelTimerTest.moc"

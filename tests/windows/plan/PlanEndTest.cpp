@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The end of the active table: told once and wherever it is noticed, and the table switched off behind it.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -146,5 +147,5 @@ void PlanEndTest::aPointerThatCannotBeWritten()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PlanEndTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PlanEndTest)
 #include "PlanEndTest.moc"

@@ -3,6 +3,7 @@
 // A training table from its first box to its last day, all of it by hand: written, computed, saved and activated in the
 // editor, then met day by day on the page until it is used up.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -310,5 +311,5 @@ void PlanToTheEndTest::aPlanFromItsFirstBoxToItsLastDay()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PlanToTheEndTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PlanToTheEndTest)
 #include "PlanToTheEndTest.moc"

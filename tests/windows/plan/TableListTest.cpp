@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The list of the training tables: what it shows, opens and deletes.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -616,5 +617,5 @@ void TableListTest::theProgramEndsWithItsWindows()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::TableListTest)
+ZELVIA_WINDOW_TEST(zelvia::test::TableListTest)
 #include "TableListTest.moc"

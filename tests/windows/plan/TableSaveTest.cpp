@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The file that saving a table makes, and the folder it may lie in.
 #include "support/PlanDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -195,5 +196,5 @@ void TableSaveTest::theFolderInOtherLetters()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::TableSaveTest)
+ZELVIA_WINDOW_TEST(zelvia::test::TableSaveTest)
 #include "TableSaveTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes of the calendar's grid: lengths, digits, limits, formats, Enter and the dashes of the date.
 #include "support/CalendarDesk.h"
+#include "support/WindowTest.h"
 
 Q_DECLARE_METATYPE(zelvia::CalendarGrid::RaceColumn)
 
@@ -216,5 +217,5 @@ void BoxesTest::theDashesComeWithTheDay()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::BoxesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::BoxesTest)
 #include "BoxesTest.moc"

@@ -4,6 +4,7 @@
 #include "support/Bytes.h"
 #include "support/CalendarDesk.h"
 #include "support/PrinterTray.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -161,5 +162,5 @@ void CalendarPrintTest::theSheetOfARaceDayWithAPlan()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::CalendarPrintTest)
+ZELVIA_WINDOW_TEST(zelvia::test::CalendarPrintTest)
 #include "CalendarPrintTest.moc"

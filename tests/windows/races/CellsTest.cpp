@@ -3,6 +3,7 @@
 // The values of the calendar as the boxes of its window show and hold them, and as the day page tells them.
 #include "diary/RaceTexts.h"
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 #include "windows/races/RaceColumns.h"
 
 #include <QTest>
@@ -282,5 +283,5 @@ void CellsTest::RaceOnThePage()
     QCOMPARE(Bytes(texts.gara + "|" + texts.localita + "|" + texts.categoria), QByteArray("stracitt\xE0| LAGO|S50 "));
 }
 
-QTEST_APPLESS_MAIN(CellsTest)
+ZELVIA_TEST(CellsTest)
 #include "CellsTest.moc"

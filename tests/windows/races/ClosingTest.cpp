@@ -4,6 +4,7 @@
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -229,5 +230,5 @@ void ClosingTest::errorsOfTheQuestion()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ClosingTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ClosingTest)
 #include "ClosingTest.moc"

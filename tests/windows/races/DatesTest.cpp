@@ -3,6 +3,7 @@
 // What the calendar's window makes of the dates: when a page is turned, at a save, at the close.
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -193,5 +194,5 @@ void DatesTest::aNameWithoutADate()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::DatesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::DatesTest)
 #include "DatesTest.moc"

@@ -5,6 +5,7 @@
 #include "support/Bytes.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -170,5 +171,5 @@ void OpeningTest::aBadFile()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::OpeningTest)
+ZELVIA_WINDOW_TEST(zelvia::test::OpeningTest)
 #include "OpeningTest.moc"

@@ -5,6 +5,7 @@
 #include "support/CalendarDesk.h"
 #include "support/DiaryBytes.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -298,5 +299,5 @@ void OtherDiaryTest::aDiaryWithoutAFolder()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::OtherDiaryTest)
+ZELVIA_WINDOW_TEST(zelvia::test::OtherDiaryTest)
 #include "OtherDiaryTest.moc"

@@ -3,6 +3,7 @@
 // The five pages of the calendar's window.
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -150,5 +151,5 @@ void PagesTest::aPartOfADateReturnsToNothing()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PagesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PagesTest)
 #include "PagesTest.moc"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A runner's races from the plan to the result, through the real windows.
 #include "support/CalendarDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -111,5 +112,5 @@ void RaceYearTest::fromThePlanToTheResult()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::RaceYearTest)
+ZELVIA_WINDOW_TEST(zelvia::test::RaceYearTest)
 #include "RaceYearTest.moc"

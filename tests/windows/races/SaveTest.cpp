@@ -3,6 +3,7 @@
 // "Salva" of the calendar's window, and the calendar that the page's own commands write.
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 #include <QFile>
 
@@ -147,5 +148,5 @@ void SaveTest::afterNewAHundredBlankRows()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SaveTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SaveTest)
 #include "SaveTest.moc"

@@ -4,6 +4,7 @@
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
 #include "support/FileBoxes.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -244,5 +245,5 @@ void SlipTest::theDayIsNotTouched()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SlipTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SlipTest)
 #include "SlipTest.moc"

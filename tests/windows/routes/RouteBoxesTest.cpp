@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes of a route's description: keys, limits and sums.
 #include "diary/RouteModel.h"
+#include "support/WindowTest.h"
 #include "windows/routes/RouteHand.h"
 
 namespace zelvia::test
@@ -229,5 +230,5 @@ void RouteBoxesTest::theSumsFollowTheFocus()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::RouteBoxesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::RouteBoxesTest)
 #include "RouteBoxesTest.moc"

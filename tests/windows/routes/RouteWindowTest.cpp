@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window of a route's description: when it opens, what it shows and what its closing stores.
 #include "diary/RouteModel.h"
+#include "support/WindowTest.h"
 #include "windows/routes/RouteHand.h"
 
 namespace zelvia::test
@@ -477,5 +478,5 @@ void RouteWindowTest::moreThanTheDistanceHolds()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::RouteWindowTest)
+ZELVIA_WINDOW_TEST(zelvia::test::RouteWindowTest)
 #include "RouteWindowTest.moc"

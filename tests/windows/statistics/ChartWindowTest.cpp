@@ -4,6 +4,7 @@
 #include "support/Bytes.h"
 #include "support/SearchDesk.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 #include <QClipboard>
 #include <QImage>
@@ -271,5 +272,5 @@ void ChartWindowTest::onlyTheFirst350Runs()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ChartWindowTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ChartWindowTest)
 #include "ChartWindowTest.moc"

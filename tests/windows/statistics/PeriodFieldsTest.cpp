@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The period of the search window: its boxes, their limits, and what is checked before a search.
 #include "support/SearchDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -237,5 +238,5 @@ void PeriodFieldsTest::aRefusalLeavesTheResult()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PeriodFieldsTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PeriodFieldsTest)
 #include "PeriodFieldsTest.moc"

@@ -3,6 +3,7 @@
 // The sheets of a search and of a chart, from their windows.
 #include "support/PrinterTray.h"
 #include "support/SearchDesk.h"
+#include "support/WindowTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -222,5 +223,5 @@ void SearchPrintTest::theFocusComesBackToTheChart()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SearchPrintTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SearchPrintTest)
 #include "SearchPrintTest.moc"

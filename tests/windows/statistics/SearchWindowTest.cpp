@@ -3,6 +3,7 @@
 // The window of the searches, worked by mouse and keys on the sample year.
 #include "diary/PlainSearch.h"
 #include "support/SearchDesk.h"
+#include "support/WindowTest.h"
 
 #include <QFontInfo>
 
@@ -393,5 +394,5 @@ void SearchWindowTest::itGoesWithThePage()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::SearchWindowTest)
+ZELVIA_WINDOW_TEST(zelvia::test::SearchWindowTest)
 #include "SearchWindowTest.moc"

@@ -4,6 +4,7 @@
 #include "diary/Module1.h"
 #include "support/PrinterTray.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -122,5 +123,5 @@ void StatisticPrintTest::theFocusComesBack()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::StatisticPrintTest)
+ZELVIA_WINDOW_TEST(zelvia::test::StatisticPrintTest)
 #include "StatisticPrintTest.moc"

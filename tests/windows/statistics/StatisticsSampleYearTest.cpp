@@ -3,6 +3,7 @@
 // The sample year from the menu of the page to the times of a value, against a plain computation from its file.
 #include "diary/PlainStatistics.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -104,5 +105,5 @@ void StatisticsSampleYearTest::noRowSelectedUnderRepetitions()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::StatisticsSampleYearTest)
+ZELVIA_WINDOW_TEST(zelvia::test::StatisticsSampleYearTest)
 #include "StatisticsSampleYearTest.moc"

@@ -5,6 +5,7 @@
 #include "support/Bytes.h"
 #include "support/EntryPage.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 #include <QFontInfo>
 #include <QHeaderView>
@@ -345,5 +346,5 @@ void StatisticsWindowTest::theExitClosesIt()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::StatisticsWindowTest)
+ZELVIA_WINDOW_TEST(zelvia::test::StatisticsWindowTest)
 #include "StatisticsWindowTest.moc"

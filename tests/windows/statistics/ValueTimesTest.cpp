@@ -4,6 +4,7 @@
 #include "support/EntryPage.h"
 #include "support/PrinterTray.h"
 #include "support/StatisticsDesk.h"
+#include "support/WindowTest.h"
 
 namespace zelvia::test
 {
@@ -495,5 +496,5 @@ void ValueTimesTest::aRightPressLeavesThem()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::ValueTimesTest)
+ZELVIA_WINDOW_TEST(zelvia::test::ValueTimesTest)
 #include "ValueTimesTest.moc"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "faults/ScarceMemory.h"
+#include "memory/ScarceMemory.h"
 
 #include "toolkit/Events.h"
 

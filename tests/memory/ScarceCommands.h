@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "faults/ScarceMemory.h"
+#include "memory/ScarceMemory.h"
 #include "support/DayPage.h"
 #include "support/ShownTexts.h"
 #include "toolkit/FocusController.h"

@@ -3,8 +3,9 @@
 // The page when memory runs out: each routine reports under its own title, and the page goes on.
 #include "diary/CalendarModel.h"
 #include "diary/RouteModel.h"
-#include "faults/ScarceCommands.h"
+#include "memory/ScarceCommands.h"
 #include "support/EntryPage.h"
+#include "support/WindowTest.h"
 #include "toolkit/Events.h"
 
 #include <QAction>
@@ -309,5 +310,5 @@ void PageMemoryTest::pointerOfTheStart()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::PageMemoryTest)
+ZELVIA_WINDOW_TEST(zelvia::test::PageMemoryTest)
 #include "PageMemoryTest.moc"

@@ -3,10 +3,11 @@
 // The windows beside the page when memory runs out: each routine reports under its own title.
 #include "diary/CalendarModel.h"
 #include "diary/RouteModel.h"
-#include "faults/ScarceCommands.h"
+#include "memory/ScarceCommands.h"
 #include "support/CalendarDesk.h"
 #include "support/SearchDesk.h"
 #include "support/TableDesk.h"
+#include "support/WindowTest.h"
 #include "toolkit/CommonDialog.h"
 
 #include <QAction>
@@ -142,5 +143,5 @@ void WindowMemoryTest::chartOfThePace()
 
 } // namespace zelvia::test
 
-DAY_PAGE_TEST_MAIN(zelvia::test::WindowMemoryTest)
+ZELVIA_WINDOW_TEST(zelvia::test::WindowMemoryTest)
 #include "WindowMemoryTest.moc"
