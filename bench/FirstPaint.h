@@ -9,12 +9,15 @@
 
 #include <chrono>
 #include <cstdio>
+#include <fstream>
+#include <string>
 
 namespace zelvia::bench
 {
 
 /// Ends the program once a window has been painted for the first time, and prints the time on the steady clock, which
-/// all processes share, in nanoseconds, then the number of controls given and the window's width and height.
+/// all processes share, in nanoseconds, the memory in kilobytes, then the number of controls given and the window's
+/// width and height.
 class FirstPaint : public QObject
 {
 public:
@@ -39,9 +42,21 @@ private:
     {
         using std::chrono::nanoseconds;
         const auto now = std::chrono::steady_clock::now().time_since_epoch();
-        std::printf("%lld %d %d %d\n", static_cast<long long>(std::chrono::duration_cast<nanoseconds>(now).count()),
-                    controls_, window_.width(), window_.height());
+        std::printf("%lld %ld %d %d %d\n", static_cast<long long>(std::chrono::duration_cast<nanoseconds>(now).count()),
+                    ProportionalMemory(), controls_, window_.width(), window_.height());
         QCoreApplication::quit();
+    }
+
+    /// The memory of this process in kilobytes, what it shares with others divided among them.
+    static long ProportionalMemory()
+    {
+        std::ifstream map("/proc/self/smaps_rollup");
+        std::string word;
+        while (map >> word && word != "Pss:") {
+        }
+        long kilobytes = 0;
+        map >> kilobytes;
+        return kilobytes;
     }
 
     QWidget& window_;
