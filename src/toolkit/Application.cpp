@@ -8,7 +8,7 @@
 #include "core/RunTimeError.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
-#include "toolkit/PageStyle.h"
+#include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 
 #include <QFile>
@@ -93,7 +93,7 @@ void InstallItalian(QApplication& application)
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
-    setStyle(new PageStyle);
+    setStyle(MakePageStyle());
     InstallItalian(*this);
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);

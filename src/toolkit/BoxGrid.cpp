@@ -55,11 +55,6 @@ TextBox* BoxGrid::Box(int column, int row) const
     return boxes_[place];
 }
 
-Text BoxGrid::Stored(int column, int place) const
-{
-    return CellText(Column(column).cell(place), Column(column).format);
-}
-
 void BoxGrid::Store(int column, int row, int place) const
 {
     SetCell(Column(column).cell(place), Content(column, row), Column(column).format);

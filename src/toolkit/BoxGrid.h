@@ -33,10 +33,10 @@ struct GridColumn {
     int width;
     TextView spoken;                 ///< Its accessible name, behind that of the row.
     Cell (*cell)(int row) = nullptr; ///< The value that a box shows.
-    bool testedOnEnter = true;       ///< Enter tests the limit itself; else the leaving that it causes does.
+    bool testedOnEnter = true;       ///< Enter tests the limit; otherwise leaving the box does.
 };
 
-/// Where the boxes of a grid stand, in logical pixels, and how they look.
+/// Where the boxes of a grid are, in logical pixels, and how they look.
 struct GridLook {
     int rows;
     int top;
@@ -47,7 +47,7 @@ struct GridLook {
     bool digitsRight = true; ///< Boxes that take digits only show them on the right.
 };
 
-/// A box of its own, or that of a row of several.
+/// The box of a column, alone or in a row of a grid.
 TextBox* MakeBox(QWidget* parent, const GridColumn& column, const GridLook& look, int row = 1);
 
 /// Signs between the boxes of a row, drawn by the caption of a label behind them. They appear when the box of one
@@ -78,7 +78,7 @@ public:
     const GridColumn& Column(int column) const { return columns_[static_cast<std::size_t>(column)]; }
 
     // A box and the value of its column at `place`; CellText, SetCell and CellHolds say how.
-    Text Stored(int column, int place) const;
+    Text Stored(int column, int place) const { return CellText(Column(column).cell(place), Column(column).format); }
     void Store(int column, int row, int place) const;
     bool Holds(int column, int row, int place) const;
 

@@ -3,7 +3,6 @@
 #include "toolkit/Chart.h"
 
 #include "core/Conversions.h"
-#include "toolkit/ChartDrawing.h"
 #include "toolkit/QtText.h"
 
 #include <QClipboard>

@@ -7,10 +7,16 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace zelvia
 {
 
-/// The chart of a window. It tells its values as its accessible description too.
+/// Draws a chart into a rectangle of logical pixels, 96 to the inch, in vectors: the same for a window, a picture and
+/// paper. The background is left as it is.
+void DrawChart(QPainter& painter, const QRectF& area, const ChartData& data);
+
+/// The chart of a window. Its values are also its accessible description.
 class Chart : public QWidget, public Control
 {
     Q_OBJECT
@@ -21,7 +27,7 @@ public:
     const ChartData& Shown() const { return data_; }
     void Show(const ChartData& shown);
 
-    /// Puts a picture of the chart on the clipboard, drawn on white at a size in logical pixels, whatever its size in
+    /// Puts a picture of the chart on the clipboard, drawn on white at a size in logical pixels, not at its size in
     /// the window; on paper it is as large as on the screen.
     void EditCopy(const QSize& size) const;
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "toolkit/ChartDrawing.h"
-
+#include "toolkit/Chart.h"
 #include "toolkit/ChartLabels.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
@@ -143,7 +142,7 @@ public:
         points_.bars ? AddBars() : AddLine();
     }
 
-    /// Draws into a picture, since the library wants a painter of its own: any painter can play that.
+    /// Draws into a picture, since the library needs its own kind of painter; any painter can play a picture.
     void Draw(QPainter& painter, const QRectF& area)
     {
         QPicture picture;
@@ -218,7 +217,7 @@ private:
             }
             axis.setTicker(ticker);
             axis.setRange(points_.PlaceRange());
-            axis.setTickLength(1); // one of no length comes out as a dot
+            axis.setTickLength(1); // one of length 0 is drawn as a dot
             axis.setTickPen(Qt::NoPen);
             axis.setTickLabelFont(style.font);
             axis.setTickLabelColor(Ink::PrintDark);

@@ -252,14 +252,8 @@ void FocusController::ShowDeferred()
 
 void FocusController::Forget(Control& control)
 {
-    if (current_ == &control) {
-        current_ = nullptr;
-    }
-    if (displaced_ == &control) {
-        displaced_ = nullptr;
-    }
-    if (previous_ == &control) {
-        previous_ = nullptr;
+    for (Control** place : {&current_, &previous_, &displaced_}) {
+        *place = *place == &control ? nullptr : *place;
     }
     std::erase(waiting_, &control);
     std::erase(deferred_, &control);

@@ -32,7 +32,7 @@ int OpenForLock(const QString& path)
 }
 
 /// An abstract socket address: it exists only in the kernel and ends with the process. It is named after the locked
-/// file, so that it is the same whatever path leads to the folder.
+/// file, so that it is the same for every path to the folder.
 struct Address {
     sockaddr_un name{};
     socklen_t length = 0;

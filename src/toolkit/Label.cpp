@@ -22,11 +22,6 @@ Label::Label(QWidget* parent, const QString& name) : QLabel(parent), Control(thi
     setFocusPolicy(Qt::NoFocus);
 }
 
-Text Label::Caption() const
-{
-    return FromQString(text());
-}
-
 void Label::SetCaption(TextView caption)
 {
     // QLabel lays out the text of a focusable label in a document of its own, which plain text does not need.

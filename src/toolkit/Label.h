@@ -4,6 +4,7 @@
 
 #include "core/Text.h"
 #include "toolkit/Control.h"
+#include "toolkit/QtText.h"
 
 #include <QLabel>
 
@@ -22,7 +23,7 @@ class Label : public QLabel, public Control
 public:
     Label(QWidget* parent, const QString& name);
 
-    Text Caption() const;
+    Text Caption() const { return FromQString(text()); }
     void SetCaption(TextView caption);
 
     /// Gives the label a click and, unless another control does the same for the keyboard, a place in the order of Tab.

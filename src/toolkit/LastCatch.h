@@ -18,7 +18,7 @@ namespace zelvia
 /// application catches as near to the receiver as it can, at the event, where they hold no more than the event's own
 /// data; and a slot's handler runs under Fire, which lets no exception out.
 ///
-/// An event that repeats by itself, such as a paint or a timer, is reported when it begins to fail and not again until
+/// A repeating event, such as a paint or a timer, is reported when it begins to fail and not again until
 /// it has succeeded once; failures while a report is pending or shown are not reported.
 class LastCatch
 {

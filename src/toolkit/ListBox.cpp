@@ -40,11 +40,6 @@ std::vector<Text> ListBox::Items() const
     return items;
 }
 
-void ListBox::AddItem(TextView text)
-{
-    addItem(ToQString(text));
-}
-
 void ListBox::AddItems(std::span<const TextView> texts)
 {
     QStringList strings;
@@ -57,7 +52,7 @@ void ListBox::AddItems(std::span<const TextView> texts)
 
 void ListBox::RemoveItem(int index)
 {
-    // The entry that follows must not come up as the selected one.
+    // The entry that follows must not become the selected one.
     delete takeItem(index);
     SetListIndex(-1);
 }

@@ -4,6 +4,7 @@
 
 #include "core/Text.h"
 #include "toolkit/Control.h"
+#include "toolkit/QtText.h"
 
 #include <QListWidget>
 
@@ -24,7 +25,7 @@ public:
     int ListCount() const { return count(); }
     Text List(int index) const;
     std::vector<Text> Items() const;
-    void AddItem(TextView text);
+    void AddItem(TextView text) { addItem(ToQString(text)); }
     void AddItems(std::span<const TextView> texts);
     void RemoveItem(int index);
     void Clear() { clear(); }
@@ -33,9 +34,9 @@ public:
     int ListIndex() const;
     void SetListIndex(int index);
 
-    /// An entry was chosen: pressed with the mouse, whatever becomes of the press, or selected by a key. It is reported
-    /// after the change of focus that the press caused and, if that opened a window above this one, after that has
-    /// closed.
+    /// An entry was chosen: pressed with the mouse, even if the press turns into a drag, or selected by a key. It is
+    /// reported after the change of focus that the press caused and, if that opened a window above this one, after that
+    /// has closed.
     std::function<void()> Click;
     std::function<void()> DblClick;
 

@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QPalette>
 
+class QStyle;
+
 namespace zelvia
 {
 
@@ -22,7 +24,10 @@ inline constexpr QColor Pen{26, 58, 140};
 inline constexpr QColor Desk{92, 68, 48};
 } // namespace Ink
 
-/// The palette of everything that lies on the paper, whatever the desktop's own colours.
+/// The palette of everything on the paper, independent of the desktop's colours.
 QPalette PagePalette();
+
+/// The style of the program, for the application to own.
+QStyle* MakePageStyle();
 
 } // namespace zelvia

@@ -4,11 +4,11 @@
 
 #include "toolkit/Control.h"
 
+#include <QPainter>
 #include <QWidget>
 
 #include <functional>
-
-class QPainter;
+#include <utility>
 
 namespace zelvia
 {
@@ -21,10 +21,22 @@ class Picture : public QWidget, public Control
 public:
     using Drawing = std::function<void(QPainter&, const QRectF&)>;
 
-    Picture(QWidget* parent, const QString& name, Drawing drawing = {});
+    Picture(QWidget* parent, const QString& name, Drawing drawing = {})
+        : QWidget(parent), Control(this), drawing_(std::move(drawing))
+    {
+        setObjectName(name);
+        setFocusPolicy(Qt::NoFocus);
+    }
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        if (drawing_) {
+            QPainter painter(this);
+            painter.setRenderHint(QPainter::Antialiasing);
+            drawing_(painter, rect());
+        }
+    }
 
 private:
     Drawing drawing_;

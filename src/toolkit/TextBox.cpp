@@ -40,11 +40,6 @@ TextBox::TextBox(QWidget* parent, const QString& name, int limit) : QLineEdit(pa
     connect(this, &QLineEdit::textEdited, this, [this] { Fire(Change); });
 }
 
-Text TextBox::Content() const
-{
-    return FromQString(text());
-}
-
 void TextBox::SetContent(TextView text)
 {
     setText(ToQString(text));

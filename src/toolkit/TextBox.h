@@ -4,6 +4,7 @@
 
 #include "core/Text.h"
 #include "toolkit/Control.h"
+#include "toolkit/QtText.h"
 
 #include <QLineEdit>
 
@@ -26,7 +27,7 @@ public:
     /// `limit` is the longest text that can be typed, 0 for none.
     TextBox(QWidget* parent, const QString& name, int limit = 0);
 
-    Text Content() const;
+    Text Content() const { return FromQString(text()); }
     void SetContent(TextView text);
     int Limit() const { return limit_; }
     void SetEntry(BoxEntry entry) { entry_ = entry; }

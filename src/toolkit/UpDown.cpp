@@ -61,34 +61,21 @@ UpDown::Half UpDown::HalfAt(const QPointF& position) const
 
 void UpDown::Step(Half half)
 {
-    if (half != Half::None && BeforeStep && !BeforeStep()) {
+    if (half == Half::None || (BeforeStep && !BeforeStep())) {
         return;
     }
     const int value = value_.value();
-    if (half == Half::Upper) {
-        Fire(UpClick);
-        if (value < maximum_) {
-            SetValue(std::max(std::min(value + increment_, maximum_), minimum_));
-        }
-    } else if (half == Half::Lower) {
-        Fire(DownClick);
-        if (value > minimum_) {
-            SetValue(std::max(std::min(value - increment_, maximum_), minimum_));
-        }
+    const bool up = half == Half::Upper;
+    Fire(up ? UpClick : DownClick);
+    if (up ? value < maximum_ : value > minimum_) {
+        SetValue(std::clamp(value + (up ? increment_ : -increment_), minimum_, maximum_));
     }
 }
 
-void UpDown::StepUp(int times)
+void UpDown::Step(Half half, int times)
 {
     for (int i = 0; i < times; ++i) {
-        Step(Half::Upper);
-    }
-}
-
-void UpDown::StepDown(int times)
-{
-    for (int i = 0; i < times; ++i) {
-        Step(Half::Lower);
+        Step(half);
     }
 }
 
@@ -128,11 +115,6 @@ void UpDown::mousePressEvent(QMouseEvent* event)
     }
 }
 
-void UpDown::mouseReleaseEvent(QMouseEvent* /*event*/)
-{
-    StopRepeat();
-}
-
 void UpDown::mouseMoveEvent(QMouseEvent* event)
 {
     hovered_ = HalfAt(event->position());
@@ -147,10 +129,7 @@ void UpDown::leaveEvent(QEvent* /*event*/)
 
 void UpDown::timerEvent(QTimerEvent* event)
 {
-    if (event->timerId() != repeat_.timerId()) {
-        return;
-    }
-    if (Routine::Running()) {
+    if (event->timerId() != repeat_.timerId() || Routine::Running()) {
         return;
     }
     if (!repeating_) {
@@ -160,11 +139,6 @@ void UpDown::timerEvent(QTimerEvent* event)
     if (held_ == hovered_) {
         Step(held_);
     }
-}
-
-void UpDown::hideEvent(QHideEvent* /*event*/)
-{
-    StopRepeat();
 }
 
 void UpDown::wheelEvent(QWheelEvent* event)

@@ -24,6 +24,8 @@ class UpDown : public QWidget, public Control
     Q_PROPERTY(int maximum READ Maximum)
     Q_PROPERTY(int increment READ Increment)
 
+    enum class Half { None, Upper, Lower };
+
 public:
     UpDown(QWidget* parent, const QString& name);
 
@@ -33,8 +35,8 @@ public:
     int Increment() const { return increment_; }
 
     /// Steps as a press of the arrow does, `times` times.
-    void StepUp(int times);
-    void StepDown(int times);
+    void StepUp(int times) { Step(Half::Upper, times); }
+    void StepDown(int times) { Step(Half::Lower, times); }
 
     /// In a group whose keys go to one of several, whether they go to this one; of itself a spin shows its focus.
     void SetMarked(bool marked);
@@ -58,22 +60,21 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* /*event*/) override { StopRepeat(); }
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
+    void hideEvent(QHideEvent* /*event*/) override { StopRepeat(); }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Half { None, Upper, Lower };
-
     int GetValue() const { return value_.value(); }
     void SetNumber(int value) { SetValue(value); }
     Half HalfAt(const QPointF& position) const;
     void Step(Half half);
+    void Step(Half half, int times);
     void StopRepeat();
 
     i32 value_ = 0;

@@ -4,7 +4,6 @@
 
 #include "core/Conversions.h"
 #include "support/WindowTest.h"
-#include "toolkit/ChartDrawing.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 #include "toolkit/TextCatcher.h"
