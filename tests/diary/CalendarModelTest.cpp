@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/CalendarModel.h"
 
-#include "diary/Module1.h"
-#include "support/Bytes.h"
-#include "support/Days.h"
-#include "support/FileFailures.h"
-#include "support/MessageScript.h"
-#include "support/TempFolder.h"
+#include "support/ModelFile.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -18,11 +13,12 @@ using namespace zelvia;
 using namespace zelvia::Module1;
 using zelvia::test::Bytes;
 using zelvia::test::Difference;
+using zelvia::test::FileLines;
 using zelvia::test::LineOf;
 using zelvia::test::Lines;
 using zelvia::test::MessageScript;
+using zelvia::test::ModelFile;
 using zelvia::test::RaisedBy;
-using zelvia::test::TempFolder;
 
 class CalendarModelTest : public QObject
 {
@@ -47,16 +43,16 @@ private Q_SLOTS:
     void WritingReplacesTheFile();
 
 private:
-    TempFolder folder_;
+    static const ModelFile kFile;
 };
 
 namespace
 {
 
 /// The 1,500 lines of the calendar in memory, by name.
-std::vector<std::string> CalendarLines()
+FileLines CalendarLines()
 {
-    std::vector<std::string> lines;
+    FileLines lines;
     for (int i = 1; i <= 100; ++i) {
         for (const std::string& line :
              {LineOf(NumeroGara[i]), LineOf(GiornoGara[i]), LineOf(MeseGara[i]), LineOf(AnnoGara[i]), LineOf(Gara[i]),
@@ -69,13 +65,19 @@ std::vector<std::string> CalendarLines()
     return lines;
 }
 
-std::vector<std::string> CountedLines()
+bool IsText(int line)
 {
-    std::vector<std::string> lines;
+    const int column = line % 15 + 1;
+    return column == 5 || column == 6 || column == 14;
+}
+
+FileLines CountedLines()
+{
+    FileLines lines;
     for (int row = 1; row <= 100; ++row) {
         for (int column = 1; column <= 15; ++column) {
             const std::string place = std::to_string(row * 100 + column);
-            lines.push_back(column == 5 || column == 6 || column == 14 ? "\"posto " + place + "\"" : place);
+            lines.push_back(IsText((row - 1) * 15 + column - 1) ? "\"posto " + place + "\"" : place);
         }
     }
     return lines;
@@ -93,10 +95,17 @@ std::string BlankCalendar()
 
 } // namespace
 
+const ModelFile CalendarModelTest::kFile{.name = "CalendarioGare",
+                                         .memory = CalendarLines,
+                                         .counted = CountedLines(),
+                                         .read = LeggiCalendario,
+                                         .write = ScriviCalendario,
+                                         .isText = IsText};
+
 void CalendarModelTest::init()
 {
     AzzeraStato();
-    CartellaDiario = folder_.Path();
+    CartellaDiario = kFile.folder.Path();
     AzzeraCalendario();
 }
 
@@ -122,7 +131,7 @@ void CalendarModelTest::ABlankCalendarIsWrittenLineByLine()
 {
     MessageScript boxes;
     ScriviCalendario();
-    const Text file = folder_.Read("CalendarioGare");
+    const Text file = kFile.Content();
     QCOMPARE(Difference(file, BlankCalendar()), QByteArray());
     QCOMPARE(std::count(file.begin(), file.end(), '\n'), std::ptrdiff_t{1500});
     QCOMPARE(boxes.Shown(), 0);
@@ -137,13 +146,8 @@ void CalendarModelTest::ARaceKeepsItsRow()
     Gara[57] = "Corrida, seconda prova";
     Localita[57] = "Citt\xE0";
     Partecipanti[57] = 40000;
-    ScriviCalendario();
-    const std::vector<std::string> lines = CalendarLines();
-    QCOMPARE(lines.size(), std::size_t{1500});
-    QCOMPARE(Difference(folder_.Read("CalendarioGare"), Lines(lines)), QByteArray());
-    AzzeraCalendario();
-    LeggiCalendario();
-    QVERIFY(CalendarLines() == lines);
+    QCOMPARE(CalendarLines().size(), std::size_t{1500});
+    kFile.ComesBack(AzzeraCalendario);
     QVERIFY(GiornoGara[57] == 29);
     QVERIFY(GiornoGara[56] == 0 && GiornoGara[58] == 0);
     QCOMPARE(Bytes(Gara[57]), QByteArray("Corrida, seconda prova"));
@@ -158,20 +162,20 @@ void CalendarModelTest::ATimeTakesThreeLines()
     MinutiGara[1] = 5;
     SecondiGara[1] = 0;
     ScriviCalendario();
-    const QByteArrayList lines = Bytes(folder_.Read("CalendarioGare")).split('\n');
+    const QByteArrayList lines = Bytes(kFile.Content()).split('\n');
     QCOMPARE(lines.mid(10, 3), (QByteArrayList{"1\r", "5\r", "0\r"}));
 }
 
 void CalendarModelTest::RowNumbersAreTakenFromTheFile()
 {
     MessageScript boxes;
-    folder_.Write("CalendarioGare", Lines(CountedLines()));
+    kFile.Put(CountedLines());
     LeggiCalendario();
     QVERIFY(NumeroGara[1] == 101);
     QVERIFY(NumeroGara[100] == 10001);
     QVERIFY(CalendarLines() == CountedLines());
     ScriviCalendario();
-    QCOMPARE(Difference(folder_.Read("CalendarioGare"), Lines(CountedLines())), QByteArray());
+    QCOMPARE(Difference(kFile.Content(), Lines(CountedLines())), QByteArray());
     QCOMPARE(boxes.Shown(), 0);
 }
 
@@ -195,12 +199,7 @@ void CalendarModelTest::ExtremeValuesComeBack()
             }
         }
     }
-    const std::vector<std::string> lines = CalendarLines();
-    ScriviCalendario();
-    AzzeraCalendario();
-    LeggiCalendario();
-    QVERIFY(CalendarLines() == lines);
-    QCOMPARE(boxes.Shown(), 0);
+    kFile.ComesBack(AzzeraCalendario);
 }
 
 void CalendarModelTest::CutAtEveryLineOfSomeRows_data()
@@ -217,17 +216,7 @@ void CalendarModelTest::CutAtEveryLineOfSomeRows_data()
 void CalendarModelTest::CutAtEveryLineOfSomeRows()
 {
     QFETCH(int, kept);
-    const std::vector<std::string> filed = CountedLines();
-    std::vector<std::string> expected = CalendarLines();
-    std::copy(filed.begin(), filed.begin() + kept, expected.begin());
-    folder_.Write("CalendarioGare", Lines({filed.begin(), filed.begin() + kept}));
-    MessageScript boxes;
-    if (kept < 1500) {
-        boxes.ExpectError("ERRORE : ", 62);
-    }
-    LeggiCalendario();
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(CalendarLines()), Lines(expected)), QByteArray());
+    kFile.ReadCut(kept);
 }
 
 void CalendarModelTest::GarbledLine_data()
@@ -236,7 +225,7 @@ void CalendarModelTest::GarbledLine_data()
     QTest::addColumn<QByteArray>("garbage");
     QTest::addColumn<int>("error"); // 0 where the line passes silently.
     for (int column = 1; column <= 15; ++column) {
-        const bool words = column == 5 || column == 6 || column == 14;
+        const bool words = IsText(column - 1);
         const bool wide = column == 9 || column == 10 || column == 15;
         QTest::addRow("column %d, text", column) << column << QByteArray("xyz") << (words ? 0 : 13);
         QTest::addRow("column %d, quoted", column) << column << QByteArray("\"7\"") << (words ? 0 : 13);
@@ -251,24 +240,7 @@ void CalendarModelTest::GarbledLine()
     QFETCH(int, column);
     QFETCH(QByteArray, garbage);
     QFETCH(int, error);
-    const int line = 49 * 15 + column - 1;
-    std::vector<std::string> filed = CountedLines();
-    filed[static_cast<std::size_t>(line)] = garbage.toStdString();
-    folder_.Write("CalendarioGare", Lines(filed));
-    std::vector<std::string> expected = filed;
-    if (error != 0) {
-        expected = CalendarLines();
-        std::copy(filed.begin(), filed.begin() + line, expected.begin());
-    } else if (column == 5 || column == 6 || column == 14) {
-        expected[static_cast<std::size_t>(line)] = LineOf(test::TextOf(QByteArray(garbage).replace("\"", "")));
-    }
-    MessageScript boxes;
-    if (error != 0) {
-        boxes.ExpectError("ERRORE : ", error);
-    }
-    LeggiCalendario();
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(CalendarLines()), Lines(expected)), QByteArray());
+    kFile.ReadGarbled(49 * 15 + column - 1, garbage, error);
 }
 
 void CalendarModelTest::AQuoteInANameEndsInTheReport()
@@ -291,37 +263,20 @@ void CalendarModelTest::FailuresAreReported()
     QFETCH(QByteArray, folder);
     QFETCH(int, reading);
     QFETCH(int, writing);
-    const TempFolder temp;
-    CartellaDiario = test::MakeFailingFolder(temp, folder, "CalendarioGare");
-    MessageScript boxes;
-    boxes.ExpectError("ERRORE : ", reading);
-    LeggiCalendario();
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(CalendarLines()), BlankCalendar()), QByteArray());
-    if (writing != 0) {
-        boxes.ExpectError("ERRORE : ", writing);
-    }
-    ScriviCalendario();
-    QVERIFY(boxes.AllShown());
+    kFile.FailInFolder(folder, reading, writing);
 }
 
 void CalendarModelTest::AFullDiskIsReported()
 {
-    const TempFolder temp;
-    std::filesystem::create_symlink("/dev/full", temp.Native("CalendarioGare"));
-    CartellaDiario = temp.Path();
-    MessageScript boxes;
-    boxes.ExpectError("ERRORE : ", 61);
-    ScriviCalendario();
-    QVERIFY(boxes.AllShown());
+    kFile.WriteToFullDisk();
 }
 
 void CalendarModelTest::WritingReplacesTheFile()
 {
     MessageScript boxes;
-    folder_.Write("CalendarioGare", Text(100'000, 'x'));
+    kFile.folder.Write(kFile.name, Text(100'000, 'x'));
     ScriviCalendario();
-    QCOMPARE(Difference(folder_.Read("CalendarioGare"), BlankCalendar()), QByteArray());
+    QCOMPARE(Difference(kFile.Content(), BlankCalendar()), QByteArray());
     QCOMPARE(boxes.Shown(), 0);
 }
 

@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/RouteModel.h"
 
-#include "diary/Module1.h"
-#include "support/Bytes.h"
-#include "support/Days.h"
-#include "support/FileFailures.h"
-#include "support/MessageScript.h"
-#include "support/TempFolder.h"
+#include "support/ModelFile.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -18,11 +13,12 @@ using namespace zelvia;
 using namespace zelvia::Module1;
 using zelvia::test::Bytes;
 using zelvia::test::Difference;
+using zelvia::test::FileLines;
 using zelvia::test::LineOf;
 using zelvia::test::Lines;
 using zelvia::test::MessageScript;
+using zelvia::test::ModelFile;
 using zelvia::test::RaisedBy;
-using zelvia::test::TempFolder;
 
 class RouteModelTest : public QObject
 {
@@ -46,16 +42,16 @@ private Q_SLOTS:
     void AFullDiskIsReported();
 
 private:
-    TempFolder folder_;
+    static const ModelFile kFile;
 };
 
 namespace
 {
 
 /// The 12,400 lines of the routes in memory, by name.
-std::vector<std::string> RouteLines()
+FileLines RouteLines()
 {
-    std::vector<std::string> lines;
+    FileLines lines;
     for (int i = 1; i <= 200; ++i) {
         lines.push_back(LineOf(NomiPercorso[i]));
         lines.push_back(LineOf(DistanzePercorso[i]));
@@ -68,17 +64,17 @@ std::vector<std::string> RouteLines()
     return lines;
 }
 
-bool IsWords(int line)
+bool IsText(int line)
 {
     const int place = line % 62;
     return place == 0 || (place >= 2 && (place - 2) % 3 == 0);
 }
 
-std::vector<std::string> CountedLines()
+FileLines CountedLines()
 {
-    std::vector<std::string> lines;
+    FileLines lines;
     for (int line = 0; line < 12400; ++line) {
-        lines.push_back(IsWords(line) ? "\"tratto, " + std::to_string(line) + "\"" : std::to_string(line));
+        lines.push_back(IsText(line) ? "\"tratto, " + std::to_string(line) + "\"" : std::to_string(line));
     }
     return lines;
 }
@@ -114,10 +110,18 @@ void ExpectRouteReport(MessageScript& boxes, int number)
 
 } // namespace
 
+const ModelFile RouteModelTest::kFile{.name = "ListePercorso",
+                                      .memory = RouteLines,
+                                      .counted = CountedLines(),
+                                      .read = CaricaPercorsi,
+                                      .write = SalvaPercorsi,
+                                      .isText = IsText,
+                                      .expectReadReport = ExpectRouteReport};
+
 void RouteModelTest::init()
 {
     AzzeraStato();
-    CartellaDiario = folder_.Path();
+    CartellaDiario = kFile.folder.Path();
     AzzeraPercorsi();
 }
 
@@ -125,7 +129,7 @@ void RouteModelTest::BlankRoutesAreWrittenLineByLine()
 {
     MessageScript boxes;
     SalvaPercorsi();
-    const Text file = folder_.Read("ListePercorso");
+    const Text file = kFile.Content();
     QCOMPARE(Difference(file, BlankRoutes()), QByteArray());
     QCOMPARE(std::count(file.begin(), file.end(), '\n'), std::ptrdiff_t{12400});
     QCOMPARE(boxes.Shown(), 0);
@@ -179,7 +183,7 @@ void RouteModelTest::BlankingOutOfBoundsIsReported()
 {
     QFETCH(int, place);
     FillRoute(200);
-    const std::vector<std::string> before = RouteLines();
+    const FileLines before = RouteLines();
     MessageScript boxes;
     boxes.ExpectError("ERRORE : ", 9);
     AzzeraPercorso(place);
@@ -192,7 +196,7 @@ void RouteModelTest::PlaceZeroStaysOut()
     MessageScript boxes;
     FillRoute(0);
     SalvaPercorsi();
-    QCOMPARE(Difference(folder_.Read("ListePercorso"), BlankRoutes()), QByteArray());
+    QCOMPARE(Difference(kFile.Content(), BlankRoutes()), QByteArray());
     CaricaPercorsi();
     QCOMPARE(Bytes(NomiPercorso[0]), QByteArray("Lungofiume 0"));
     QCOMPARE(boxes.Shown(), 0);
@@ -219,13 +223,7 @@ void RouteModelTest::ExtremeValuesComeBack()
             TrattoMetri[i][j] = j % 2 == 0 ? low : high;
         }
     }
-    const std::vector<std::string> lines = RouteLines();
-    SalvaPercorsi();
-    QCOMPARE(Difference(folder_.Read("ListePercorso"), Lines(lines)), QByteArray());
-    AzzeraPercorsi();
-    CaricaPercorsi();
-    QVERIFY(RouteLines() == lines);
-    QCOMPARE(boxes.Shown(), 0);
+    kFile.ComesBack(AzzeraPercorsi);
 }
 
 void RouteModelTest::CutAtEveryLineOfSomeRoutes_data()
@@ -242,17 +240,7 @@ void RouteModelTest::CutAtEveryLineOfSomeRoutes_data()
 void RouteModelTest::CutAtEveryLineOfSomeRoutes()
 {
     QFETCH(int, kept);
-    const std::vector<std::string> filed = CountedLines();
-    std::vector<std::string> expected = RouteLines();
-    std::copy(filed.begin(), filed.begin() + kept, expected.begin());
-    folder_.Write("ListePercorso", Lines({filed.begin(), filed.begin() + kept}));
-    MessageScript boxes;
-    if (kept < 12400) {
-        ExpectRouteReport(boxes, 62);
-    }
-    CaricaPercorsi();
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(RouteLines()), Lines(expected)), QByteArray());
+    kFile.ReadCut(kept);
 }
 
 void RouteModelTest::GarbledLine_data()
@@ -261,7 +249,7 @@ void RouteModelTest::GarbledLine_data()
     QTest::addColumn<QByteArray>("garbage");
     QTest::addColumn<int>("error"); // 0 where the line passes silently.
     for (const int line : {0, 1, 2, 3, 4, 60, 61, 62, 63, 12397, 12398, 12399}) {
-        const bool words = IsWords(line);
+        const bool words = IsText(line);
         QTest::addRow("line %d, text", line + 1) << line << QByteArray("xyz") << (words ? 0 : 13);
         QTest::addRow("line %d, quoted", line + 1) << line << QByteArray("\"7\"") << (words ? 0 : 13);
         QTest::addRow("line %d, empty", line + 1) << line << QByteArray() << (words ? 0 : 13);
@@ -275,23 +263,7 @@ void RouteModelTest::GarbledLine()
     QFETCH(int, line);
     QFETCH(QByteArray, garbage);
     QFETCH(int, error);
-    std::vector<std::string> filed = CountedLines();
-    filed[static_cast<std::size_t>(line)] = garbage.toStdString();
-    folder_.Write("ListePercorso", Lines(filed));
-    std::vector<std::string> expected = filed;
-    if (error != 0) {
-        expected = RouteLines();
-        std::copy(filed.begin(), filed.begin() + line, expected.begin());
-    } else if (IsWords(line)) {
-        expected[static_cast<std::size_t>(line)] = LineOf(test::TextOf(QByteArray(garbage).replace("\"", "")));
-    }
-    MessageScript boxes;
-    if (error != 0) {
-        ExpectRouteReport(boxes, error);
-    }
-    CaricaPercorsi();
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(RouteLines()), Lines(expected)), QByteArray());
+    kFile.ReadGarbled(line, garbage, error);
 }
 
 void RouteModelTest::FailuresAreReported()
@@ -299,31 +271,13 @@ void RouteModelTest::FailuresAreReported()
     QFETCH(QByteArray, folder);
     QFETCH(int, reading);
     QFETCH(int, writing);
-    const TempFolder temp;
-    CartellaDiario = test::MakeFailingFolder(temp, folder, "ListePercorso");
     FillRoute(5);
-    const std::vector<std::string> before = RouteLines();
-    MessageScript boxes;
-    ExpectRouteReport(boxes, reading);
-    CaricaPercorsi();
-    QVERIFY(boxes.AllShown());
-    QVERIFY(RouteLines() == before);
-    if (writing != 0) {
-        boxes.ExpectError("ERRORE : ", writing);
-    }
-    SalvaPercorsi();
-    QVERIFY(boxes.AllShown());
+    kFile.FailInFolder(folder, reading, writing);
 }
 
 void RouteModelTest::AFullDiskIsReported()
 {
-    const TempFolder temp;
-    std::filesystem::create_symlink("/dev/full", temp.Native("ListePercorso"));
-    CartellaDiario = temp.Path();
-    MessageScript boxes;
-    boxes.ExpectError("ERRORE : ", 61);
-    SalvaPercorsi();
-    QVERIFY(boxes.AllShown());
+    kFile.WriteToFullDisk();
 }
 
 ZELVIA_TEST(RouteModelTest)

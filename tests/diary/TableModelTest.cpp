@@ -3,12 +3,7 @@
 #include "diary/TableModel.h"
 
 #include "core/Conversions.h"
-#include "diary/Module1.h"
-#include "support/Bytes.h"
-#include "support/Days.h"
-#include "support/FileFailures.h"
-#include "support/MessageScript.h"
-#include "support/TempFolder.h"
+#include "support/ModelFile.h"
 #include "support/TestProgram.h"
 
 #include <QTest>
@@ -17,9 +12,11 @@ using namespace zelvia;
 using namespace zelvia::Module1;
 using zelvia::test::Bytes;
 using zelvia::test::Difference;
+using zelvia::test::FileLines;
 using zelvia::test::LineOf;
 using zelvia::test::Lines;
 using zelvia::test::MessageScript;
+using zelvia::test::ModelFile;
 using zelvia::test::RaisedBy;
 using zelvia::test::TempFolder;
 
@@ -46,16 +43,17 @@ private Q_SLOTS:
     void WritingFailsWithAReport();
 
 private:
-    TempFolder folder_;
+    static const ModelFile kFile;
+    const TempFolder& folder_ = kFile.folder;
 };
 
 namespace
 {
 
 /// The 466 lines of the table in memory, by name.
-std::vector<std::string> TableLines()
+FileLines TableLines()
 {
-    std::vector<std::string> lines;
+    FileLines lines;
     for (int i = 1; i <= 31; ++i) {
         for (const std::string& line :
              {LineOf(TabGiorno[i]), LineOf(TabKm[i]), LineOf(TabMetri[i]), LineOf(TabOre[i]), LineOf(TabMinuti[i]),
@@ -69,10 +67,10 @@ std::vector<std::string> TableLines()
     return lines;
 }
 
-/// A file whose numbers are counted up and whose texts say where they stand.
-std::vector<std::string> CountedLines()
+/// A file whose numbers are counted up and whose texts name their place.
+FileLines CountedLines()
 {
-    std::vector<std::string> lines;
+    FileLines lines;
     for (int row = 1; row <= 31; ++row) {
         for (int column = 1; column <= 15; ++column) {
             const std::string place = std::to_string(row * 100 + column);
@@ -84,6 +82,13 @@ std::vector<std::string> CountedLines()
 }
 
 } // namespace
+
+const ModelFile TableModelTest::kFile{.name = "una.tab",
+                                      .memory = TableLines,
+                                      .counted = CountedLines(),
+                                      .read = [] { LeggiTabella(kFile.Path()); },
+                                      .write = [] { ScriviTabella(kFile.Path()); },
+                                      .isText = [](int line) { return line % 15 == 9 || line % 15 == 10; }};
 
 void TableModelTest::init()
 {
@@ -146,12 +151,7 @@ void TableModelTest::OnlyTheLastRowFilled()
     TabFondo[31] = "Citt\xE0";
     TabRipetDistanza[31] = 9999;
     TabDataInizio = CalendarDate(2008, 2, 29);
-    const std::vector<std::string> lines = TableLines();
-    ScriviTabella(folder_.Path("trentuno.tab"));
-    QCOMPARE(Difference(folder_.Read("trentuno.tab"), Lines(lines)), QByteArray());
-    AzzeraTabella();
-    LeggiTabella(folder_.Path("trentuno.tab"));
-    QVERIFY(TableLines() == lines);
+    kFile.ComesBack(AzzeraTabella);
     QVERIFY(TabKm[31] == 42);
     QCOMPARE(Bytes(TabAndatura[31]), QByteArray("Media, poi  Veloce "));
     QVERIFY(TabKm[30] == 0);
@@ -176,12 +176,7 @@ void TableModelTest::ExtremeValuesComeBack()
         TabFondo[row] = Text(1000, ',');
     }
     TabDataInizio = CalendarDate(9999, 12, 31);
-    const std::vector<std::string> lines = TableLines();
-    ScriviTabella(folder_.Path("estremi.tab"));
-    AzzeraTabella();
-    LeggiTabella(folder_.Path("estremi.tab"));
-    QVERIFY(TableLines() == lines);
-    QCOMPARE(boxes.Shown(), 0);
+    kFile.ComesBack(AzzeraTabella);
 }
 
 void TableModelTest::RowZeroStaysOut()
@@ -229,17 +224,7 @@ void TableModelTest::CutAtEveryLine_data()
 void TableModelTest::CutAtEveryLine()
 {
     QFETCH(int, kept);
-    const std::vector<std::string> filed = CountedLines();
-    std::vector<std::string> expected = TableLines();
-    std::copy(filed.begin(), filed.begin() + kept, expected.begin());
-    folder_.Write("corta.tab", Lines({filed.begin(), filed.begin() + kept}));
-    MessageScript boxes;
-    if (kept < 466) {
-        boxes.ExpectError("ERRORE : ", 62);
-    }
-    LeggiTabella(folder_.Path("corta.tab"));
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(TableLines()), Lines(expected)), QByteArray());
+    kFile.ReadCut(kept);
 }
 
 void TableModelTest::GarbledLine_data()
@@ -263,16 +248,7 @@ void TableModelTest::GarbledLine()
     QFETCH(int, line);
     QFETCH(QByteArray, garbage);
     QFETCH(int, error);
-    std::vector<std::string> filed = CountedLines();
-    std::vector<std::string> expected = TableLines();
-    std::copy(filed.begin(), filed.begin() + line - 1, expected.begin());
-    filed[static_cast<std::size_t>(line) - 1] = garbage.toStdString();
-    folder_.Write("guasta.tab", Lines(filed));
-    MessageScript boxes;
-    boxes.ExpectError("ERRORE : ", error);
-    LeggiTabella(folder_.Path("guasta.tab"));
-    QVERIFY(boxes.AllShown());
-    QCOMPARE(Difference(Lines(TableLines()), Lines(expected)), QByteArray());
+    kFile.ReadGarbled(line - 1, garbage, error);
 }
 
 void TableModelTest::ReadingFailsWithAReport_data()
@@ -293,7 +269,7 @@ void TableModelTest::ReadingFailsWithAReport()
     folder_.MakeFolder("cartella");
     folder_.Write("nulla", "");
     TabKm[3] = 33;
-    const std::vector<std::string> before = TableLines();
+    const FileLines before = TableLines();
     MessageScript boxes;
     boxes.ExpectError("ERRORE : ", error);
     LeggiTabella(name.isEmpty() ? Text() : folder_.Path(name.toStdString()));
