@@ -25,7 +25,7 @@ QString Long(int characters, QChar character = u'n')
     return QString(characters, character);
 }
 
-/// Pastes into the box of the dialog that is up and puts back what stood there; what the box held in between.
+/// Pastes into the box of the dialog that is up and restores what was there; returns what the box held in between.
 QString Pasted(const QString& text)
 {
     auto* name = QApplication::activeModalWidget()->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));

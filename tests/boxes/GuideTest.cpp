@@ -79,7 +79,7 @@ void GuideTest::find()
         hand::Key(Qt::Key_F, Qt::ControlModifier);
         EnterInto(box, input);
         hand::Key(Qt::Key_Return);
-        // None of them stands on the first page but blanks, of which two are never together.
+        // Of these only blanks are on the first page, never two together.
         QTRY_VERIFY2(notFound.isVisible(), input.name);
         QVERIFY(box.text().size() <= box.maxLength());
     }

@@ -46,7 +46,7 @@ View Run(Categoria category)
     return view;
 }
 
-/// A value and a count as they stand in the 40 columns.
+/// A value and a count as in the 40 columns.
 QByteArray Line(const char* name, int count)
 {
     return QByteArray(name).leftJustified(30) + QByteArray::number(count).rightJustified(6) + "    ";
@@ -316,7 +316,7 @@ void CategoryStatisticsTest::RunnersBeyondAShort()
     const View view = Run(Categoria::Corridori);
     QCOMPARE(view.titles, QByteArrayList());
     QCOMPARE(view.lines, QByteArrayList());
-    // It ended where it stood, before the ranking.
+    // It ended there, before the ranking.
     QVERIFY(ValoreCategoria[1] == 4 && ContaCategoria[1] == 1);
     QVERIFY(ValoreCategoria[2] == 32767 && ContaCategoria[2] == 2);
     QVERIFY(ValoreCategoria[3] == 0 && ContaCategoria[3] == 0);

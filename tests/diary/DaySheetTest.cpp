@@ -31,7 +31,7 @@ DaySheetTexts ADay()
     return giorno;
 }
 
-/// The head, the left block and the frame, whatever stands on the right.
+/// The head, the left block and the frame, whatever is on the right.
 const QByteArrayList kLeft = {"box 3,1 94,48",
                               "40,2 Times New Roman 12|01/03/2026",
                               "4,4 Times New Roman 11|Percorso ",

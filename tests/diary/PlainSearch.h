@@ -20,7 +20,7 @@ struct PlainQuery {
 
 struct PlainResult {
     QByteArrayList lines;
-    QByteArray totals;         ///< The four of them as shown, parted by "|".
+    QByteArray totals;         ///< The four of them as shown, separated by "|".
     QList<double> paces;       ///< Of each run.
     QByteArrayList unreadable; ///< Dates of the times and averages that can't be read, each behind "T" or "M".
 };

@@ -161,7 +161,7 @@ inline bool IsOf(const QByteArray& title, const QByteArray& value, const PlainDa
                                 : ValueOf(title, day).value_or(QByteArray()) == value;
 }
 
-/// The classification of the days whose value is spelt like that: place, time, average, date, parted by "|".
+/// The classification of the days whose value is spelt like that: place, time, average, date, separated by "|".
 inline QByteArrayList TimesOf(const QByteArray& title, const QByteArray& value, const std::vector<PlainDay>& days)
 {
     std::vector<std::tuple<int, int, const PlainDay*>> runs; // seconds, less the place of the day, the day

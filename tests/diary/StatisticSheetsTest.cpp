@@ -45,7 +45,7 @@ QList<QByteArrayList> Pages(const Sheet& sheet)
     return pages;
 }
 
-/// How many runs of the search stand on a page.
+/// How many runs of the search are on a page.
 int RunsOf(const QByteArrayList& page)
 {
     return static_cast<int>(
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("pages");
         QTest::addColumn<int>("rowsOfTheLast");
         QTest::addColumn<int>("totals");
-        // The first page holds 22 runs, down to line 64; each one after it 31, from line 4. The totals stand three
+        // The first page holds 22 runs, down to line 64; each one after it 31, from line 4. The totals are three
         // lines on where the last run ends above line 50, else on a page of their own.
         QTest::newRow("0") << 0 << 1 << 0 << 23;
         QTest::newRow("1") << 1 << 1 << 1 << 25;

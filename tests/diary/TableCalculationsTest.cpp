@@ -43,7 +43,7 @@ namespace
 
 constexpr int kRandomRows = 20000;
 
-/// A row from its eight boxes parted by "|".
+/// A row from its eight boxes separated by "|".
 RowGroups RowOf(const QByteArray& boxes)
 {
     const QByteArrayList parts = boxes.split('|');

@@ -81,7 +81,7 @@ struct Outcome {
     int error = 0;
 };
 
-/// The value that stands in the first bytes of a line, as the line of the same value; none when it is cut too short.
+/// The value in the first bytes of a line, as the line of the same value; none when it is cut too short.
 std::optional<std::string> ValueOf(const std::string& line, const std::string& bytes)
 {
     if (line.starts_with('"') || line.starts_with('#')) {
@@ -284,7 +284,7 @@ void DamagedFilesTest::OtherLineEnds()
     QCOMPARE(Difference(Lines(file.lines()), Lines(filed)), QByteArray());
 }
 
-/// What a crash of the machine can leave of a file: its length, and zeros.
+/// What a system crash can leave of a file: its length, and zeros.
 void DamagedFilesTest::NothingButZeros()
 {
     const SavedFile& file = FetchedFile();

@@ -154,7 +154,7 @@ public:
     SmallDisk(const SmallDisk&) = delete;
     SmallDisk& operator=(const SmallDisk&) = delete;
 
-    /// To others than root a folder without the right to write stands for it.
+    /// To others than root a folder without write permission serves instead.
     void MakeReadOnly()
     {
         if (!mounted_) {

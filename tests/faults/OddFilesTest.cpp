@@ -22,7 +22,7 @@ using namespace zelvia;
 using namespace zelvia::test;
 
 /// Things that are no files where the files of a diary are expected, files far too long, and files that somebody else
-/// changes while they are written: nothing waits for ever or fills the memory, and the next save is whole.
+/// changes while they are written: nothing hangs or fills the memory, and the next save is whole.
 class OddFilesTest : public QObject
 {
     Q_OBJECT

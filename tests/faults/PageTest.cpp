@@ -382,7 +382,7 @@ void PageTest::startWithoutAFolder()
     }
     QVERIFY(page->isVisible());
     QVERIFY(!page.folder.Exists(QStringLiteral("prova")));
-    // The diary can be saved; the files of its folder each tell that there is none.
+    // The diary can be saved; the files of its folder each report that there is none.
     ExpectListsNotSaved(page.script, kNoFolder);
     page.script.Expect(BareReport(kNoFolder));
     page.script.Expect(BareReport(kNoFolder));

@@ -16,7 +16,7 @@
 namespace zelvia::test
 {
 
-/// Something that a user does, with the routines of it that report a want of memory.
+/// Something that a user does, with the routines of it that report a lack of memory.
 struct Command {
     QByteArrayList routines;       ///< Empty for one that reports under no name.
     std::function<void()> prepare; ///< Brings the windows to where the command begins; memory is plenty then.

@@ -144,7 +144,7 @@ void Actions::WalkDates(QWidget& /*window*/)
     }
 }
 
-/// A label of the page that stands for a field.
+/// The label of a field on the page.
 void Actions::OpenField(QWidget& /*window*/)
 {
     frmMain* page = desk_.Page();

@@ -18,7 +18,7 @@
 namespace zelvia::monkey
 {
 
-/// Answers whatever comes up over the windows, as the dice have it: message boxes, file dialogs and menus. A box that
+/// Answers whatever comes up over the windows, at random: message boxes, file dialogs and menus. A box that
 /// the program has no reason to show is a problem.
 class Boxes : public QObject
 {

@@ -18,8 +18,8 @@ namespace zelvia::monkey
 {
 
 /// The program on its desk: its folder, its clock, its printer, its windows and the order in which they lie over each
-/// other. It stands for the window manager, which the display of the run does not have, and holds the timers back that
-/// would otherwise run by the wall's clock.
+/// other. It takes the place of the window manager, which the display of the run does not have, and holds the timers
+/// back that would otherwise run by the wall's clock.
 class Desk : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ public:
     QWidget* Front() const;
     /// Brings a window to the front, as a click on its title does.
     void Activate(QWidget& window);
-    /// Lets the program come to rest: nothing waits to be told, drawn or released, no menu and no box is up.
+    /// Lets the program come to rest: nothing waits to be reported, drawn or released, no menu and no box is up.
     void Settle();
 
     /// The tick of the page's timer.

@@ -14,7 +14,7 @@
 namespace zelvia::monkey
 {
 
-/// The monkey's hand: real mouse and key events, each told to the trail before it is done. Its window comes to the
+/// The monkey's hand: real mouse and key events, each noted in the trail before it is done. Its window comes to the
 /// front first, as it does under a user's click.
 class Hand
 {

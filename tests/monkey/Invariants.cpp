@@ -93,7 +93,7 @@ QString Invariants::CheckAtRest() const
     if (focused != nullptr && focused->Widget().window()->isVisible() && !focused->Widget().isVisible()) {
         return QStringLiteral("the focus lies in the hidden ") + focused->Widget().objectName();
     }
-    // Who has the keyboard has been told so.
+    // The control with the keyboard focus has had its report.
     QWidget* keyboard = QApplication::focusWidget();
     if (Form* form = Form::Of(keyboard); form != nullptr && form->isVisible()) {
         const Control* control = ControlOf(keyboard);

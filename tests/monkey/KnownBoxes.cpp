@@ -225,7 +225,7 @@ bool IsKnownReport(const QString& text, const Situation& situation)
         const std::string whole = report.title + std::to_string(report.number) + ' ' + DescriptionOf(report.number);
         return Matches(text, whole.c_str()) && report.due(situation);
     };
-    // The reader of the routes tells no number.
+    // The routes' reader reports no number.
     const QString routes =
         QStringLiteral("ERRORE : ") + ToQString(DescriptionOf(76)) + QStringLiteral(" Liste Percorso");
     return std::any_of(std::begin(kReports), std::end(kReports), fits) || (text == routes && FolderMissing(situation));

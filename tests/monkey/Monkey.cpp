@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A monkey at the program: any window, any key, any time.
 //   monkey [--seed N|today] [--actions N] [--seconds S] [--log FILE]
-// The seed decides all that is done; the seconds only when it ends. A run that fails tells its seed.
+// The seed decides all that is done; the seconds only when it ends. A failing run prints its seed.
 #include "monkey/Actions.h"
 #include "monkey/Boxes.h"
 #include "monkey/Desk.h"

@@ -78,7 +78,7 @@ QDate QtDate(CalendarDate date)
     return {date.Year().value(), date.Month().value(), date.Day().value()};
 }
 
-/// Thousands parted by a dot, nothing for 0.
+/// Thousands separated by a dot, nothing for 0.
 QString Thousands(int number)
 {
     return number == 0 ? QString() : test::Grouped(number);

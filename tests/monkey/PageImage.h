@@ -24,7 +24,7 @@ RecordGiorno Visited(const RecordGiorno& day, CalendarDate date);
 /// Where the two differ, or nothing.
 QString DayDifference(const RecordGiorno& is, const RecordGiorno& shouldBe);
 
-/// What is wrong with the texts of the page against the values that they stand for, or nothing.
+/// What is wrong with the texts of the page against the values that they show, or nothing.
 QString PageFault(const frmMain& page);
 
 /// What is wrong with the counters of the year on the page, which hold after a move of the date, or nothing.

@@ -8,7 +8,7 @@
 namespace zelvia::monkey
 {
 
-/// The last actions of a run, kept where they can be told even when the program has crashed or waits for ever: then
+/// The last actions of a run, kept where they can be shown even when the program has crashed or hangs: then
 /// they go to the error stream with the seed, and the process is aborted.
 class Trail
 {
@@ -21,7 +21,7 @@ public:
 
     /// A new action.
     void Begin(long number);
-    /// What the action does, told before it is done.
+    /// What the action does, noted before it is done.
     void Note(const QString& what);
     /// One line more in the log file alone, if there is one.
     void Log(const QByteArray& line);

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The program starts and ends on any date of the machine: dates-test.sh BUILD-FOLDER
+# The program starts and ends on any system date: dates-test.sh BUILD-FOLDER
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
 . "$source_folder/tests/scripts/program.sh"

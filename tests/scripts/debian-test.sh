@@ -11,7 +11,7 @@ build=$(readlink -f "$1")
 package=$(ls "$build/package"/*.deb)
 root=$work/debian
 
-# Nothing of the machine may be mounted below a tree that is removed.
+# No system folder may be mounted below a tree that is removed.
 leave() {
   local place
   for place in dev/shm dev/pts dev proc; do

@@ -51,7 +51,7 @@ done
 touch "$work/errors"
 expect "a refusal leaves nothing behind" "$(find "$work" | grep -vx "$work/errors" | sort)" "$before"
 
-# The folder, then the path that it stands for.
+# The folder, then the path that it means.
 accepted=(
   "$work/Zelvia" "$work/Zelvia"
   "Zelvia" "$work/Zelvia"

@@ -68,7 +68,7 @@ await page_down
 start
 expect_page_and_close "a start after a crash"
 
-# Nor what stands in place of the lock.
+# Nor what is in the place of the lock.
 for kind in empty garbled folder circle; do
   rm -rf "$work/diario/.zelvia.lock"
   case $kind in

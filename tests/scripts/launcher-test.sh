@@ -9,7 +9,7 @@ build=$(readlink -f "$1")
 launcher=$work/usr/bin/zelvia
 rm -rf "$diary"
 
-# An ordinary user's own: a window's text can't be read from outside, so what is in it is told by a terminal, too.
+# An ordinary user's own: a window's text can't be read from outside, so what is in it is also checked in a terminal.
 notice_up() { notice=$(xdotool search --onlyvisible --classname '^zelvia-avviso$' 2>/dev/null); }
 notice_down() { ! notice_up; }
 # Name, kind, time and bytes of all that lies in a folder.
@@ -143,7 +143,7 @@ start
 expect_page_and_close "a folder that looks like an option"
 expect "a folder that looks like an option" "$(ls "$work/-trattino" | tr '\n' '|')" "ZelviaFile|nomeload|prova|"
 
-# A copy that fails is told, and the diary opens all the same.
+# A failing copy is reported, and the diary still opens.
 touch "$work/occupata"
 export XDG_STATE_HOME=$work/occupata
 start

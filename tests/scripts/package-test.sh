@@ -64,7 +64,7 @@ for page in zelvia zelvia-copie; do
   expect "man $page: its name" "$(grep -cE "^ +$page (-|−) " <<<"$output")" 1
 done
 
-# The pages tell of the options and commands that the programs know.
+# The manual pages list the options and commands that the programs know.
 page=$(man -l "$work/tree/usr/share/man/man1/zelvia.1.gz")
 run "$work/tree/usr/libexec/zelvia/zelvia" --help
 for option in --oggi --help; do

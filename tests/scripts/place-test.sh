@@ -74,7 +74,7 @@ xdotool windowactivate --sync "$page" key F1
 await guide_up || expect "the guide on F1" "not up" "up"
 expect_page_and_close "the guide of the installation"
 
-# The day given is today as the machine's clock would have it: the two pages are alike to the pixel, on 29 February too.
+# The day given is today as with the system's clock: the two pages are alike to the pixel, on 29 February too.
 export FAKETIME_DONT_FAKE_MONOTONIC=1 DONT_FAKE_MONOTONIC=1 NO_FAKE_STAT=1
 picture() {
   "${@:2}" >"$work/picture.log" 2>&1 || cat "$work/picture.log" >&2

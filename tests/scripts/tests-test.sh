@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What test.sh builds and runs, and what becomes of a failure. CMake and CTest are stood in for.
+# What test.sh builds and runs, and how a failure ends. CMake and CTest are replaced by scripts.
 . "$(dirname "$0")/check.sh"
 
 mkdir "$work/bin"

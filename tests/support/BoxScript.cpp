@@ -36,7 +36,7 @@ QString Described(const QWidget& window)
                           : QStringLiteral("window ") + Shown(window.windowTitle());
 }
 
-/// Qt's own question of a file dialog goes by the title of that dialog, and is no text of the program.
+/// Qt's own question in a file dialog has that dialog's title and is no text of the program.
 void NoteShown(const QMessageBox& box)
 {
     if (box.windowTitle() != ExpectedBox().title) {

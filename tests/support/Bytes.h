@@ -30,7 +30,7 @@ inline Text TextOf(const QByteArray& bytes)
     return bytes.toStdString();
 }
 
-/// The whole file at a path of the machine; a missing file fails loudly.
+/// The whole file at a native path; a missing file fails loudly.
 inline Text ReadWhole(const std::string& nativePath)
 {
     std::ifstream file(nativePath, std::ios::binary);

@@ -18,8 +18,8 @@ public:
     /// A blank calendar: the row numbers and nothing else.
     CalendarBytes();
 
-    /// The fourteen values of a row behind its number, parted by "|" in the order of the file; what is left empty is 0
-    /// or no text. "8|2|2026|Corrida|Borgo|10||412".
+    /// The fourteen values of a row after its number, separated by "|" in the order of the file; what is left empty is
+    /// 0 or no text. "8|2|2026|Corrida|Borgo|10||412".
     CalendarBytes& SetRow(int row, const QByteArray& values);
     CalendarBytes& SetLine(int row, int line, const QByteArray& value);
 

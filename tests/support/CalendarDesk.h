@@ -27,9 +27,9 @@ public:
     /// Clicks into a box and types over what it holds.
     void Write(RaceColumn box, int row, const QString& text) const;
     void WriteDate(int row, const QByteArray& day, const QByteArray& month, const QByteArray& year) const;
-    /// Types a whole row from its first box on, Enter after each value; values are parted by "|".
+    /// Types a whole row from its first box on, Enter after each value; values are separated by "|".
     void WriteRow(int row, const char* values) const;
-    /// The boxes of a row parted by "|".
+    /// The boxes of a row separated by "|".
     QByteArray Row(int row) const;
     QByteArray Dashes(int row) const { return Window()->lblGiornoGara[row]->text().toLatin1(); }
     QByteArray FirstNumber() const { return Window()->lblNumeroGara[1]->text().toLatin1(); }

@@ -31,7 +31,7 @@ public:
     static QStringList Entries(int number);
     QStringList ListOf(int number) const;
 
-    /// Opens what a value label stands for.
+    /// Opens the field of a value label.
     void Open(Label& label, Way way = Way::Mouse) const;
     void Open(int number) const { Open(*Field(number).lblImmis); }
     bool IsOpen(int number) const;

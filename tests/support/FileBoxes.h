@@ -15,7 +15,7 @@ QStringList FullSet();
 /// The seven lists that have a file, in the order in which they are written and read.
 QStringList ListNames();
 
-/// Error numbers with their descriptions, as they stand in a report.
+/// Error numbers with their descriptions, as a report shows them.
 inline const QString kNotFound = QStringLiteral("53 File non trovato");
 inline const QString kDenied = QStringLiteral("75 Errore di accesso al file o alla cartella");
 inline const QString kNoFolder = QStringLiteral("76 Cartella non trovata");

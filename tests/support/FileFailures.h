@@ -11,7 +11,7 @@ namespace zelvia::test
 {
 
 /// Folders of a diary: what reading and writing a file of a known name in them reports, 0 for nothing. They are below
-/// the temporary one, "occupata" having a folder in the place of the file; "-" stands for no folder known.
+/// the temporary one, "occupata" having a folder in the place of the file; "-" means that no folder is known.
 inline void AddFolderFailures()
 {
     QTest::addColumn<QByteArray>("folder");

@@ -39,7 +39,7 @@ void Type(const QString& text);
 /// On an X display only: input whose arrival in this program is not waited for, in the words of xdotool.
 void Raw(const QStringList& words);
 
-/// On an X display only: the window that the window manager holds for the active one, 0 while it holds none. It is told
+/// On an X display only: the window that the window manager considers active, 0 for none. It is told
 /// later than the program at times. Keys that the manager acts on go by this.
 WId ManagersActiveWindow();
 

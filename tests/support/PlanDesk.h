@@ -48,7 +48,7 @@ public:
     /// The table that the program holds for the active one.
     static QByteArray Active() { return QByteArray::fromStdString(Module1::NomeTabellaAttiva); }
 
-    /// The panel's texts from the name of the table on, parted by "|".
+    /// The panel's texts from the name of the table on, separated by "|".
     QByteArray Panel() const;
     /// Its texts behind the name.
     QByteArray PanelRow() const { return Panel().mid(Panel().indexOf('|') + 1); }
@@ -63,7 +63,7 @@ public:
     void ActivateByHand(const char* table) const;
 };
 
-/// The box that tells the end of a table.
+/// The box that reports the end of a table.
 ExpectedBox EndOfTable(const QString& name);
 /// The question before a table of the list is deleted.
 ExpectedBox DeleteQuestion(const QString& entry, QMessageBox::StandardButton press);

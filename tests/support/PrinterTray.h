@@ -40,7 +40,7 @@ public:
     PrinterTray(const PrinterTray&) = delete;
     PrinterTray& operator=(const PrinterTray&) = delete;
 
-    /// What stands in a row of the sheet printed last.
+    /// The text of a row of the sheet printed last.
     QByteArrayList Row(int y) const { return SheetRow(sheets.back(), y); }
 
     std::vector<Sheet> sheets;

@@ -37,10 +37,10 @@ public:
     void Write(CampoPeriodo::Campo field, const QString& text) const;
     void Run() const { hand::Click(*Search()->cmdAvvia); }
 
-    /// The boxes of the period parted by "|".
+    /// The boxes of the period separated by "|".
     QByteArray Period() const;
     static QByteArrayList Entries(const ListBox& list);
-    /// The four totals parted by "|", or that they are hidden.
+    /// The four totals separated by "|", or that they are hidden.
     QByteArray Totals() const;
     bool ShowsResult() const;
 

@@ -14,7 +14,7 @@ namespace zelvia::test
 {
 
 /// Notes the boxes and dialogs that a test brings up, for the check of tests/texts: a file of the test's name in the
-/// folder that ZELVIA_SHOWN_TEXTS names, a line for each, its parts parted by tabs. Without that folder nothing is
+/// folder that ZELVIA_SHOWN_TEXTS names, a line for each, its parts separated by tabs. Without that folder nothing is
 /// noted.
 class ShownTexts
 {

@@ -36,7 +36,7 @@ public:
     void OpenTimes(int row) const;
 
     QByteArrayList Lines() const;
-    /// The rows of the times, their columns parted by "|".
+    /// The rows of the times, their columns separated by "|".
     QByteArrayList Times() const;
 
     /// The name of the control that has the focus.

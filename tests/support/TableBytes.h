@@ -40,16 +40,16 @@ public:
     /// A table without a demand.
     explicit TableBytes(QDate start);
 
-    /// Sets the line of a value as it stands in the file.
+    /// Sets the line of a value as in the file.
     TableBytes& Set(int row, Column column, const QByteArray& line);
-    /// Sets a row, its columns from the kilometres on parted by "|"; those left out or empty are nothing.
+    /// Sets a row, its columns from the kilometres on separated by "|"; those left out or empty are nothing.
     TableBytes& SetRow(int row, const QByteArray& columns);
     TableBytes& SetStart(const QByteArray& line);
 
     QByteArray Bytes() const { return Cut(kLines); }
     /// The first lines only.
     QByteArray Cut(int lines) const;
-    /// How many lines stand before that of a value.
+    /// How many lines come before that of a value.
     static int LinesBefore(int row, Column column) { return (row - 1) * kColumns + column - 1; }
 
 private:

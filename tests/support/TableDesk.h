@@ -51,11 +51,11 @@ public:
     /// Writes the day, month and year of the start; empty ones stay.
     void WriteStart(const QByteArray& day, const QByteArray& month, const QByteArray& year) const;
     QByteArray Held(TableGrid::Column column, int row) const { return Box(column, row).text().toLatin1(); }
-    /// The boxes of a row parted by "|".
+    /// The boxes of a row separated by "|".
     QByteArray Row(int row) const;
     /// All rows from 1 on.
     QByteArrayList Rows() const;
-    /// The boxes of the start date parted by "|".
+    /// The boxes of the start date separated by "|".
     QByteArray StartDate() const;
 
     /// The colour behind a row, or of its texts, as #rrggbb; "mixed" when its controls differ.

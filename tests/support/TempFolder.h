@@ -28,7 +28,7 @@ public:
         }
     }
 
-    /// The path of the machine to `name`, slashes inside allowed; the folder itself for an empty name.
+    /// The native path to `name`, slashes inside allowed; the folder itself for an empty name.
     std::string Native(const std::string& name = {}) const
     {
         const std::string folder = dir_.path().toStdString();

@@ -32,7 +32,7 @@ await test -s "$folder/display"
 DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 
-# A manager without the user's own settings, told to run this once it manages the display.
+# A manager without the user's own settings, which runs this once it manages the display.
 HOME=$folder XDG_CONFIG_HOME=$folder openbox --sm-disable --startup "touch $folder/managed" >"$folder/manager.log" 2>&1 &
 manager=$!
 await test -e "$folder/managed"

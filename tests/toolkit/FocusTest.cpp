@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Who is told of a change of focus, when, and what is none.
+// Who gets the report of a change of focus, when, and what is no change.
 #include "core/MessageBox.h"
 #include "support/BoxAnswer.h"
 #include "support/Hand.h"
@@ -70,7 +70,7 @@ void FocusTest::AButtonGreyedForAWhileKeepsTheFocus()
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +cmdVai off"));
     QVERIFY(form_->cmdVai->isEnabled());
     QCOMPARE(form_->Focused(), QByteArray("cmdVai"));
-    // Enter presses it again, and nobody was told of anything in between.
+    // Enter presses it again, and nothing was reported in between.
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +cmdVai off off"));
     QCOMPARE(form_->Focused(), QByteArray("cmdVai"));
@@ -142,7 +142,7 @@ void FocusTest::SeveralChangesOfAHandlerAreToldInOrderAndNotNested()
         form_->Tell("end-txtUno");
     };
     hand::Click(*form_->txtDue);
-    // The change to txtDue was finished when the handler asked for two more; each of them is told in full.
+    // The change to txtDue was finished when the handler asked for two more; each of them is reported in full.
     QTRY_COMPARE(form_->told, QByteArray("-txtUno end-txtUno +txtDue -txtDue +txtTre -txtTre +pctFondo"));
     QCOMPARE(form_->Focused(), QByteArray("pctFondo"));
 }
@@ -253,7 +253,7 @@ void FocusTest::AFieldThatItClosesLeavesTheFocusToAnotherWindow()
     QTRY_COMPARE(form_->told, QByteArray("-txtUno"));
     QVERIFY(!form_->txtUno->isVisible());
 
-    // The field that closed was the first window's affair: the second one still has the focus, and tells who loses it.
+    // The field that closed belonged to the first window: the second one still has the focus and reports its loss.
     second.Start(*second.txtDue);
     QVERIFY(StaysFalse([&] { return form_->told != "-txtUno" || !second.told.isEmpty(); }));
     QCOMPARE(FocusController::Instance().Current(), static_cast<Control*>(second.txtDue));

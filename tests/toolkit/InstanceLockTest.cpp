@@ -30,8 +30,8 @@ namespace
 
 constexpr const char* kRoutine = "run-in";
 
-/// One run of the program: tells whether it may go on, then of each time that it is asked for its window, and stays
-/// until it is told to end.
+/// One run of the program: prints whether it may go on, then each request for its window, and stays
+/// until it is asked to end.
 int RunIn(const char* folder)
 {
     SetProgramFolder(SystemPath(folder));
@@ -211,7 +211,7 @@ void InstanceLockTest::ALookAtTheLock()
 
 void InstanceLockTest::WhatStandsInPlaceOfTheLock_data()
 {
-    QTest::addColumn<QByteArray>("bytes"); // "|" and a kind stand for something else than a file.
+    QTest::addColumn<QByteArray>("bytes"); // "|" and a kind mean something other than a file.
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("garbled") << QByteArray("\0\xff\n\0", 4);
     // What earlier versions wrote: the process, the program and the machine.

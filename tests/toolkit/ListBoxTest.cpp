@@ -106,7 +106,7 @@ void ListBoxTest::TheDrawnSelectionIsChosen()
 
 void ListBoxTest::AnotherWindowPutsTheChoiceOff()
 {
-    // Leaving the box opens a window over this one: what was chosen is told when that has closed.
+    // Leaving the box opens a window over this one: the choice is reported when that has closed.
     Form over(QStringLiteral("frmSopra"), form_.get());
     over.setWindowModality(Qt::WindowModal);
     form_->txtUno->LostFocus = [&] {

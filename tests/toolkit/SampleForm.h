@@ -15,7 +15,7 @@
 
 class QMenuBar;
 
-/// A window with one of each control, none over another. It writes down what its controls are told: "+txtUno" for a
+/// A window with one of each control, none over another. It notes what is reported to its controls: "+txtUno" for a
 /// GotFocus, "-txtUno" for a LostFocus, "cmdVai" for a click.
 class SampleForm : public zelvia::Form
 {
@@ -26,10 +26,10 @@ public:
 
     zelvia::Control& FocusSink() override { return *pctFondo; }
 
-    /// Shows the window, waits until it has the keyboard, and forgets what was told so far.
+    /// Shows the window, waits until it has the keyboard, and forgets the reports so far.
     void Open();
 
-    /// Gives the focus to a control, waits until both sides were told, and forgets that.
+    /// Gives the focus to a control, waits until both controls have had their report, and forgets those.
     void Start(zelvia::Control& control);
 
     /// The control that has the focus for the user, by name.
@@ -38,7 +38,7 @@ public:
     /// Writes a word down.
     void Tell(const QByteArray& word);
 
-    /// What was told, with a blank between.
+    /// The reports, separated by blanks.
     QByteArray told;
 
     zelvia::Picture* pctFondo;

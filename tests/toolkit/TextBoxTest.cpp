@@ -315,7 +315,7 @@ void TextBoxTest::AnInputMethodTypes()
 {
     QByteArray seen;
     box_->KeyPress = [&](int& keyAscii) { seen += static_cast<char>(keyAscii); };
-    // Each of its characters stands for a key, and the one outside the set is refused alone.
+    // Each of its characters counts as a key, and the one outside the set is refused alone.
     Commit(QStringLiteral("a\u2192bcdefg"));
     QCOMPARE(box_->text(), QStringLiteral("abcde"));
     QCOMPARE(seen, QByteArray("abcdefg"));

@@ -268,7 +268,7 @@ void CopyStoreTest::FoldersDoNotThinEachOther()
         temp_->Write("Zelvia/ZelviaFile/prova.zlv", std::to_string(i));
         QCOMPARE(TakeAt(kNoon), CopyOutcome::Made);
     }
-    // Nor does the newest copy of the one tell anything of the other.
+    // Nor does the newest copy of one say anything about the other.
     QCOMPARE(CopyStore(Root()).Take(temp_->Native("Altra"), At(kNoon)), CopyOutcome::Unchanged);
     const std::vector<Copy> copies = CopyStore(Root()).List();
     QCOMPARE(copies.size(), std::size_t(31));
@@ -406,7 +406,7 @@ void CopyStoreTest::PuttingBackIsRefused()
 void CopyStoreTest::PointersMoveAlong_data()
 {
     QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("before"); // "@" stands for the folder of the test.
+    QTest::addColumn<QString>("before"); // "@" means the folder of the test.
     QTest::addColumn<QString>("after");
     QTest::addColumn<bool>("elsewhere");
     const auto row = [](const char* name, const char* file, const char* before, const char* after, bool elsewhere) {

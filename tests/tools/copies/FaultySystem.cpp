@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Ends a program, or fills its disk, at a step of its choice. Loaded ahead of the program (LD_PRELOAD), it counts the
-// calls that change a file system; ZELVIA_FAULT tells what happens at the one whose number is ZELVIA_FAULT_STEP:
+// calls that change a file system; ZELVIA_FAULT says what happens at the one whose number is ZELVIA_FAULT_STEP:
 //   kill   half of a write is done, any other call is not, and the process is killed
 //   full   from there on half of a write is done, then there is no space; folders and files can't be made
 #include <cerrno>

@@ -93,7 +93,7 @@ void WorkspaceDataTest::TheRunnersFiles()
 
 void WorkspaceDataTest::ThePointersDiary_data()
 {
-    QTest::addColumn<QString>("diary"); // In the backslash form; "@" stands for the folder.
+    QTest::addColumn<QString>("diary"); // In the backslash form; "@" means the folder.
     QTest::addColumn<QString>("taken");
     const auto row = [](const char* name, const char* diary, const char* taken) {
         QTest::newRow(name) << QString::fromUtf8(diary) << QString::fromUtf8(taken);

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The search finds every entry of the menus in the topic that tells of it, and every message.
+// The search finds every entry of the menus in the topic that explains it, and every message.
 #include "support/DayPage.h"
 #include "support/WindowTest.h"
 #include "windows/guide/HelpFile.h"

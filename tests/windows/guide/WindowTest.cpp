@@ -85,7 +85,7 @@ public:
         QTRY_VERIFY(Contents().model()->rowCount() == 1);
     }
 
-    /// Where a text stands on the page shown, in the coordinates of its viewport.
+    /// Where a text is on the page shown, in the coordinates of its viewport.
     static QPoint PlaceOf(const QString& text)
     {
         QTextBrowser& page = Shown();

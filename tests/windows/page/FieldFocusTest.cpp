@@ -16,7 +16,7 @@ namespace zelvia::test
 namespace
 {
 
-/// A field of each kind that is entered in place, and what tells that it is open.
+/// A field of each kind that is entered in place, and what shows that it is open.
 struct Kind {
     const char* name;
     Label* (*value)(const EntryPage&);

@@ -38,7 +38,7 @@ void Keys(std::initializer_list<Qt::Key> keys)
 
 } // namespace
 
-// The pairs of the distance stand in the order kilometres, tens of metres, metres; the tens hold the focus.
+// The pairs of the distance are in the order kilometres, tens of metres, metres; the tens hold the focus.
 void KeyboardTest::TheArrowsOfAGroupAreChosenAndStepped()
 {
     EntryPage page;

@@ -18,7 +18,7 @@ QStringList SetOfSample()
             QStringLiteral("nometab"),         QStringLiteral("Base 10 km.tab"), QStringLiteral("Mezza maratona.tab")};
 }
 
-/// Compares line by line first, so that a failure tells the day.
+/// Compares line by line first, so that a failure names the day.
 void CompareDiaries(const QByteArray& got, const DiaryBytes& expected)
 {
     const DiaryBytes saved(got);

@@ -215,7 +215,7 @@ void TimesTest::warnings()
         page.script.Expect(text == kDivision ? Report(text) : Warning(text));
         page.script.Meanwhile([&] {
             shown << AnyShown(SpinsOf(page, group));
-            // The second box too stands over the page, though the display has no active window right after the first.
+            // The second box too is over the page, though the display has no active window right after the first.
             QVERIFY(QApplication::activeModalWidget()->parentWidget() == &page.Page());
         });
     }

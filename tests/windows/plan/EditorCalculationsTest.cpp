@@ -25,7 +25,7 @@ ExpectedBox TooSlow(int row)
     return Warning(QStringLiteral("GIORNO %1: OLTRE 60 MINUTI                 ").arg(row));
 }
 
-/// Types into distance, time and average of a row what is given for them, parted by "|".
+/// Types into distance, time and average of a row what is given for them, separated by "|".
 void WriteGroups(const TableDesk& desk, int row, const QByteArray& groups)
 {
     int column = Km;

@@ -273,7 +273,7 @@ void EditorKeysTest::thePopUpPasses()
     for (int i = 1; i <= 5; ++i) {
         QCOMPARE(desk.Held(Minuti, i), QByteArray(i == row ? "75" : ""));
     }
-    // The focus is where it was, and so is the refusal when the too high number still stands there.
+    // The focus is where it was, and so is the refusal when the number is still too high.
     if (row == 2) {
         VerifyStillRefuses(desk, 2);
     } else {
@@ -342,7 +342,7 @@ void EditorKeysTest::aNumberBeyondAllLimitsIsReported()
     desk.script.Expect(Report(QStringLiteral("AssegnaTab - ERRORE : 6 Numero oltre i limiti")));
     (void)desk.RowMenu(2, Qt::Key_I);
     desk.AwaitBoxes();
-    // What stands before the distance was taken, nothing from it on; the other rows were moved all the same.
+    // The columns before the distance were taken, nothing from it on; the other rows were still moved.
     QTRY_COMPARE(desk.Row(1), QByteArray("||||||||Lento|Erba|5|||"));
     QTRY_COMPARE(desk.Row(3), QByteArray("8|||||||||||||"));
     QCOMPARE(desk.Row(2), QByteArray("|||||||||||||"));

@@ -228,7 +228,7 @@ void PanelTest::textsOfARow()
 void PanelTest::whatADayMeets_data()
 {
     QTest::addColumn<QByteArray>("row");
-    QTest::addColumn<QByteArray>("day"); // Lines of the diary by their numbers, parted by "|".
+    QTest::addColumn<QByteArray>("day"); // Lines of the diary by their numbers, separated by "|".
     QTest::addColumn<bool>("met");
     const auto put = [](const char* name, const char* row, const char* day, bool met) {
         QTest::newRow(name) << QByteArray(row) << QByteArray(day) << met;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The end of the active table: told once and wherever it is noticed, and the table switched off behind it.
+// The end of the active table: reported once wherever it is noticed, and the table is then deactivated.
 #include "support/PlanDesk.h"
 #include "support/WindowTest.h"
 
@@ -120,7 +120,7 @@ void PlanEndTest::theEnd()
     QVERIFY(Module1::IndiceTabella == 1);
     QCOMPARE(desk.folder.Read(pointer), PlanDesk::kNoPointer);
     QCOMPARE(desk.folder.Read(path), ShortPlan().Bytes());
-    // The page goes on, and the end is told once.
+    // The page goes on, and the end is reported once.
     desk.GoTo(kToday + 1);
     desk.GoTo(kToday - 1);
     QCOMPARE(desk.Panel(), kOff);

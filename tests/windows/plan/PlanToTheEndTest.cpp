@@ -171,7 +171,7 @@ void PlanToTheEndTest::WriteThePlan(const Runner& desk)
 void PlanToTheEndTest::ComputeAndAccept(Runner& desk)
 {
     const frmAllenamento& editor = *desk.Editor();
-    // The last row's distance stands alone.
+    // The last row has only a distance.
     desk.script.Expect(Warning(QStringLiteral("GIORNO 31 : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       ")));
     hand::Click(*editor.cmdCalcoloMedie);
     TRY_SCRIPT(desk.script);

@@ -62,7 +62,7 @@ void TableSaveTest::onlyTheLastRow()
     const QByteArray file = desk.folder.Read(QStringLiteral("prova/Piano.tab"));
     QCOMPARE(file.count("\r\n"), 466);
     QCOMPARE(file, LastRow());
-    // The start that stands for none comes back as a date.
+    // The start that means none comes back as a date.
     desk.LeaveEditor();
     desk.OpenTable("Piano.tab");
     QCOMPARE(desk.Row(31), QByteArray("42|195||||||| media, poi  lenta |||||"));

@@ -12,7 +12,7 @@ namespace zelvia::test
 namespace
 {
 
-/// What stands in a row of the sheet printed last from a column on.
+/// The text of a row of the sheet printed last, from a column on.
 QByteArrayList RightOf(const PrinterTray& tray, int y, int column)
 {
     QByteArrayList row = tray.Row(y);

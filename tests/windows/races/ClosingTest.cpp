@@ -91,7 +91,7 @@ void ClosingTest::theQuestion()
         QTRY_VERIFY(window.isNull());
         return;
     }
-    // What was changed is in memory by now, but the flag stands and the question comes again.
+    // What was changed is in memory by now, but the flag is still set and the question comes again.
     QVERIFY(window != nullptr && window->isVisible());
     QVERIFY(window->CalendarioModificato == 1);
     QCOMPARE(desk.Row(1), QByteArray("8|2|2026|Corrida||||||||||"));

@@ -48,7 +48,7 @@ void RaceYearTest::fromThePlanToTheResult()
     PlanRaces(desk);
     VERIFY_SCRIPT(desk.script);
 
-    // A date without its month is told and saved as it stands, a date that is there twice is not saved.
+    // A date without its month is reported and saved unchanged, a date that occurs twice is not saved.
     desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
     desk.script.Expect(Warning(QStringLiteral(" MANCA AL N° 21 :   MESE   ")));
     hand::Click(*desk.Window()->cmdSalva);

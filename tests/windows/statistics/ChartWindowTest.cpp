@@ -102,7 +102,7 @@ void ChartWindowTest::theLineOfASearch()
     QTRY_VERIFY(desk.ShowsResult());
     hand::Click(*desk->cmGrafico);
     QTRY_VERIFY(desk.Charts() != nullptr);
-    // The run without a pace stands there as 0 and the last one falls off.
+    // The run without a pace is there as 0 and the last one is missing.
     QCOMPARE(desk.Charts()->MSChart1->accessibleDescription(), QStringLiteral("Tempo: 5,07; 0; 6"));
     VERIFY_SCRIPT(desk.script);
 }

@@ -357,7 +357,7 @@ void SearchWindowTest::moreMinutesThanTheTotalHolds()
     desk.AwaitBoxes();
     QVERIFY(desk.ShowsResult());
     QCOMPARE(shown, QByteArray(" 100| 100||"));
-    // The seconds were carried over, 545 minutes of them; the minutes stand as they are.
+    // The seconds were carried over, 545 minutes of them; the minutes stay as they are.
     QCOMPARE(desk.Totals(), QByteArray(" 100| 100| 0:32700:00| 0:00"));
 }
 

@@ -87,7 +87,7 @@ void ValueTimesTest::eachTextCategory()
     QFETCH(int, field);
     StatisticsDesk desk;
     desk.Start();
-    // One day for each field; on all of them the text stands in no other field.
+    // One day for each field; on all of them the text is in no other field.
     for (int slot = 1; slot <= 8; ++slot) {
         RecordGiorno& day = Module1::Giorni[slot];
         Text* const fields[] = {&day.Percorso, &day.Lunghezza, &day.Modo,     &day.Fondo,
