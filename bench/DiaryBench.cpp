@@ -5,7 +5,6 @@
 #include "bench/Measure.h"
 #include "core/Files.h"
 #include "core/MessageBox.h"
-#include "diary/DiaryFile.h"
 #include "diary/Fields.h"
 #include "diary/Module1.h"
 

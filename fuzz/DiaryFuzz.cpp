@@ -3,7 +3,6 @@
 // The diary. The input is its beginning, so that the days after it need neither be blanked nor written.
 #include "Harness.h"
 #include "core/ValueFile.h"
-#include "diary/DiaryFile.h"
 #include "diary/Fields.h"
 #include "diary/Module1.h"
 

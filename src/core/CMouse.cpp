@@ -9,35 +9,27 @@ namespace zelvia
 namespace
 {
 
-struct Screen {
-    i16 pointer = MousePointer::Default;
-    std::function<void(i16)> handler;
-};
-
-Screen& TheScreen()
-{
-    static Screen screen;
-    return screen;
-}
+i16 screenPointer = MousePointer::Default;
+std::function<void(i16)> pointerHandler;
 
 } // namespace
 
 i16 ScreenMousePointer()
 {
-    return TheScreen().pointer;
+    return screenPointer;
 }
 
 void SetScreenMousePointer(i16 pointer)
 {
-    TheScreen().pointer = pointer;
-    if (TheScreen().handler) {
-        TheScreen().handler(pointer);
+    screenPointer = pointer;
+    if (pointerHandler) {
+        pointerHandler(pointer);
     }
 }
 
 void SetScreenMousePointerHandler(std::function<void(i16)> handler)
 {
-    TheScreen().handler = std::move(handler);
+    pointerHandler = std::move(handler);
 }
 
 CMouse::~CMouse()

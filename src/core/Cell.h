@@ -7,7 +7,7 @@
 
 #include <variant>
 
-/// What the boxes of a grid show: values in memory, how they are written and how far they go.
+/// What the boxes of a grid show: values in memory, their formats and limits.
 namespace zelvia
 {
 
@@ -36,13 +36,13 @@ Cell CellOf(int row)
     return &Values[row];
 }
 
-/// What a box shows of the value: nothing for 0, texts as they stand.
+/// What a box shows of the value: nothing for 0, texts unchanged.
 Text CellText(const Cell& cell, CellFormat format);
 
 /// Takes a box's text into the value, rounding numbers. Raises error 6 for a number beyond its type.
 void SetCell(const Cell& cell, TextView text, CellFormat format);
 
-/// True when the text would be taken as the value that is there. Raises as SetCell.
+/// True when SetCell would not change the value. Raises what SetCell raises.
 bool CellHolds(const Cell& cell, TextView text, CellFormat format);
 
 } // namespace zelvia

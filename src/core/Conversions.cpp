@@ -186,32 +186,18 @@ Text FormatDecimal(TextView unsignedDigits, bool negative, TextView pattern)
     return (negative && !zero ? "-" : "") + parsed.before + integer + decimals + parsed.after;
 }
 
-constexpr std::array<unsigned char, 256> MakeFoldTable()
+/// The lower-case form of a letter, any other character as it is.
+int Folded(char c)
 {
-    std::array<unsigned char, 256> table{};
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        table[i] = static_cast<unsigned char>(i);
+    const int byte = static_cast<unsigned char>(c);
+    switch (byte) {
+    case 0xD7: return byte;      // the multiplication sign, among the letters
+    case 0x8A:                   // Š
+    case 0x8C:                   // Œ
+    case 0x8E: return byte + 16; // Ž
+    case 0x9F: return 0xFF;      // Ÿ
+    default: return (byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE) ? byte + 32 : byte;
     }
-    const auto lower = [&table](std::size_t first, std::size_t last, std::size_t distance) {
-        for (std::size_t i = first; i <= last; ++i) {
-            table[i] = static_cast<unsigned char>(i + distance);
-        }
-    };
-    lower('A', 'Z', 32);
-    lower(0xC0, 0xD6, 32);   // À..Ö
-    lower(0xD8, 0xDE, 32);   // Ø..Þ, past the multiplication sign
-    lower(0x8A, 0x8A, 16);   // Š
-    lower(0x8C, 0x8C, 16);   // Œ
-    lower(0x8E, 0x8E, 16);   // Ž
-    lower(0x9F, 0x9F, 0x60); // Ÿ
-    return table;
-}
-
-constexpr std::array<unsigned char, 256> kFold = MakeFoldTable();
-
-unsigned char Folded(char c)
-{
-    return kFold[static_cast<unsigned char>(c)];
 }
 
 Text SliceFrom(TextView text, std::ptrdiff_t start, std::size_t length)
@@ -266,11 +252,6 @@ Text PlainText(i32 number)
     return std::to_string(number.value());
 }
 
-Text PlainText(i16 number)
-{
-    return std::to_string(number.value());
-}
-
 Text PlainText(double number)
 {
     return WithComma(Decimal(number, kDoubleDigits));
@@ -300,11 +281,6 @@ Text Format(i32 number, TextView pattern)
 {
     const auto magnitude = number.value() < 0 ? -static_cast<std::int64_t>(number.value()) : number.value();
     return FormatDecimal(std::to_string(magnitude), number < 0, pattern);
-}
-
-Text Format(i16 number, TextView pattern)
-{
-    return Format(i32(number), pattern);
 }
 
 std::ptrdiff_t Len(TextView text)
@@ -360,13 +336,9 @@ bool CampoNonVuoto(TextView text)
 
 int TextCompare(TextView a, TextView b)
 {
-    const auto common = std::min(a.size(), b.size());
-    for (std::size_t i = 0; i < common; ++i) {
-        if (Folded(a[i]) != Folded(b[i])) {
-            return Folded(a[i]) < Folded(b[i]) ? -1 : 1;
-        }
-    }
-    return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
+    const auto order = std::lexicographical_compare_three_way(
+        a.begin(), a.end(), b.begin(), b.end(), [](char left, char right) { return Folded(left) <=> Folded(right); });
+    return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
 bool SameText(TextView a, TextView b)

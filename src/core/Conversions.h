@@ -15,6 +15,13 @@ namespace zelvia
 /// only decimal point is ".". Raises error 6 when the number is beyond a double.
 double Val(TextView text);
 
+/// The same rounded to a whole number. Raises error 6 when that is out of range too.
+template <typename Integer>
+Integer Parsed(TextView text)
+{
+    return RoundTo<Integer>(Val(text));
+}
+
 /// Reads a number as the Italian locale writes it, comma for the decimals and dots for the thousands.
 /// Raises error 13 for a text that is not a number.
 double LocaleDouble(TextView text);
@@ -22,7 +29,6 @@ f32 LocaleSingle(TextView text);
 
 /// The digits of a number, a minus sign if negative, no blank; a float's fraction follows a comma.
 Text PlainText(i32 number);
-Text PlainText(i16 number);
 Text PlainText(double number);
 Text PlainText(f32 number);
 
@@ -34,7 +40,6 @@ Text Str(double number);
 /// dots) and a point (decimal comma); any other character is copied unchanged. Halves round away from zero.
 Text Format(double number, TextView pattern);
 Text Format(i32 number, TextView pattern);
-Text Format(i16 number, TextView pattern);
 
 /// Positions count from 1.
 std::ptrdiff_t Len(TextView text);

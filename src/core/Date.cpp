@@ -23,11 +23,7 @@ constexpr std::array<TextView, 12> kMonthNames = {"gennaio",   "febbraio", "marz
 // The last short year that counts as of this century, as the Italian short date reads it.
 constexpr int kLastShortYear = 29;
 
-std::function<CalendarDate()>& Clock()
-{
-    static std::function<CalendarDate()> clock;
-    return clock;
-}
+std::function<CalendarDate()> replacedClock;
 
 int DatePart(TextView text, std::size_t minDigits, std::size_t maxDigits)
 {
@@ -96,8 +92,8 @@ CalendarDate CalendarDate::PlusMonths(int months) const
 
 CalendarDate Date()
 {
-    if (Clock()) {
-        return Clock()();
+    if (replacedClock) {
+        return replacedClock();
     }
     const std::time_t now = std::time(nullptr);
     const std::tm* local = std::localtime(&now);
@@ -106,7 +102,7 @@ CalendarDate Date()
 
 void SetClock(std::function<CalendarDate()> clock)
 {
-    Clock() = std::move(clock);
+    replacedClock = std::move(clock);
 }
 
 CalendarDate DateValue(TextView text)
@@ -120,6 +116,15 @@ CalendarDate DateValue(TextView text)
     const int month = DatePart(Trim(text.substr(first + 1, second - first - 1)), 1, 2);
     const int year = YearPart(Trim(text.substr(second + 1)));
     return {year, static_cast<unsigned>(month), static_cast<unsigned>(day)};
+}
+
+CalendarDate IsoDate(TextView text)
+{
+    if (text.size() != 10 || text[4] != '-' || text[7] != '-') {
+        throw ErroreRunTime(Errore::TipoNonCorrispondente);
+    }
+    return {DatePart(text.substr(0, 4), 4, 4), static_cast<unsigned>(DatePart(text.substr(5, 2), 2, 2)),
+            static_cast<unsigned>(DatePart(text.substr(8, 2), 2, 2))};
 }
 
 CalendarDate DateAdd(TextView interval, int number, CalendarDate date)

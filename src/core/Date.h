@@ -81,16 +81,19 @@ CalendarDate Date();
 void SetClock(std::function<CalendarDate()> clock);
 
 /// Reads day/month/year: one or two digits, one or two digits, then one, two or four digits, blanks around each part
-/// allowed. A year of one or two digits stands for 1930..2029: 30..99 are of the last century, 0..29 of this one.
+/// allowed. A year of one or two digits is one of 1930..2029.
 /// Raises error 13 on anything else, a year of three digits too, and on a day that does not exist. The boxes for dates
 /// correct a year before 2007 or 2008 first, so short years come from no box.
 CalendarDate DateValue(TextView text);
+
+/// Reads yyyy-mm-dd, a digit in each place. Raises error 13 on anything else and on a day that does not exist.
+CalendarDate IsoDate(TextView text);
 
 /// `interval` "d" adds `number` days, "m" adds months. Raises error 5 for any other interval, 6 out of range.
 CalendarDate DateAdd(TextView interval, int number, CalendarDate date);
 
 /// A date in a pattern of the parts d, dd, dddd, m, mm, mmmm, y (day of the year) and yyyy; day and month names are
-/// Italian, any other character stands as it is.
+/// Italian, any other character is copied unchanged.
 Text Format(CalendarDate date, TextView pattern);
 
 /// The short form day/month/year, 01/03/2008.

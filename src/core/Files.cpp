@@ -3,6 +3,7 @@
 #include "core/Files.h"
 
 #include "core/Conversions.h"
+#include "core/Descriptor.h"
 #include "core/RunTimeError.h"
 
 #include <algorithm>
@@ -18,11 +19,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-Text& ProgramFolderState()
-{
-    static Text folder;
-    return folder;
-}
+Text programFolder;
 
 fs::path FromSystem(TextView path)
 {
@@ -75,7 +72,7 @@ fs::path ResolveCase(const fs::path& path)
     throw ErroreRunTime(folderExists && mode == OpenMode::Input ? Errore::FileNonTrovato : Errore::PercorsoNonTrovato);
 }
 
-/// True for a regular file, and for one whose type the system can't tell.
+/// True for a regular file, and for one whose type the system can't determine.
 bool MayBeRegular(const fs::directory_entry& entry)
 {
     std::error_code failed;
@@ -83,20 +80,23 @@ bool MayBeRegular(const fs::directory_entry& entry)
     return fs::is_regular_file(status) || (!fs::status_known(status) && failed.value() != ELOOP);
 }
 
-/// The regular files of a folder, hidden ones left out, sorted; as far as they could be read when it failed.
-std::vector<Text> VisibleFiles(TextView folder, std::error_code& failed)
+/// The regular files of a folder, hidden ones left out, sorted. A folder that is missing is an error or has no files.
+std::vector<Text> VisibleFiles(TextView folder, bool mustExist)
 {
     std::vector<Text> names;
-    if (folder.empty()) {
-        failed = std::make_error_code(std::errc::no_such_file_or_directory);
-        return names;
-    }
-    for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        const std::string name = Utf8Of(entry->path().filename());
-        if (!name.starts_with('.') && MayBeRegular(*entry)) {
-            names.push_back(FromUtf8(name));
+    std::error_code failed = std::make_error_code(std::errc::no_such_file_or_directory);
+    if (!folder.empty()) {
+        for (fs::directory_iterator entry(ResolveCase(FromSystem(folder)), failed), end; !failed && entry != end;
+             entry.increment(failed)) {
+            const std::string name = Utf8Of(entry->path().filename());
+            if (!name.starts_with('.') && MayBeRegular(*entry)) {
+                names.push_back(FromUtf8(name));
+            }
         }
+    }
+    const bool missing = failed.value() == ENOENT || failed.value() == ENOTDIR;
+    if (failed && (mustExist || !missing)) {
+        throw ErroreRunTime(ErrorOfErrno(failed.value()));
     }
     std::sort(names.begin(), names.end());
     return names;
@@ -125,12 +125,12 @@ void RaiseFailure(int errnoValue)
 
 const Text& ProgramFolder()
 {
-    return ProgramFolderState();
+    return programFolder;
 }
 
 void SetProgramFolder(TextView folder)
 {
-    ProgramFolderState() = folder;
+    programFolder = folder;
 }
 
 fs::path NativePath(TextView path)
@@ -244,14 +244,12 @@ void SyncFile(std::FILE* file)
 
 void SyncNames(const fs::path& folder)
 {
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) {
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.Number() < 0) {
         RaiseFailure(errno == EACCES || errno == EPERM ? 0 : errno);
         return;
     }
-    const int failure = SyncFailure(descriptor);
-    ::close(descriptor);
-    RaiseFailure(failure);
+    RaiseFailure(SyncFailure(opened.Number()));
 }
 
 Text FindFolder(TextView path)
@@ -265,23 +263,13 @@ Text FindFolder(TextView path)
 
 std::vector<Text> FilesIn(TextView folder)
 {
-    std::error_code failed;
-    std::vector<Text> names = VisibleFiles(folder, failed);
     // Files that can't be read must not count as missing, or a first set would overwrite them.
-    if (failed && failed.value() != ENOENT && failed.value() != ENOTDIR) {
-        throw ErroreRunTime(ErrorOfErrno(failed.value()));
-    }
-    return names;
+    return VisibleFiles(folder, false);
 }
 
 std::vector<Text> ReadFolder(TextView folder)
 {
-    std::error_code failed;
-    std::vector<Text> names = VisibleFiles(folder, failed);
-    if (failed) {
-        throw ErroreRunTime(ErrorOfErrno(failed.value()));
-    }
-    return names;
+    return VisibleFiles(folder, true);
 }
 
 void DeleteFile(TextView path)

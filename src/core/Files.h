@@ -27,8 +27,7 @@ Text SystemPath(std::string_view native);
 /// `path` as the disk spells it: what is absent falls back as in NativePath, and stays as it is when nothing is there.
 Text PathOnDisk(TextView path);
 
-/// `path` as one that begins with `folder`, when it lies in that folder on the disk however either is spelled; any
-/// other path as it is.
+/// `path` respelled to begin with `folder` when it is inside that folder on the disk; any other path unchanged.
 Text PathWithin(TextView path, TextView folder);
 
 /// True when there is a folder at `path` or one could be made: the nearest part of it that exists is a folder.
@@ -51,7 +50,7 @@ FileHandle OpenFile(TextView path, OpenMode mode, std::filesystem::path* newIn =
 /// as written. Raises error 61 when the disk turns out to be full, 57 on another failure.
 void SyncFile(std::FILE* file);
 
-/// The same for the names in a folder, after a file was created in it. A folder that may not be read is left alone.
+/// The same for the names in a folder, after a file was created in it. A folder without read permission is left alone.
 void SyncNames(const std::filesystem::path& folder);
 
 /// The error number of a failed system call on a file: 52, 57, 61, 67, 70, 75 or 76.
@@ -61,7 +60,7 @@ int ErrorOfErrno(int errnoValue);
 Text FindFolder(TextView path);
 
 /// The regular files of a folder, hidden ones left out, in order of their names; none for a folder that is absent. One
-/// whose type the system can't tell counts as a file. Raises error 75 for a folder that may not be read, and the others
+/// whose type the system can't determine counts as a file. Raises error 75 for an unreadable folder, and the others
 /// of ErrorOfErrno.
 std::vector<Text> FilesIn(TextView folder);
 

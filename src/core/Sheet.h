@@ -7,6 +7,7 @@
 #include "core/Text.h"
 
 #include <functional>
+#include <span>
 #include <variant>
 #include <vector>
 
@@ -70,6 +71,13 @@ struct SheetPageBreak {
 
 using SheetOperation = std::variant<SheetText, SheetLine, SheetBox, SheetPicture, SheetPageBreak>;
 
+/// A text of the sheet at its cell.
+struct SheetCell {
+    int x;
+    int y;
+    TextView text;
+};
+
 /// The name of a print job: the program, what is printed, and the date on it.
 Text JobName(TextView sheet, CalendarDate date);
 
@@ -91,6 +99,7 @@ public:
     void Print(int x, int y, TextView text);
     /// A date in the short form.
     void Print(int x, int y, CalendarDate date);
+    void Print(std::span<const SheetCell> cells);
     /// A number with a blank or minus sign before it and a blank after it.
     void PrintNumber(int x, int y, i32 number);
     void Line(int x1, int y1, int x2, int y2) { operations_.emplace_back(SheetLine{x1, y1, x2, y2}); }
@@ -112,15 +121,14 @@ private:
     std::vector<SheetOperation> operations_;
 };
 
+/// Point size of the texts on most sheets.
+inline constexpr int kSheetTextSize = 10;
+
+/// A sheet of that name with its date in small type at the top; the font is then that of its title.
+Sheet DatedSheet(Orientation orientation, TextView name, CalendarDate date, int x, bool bold = false);
+
 /// The column of a number: `twoDigits` from 10 on, one cell further right below 10, so that the digits line up.
 /// An empty box counts as one digit.
 int DigitColumn(TextView text, int twoDigits);
-
-/// A text of the sheet at its cell.
-struct SheetCell {
-    int x;
-    int y;
-    TextView text;
-};
 
 } // namespace zelvia

@@ -88,16 +88,6 @@ double ParseNumber(TextView text)
     return result.ec == std::errc() ? value : 0;
 }
 
-int DateDigits(TextView text)
-{
-    int value = -1;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ptr != text.data() + text.size() || value < 0) {
-        throw ErroreRunTime(Errore::TipoNonCorrispondente);
-    }
-    return value;
-}
-
 } // namespace
 
 ValueWriter::ValueWriter(TextView path) : file_(OpenFile(path, OpenMode::Output, &newIn_)) {}
@@ -222,27 +212,29 @@ void ValueReader::SkipSeparator()
     }
 }
 
-/// Reads more of a value of which `length` bytes are in the buffer; false at the end of the file. Raises `tooLong`
-/// instead when it is longer than any value.
-bool ValueReader::MoreOfValue(std::size_t length, int tooLong)
+/// The place of the first of `ends` at least `skip` bytes into the current value, reading more as needed; npos when the
+/// file ends before. Raises `tooLong` when the value is longer than any.
+std::size_t ValueReader::FindEnd(TextView ends, std::size_t skip, int tooLong)
 {
-    if (length > kLongestValue) {
-        throw ErroreRunTime(tooLong);
+    std::size_t end = 0;
+    while ((end = buffer_.find_first_of(ends, position_ + skip)) == std::string::npos) {
+        skip = buffer_.size() - position_;
+        if (skip > kLongestValue) {
+            throw ErroreRunTime(tooLong);
+        }
+        if (!More()) {
+            break;
+        }
     }
-    return More();
+    return end;
 }
 
 ValueReader::Value ValueReader::NextQuoted(int tooLong)
 {
-    std::size_t searched = position_ + 1;
-    std::size_t close = 0;
-    while ((close = buffer_.find('"', searched)) == std::string::npos) {
-        const std::size_t length = buffer_.size() - position_;
-        if (!MoreOfValue(length, tooLong)) {
-            position_ = buffer_.size();
-            throw ErroreRunTime(Errore::FineFile);
-        }
-        searched = position_ + length;
+    const std::size_t close = FindEnd("\"", 1, tooLong);
+    if (close == std::string::npos) {
+        position_ = buffer_.size();
+        throw ErroreRunTime(Errore::FineFile);
     }
     const TextView bytes(buffer_.data() + position_ + 1, close - position_ - 1);
     position_ = close + 1;
@@ -251,16 +243,8 @@ ValueReader::Value ValueReader::NextQuoted(int tooLong)
 
 ValueReader::Value ValueReader::NextPlain(int tooLong)
 {
-    std::size_t searched = position_;
-    std::size_t end = 0;
-    while ((end = buffer_.find_first_of(",\r\n", searched)) == std::string::npos) {
-        const std::size_t length = buffer_.size() - position_;
-        if (!MoreOfValue(length, tooLong)) {
-            end = buffer_.size();
-            break;
-        }
-        searched = position_ + length;
-    }
+    std::size_t end = FindEnd(",\r\n", 0, tooLong);
+    end = std::min(end, buffer_.size()); // Which has grown meanwhile.
     const TextView bytes(buffer_.data() + position_, end - position_);
     position_ = end;
     return {TrimBlanks(bytes), false};
@@ -343,13 +327,11 @@ void ValueReader::Input(i32& number)
 
 void ValueReader::Input(CalendarDate& date)
 {
-    constexpr std::size_t length = 12; // #yyyy-mm-dd#
     const TextView bytes = NextNumber();
-    if (bytes.size() != length || bytes.front() != '#' || bytes.back() != '#' || bytes[5] != '-' || bytes[8] != '-') {
+    if (bytes.size() < 2 || bytes.front() != '#' || bytes.back() != '#') {
         throw ErroreRunTime(Errore::TipoNonCorrispondente);
     }
-    date = CalendarDate(DateDigits(bytes.substr(1, 4)), static_cast<unsigned>(DateDigits(bytes.substr(6, 2))),
-                        static_cast<unsigned>(DateDigits(bytes.substr(9, 2))));
+    date = IsoDate(bytes.substr(1, bytes.size() - 2));
     SkipSeparator();
 }
 

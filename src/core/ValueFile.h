@@ -93,7 +93,7 @@ private:
     void SkipBlanks();
     void SkipSeparator();
     bool More();
-    bool MoreOfValue(std::size_t length, int tooLong);
+    std::size_t FindEnd(TextView ends, std::size_t skip, int tooLong);
     TextView NextNumber();
 
     template <typename Integer>

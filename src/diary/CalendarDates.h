@@ -30,9 +30,9 @@ struct DateCorrection {
     friend bool operator==(const DateCorrection&, const DateCorrection&) = default;
 };
 
-/// The corrections of the date in a row, in the order in which they are reported. A year below 2007 gives way to
-/// `currentYear`. A year that 4 divides has a 29 February, no other rule of leap years applies; an empty one counts
-/// among them.
+/// The corrections of the date in a row, in the order in which they are reported. A year below 2007 is
+/// replaced by `currentYear`. A year that 4 divides has a 29 February, no other rule of leap years applies; an empty
+/// one counts among them.
 std::vector<DateCorrection> CorrectDate(const RaceDate& date, i16 row, i16 currentYear);
 
 /// The pairs of rows of the calendar that carry the same date, the earlier row of each first.

@@ -2,29 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/CalendarModel.h"
 
+#include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 #include "diary/Module1.h"
+#include "diary/TimeAndPace.h"
 
 namespace zelvia::Module1
 {
-
-RaceValues<i16> NumeroGara;
-RaceValues<i16> GiornoGara;
-RaceValues<i16> MeseGara;
-RaceValues<i16> AnnoGara;
-RaceValues<Text> Gara;
-RaceValues<Text> Localita;
-RaceValues<i16> KmGara;
-RaceValues<i16> MetriGara;
-RaceValues<i32> Partecipanti;
-RaceValues<i32> Risultato;
-RaceValues<i16> OreGara;
-RaceValues<i16> MinutiGara;
-RaceValues<i16> SecondiGara;
-RaceValues<Text> Categoria;
-RaceValues<i32> RisultatoCat;
-
 namespace
 {
 
@@ -85,6 +70,21 @@ void ScriviCalendario()
         VisitCalendar([&](const auto& value) { file.Write(value); });
         file.Close();
     });
+}
+
+RaceTexts RaceTextsOf(i16 row)
+{
+    constexpr TextView thousands = "###,###";
+    RaceTexts texts;
+    texts.gara = Gara[row];
+    texts.localita = Localita[row];
+    texts.partecipanti = Format(Partecipanti[row], thousands);
+    texts.tempo = TestoTempo({OreGara[row], MinutiGara[row], SecondiGara[row]});
+    texts.risultato = Format(Risultato[row], thousands);
+    texts.categoria = Categoria[row];
+    texts.risultatoCat = Format(RisultatoCat[row], thousands);
+    texts.lunghezza = Format(KmGara[row], KmGara[row] > 0 ? "##" : "0") + "," + Format(MetriGara[row], "##0");
+    return texts;
 }
 
 } // namespace zelvia::Module1

@@ -14,21 +14,21 @@ using RaceValues = BoundedArray<T, 0, 100>;
 
 // The race calendar: fifteen columns of rows 1..100; row 0 is never used. A row holds a race when GiornoGara is above
 // 0.
-extern RaceValues<i16> NumeroGara;   ///< Row number.
-extern RaceValues<i16> GiornoGara;   ///< Day of the month, 0 when the row is free.
-extern RaceValues<i16> MeseGara;     ///< Month 1..12.
-extern RaceValues<i16> AnnoGara;     ///< Year, four digits.
-extern RaceValues<Text> Gara;        ///< Name.
-extern RaceValues<Text> Localita;    ///< Place.
-extern RaceValues<i16> KmGara;       ///< Distance, kilometres.
-extern RaceValues<i16> MetriGara;    ///< Metres beyond them.
-extern RaceValues<i32> Partecipanti; ///< Number of runners.
-extern RaceValues<i32> Risultato;    ///< Placing overall.
-extern RaceValues<i16> OreGara;      ///< Finishing time, hours.
-extern RaceValues<i16> MinutiGara;   ///< Minutes.
-extern RaceValues<i16> SecondiGara;  ///< Seconds.
-extern RaceValues<Text> Categoria;   ///< Age or class category, such as S50.
-extern RaceValues<i32> RisultatoCat; ///< Placing in the category.
+inline RaceValues<i16> NumeroGara;   ///< Row number.
+inline RaceValues<i16> GiornoGara;   ///< Day of the month, 0 when the row is free.
+inline RaceValues<i16> MeseGara;     ///< Month 1..12.
+inline RaceValues<i16> AnnoGara;     ///< Year, four digits.
+inline RaceValues<Text> Gara;        ///< Name.
+inline RaceValues<Text> Localita;    ///< Place.
+inline RaceValues<i16> KmGara;       ///< Distance, kilometres.
+inline RaceValues<i16> MetriGara;    ///< Metres beyond them.
+inline RaceValues<i32> Partecipanti; ///< Number of runners.
+inline RaceValues<i32> Risultato;    ///< Placing overall.
+inline RaceValues<i16> OreGara;      ///< Finishing time, hours.
+inline RaceValues<i16> MinutiGara;   ///< Minutes.
+inline RaceValues<i16> SecondiGara;  ///< Seconds.
+inline RaceValues<Text> Categoria;   ///< Age or class category, such as S50.
+inline RaceValues<i32> RisultatoCat; ///< Placing in the category.
 
 /// Blanks all rows, each keeping its number.
 void AzzeraCalendario();
@@ -38,5 +38,20 @@ void LeggiCalendario();
 
 /// Writes the 100 rows to the calendar file of CartellaDiario. Reports its own failure.
 void ScriviCalendario();
+
+/// What the day page shows of a race.
+struct RaceTexts {
+    Text gara;
+    Text localita;
+    Text partecipanti;
+    Text tempo;
+    Text risultato;
+    Text categoria;
+    Text risultatoCat;
+    Text lunghezza;
+};
+
+/// The texts of a row of the calendar, 1..100; any other raises error 9.
+RaceTexts RaceTextsOf(i16 row);
 
 } // namespace zelvia::Module1

@@ -5,7 +5,7 @@
 namespace zelvia
 {
 
-using CalendarGrid::RaceColumn;
+using namespace CalendarGrid;
 
 namespace
 {
@@ -26,57 +26,41 @@ void PrintHeads(Sheet& sheet)
                                    {26, 5, " Gara "},       {50, 5, "Località"_t}, {66, 5, "km metri"},
                                    {76, 5, "Partecipanti"}, {89, 5, "Risultato"},  {99, 5, "  hh   mm  ss"},
                                    {112, 5, "Categoria"},   {122, 5, "Risultato"}};
-    for (const SheetCell& head : heads) {
-        sheet.Print(head.x, head.y, head.text);
-    }
+    sheet.Print(heads);
 }
 
 void PrintRow(Sheet& sheet, int y, const CalendarSheetRow& row)
 {
-    const auto box = [&](RaceColumn column) -> const Text& { return row[CalendarGrid::IndexOf(column)]; };
-    sheet.Print(DigitColumn(box(RaceColumn::Giorno), 2), y, box(RaceColumn::Giorno));
-    sheet.Print(DigitColumn(box(RaceColumn::Mese), 5), y, box(RaceColumn::Mese));
-    sheet.Print(8, y, box(RaceColumn::Anno));
-    sheet.Print(13, y, box(RaceColumn::Gara));
-    sheet.Print(45, y, box(RaceColumn::Localita));
-    sheet.Print(DigitColumn(box(RaceColumn::Km), 66), y, box(RaceColumn::Km));
-    if (!box(RaceColumn::Km).empty()) {
+    sheet.Print(DigitColumn(row[Giorno], 2), y, row[Giorno]);
+    sheet.Print(DigitColumn(row[Mese], 5), y, row[Mese]);
+    sheet.Print(8, y, row[Anno]);
+    sheet.Print(13, y, row[Gara]);
+    sheet.Print(45, y, row[Localita]);
+    sheet.Print(DigitColumn(row[Km], 66), y, row[Km]);
+    if (!row[Km].empty()) {
         sheet.Print(68, y, ",");
-        if (box(RaceColumn::Metri).empty()) {
-            sheet.Print(69, y, "0");
-        }
     }
-    sheet.Print(69, y, box(RaceColumn::Metri));
-    sheet.Print(78, y, box(RaceColumn::Partecipanti));
-    sheet.Print(90, y, box(RaceColumn::Risultato));
-    sheet.Print(100, y, box(RaceColumn::Ore));
-    if (!box(RaceColumn::Ore).empty()) {
-        sheet.Print(102, y, ":");
-    }
-    sheet.Print(103, y, box(RaceColumn::Minuti));
-    if (!box(RaceColumn::Minuti).empty()) {
-        sheet.Print(105, y, ":");
-    }
-    sheet.Print(106, y, box(RaceColumn::Secondi));
-    sheet.Print(112, y, box(RaceColumn::Categoria));
-    sheet.Print(124, y, box(RaceColumn::RisultatoCat));
+    sheet.Print(69, y, !row[Km].empty() && row[Metri].empty() ? "0" : row[Metri]);
+    sheet.Print(78, y, row[Partecipanti]);
+    sheet.Print(90, y, row[Risultato]);
+    sheet.Print(100, y, row[Ore]);
+    sheet.Print(102, y, row[Ore].empty() ? "" : ":");
+    sheet.Print(103, y, row[Minuti]);
+    sheet.Print(105, y, row[Minuti].empty() ? "" : ":");
+    sheet.Print(106, y, row[Secondi]);
+    sheet.Print(112, y, row[Categoria]);
+    sheet.Print(124, y, row[RisultatoCat]);
 }
 
 } // namespace
 
 Sheet CalendarSheet(const CalendarSheetTexts& page)
 {
-    constexpr int dateSize = 8;
-    constexpr int titleSize = 12;
-    constexpr int textSize = 10;
     constexpr int firstLine = 7;
-    Sheet sheet(Orientation::Landscape, {.name = "Times New Roman", .size = dateSize},
-                JobName("calendario", page.date));
-    sheet.Print(124, 0, page.date);
-    sheet.SetFontSize(titleSize);
+    Sheet sheet = DatedSheet(Orientation::Landscape, "calendario", page.date, 124);
     PrintFrame(sheet);
     sheet.Print(60, 1, page.title);
-    sheet.SetFontSize(textSize);
+    sheet.SetFontSize(kSheetTextSize);
     PrintHeads(sheet);
     int y = firstLine;
     for (const CalendarSheetRow& row : page.rows) {

@@ -3,9 +3,35 @@
 #pragma once
 
 #include "core/Sheet.h"
-#include "diary/CalendarGrid.h"
 
 #include <array>
+
+/// The grid of the race calendar's window: its columns in the order of Enter.
+namespace zelvia::CalendarGrid
+{
+
+inline constexpr int kRows = 20;
+inline constexpr int kPages = 5;
+
+enum RaceColumn {
+    Giorno,
+    Mese,
+    Anno,
+    Gara,
+    Localita,
+    Km,
+    Metri,
+    Partecipanti,
+    Risultato,
+    Ore,
+    Minuti,
+    Secondi,
+    Categoria,
+    RisultatoCat,
+    kColumns
+};
+
+} // namespace zelvia::CalendarGrid
 
 namespace zelvia
 {

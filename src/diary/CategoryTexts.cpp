@@ -15,16 +15,11 @@ Text InTwoColumns(i16 number)
     return number > 9 ? PlainText(number) : Str(number);
 }
 
-i16 Parsed(TextView piece)
-{
-    return RoundTo<i16>(Val(piece));
-}
-
 /// Before the first `mark`; nothing without one.
 i16 NumberBefore(TextView text, TextView mark)
 {
     const auto position = InStr(text, mark);
-    return position == 0 ? i16(0) : Parsed(Left(text, position - 1));
+    return position == 0 ? i16(0) : Parsed<i16>(Left(text, position - 1));
 }
 
 /// Between the last `first` and the last `second`; a missing one makes an invalid start or length.
@@ -32,7 +27,7 @@ i16 NumberBetween(TextView text, TextView first, TextView second)
 {
     const auto mark = InStrRev(text, first);
     const auto start = mark == 0 ? 0 : mark + 1;
-    return Parsed(Mid(text, start, InStrRev(text, second) - start));
+    return Parsed<i16>(Mid(text, start, InStrRev(text, second) - start));
 }
 
 } // namespace
@@ -57,7 +52,7 @@ i16 PezzoKm(TextView testo)
 
 i16 PezzoMetri(TextView testo)
 {
-    return Parsed(Mid(testo, InStr(testo, ",") + 1));
+    return Parsed<i16>(Mid(testo, InStr(testo, ",") + 1));
 }
 
 i16 PezzoVolte(TextView testo)
@@ -77,7 +72,7 @@ i16 PezzoQuante(TextView testo)
 
 i16 PezzoTempi(TextView testo)
 {
-    return Parsed(Mid(testo, InStrRev(testo, ":") + 1));
+    return Parsed<i16>(Mid(testo, InStrRev(testo, ":") + 1));
 }
 
 } // namespace zelvia

@@ -12,13 +12,8 @@ namespace
 /// The day that a text like 2028-02-29 names; none when there is no such day.
 std::optional<CalendarDate> DayOf(std::string_view text)
 {
-    const auto part = [text](std::size_t start, std::size_t length) { return Text(text.substr(start, length)); };
-    if (text.size() != 10 || text[4] != '-' || text[7] != '-' || text.find(' ') != std::string_view::npos) {
-        return {};
-    }
     return TrapValueWith(
-        std::optional<CalendarDate>(), [&] { return DateValue(part(8, 2) + "/" + part(5, 2) + "/" + part(0, 4)); },
-        [](const ErroreRunTime&) {});
+        std::optional<CalendarDate>(), [&] { return IsoDate(text); }, [](const ErroreRunTime&) {});
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 #include "core/MessageBox.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "diary/Workspace.h"
@@ -32,7 +31,7 @@ constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE
 Text RefusalOfFolder(const Text& diario, const Text& scelto)
 {
     Text cartella;
-    // What lies in another folder is refused after the dialog.
+    // A path in another folder is refused after the dialog.
     if (CAPTIONPATH(diario, scelto) == 0) {
         TrapWith([&] { cartella += FolderOfDiary(scelto); }, [](const ErroreRunTime&) {});
     }
@@ -61,7 +60,7 @@ private:
 class FileCommands::Attempt
 {
 public:
-    /// `diario` is the one in whose folder the choice has to lie.
+    /// The choice has to be in the folder of `diario`.
     Attempt(DiaryPage& page, TextView title, bool opens, Text diario)
         : page_(page), title_(title), opens_(opens), diario_(std::move(diario))
     {
@@ -73,7 +72,7 @@ public:
             {title_, opens_, [diario = diario_](const Text& scelto) { return RefusalOfFolder(diario, scelto); }});
     }
 
-    /// The name chosen. Raises error 32755 after the refusal's box when it lies in another folder; the dialog then
+    /// The name chosen. Raises error 32755 after the refusal's box when it is in another folder; the dialog then
     /// holds `diario` again.
     Text Checked()
     {
@@ -87,8 +86,8 @@ public:
         return scelto;
     }
 
-    /// Runs the command. A refused choice has it run `again`; a cancelled dialog ends it without a word; whatever else
-    /// goes wrong is reported under `errors`. `undone` runs first in the two former cases.
+    /// Runs the command. A refused choice has it run `again`; a cancelled dialog ends it silently; any other
+    /// error is reported under `errors`. `undone` runs first in the two former cases.
     void Run(
         const std::function<void()>& command, TextView errors, const std::function<void()>& again,
         const std::function<void()>& undone = [] {})
@@ -257,8 +256,8 @@ void FileCommands::mnuFileNuovo_Click()
         }
         session = kept;
         page_.ShowDiaryName();
-        // A cancelled dialog leaves no name, and the next save asks for one. A name that was chosen in vain gives way
-        // to the old diary, over which the next save then writes.
+        // A cancelled dialog leaves no name, and the next save asks for one. A name whose choice failed is
+        // replaced by the old diary's, which the next save then overwrites.
         if (!page_.ChosenName().empty()) {
             page_.ChosenName() = session.NomeFile;
         }

@@ -5,7 +5,6 @@
 #include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/FileCommands.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
@@ -21,8 +20,12 @@ using namespace Module1;
 namespace
 {
 
-constexpr TextView kStartPointer = "\\nomeload";
 constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
+
+Text StartPointer()
+{
+    return ProgramFolder() + "\\" + Text(kStartPointer);
+}
 
 } // namespace
 
@@ -55,7 +58,7 @@ void FileCommands::CaricaNomeFile()
 {
     TrapWith(
         [this] {
-            session.NomeFile = ReadPointer(ProgramFolder() + Text(kStartPointer));
+            session.NomeFile = ReadPointer(StartPointer());
             if (session.NomeFile.empty()) {
                 session.NomeFile = ProgramFolder() + Text(kDefaultDiary);
             }
@@ -72,7 +75,7 @@ void FileCommands::CaricaNomeFile()
 
 void FileCommands::SalvaNomeFile()
 {
-    Trap("SalvaNomeFile - ERRORE : ", [] { WritePointer(ProgramFolder() + Text(kStartPointer), session.NomeFile); });
+    Trap("SalvaNomeFile - ERRORE : ", [] { WritePointer(StartPointer(), session.NomeFile); });
 }
 
 void FileCommands::NomeFleListe()
@@ -144,7 +147,7 @@ void FileCommands::SalvaLista(ListaScelta lista)
 
 void FileCommands::CaricaLista(ListaScelta lista)
 {
-    // The routine of the temperatures has lost a letter, and its report with it.
+    // The name of the temperatures' routine lacks a letter, and so does its report.
     const Text nome = lista == ListaScelta::Temperatura ? "Teperatura" : Text(NomeLista(lista));
     const auto read = [&] {
         LeggiLista(FileLista(lista), VociDi(lista));

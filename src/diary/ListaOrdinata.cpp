@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "diary/TimeAndPace.h"
 
 namespace zelvia
 {
@@ -22,16 +23,6 @@ std::ptrdiff_t ColonFrom(TextView text, std::ptrdiff_t from)
     return 0;
 }
 
-i16 Parsed(TextView text)
-{
-    return RoundTo<i16>(Val(text));
-}
-
-CalendarDate BlankDate()
-{
-    return {2000, 1, 1};
-}
-
 } // namespace
 
 void ListaOrdinata::Clear(int posto)
@@ -41,7 +32,17 @@ void ListaOrdinata::Clear(int posto)
     VociMinuti[posto] = 0;
     VociSecondi[posto] = 0;
     VociMedia[posto].clear();
-    VociData[posto] = BlankDate();
+    VociData[posto] = CalendarDate(2000, 1, 1);
+}
+
+void ListaOrdinata::Copy(int posto, const ListaOrdinata& from, int source)
+{
+    VociGiorno[posto] = from.VociGiorno[source];
+    VociOre[posto] = from.VociOre[source];
+    VociMinuti[posto] = from.VociMinuti[source];
+    VociSecondi[posto] = from.VociSecondi[source];
+    VociMedia[posto] = from.VociMedia[source];
+    VociData[posto] = from.VociData[source];
 }
 
 void ListaOrdinata::CreaLista()
@@ -59,15 +60,15 @@ void ListaOrdinata::Trasforma()
         std::ptrdiff_t second = 8;
         const auto first = ColonFrom(TempoCella, 1);
         if (first > 0) {
-            OreCella = Parsed(Left(TempoCella, first - 1));
+            OreCella = Parsed<i16>(Left(TempoCella, first - 1));
             second = ColonFrom(TempoCella, first + 1);
             if (second > 0) {
-                MinutiCella = Parsed(Mid(TempoCella, first + 1, second - 1));
+                MinutiCella = Parsed<i16>(Mid(TempoCella, first + 1, second - 1));
             } else {
                 second = 8 - first;
             }
         }
-        SecondiCella = Parsed(Mid(TempoCella, second + 1, second + 3));
+        SecondiCella = Parsed<i16>(Mid(TempoCella, second + 1, second + 3));
     });
 }
 
@@ -108,35 +109,27 @@ void ListaOrdinata::Ordina()
     Trap("Ordina - ERRORE : ", [this] {
         ListaOrdinata sorted;
         sorted.CreaLista();
+        int count = 0;
         for (int posto = SmallestPlace(); posto > 0; posto = SmallestPlace()) {
-            sorted.GiornoCella = VociGiorno[posto];
-            sorted.OreCella = VociOre[posto];
-            sorted.MinutiCella = VociMinuti[posto];
-            sorted.SecondiCella = VociSecondi[posto];
-            sorted.MediaCella = VociMedia[posto];
-            sorted.DataCella = VociData[posto];
-            sorted.Incrementa();
+            sorted.Copy(++count, *this, posto);
             Clear(posto);
         }
-        VociGiorno = sorted.VociGiorno;
-        VociOre = sorted.VociOre;
-        VociMinuti = sorted.VociMinuti;
-        VociSecondi = sorted.VociSecondi;
-        VociMedia = sorted.VociMedia;
-        VociData = sorted.VociData;
+        for (int i = 1; i <= kCapacity; ++i) {
+            Copy(i, sorted, i);
+        }
     });
 }
 
 Text ListaOrdinata::TempoDi(int posto) const
 {
-    return PlainText(VociOre[posto]) + ":" + Format(VociMinuti[posto], "00") + ":" + Format(VociSecondi[posto], "00");
+    return TestoTempo({VociOre[posto], VociMinuti[posto], VociSecondi[posto]});
 }
 
 void ListaOrdinata::RiempiLista()
 {
     Trap("RiempiLista - ERRORE : ", [this] {
         for (int i = 1; i <= kCapacity && VociGiorno[i] != 0; ++i) {
-            VistaLista->AggiungiRiga(" " + Str(i32(i)) + Text("°"_t), TempoDi(i), VociMedia[i], PlainText(VociData[i]));
+            VistaLista(" " + Str(i32(i)) + Text("°"_t), TempoDi(i), VociMedia[i], PlainText(VociData[i]));
         }
     });
 }

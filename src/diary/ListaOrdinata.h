@@ -7,6 +7,9 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 
+#include <functional>
+#include <utility>
+
 namespace zelvia
 {
 
@@ -20,13 +23,8 @@ public:
     virtual void Seleziona(int indice) = 0;
 };
 
-/// A list view that shows a classification, four columns per entry.
-class VistaTempi
-{
-public:
-    virtual ~VistaTempi() = default;
-    virtual void AggiungiRiga(TextView posizione, TextView tempo, TextView media, TextView data) = 0;
-};
+/// Adds a row to a list view that shows a classification: place, time, average and date.
+using TimesView = std::function<void(TextView place, TextView time, TextView average, TextView date)>;
 
 /// A list of up to 366 runs that is filled a day at a time, sorted by time taken and written out as a classification.
 /// A new one is made each time it is shown: CreaLista; for each run LOgiorno, LOtempo, LOmedia, LOdata, Trasforma and
@@ -53,7 +51,7 @@ public:
     /// dropped.
     void Ordina();
 
-    void NuovaLista(VistaTempi* vista) { VistaLista = vista; }
+    void NuovaLista(TimesView view) { VistaLista = std::move(view); }
     void RiempiLista();
     void NuovaListalst(CasellaTempi* casella) { CasellaLista = casella; }
     void RiempiListalst();
@@ -68,6 +66,7 @@ private:
 
     int SmallestPlace() const;
     void Clear(int posto);
+    void Copy(int posto, const ListaOrdinata& from, int source);
     Text TempoDi(int posto) const;
 
     i16 GiornoCella;
@@ -84,7 +83,7 @@ private:
     Voci<i16> VociSecondi;
     Voci<Text> VociMedia;
     Voci<CalendarDate> VociData;
-    VistaTempi* VistaLista = nullptr;
+    TimesView VistaLista;
     CasellaTempi* CasellaLista = nullptr;
 };
 

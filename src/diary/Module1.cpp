@@ -3,6 +3,8 @@
 #include "diary/Module1.h"
 
 #include "core/Conversions.h"
+#include "core/ValueFile.h"
+#include "diary/Fields.h"
 
 namespace zelvia::Module1
 {
@@ -48,6 +50,33 @@ void AzzeraAnno()
 void AzzeraRecordGiorno(i16 giorno)
 {
     Trap(kBareTitle, [&] { BlankDay(giorno); });
+}
+
+void SalvaDiario(TextView path)
+{
+    Trap(kBareTitle, [&] {
+        ValueWriter file(path);
+        for (int i = 1; i <= 366; ++i) {
+            VisitDiaryValues(Giorni[i], [&](const auto& value) { file.Write(value); });
+        }
+        file.Close();
+    });
+}
+
+void CaricaDiario(TextView path)
+{
+    TrapWith(
+        [&] {
+            ValueReader file(path);
+            for (int i = 1; i <= 366; ++i) {
+                VisitDiaryValues(Giorni[i], [&](auto& value) { file.Input(value); });
+            }
+        },
+        [](const ErroreRunTime& error) {
+            if (error.Number() != Errore::FileNonTrovato) {
+                ReportError("**ERRORE : ", error);
+            }
+        });
 }
 
 } // namespace zelvia::Module1

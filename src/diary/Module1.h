@@ -37,5 +37,13 @@ void AzzeraAnno();
 /// Blanks the day at `giorno`, 0..366, keeping its NumGiorno and Data.
 void AzzeraRecordGiorno(i16 giorno);
 
+/// Writes days 1..366 of Giorni to `path`, 136 values a day. Reports its own failure, under "ERRORE : "; the file is
+/// then left as far as it was written.
+void SalvaDiario(TextView path);
+
+/// Reads `path` into days 1..366 of Giorni, in place and unchecked. A missing file is silent and changes nothing; any
+/// other failure is reported under "**ERRORE : " and leaves what was read so far.
+void CaricaDiario(TextView path);
+
 } // namespace Module1
 } // namespace zelvia

@@ -13,20 +13,14 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr TextView kStartPointer = "nomeload";
-
-Text& ShareFolderState()
-{
-    static Text folder;
-    return folder;
-}
+Text shareFolder;
 
 Text In(TextView folder, TextView name)
 {
     return Text(folder) + "\\" + Text(name);
 }
 
-/// The file itself, or the link under its name whatever that leads to.
+/// The status of the file, or of the link itself.
 fs::file_status StatusOf(TextView path)
 {
     return TrapValueWith(
@@ -34,7 +28,7 @@ fs::file_status StatusOf(TextView path)
         [](const ErroreRunTime&) {});
 }
 
-/// The path as the machine knows it: absolute, without links, without a slash at its end.
+/// The absolute path without links and without a slash at its end.
 Text Resolved(const fs::path& path)
 {
     std::error_code failed;
@@ -103,13 +97,13 @@ Text ShareFolder(const fs::path& own)
 
 void SetShareFolder(TextView folder)
 {
-    ShareFolderState() = folder;
+    shareFolder = folder;
 }
 
 Text InstalledFile(TextView name)
 {
     const Text own = In(ProgramFolder(), name);
-    const Text shared = In(ShareFolderState(), name);
+    const Text shared = In(shareFolder, name);
     return !fs::exists(StatusOf(own)) && fs::exists(StatusOf(shared)) ? shared : own;
 }
 

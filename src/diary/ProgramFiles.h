@@ -10,8 +10,8 @@ namespace zelvia
 {
 
 /// The program's folder in backslash form: `given` if there is one, else the folder `own` of the executable when it
-/// holds the start pointer or the folder of the diaries, else "Zelvia" in the folder `home`. Empty when that one is not
-/// known either.
+/// holds the start pointer or the folder of the diaries, else "Zelvia" in the folder `home`. Empty when `home` is
+/// unknown too.
 Text ChooseProgramFolder(const std::filesystem::path& given, const std::filesystem::path& own,
                          const std::filesystem::path& home);
 

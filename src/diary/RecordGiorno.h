@@ -21,7 +21,7 @@ struct RecordGiorno {
     i16 Metri; ///< Metres beyond the whole kilometres, 0..999 as the page enters them.
     Text Modo;
     Text Fondo;
-    Text Tipo; ///< "Gara", whatever its case, marks a race; any other text that isn't empty a training day.
+    Text Tipo; ///< "Gara" in any case marks a race, any other non-empty text a training day.
     i16 OraInizio;
     i16 MinutiInizio;
     i16 SecondiInizio;
@@ -37,11 +37,10 @@ struct RecordGiorno {
     i32 Corridori = 1; ///< A blank day was run alone.
     i16 Peso;          ///< 0 means not entered.
     i16 Ripetizioni;
-    i16 RipetizioniDistanza; ///< Metres.
-    i16 RipetizioniQuante;   ///< Minutes of each repetition.
-    i16 RipetizioniTempi;    ///< Seconds of each repetition.
-    BoundedArray<Text, 0, 10>
-        Note; ///< 3..10 are the lines of the page; 1 and 2 only pass through; 0 is not in the file.
+    i16 RipetizioniDistanza;        ///< Metres.
+    i16 RipetizioniQuante;          ///< Minutes of each repetition.
+    i16 RipetizioniTempi;           ///< Seconds of each repetition.
+    BoundedArray<Text, 0, 10> Note; ///< 3..10 are the lines of the page; 1 and 2 are only in the file; 0 is not.
 
     friend bool operator==(const RecordGiorno&, const RecordGiorno&) = default;
 };

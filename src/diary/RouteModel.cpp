@@ -2,19 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/RouteModel.h"
 
+#include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 #include "diary/Module1.h"
 
 namespace zelvia::Module1
 {
-
-PerRoute<Text> NomiPercorso;
-PerRoute<i32> DistanzePercorso;
-PerStretch<Text> TrattoDescrizione;
-PerStretch<i32> TrattoKm;
-PerStretch<i32> TrattoMetri;
-
 namespace
 {
 
@@ -86,3 +80,42 @@ void CaricaPercorsi()
 }
 
 } // namespace zelvia::Module1
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+RouteLength LengthOf(i32 km, i32 metres)
+{
+    constexpr int metresPerKm = 1000;
+    if (metres < metresPerKm) {
+        return {km, metres};
+    }
+    const i32 whole = metres.value() / metresPerKm;
+    return {km + whole, metres - whole * metresPerKm};
+}
+
+std::optional<i16> RoutePlace(TextView name)
+{
+    bool free = false;
+    for (i16 i = 1; i <= PerRoute<Text>::kLast; i += 1) {
+        if (SameText(NomiPercorso[i], name)) {
+            return i;
+        }
+        free = free || NomiPercorso[i].empty();
+    }
+    return free ? std::optional<i16>(0) : std::nullopt;
+}
+
+i16 LowestFreePlace()
+{
+    for (i16 i = 1; i <= PerRoute<Text>::kLast; i += 1) {
+        if (NomiPercorso[i].empty()) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+} // namespace zelvia

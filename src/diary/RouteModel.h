@@ -6,6 +6,8 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 
+#include <optional>
+
 namespace zelvia::Module1
 {
 
@@ -15,11 +17,11 @@ template <typename T>
 using PerStretch = PerRoute<BoundedArray<T, 0, 20>>;
 
 // The descriptions of routes 1..200, each of stretches 1..20. Place 0 is not in the file: it takes what has no place.
-extern PerRoute<Text> NomiPercorso;        ///< Name; empty means the place is free.
-extern PerRoute<i32> DistanzePercorso;     ///< Length of the whole route, metres.
-extern PerStretch<Text> TrattoDescrizione; ///< Text of a stretch.
-extern PerStretch<i32> TrattoKm;           ///< Its kilometres.
-extern PerStretch<i32> TrattoMetri;        ///< Its metres beyond them.
+inline PerRoute<Text> NomiPercorso;        ///< Name; empty means the place is free.
+inline PerRoute<i32> DistanzePercorso;     ///< Length of the whole route, metres.
+inline PerStretch<Text> TrattoDescrizione; ///< Text of a stretch.
+inline PerStretch<i32> TrattoKm;           ///< Its kilometres.
+inline PerStretch<i32> TrattoMetri;        ///< Its metres beyond them.
 
 /// Blanks all routes 1..200.
 void AzzeraPercorsi();
@@ -35,3 +37,26 @@ void SalvaPercorsi();
 void CaricaPercorsi();
 
 } // namespace zelvia::Module1
+
+namespace zelvia
+{
+
+inline constexpr TextView kTooManyRoutes = " DESCRIZIONE MAX PER 200 PERCORSI ";
+
+/// The length of a route.
+struct RouteLength {
+    i32 km;
+    i32 metres; ///< Below 1000.
+};
+
+/// Carries whole thousands of metres over to the kilometres. Raises error 6 when these are out of range.
+RouteLength LengthOf(i32 km, i32 metres);
+
+/// The place of a route's name among the descriptions, case ignored: 0 when it has none but a place is free, nothing
+/// when all 200 are taken. The empty name is that of the first free place.
+std::optional<i16> RoutePlace(TextView name);
+
+/// The lowest free place, 0 when there is none.
+i16 LowestFreePlace();
+
+} // namespace zelvia

@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "diary/TimeAndPace.h"
 
 #include <array>
 #include <cstdint>
@@ -33,7 +34,7 @@ std::array<i16, N> NumbersOf(TextView text)
     }
     std::array<i16, N> numbers;
     for (std::size_t i = 0; i < N; ++i) {
-        numbers[i] = RoundTo<i16>(Val(pieces[i]));
+        numbers[i] = Parsed<i16>(pieces[i]);
     }
     return numbers;
 }
@@ -130,8 +131,7 @@ Text TestoDistanza(const TotaliRicerca& totali)
 
 Text TestoTempi(const TotaliRicerca& totali)
 {
-    return " " + PlainText(totali.TotOre) + ":" + Format(totali.TotMinuti, "00") + ":" +
-           Format(totali.TotSecondi, "00");
+    return " " + TestoTempo({totali.TotOre, totali.TotMinuti, totali.TotSecondi});
 }
 
 Text TestoMedia(const TotaliRicerca& totali)

@@ -36,13 +36,13 @@ Text FileLista(ListaScelta lista);
 /// The entries of a list of the open diary.
 std::vector<Text>& VociDi(ListaScelta lista);
 
-/// True when one of the entries is that text, whatever its case.
+/// True when one of the entries is that text, ignoring case.
 bool Holds(const std::vector<Text>& voci, TextView testo);
 
 /// Writes the entries to `path`, one per line. Raises what ValueWriter raises.
 void ScriviLista(TextView path, const std::vector<Text>& voci);
 
-/// Reads `path` to its end into the entries, whatever they are; they are emptied once the file is open. Raises what
+/// Reads `path` to its end into the entries, which are emptied once the file is open. Raises what
 /// ValueReader raises.
 void LeggiLista(TextView path, std::vector<Text>& voci);
 

@@ -12,11 +12,6 @@ namespace zelvia
 namespace
 {
 
-constexpr int kDateSize = 8;
-constexpr int kTitleSize = 12;
-constexpr int kTextSize = 10;
-const SheetFont kDateFont{.name = "Times New Roman", .size = kDateSize};
-
 /// A column of pairs: the name upright, the value in italics.
 void PrintPair(Sheet& sheet, int x, int valueX, int y, TextView label, TextView value)
 {
@@ -62,9 +57,7 @@ void PrintHeads(Sheet& sheet, int y)
 {
     const SheetCell heads[] = {{2, y, "Km"}, {10, y, "Tempi"}, {20, y, "Media Km"}, {30, y, "gg mm aaaa"}};
     sheet.SetFontItalic(false);
-    for (const SheetCell& head : heads) {
-        sheet.Print(head.x, head.y, head.text);
-    }
+    sheet.Print(heads);
 }
 
 void PrintRun(Sheet& sheet, int y, const Text& riga)
@@ -104,7 +97,7 @@ void PrintTotals(Sheet& sheet, int y, const std::array<Text, 4>& totali)
     if (y < lastLineWithRoom) {
         y += 3;
     } else {
-        // The rule then lies above the printable corner.
+        // The rule is then above the printable corner.
         sheet.NewPage();
         y = 0;
     }
@@ -129,12 +122,10 @@ Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const Statist
 {
     constexpr std::size_t column = 30;
     constexpr int firstLine = 5;
-    Sheet sheet(Orientation::Portrait, kDateFont, JobName("statistica", data));
-    sheet.Print(80, 0, data);
-    sheet.SetFontSize(kTitleSize);
+    Sheet sheet = DatedSheet(Orientation::Portrait, "statistica", data, 80);
     sheet.Box(10, 1, 87, 66);
     sheet.Print(35, 2, "       Statistica " + Text(titolo));
-    sheet.SetFontSize(kTextSize);
+    sheet.SetFontSize(kSheetTextSize);
     const auto slot = [&](std::size_t index, int x, int y) {
         constexpr int countAfter = 30;
         if (index < categorie.size() && !categorie[index].valore.empty()) {
@@ -152,12 +143,10 @@ Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const Statist
 
 Sheet SearchSheet(const SearchSheetTexts& ricerca)
 {
-    Sheet sheet(Orientation::Portrait, kDateFont, JobName("ricerca", ricerca.data));
-    sheet.Print(80, 0, ricerca.data);
-    sheet.SetFontSize(kTitleSize);
+    Sheet sheet = DatedSheet(Orientation::Portrait, "ricerca", ricerca.data, 80);
     sheet.Box(1, 3, 85, 18);
     sheet.Print(32, 1, "   Ricerche Statistiche ");
-    sheet.SetFontSize(kTextSize);
+    sheet.SetFontSize(kSheetTextSize);
     PrintPeriod(sheet, ricerca);
     PrintConditions(sheet, ricerca.condizioni);
     PrintTotals(sheet, PrintRuns(sheet, ricerca.righe), ricerca.totali);
@@ -166,10 +155,7 @@ Sheet SearchSheet(const SearchSheetTexts& ricerca)
 
 Sheet ChartSheet(CalendarDate data, std::function<void()> copia)
 {
-    Sheet sheet(Orientation::Landscape, {.name = kDateFont.name, .size = kDateSize, .bold = true},
-                JobName("grafico", data));
-    sheet.Print(125, 0, data);
-    sheet.SetFontSize(kTitleSize);
+    Sheet sheet = DatedSheet(Orientation::Landscape, "grafico", data, 125, true);
     sheet.Box(2, 1, 132, 47);
     sheet.PaintClipboard(15, 3, std::move(copia));
     return sheet;

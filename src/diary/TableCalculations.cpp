@@ -3,21 +3,12 @@
 #include "diary/TableCalculations.h"
 
 #include "core/Conversions.h"
+#include "diary/TimeAndPace.h"
 
 namespace zelvia
 {
 namespace
 {
-
-i32 LongOf(const Text& box)
-{
-    return RoundTo<i32>(Val(box));
-}
-
-i16 ShortOf(const Text& box)
-{
-    return RoundTo<i16>(Val(box));
-}
 
 bool AtLeastOne(const Text& box)
 {
@@ -46,9 +37,9 @@ bool HasAverage(const RowGroups& row)
 
 i32 SecondsOf(const RowGroups& row)
 {
-    const i32 hours = LongOf(row.hours);
-    const i32 minutes = LongOf(row.minutes);
-    const i32 seconds = LongOf(row.seconds);
+    const i32 hours = Parsed<i32>(row.hours);
+    const i32 minutes = Parsed<i32>(row.minutes);
+    const i32 seconds = Parsed<i32>(row.seconds);
     if (hours >= 1) {
         return (hours * 60 + minutes) * 60 + seconds;
     }
@@ -61,14 +52,14 @@ i32 SecondsOf(const RowGroups& row)
 /// Seconds per kilometre: the whole seconds are short arithmetic.
 f32 SecondsPerKm(const RowGroups& row)
 {
-    const i16 whole = ShortOf(row.averageMinutes) * 60 + ShortOf(row.averageSeconds);
+    const i16 whole = Parsed<i16>(row.averageMinutes) * 60 + Parsed<i16>(row.averageSeconds);
     const auto thousandths = static_cast<f32>(Val(row.averageThousandths));
     return thousandths / 1000.0F + static_cast<f32>(whole.value());
 }
 
 i32 MetresOf(const RowGroups& row)
 {
-    return LongOf(row.km) * 1000 + LongOf(row.metres);
+    return Parsed<i32>(row.km) * 1000 + Parsed<i32>(row.metres);
 }
 
 } // namespace
@@ -96,18 +87,11 @@ bool OnlyOneGroup(const RowGroups& row)
 
 std::optional<RowAverage> AverageFrom(const RowGroups& row)
 {
-    const double metresPerSecond = Quotient<double>(MetresOf(row).value(), SecondsOf(row).value());
-    const auto speed = static_cast<f32>(metresPerSecond * 3.6);
-    const f32 pace = Quotient<f32>(60.0F, speed);
-    const i16 minutes = RoundTo<i16>(Fix(static_cast<double>(pace)));
-    constexpr int tooSlow = 61;
-    if (minutes >= tooSlow) {
+    const std::optional<Pace> pace = PaceOf(MetresOf(row), SecondsOf(row));
+    if (!pace) {
         return std::nullopt;
     }
-    const f32 rest = (pace - static_cast<f32>(minutes.value())) * 60.0F;
-    const i16 seconds = RoundTo<i16>(Fix(static_cast<double>(rest)));
-    const f32 thousandths = (rest - static_cast<f32>(seconds.value())) * 1000.0F;
-    return RowAverage{minutes, seconds, Format(static_cast<double>(thousandths), "000.00")};
+    return RowAverage{pace->minutes, pace->seconds, Format(static_cast<double>(pace->thousandths), "000.00")};
 }
 
 RowDistance DistanceFrom(const RowGroups& row)

@@ -8,24 +8,6 @@
 
 namespace zelvia::Module1
 {
-
-PlanColumn<i16> TabGiorno;
-PlanColumn<i16> TabKm;
-PlanColumn<i16> TabMetri;
-PlanColumn<i16> TabOre;
-PlanColumn<i16> TabMinuti;
-PlanColumn<i16> TabSecondi;
-PlanColumn<i16> TabMediaMinuti;
-PlanColumn<i16> TabMediaSecondi;
-PlanColumn<i16> TabMediaMillesimi;
-PlanColumn<Text> TabAndatura;
-PlanColumn<Text> TabFondo;
-PlanColumn<i16> TabRipetVolte;
-PlanColumn<i16> TabRipetDistanza;
-PlanColumn<i16> TabRipetQuante;
-PlanColumn<i16> TabRipetTempi;
-CalendarDate TabDataInizio;
-
 namespace
 {
 

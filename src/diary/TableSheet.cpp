@@ -16,9 +16,10 @@ namespace
 
 using Row = std::array<Text, kColumns>;
 
-bool Filled(const Text& text)
+/// A sign that is there only behind a text.
+TextView After(const Text& before, TextView sign)
 {
-    return !text.empty();
+    return before.empty() ? TextView() : sign;
 }
 
 void PrintFrame(Sheet& sheet)
@@ -37,37 +38,28 @@ void PrintHeads(Sheet& sheet)
         {6, 4, "Distanza "},  {15, 4, "Tempo"},      {24, 4, "Media"},         {2, 5, "gg"},
         {6, 5, "Km metri"},   {14, 5, "hh  mm  ss"}, {23, 5, "mm  ss   mls "}, {40, 5, "Andatura"},
         {63, 5, " Terreno "}, {82, 5, "Ripetizioni"}};
-    for (const SheetCell& head : heads) {
-        sheet.Print(head.x, head.y, head.text);
-    }
+    sheet.Print(heads);
 }
 
 void PrintRun(Sheet& sheet, int y, const Row& row)
 {
     sheet.Print(DigitColumn(row[Km], 6), y, row[Km]);
-    if (Filled(row[Km])) {
-        sheet.Print(8, y, ",");
-        if (!Filled(row[Metri])) {
-            sheet.Print(10, y, "0");
-        }
+    sheet.Print(8, y, After(row[Km], ","));
+    if (row[Metri].empty()) {
+        sheet.Print(10, y, After(row[Km], "0"));
     }
     sheet.Print(9, y, row[Metri]);
 
-    const auto separator = [&](int x, const Text& before) {
-        if (Filled(before)) {
-            sheet.Print(x, y, ":");
-        }
-    };
     sheet.Print(DigitColumn(row[Ore], 14), y, row[Ore]);
-    separator(16, row[Ore]);
+    sheet.Print(16, y, After(row[Ore], ":"));
     sheet.Print(17, y, row[Minuti]);
-    separator(19, row[Minuti]);
+    sheet.Print(19, y, After(row[Minuti], ":"));
     sheet.Print(20, y, row[Secondi]);
 
     sheet.Print(DigitColumn(row[MediaMinuti], 23), y, row[MediaMinuti]);
-    separator(25, row[MediaMinuti]);
+    sheet.Print(25, y, After(row[MediaMinuti], ":"));
     sheet.Print(26, y, row[MediaSecondi]);
-    separator(28, row[MediaSecondi]);
+    sheet.Print(28, y, After(row[MediaSecondi], ":"));
     sheet.Print(29, y, row[MediaMillesimi]);
 
     sheet.Print(33, y, row[Andatura]);
@@ -77,11 +69,7 @@ void PrintRun(Sheet& sheet, int y, const Row& row)
 void PrintRepetitions(Sheet& sheet, int y, const Row& row)
 {
     const bool planned = Val(row[RipetVolte]) >= 1;
-    const auto sign = [&](int x, TextView text) {
-        if (planned) {
-            sheet.Print(x, y, text);
-        }
-    };
+    const auto sign = [&](int x, TextView text) { sheet.Print(x, y, planned ? text : TextView()); };
     sheet.Print(DigitColumn(row[RipetVolte], 78), y, row[RipetVolte]);
     sign(80, "x");
     sheet.Print(81, y, row[RipetDistanza]);
@@ -95,15 +83,10 @@ void PrintRepetitions(Sheet& sheet, int y, const Row& row)
 
 Sheet TableSheet(const TableSheetTexts& table)
 {
-    constexpr int dateSize = 8;
-    constexpr int titleSize = 12;
-    constexpr int textSize = 10;
-    Sheet sheet(Orientation::Portrait, {.name = "Times New Roman", .size = dateSize}, JobName("tabella", table.date));
-    sheet.Print(80, 0, table.date);
+    Sheet sheet = DatedSheet(Orientation::Portrait, "tabella", table.date, 80);
     PrintFrame(sheet);
-    sheet.SetFontSize(titleSize);
     sheet.Print(26, 1, table.title);
-    sheet.SetFontSize(textSize);
+    sheet.SetFontSize(kSheetTextSize);
     PrintHeads(sheet);
     for (int row = 1; row <= kRows; ++row) {
         const int y = 6 + row;

@@ -3,9 +3,34 @@
 #pragma once
 
 #include "core/Sheet.h"
-#include "diary/TableGrid.h"
 
 #include <array>
+
+/// The grid of the table editor: its columns in the order of Enter.
+namespace zelvia::TableGrid
+{
+
+inline constexpr int kRows = 31;
+
+enum Column {
+    Km,
+    Metri,
+    Ore,
+    Minuti,
+    Secondi,
+    MediaMinuti,
+    MediaSecondi,
+    MediaMillesimi,
+    Andatura,
+    Fondo,
+    RipetVolte,
+    RipetDistanza,
+    RipetQuante,
+    RipetTempi,
+    kColumns
+};
+
+} // namespace zelvia::TableGrid
 
 namespace zelvia
 {

@@ -14,11 +14,6 @@ namespace zelvia
 namespace
 {
 
-i16 Parsed(TextView text)
-{
-    return RoundTo<i16>(Val(text));
-}
-
 struct DayTime {
     i16 ore;
     i16 minuti;
@@ -34,8 +29,8 @@ DayTime TimeOf(TextView text)
     if (second == TextView::npos) {
         return {};
     }
-    return {Parsed(text.substr(0, first)), Parsed(text.substr(first + 1, second - first - 1)),
-            Parsed(text.substr(second + 1))};
+    return {Parsed<i16>(text.substr(0, first)), Parsed<i16>(text.substr(first + 1, second - first - 1)),
+            Parsed<i16>(text.substr(second + 1))};
 }
 
 struct DayAverage {
@@ -49,7 +44,7 @@ DayAverage AverageOf(TextView text)
     if (separator == TextView::npos) {
         return {};
     }
-    return {Parsed(text.substr(0, separator)), Parsed(text.substr(separator + 1))};
+    return {Parsed<i16>(text.substr(0, separator)), Parsed<i16>(text.substr(separator + 1))};
 }
 
 /// A demand of the row against what the day holds.

@@ -78,26 +78,29 @@ Text TestoTempo(const Orario& tempo)
     return PlainText(tempo.ore) + ":" + Format(tempo.minuti, "00") + ":" + Format(tempo.secondi, "00");
 }
 
-std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo)
+std::optional<Pace> PaceOf(i32 metres, i32 seconds)
 {
-    const f32 chilometri = LocaleSingle(distanza);
-    const auto metri = RoundTo<i32>(static_cast<double>(chilometri * 1000.0F));
-    const i32 durata = SecondsOf(tempo);
-
-    // Kilometres per hour, then minutes per kilometre: each stored in a single.
-    const double metriAlSecondo = Quotient<double>(metri.value(), durata.value());
-    const auto velocita = static_cast<f32>(metriAlSecondo * 3.6);
-    const f32 frazione = Quotient<f32>(60.0F, velocita);
-
-    const i16 minuti = RoundTo<i16>(Fix(static_cast<double>(frazione)));
-    const f32 resto = (frazione - static_cast<f32>(minuti.value())) * 60.0F;
-    const i16 secondi = RoundTo<i16>(Fix(static_cast<double>(resto)));
-
-    constexpr int longest = 60;
-    if (minuti > longest) {
+    const double metresPerSecond = Quotient<double>(metres.value(), seconds.value());
+    const auto kilometresPerHour = static_cast<f32>(metresPerSecond * 3.6);
+    const f32 pace = Quotient<f32>(60.0F, kilometresPerHour);
+    const i16 minutes = RoundTo<i16>(Fix(static_cast<double>(pace)));
+    constexpr int slowest = 60;
+    if (minutes > slowest) {
         return std::nullopt;
     }
-    return Format(minuti, minuti > 0 ? "##:" : "0:") + Format(secondi, "00");
+    const f32 rest = (pace - static_cast<f32>(minutes.value())) * 60.0F;
+    const i16 wholeSeconds = RoundTo<i16>(Fix(static_cast<double>(rest)));
+    return Pace{minutes, wholeSeconds, (rest - static_cast<f32>(wholeSeconds.value())) * 1000.0F};
+}
+
+std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo)
+{
+    const f32 kilometres = LocaleSingle(distanza);
+    const std::optional<Pace> pace = PaceOf(RoundTo<i32>(static_cast<double>(kilometres * 1000.0F)), SecondsOf(tempo));
+    if (!pace) {
+        return std::nullopt;
+    }
+    return Format(pace->minutes, pace->minutes > 0 ? "##:" : "0:") + Format(pace->seconds, "00");
 }
 
 } // namespace zelvia

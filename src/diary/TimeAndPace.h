@@ -36,9 +36,19 @@ Orario TempoTrascorso(const Orario& inizio, const Orario& fine);
 /// Hours as plain digits, minutes and seconds with two.
 Text TestoTempo(const Orario& tempo);
 
-/// The average per kilometre from the caption of a distance such as 10,500 and a time taken, computed in single
-/// precision; nothing when it exceeds 60 minutes. Raises error 13 for a caption that is not a number, 6 or 11 when the
-/// time or the distance is 0.
+/// A time per kilometre.
+struct Pace {
+    i16 minutes;
+    i16 seconds;
+    f32 thousandths; ///< Of a second, with a fraction.
+};
+
+/// The pace of a distance in a time, computed in single precision; nothing from 61 minutes on. Raises error 6 or 11
+/// when one of the two is 0.
+std::optional<Pace> PaceOf(i32 metres, i32 seconds);
+
+/// The average per kilometre from the caption of a distance such as 10,500 and a time taken. Raises as PaceOf, and
+/// error 13 for a caption that is not a number.
 std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo);
 
 } // namespace zelvia

@@ -10,6 +10,8 @@ namespace zelvia
 
 /// The folder beside the program that holds all diaries.
 inline constexpr TextView kDiaryFolder = "ZelviaFile";
+/// The pointer file there that holds the path of the diary to open at the start.
+inline constexpr TextView kStartPointer = "nomeload";
 
 /// A pointer file holds one text value, a path; ordinary slashes in it are read as backslashes.
 Text ReadPointer(TextView path);

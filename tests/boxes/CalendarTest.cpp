@@ -48,7 +48,7 @@ RaceColumn OtherThan(RaceColumn box)
 
 int LineOf(RaceColumn box)
 {
-    return static_cast<int>(CalendarGrid::IndexOf(box)) + 2;
+    return box + 2;
 }
 
 /// The calendar with one box of the rows from the first on tried.
@@ -101,10 +101,7 @@ public:
     }
 
     /// What the model holds for the box tried.
-    QByteArray Held(int row) const
-    {
-        return RaceInMemory(row).split('|')[static_cast<qsizetype>(CalendarGrid::IndexOf(row_->box))];
-    }
+    QByteArray Held(int row) const { return RaceInMemory(row).split('|')[row_->box]; }
 
 private:
     CalendarBytes file_;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the fields of the day page.
 #include "boxes/BoxHand.h"
-#include "diary/DiaryFile.h"
+#include "diary/Module1.h"
 #include "support/Bytes.h"
 #include "support/DiaryBytes.h"
 #include "support/WindowTest.h"
@@ -341,7 +341,7 @@ void PageTest::notes()
     VERIFY_SCRIPT(page.script);
 }
 
-/// A file can't hold them: what was typed is written as it stands, and reading it ends behind that day.
+/// A file can't hold them: what was typed is written unchanged, and reading it ends behind that day.
 void PageTest::doubleQuotesInANote()
 {
     constexpr int line = 4;

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void EndIsSeenBehindTheLastValue_data();
     void EndIsSeenBehindTheLastValue();
     void ATextOfAMegabyteComesBack();
+    void ALongValueWithoutALineEndComesWhole();
     void ValuesAcrossTheBufferEdge_data();
     void ValuesAcrossTheBufferEdge();
     void AFullDiskIsSeen_data();
@@ -393,6 +394,17 @@ void ValueFileTest::ATextOfAMegabyteComesBack()
     QCOMPARE(Difference(text, huge), QByteArray());
     file.Input(number);
     QCOMPARE(int{number.value()}, 2);
+}
+
+/// It is longer than what one read brings.
+void ValueFileTest::ALongValueWithoutALineEndComesWhole()
+{
+    const Text filed(100'000, 'x');
+    ValueReader file = Reader(filed);
+    Text text;
+    file.Input(text);
+    QCOMPARE(Difference(text, filed), QByteArray());
+    QVERIFY(file.AtEnd());
 }
 
 void ValueFileTest::ValuesAcrossTheBufferEdge_data()

@@ -54,12 +54,6 @@ public:
     void Seleziona(int) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
 };
 
-class FailingView : public VistaTempi
-{
-public:
-    void AggiungiRiga(TextView, TextView, TextView, TextView) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
-};
-
 struct Run {
     int day;
     int hours;
@@ -308,9 +302,8 @@ void ClassificationTest::FailuresOfTheControlsAreReported()
     list.CreaLista();
     Add(list, 1, "0:50:00");
     FailingBox box;
-    FailingView view;
     list.NuovaListalst(&box);
-    list.NuovaLista(&view);
+    list.NuovaLista([](TextView, TextView, TextView, TextView) { throw ErroreRunTime(Errore::MemoriaEsaurita); });
     MessageScript boxes;
     boxes.ExpectError("RiempiLista - ERRORE : ", 7);
     list.RiempiLista();

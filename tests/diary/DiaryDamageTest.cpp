@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/DiaryFile.h"
 #include "diary/Fields.h"
 #include "diary/Module1.h"
 #include "support/Bytes.h"
@@ -18,7 +17,8 @@
 using namespace zelvia;
 using namespace zelvia::test;
 
-/// Diaries cut short or with a line gone wrong: what was read stays, the rest is as before, one report tells why.
+/// Diaries cut short or with a line gone wrong: what was read stays, the rest is as before, one report gives the
+/// reason.
 class DiaryDamageTest : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/DiaryFile.h"
 
 #include "diary/Fields.h"
 #include "diary/Module1.h"
@@ -355,7 +354,7 @@ void DiaryFileTest::WritingFailsWithAReport()
 
 void DiaryFileTest::AWriteThatFailsHalfWayLeavesAShortFile()
 {
-    // A limit on the size of files stands for a disk that fills up.
+    // A limit on the size of files simulates a disk that fills up.
     constexpr rlim_t size = 100'000;
     const FixedClock clock(CalendarDate(2007, 5, 1));
     Module1::AzzeraAnno();

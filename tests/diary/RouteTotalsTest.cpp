@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/RouteTotals.h"
 
 #include "core/Text.h"
 #include "diary/RouteModel.h"
@@ -10,6 +9,7 @@
 #include <QTest>
 
 #include <cstdint>
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -55,7 +55,8 @@ void TakeAllPlaces()
 
 RouteLength TotalOf(const std::vector<i32>& km, const std::vector<i32>& metres)
 {
-    return LengthOf(SumOfStretches(km), SumOfStretches(metres));
+    const auto sum = [](const std::vector<i32>& parts) { return std::accumulate(parts.begin(), parts.end(), i32(0)); };
+    return LengthOf(sum(km), sum(metres));
 }
 
 /// The place as a plain number, -1 for nothing.

@@ -26,18 +26,6 @@ public:
     int selected = kUntouched;
 };
 
-/// Keeps the rows that a list writes, their columns joined by a stroke.
-class View : public VistaTempi
-{
-public:
-    void AggiungiRiga(TextView posizione, TextView tempo, TextView media, TextView data) override
-    {
-        rows << Bytes(posizione) + '|' + Bytes(tempo) + '|' + Bytes(media) + '|' + Bytes(data);
-    }
-
-    QByteArrayList rows;
-};
-
 /// Day 1 is 1 January 2008, a leap year.
 inline CalendarDate DateOf(int day)
 {
@@ -63,13 +51,16 @@ inline QByteArrayList BoxLines(ListaOrdinata& list)
     return box.lines;
 }
 
+/// The rows that the list writes, their columns joined by a stroke.
 inline QByteArrayList ViewRows(ListaOrdinata& list)
 {
-    View view;
-    list.NuovaLista(&view);
+    QByteArrayList rows;
+    list.NuovaLista([&](TextView place, TextView time, TextView average, TextView date) {
+        rows << Bytes(place) + '|' + Bytes(time) + '|' + Bytes(average) + '|' + Bytes(date);
+    });
     list.RiempiLista();
-    list.NuovaLista(nullptr);
-    return view.rows;
+    list.NuovaLista({});
+    return rows;
 }
 
 /// The row that the list selects in its box.

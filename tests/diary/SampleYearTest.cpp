@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "diary/SelectionLists.h"

@@ -4,7 +4,6 @@
 #include "core/Conversions.h"
 #include "core/Files.h"
 #include "diary/ChartModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/PlainSearch.h"
 #include "diary/RunSearch.h"

@@ -3,7 +3,6 @@
 // Whole years: the sample one, and years by chance, against a plain computation of the same.
 #include "core/Files.h"
 #include "diary/CategoryStatistics.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/PlainStatistics.h"
 #include "support/Days.h"

@@ -4,7 +4,6 @@
 #include "diary/TableWalk.h"
 
 #include "core/Files.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/TableModel.h"
 #include "support/Days.h"

@@ -3,7 +3,6 @@
 #include "faults/SavedFiles.h"
 
 #include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/Fields.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"

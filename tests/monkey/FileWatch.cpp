@@ -5,7 +5,6 @@
 #include "core/Files.h"
 #include "core/MessageBox.h"
 #include "diary/CalendarModel.h"
-#include "diary/DiaryFile.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "diary/SelectionLists.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "diary/TableGrid.h"
+#include "diary/TableSheet.h"
 
 #include <QByteArray>
 #include <QList>
@@ -11,7 +11,7 @@ namespace zelvia::test
 {
 
 /// A table file line by line, worked on without the program's own reader and writer: 31 rows of 15 lines and the start
-/// date. The lines of a row stand in the order of the grid's columns, behind the row's number.
+/// date. The lines of a row are in the order of the grid's columns, after the row's number.
 class TableLines
 {
 public:
@@ -37,7 +37,7 @@ public:
         return *this;
     }
 
-    /// The fourteen values of a row behind its number, parted by "|".
+    /// The fourteen values of a row after its number, separated by "|".
     TableLines& SetRow(int row, const QByteArray& values)
     {
         const QList<QByteArray> parts = values.split('|');

@@ -3,6 +3,7 @@
 #include "tools/copies/CopyStore.h"
 
 #include "core/Files.h"
+#include "diary/Workspace.h"
 #include "tools/copies/SafeFiles.h"
 #include "tools/copies/WorkspaceData.h"
 
@@ -145,7 +146,7 @@ std::optional<Copy> CopyStore::Find(int number) const
 CopyOutcome CopyStore::Take(const fs::path& folder, std::chrono::system_clock::time_point now)
 {
     const std::vector<std::string> files = WorkspaceFiles(folder);
-    if (std::all_of(files.begin(), files.end(), [](const std::string& file) { return file == "nomeload"; })) {
+    if (std::all_of(files.begin(), files.end(), [](const std::string& file) { return file == kStartPointer; })) {
         return CopyOutcome::NothingThere;
     }
     if (IsInUse(folder)) {
@@ -182,7 +183,7 @@ std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& ta
     MakeFolders(target.parent_path());
     TemporaryFolder temporary(target.parent_path() / ("." + target.filename().string() + kNew));
     CopyFiles(copy.place, temporary.Place(), FilesBelow(copy.place), [&](const fs::path& from, const fs::path& to) {
-        if (from.filename() != "nomeload" && from.filename() != "nometab") {
+        if (from.filename() != kStartPointer && from.filename() != "nometab") {
             CopyNewFile(from, to);
             return;
         }

@@ -17,7 +17,6 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr TextView kStartPointer = "\\nomeload";
 constexpr TextView kDefaultDiary = "\\ZelviaFile\\prova.zlv";
 
 bool IsHidden(const fs::path& path)
@@ -50,7 +49,7 @@ std::vector<fs::path> RegularFiles(const fs::path& folder)
 Text StartDiary(TextView folder)
 {
     const Text diary = TrapValueWith(
-        Text(), [&] { return ReadPointer(Text(folder) + Text(kStartPointer)); }, [](const ErroreRunTime&) {});
+        Text(), [&] { return ReadPointer(Text(folder) + "\\" + Text(kStartPointer)); }, [](const ErroreRunTime&) {});
     const Text prefix = Text(folder) + "\\";
     if (!diary.starts_with(prefix) || InStr(diary, "\\..") != 0) {
         return Text(kDefaultDiary);
@@ -79,7 +78,7 @@ std::vector<std::string> WorkspaceFiles(const fs::path& folder)
     };
     const Text startDiary = StartDiary(base);
     std::set<Text> diaries{Text(kDefaultDiary), startDiary};
-    addIfThere(NativePath(base + Text(kStartPointer)));
+    addIfThere(NativePath(base + "\\" + Text(kStartPointer)));
     addIfThere(NativePath(base + startDiary));
     const fs::path diaryFolder = NativePath(base + "\\" + Text(kDiaryFolder));
     for (const fs::path& file : RegularFiles<fs::recursive_directory_iterator>(diaryFolder)) {

@@ -28,7 +28,7 @@ void RequireDriver()
     }
 }
 
-/// The database of the help file, by its own account.
+/// True when the help file's database passes its own integrity check.
 bool IsSoundDatabase(const QString& path)
 {
     const QString connection = QStringLiteral("zelvia.guida.esame");
@@ -46,7 +46,7 @@ bool IsSoundDatabase(const QString& path)
     return sound;
 }
 
-/// Below the temporary folder of the machine, which has no name when it can't be reached.
+/// In the system's temporary folder, whose name is empty when it can't be reached.
 QString TemporaryPlace()
 {
     if (QDir::tempPath().isEmpty()) {

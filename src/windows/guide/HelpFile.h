@@ -14,13 +14,13 @@ class QHelpEngine;
 namespace zelvia
 {
 
-/// The program's help file, opened. What the help engine writes, its collection and the index of the words, lies in a
-/// temporary folder of the user's own, which goes with the object.
+/// The program's help file, opened. The help engine writes its collection and its word index into a
+/// temporary folder of the user, deleted with the object.
 class HelpFile
 {
 public:
-    /// Opens and examines the file at a path of the machine. Raises error 51 when it is no help file of this program or
-    /// a damaged one, 75 when there is no place for the temporary folder.
+    /// Opens and checks the file at a native path. Raises error 51 when it is damaged or not this program's help file,
+    /// 75 when the temporary folder can't be made.
     explicit HelpFile(const QString& path);
     ~HelpFile();
     HelpFile(const HelpFile&) = delete;
@@ -33,16 +33,15 @@ public:
 
     static QUrl FirstPage();
 
-    /// The place that a topic goes by a name of, such as that of a window or a menu entry; the first page for an
-    /// unknown name.
+    /// The address of the topic of a window or menu entry of that name; the first page for an unknown name.
     QUrl Topic(const QString& name) const;
 
 private:
-    /// Every file of the guide must come out whole: the format has a check sum for each.
+    /// True when every file of the guide can be read: the format has a checksum for each.
     bool IsWhole() const;
 
     QTemporaryDir folder_;
-    std::unique_ptr<QHelpEngine> engine_; ///< Ends before the folder that it writes to.
+    std::unique_ptr<QHelpEngine> engine_; ///< Destroyed before the folder that it writes to.
 };
 
 } // namespace zelvia

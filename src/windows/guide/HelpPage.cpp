@@ -41,8 +41,8 @@ QVariant HelpPage::loadResource(int type, const QUrl& name)
     return bytes;
 }
 
-/// Drawing scales a picture without smoothing it, so one that is too wide for the page is made smaller here, in the
-/// screen's own pixels.
+/// Drawing scales a picture without smoothing it, so one that is too wide for the page is scaled down here, in device
+/// pixels.
 QImage HelpPage::Fitted(const QByteArray& picture) const
 {
     constexpr int margins = 60;
@@ -108,7 +108,7 @@ void HelpPage::ShowWords(const QString& text)
     }
 }
 
-/// What follows the place found is what one wants to read.
+/// The reader wants what follows the place found.
 void HelpPage::ShowCursorAbove()
 {
     verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top() - viewport()->height() / 4);

@@ -9,7 +9,7 @@
 namespace zelvia
 {
 
-/// A page of the guide with its links. It shows what lies in the help file and nothing else.
+/// A page of the guide with its links. It shows only what is in the help file.
 class HelpPage : public QTextBrowser
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
 
     QVariant loadResource(int type, const QUrl& name) override;
 
-    /// Selects the next place of a text, or the one before; goes on at the other end of the page. False when the page
-    /// has none.
+    /// Selects the next or the previous occurrence of a text, wrapping around at the end of the page. False when there
+    /// is none.
     bool FindText(const QString& text, bool backwards);
 
-    /// Selects the place of a text or, where its words stand apart, the first paragraph that holds the most of them.
+    /// Selects a text or, when its words are not together, the first paragraph that holds the most of them.
     void ShowWords(const QString& text);
 
 protected:

@@ -13,7 +13,7 @@ namespace zelvia
 
 class HelpWindow;
 
-/// What the help viewer is asked to show, under the numbers of the system call that help commands go by.
+/// What the help viewer is to show, by the numbers of the help commands.
 namespace HelpCommand
 {
 inline constexpr int Topic = 1;
@@ -29,15 +29,15 @@ public:
     ~HelpViewer();
 
     /// Opens the help file for a command and brings the window to the front; `topic` goes with Topic alone. Raises
-    /// error 53 or the like when the file can't be opened, 75 without a temporary folder, 51 when it is no help file of
-    /// this program or a damaged one. The window is then left as it is.
+    /// error 53 or the like when the file can't be opened, 75 without a temporary folder, 51 when it is damaged or not
+    /// this program's help file. The window is then left as it is.
     void WinHelp(TextView file, int command, const QString& topic = {});
 
-    /// Ends the window with all it holds.
+    /// Deletes the window.
     void Close();
 
 private:
-    /// Makes the window, or makes it anew for a file that is not the one it was made for.
+    /// Makes the window, or replaces it when the file is another one.
     void Open(TextView file);
 
     std::unique_ptr<HelpWindow> window_;

@@ -56,7 +56,7 @@ HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file) : file_(std::move(file))
 
 HelpWindow::~HelpWindow()
 {
-    // The views go before the file whose pages and models they show.
+    // The views are deleted before the file whose pages and models they show.
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -187,7 +187,7 @@ void HelpWindow::ShowSearch()
 void HelpWindow::ShowTopic(const QString& name)
 {
     tabs_->setCurrentWidget(contents_);
-    // Pictures are fitted to the page as it is on the screen.
+    // Pictures are scaled to the page as shown.
     BringToFront();
     GoTo(file_->Topic(name));
     page_->setFocus(Qt::OtherFocusReason);
@@ -206,7 +206,7 @@ void HelpWindow::FollowContents(const QModelIndex& index)
     }
 }
 
-/// An entry for a place on the page shown stays the chosen one.
+/// An entry for a place on the page shown stays selected.
 void HelpWindow::FollowPage(const QUrl& address)
 {
     const QHelpContentItem* item = file_->Engine().contentModel()->contentItemAt(contents_->currentIndex());

@@ -22,7 +22,7 @@ class HelpPage;
 class SearchPane;
 
 /// The window of the guide: contents and search at the left, the page at the right. Each Show brings it to the front.
-/// To the controls of the program it counts as another program's window, so a field stays open while the guide is read.
+/// For the program's focus rules it is another program's window, so a field stays open while the guide is read.
 class HelpWindow : public QWidget
 {
     Q_OBJECT
@@ -57,7 +57,7 @@ private:
     QHelpContentWidget* contents_;
     SearchPane* search_;
     HelpPage* page_;
-    bool following_ = false; ///< True while the contents are moved after the page.
+    bool following_ = false; ///< True while the contents follow the page.
 };
 
 } // namespace zelvia

@@ -22,7 +22,7 @@ constexpr int kListPixels = 15;
 constexpr int kTypingPause = 200;
 constexpr int kMostResults = 50;
 
-/// Whole words only below this length: the beginning of a word would find nearly all pages.
+/// Shorter words are searched whole: as a beginning they would find nearly all pages.
 constexpr qsizetype kShortWord = 3;
 
 } // namespace
@@ -133,7 +133,7 @@ void SearchPane::Choose(const QListWidgetItem* item)
 
 bool SearchPane::eventFilter(QObject* watched, QEvent* event)
 {
-    // The arrow leads from the box into the list, as in any search of this kind.
+    // The Down arrow leads from the box into the list.
     if (watched == words && event->type() == QEvent::KeyPress && results->count() > 0 &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
         results->setFocus(Qt::TabFocusReason);

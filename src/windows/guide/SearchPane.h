@@ -15,12 +15,12 @@ class QListWidgetItem;
 namespace zelvia
 {
 
-/// What the search engine is asked for a text as the user typed or copied it: every word, whatever signs stand around
-/// it, the beginning of a longer word too. Empty for a text without a word.
+/// The search engine's query for a text as typed or copied: every word without the punctuation around it, also as the
+/// beginning of a longer word. Empty for a text without a word.
 QString SearchQuery(const QString& text);
 
-/// The search of the whole guide: a box for the words and the pages that hold them all. The index of the words is made
-/// in the background; what is asked meanwhile is answered when it is ready.
+/// The search of the whole guide: a box for the words and the pages that hold them all. The word index is built in the
+/// background; a search made meanwhile is answered when it is ready.
 class SearchPane : public QWidget
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ class SearchPane : public QWidget
 public:
     explicit SearchPane(QHelpSearchEngine& engine, QWidget* parent = nullptr);
 
-    /// Puts the keyboard into the box, what it holds selected.
+    /// Gives the box the focus and selects its text.
     void TakeFocus();
 
     QLineEdit* words;
@@ -36,7 +36,7 @@ public:
     QLabel* state;
 
 Q_SIGNALS:
-    /// A page was chosen, found by that text.
+    /// A page found by `text` was chosen.
     void Chosen(const QUrl& page, const QString& text);
 
 protected:

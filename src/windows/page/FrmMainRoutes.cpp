@@ -4,7 +4,6 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "diary/RouteModel.h"
-#include "diary/RouteTotals.h"
 #include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
 

@@ -7,8 +7,7 @@
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/TableModel.h"
-#include "windows/plan/TableColours.h"
-#include "windows/plan/TablePage.h"
+#include "windows/plan/PlanColumns.h"
 #include "windows/plan/TableWindows.h"
 
 namespace zelvia

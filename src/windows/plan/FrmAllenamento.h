@@ -44,8 +44,8 @@ public:
     i16 ContaCampiData();
     /// Repairs the boxes of the start date, with a message for each repair.
     void ControlloData();
-    /// Boxes of `source` into the columns at `target`. A shown 1.500 arrives as 2: its dot is a decimal point
-    /// here.
+    /// Copies the boxes of `source` into the columns at `target`. A shown 1.500 arrives as 2: its dot is a decimal
+    /// point here.
     void CopiaRiga(i16 target, i16 source);
     void AzzeraRiga(i16 row);
     void CalcolaMediaKm(i16 row);

@@ -9,11 +9,10 @@
 #include "toolkit/Printer.h"
 #include "toolkit/QtText.h"
 #include "windows/plan/FrmAllenamento.h"
-#include "windows/plan/SaveTable.h"
-#include "windows/plan/TableColours.h"
-#include "windows/plan/TablePage.h"
+#include "windows/plan/PlanColumns.h"
 #include "windows/plan/TableWindows.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zelvia
@@ -21,6 +20,49 @@ namespace zelvia
 
 using namespace Module1;
 using namespace TableGrid;
+
+namespace
+{
+
+/// Runs the save dialog until the user picks a name in CartellaDiario, and writes the table in memory there, or
+/// cancels: FlagTabellaSalvata is then 1. Reports its own failure. True when the file was written.
+bool SalvaTabellaConNome(CommonDialog& dialog)
+{
+    bool again = false;
+    bool written = false;
+    TrapWith(
+        [&] {
+            FlagTabellaSalvata = 0;
+            dialog.CancelError = true;
+            dialog.Flags = DialogFlags::OverwritePrompt | DialogFlags::HideReadOnly | DialogFlags::NoChangeDir;
+            dialog.InitDir = CartellaDiario;
+            dialog.Filter = "File Tabella (*.tab)|*.tab|";
+            dialog.DialogTitle = "Salva Tabella con nome";
+            dialog.ShowSave();
+            const Text folder = Left(dialog.FileName, std::max<std::ptrdiff_t>(InStrRev(dialog.FileName, "\\") - 1, 0));
+            if (folder == CartellaDiario) {
+                written = ScriviTabella(dialog.FileName);
+                return;
+            }
+            dialog.FileName = NomeSenzaCartella(dialog.FileName);
+            MsgBox(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   ", MsgButtons::OK, MsgIcon::Critical);
+            again = true;
+            throw ErroreRunTime(Errore::Annullato);
+        },
+        [&](const ErroreRunTime& error) {
+            if (error.Number() != Errore::Annullato) {
+                ReportError(kBareTitle, error);
+                return;
+            }
+            FlagTabellaSalvata = 1;
+            if (again) {
+                written = SalvaTabellaConNome(dialog);
+            }
+        });
+    return written;
+}
+
+} // namespace
 
 void frmAllenamento::AcceptAllRows()
 {

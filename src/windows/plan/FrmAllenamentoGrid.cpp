@@ -6,7 +6,7 @@
 #include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
 #include "windows/plan/FrmAllenamento.h"
-#include "windows/plan/TableColours.h"
+#include "windows/plan/PlanColumns.h"
 #include "windows/plan/TableWindows.h"
 
 #include <QMenu>

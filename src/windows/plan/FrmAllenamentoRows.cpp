@@ -23,7 +23,7 @@ const CalendarDate kNoStartDate(2000, 1, 1);
 
 int frmAllenamento::DateNumber(std::size_t index) const
 {
-    return RoundTo<i16>(Val(dateBoxes[index]->Content())).value();
+    return Parsed<i16>(dateBoxes[index]->Content()).value();
 }
 
 CalendarDate frmAllenamento::DateOfBoxes() const
@@ -91,7 +91,7 @@ bool frmAllenamento::RowDiffers(int row) const
 {
     bool differs = false;
     for (int column = 0; column < kColumns; ++column) {
-        // Each box is read, so that one that can't be is reported.
+        // Each box is read, so that an unreadable one is reported.
         differs = !grid_.Holds(column, row, row) || differs;
     }
     return differs;

@@ -9,7 +9,6 @@
 #include "diary/Workspace.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
-#include "windows/plan/TablePage.h"
 #include "windows/plan/TableWindows.h"
 
 #include <algorithm>
@@ -141,7 +140,7 @@ void frmTabAllenamenti::cmdCancellaTab_Click()
             DeleteFile(path);
             RefreshList();
         }
-        // Whatever the answer was, the active table is switched off.
+        // The active table is deactivated whatever the answer.
         if (SameText(path, NomeTabellaAttiva)) {
             NomeTabellaAttiva.clear();
             SalvaNomeTabella();

@@ -26,13 +26,14 @@ public:
     void cmdNuovaTab_Click();
     void cmdCancellaTab_Click();
 
-    /// Reads the folder again and selects the active table; with none what was selected stays so. Reports its failure.
+    /// Reads the folder again and selects the active table, or keeps the selection when there is none. Reports its
+    /// failure.
     void Reload();
     /// The same for another diary, which may have no folder yet: then it has no tables.
     void ShowOtherDiary();
     /// Reads the folder again. Raises error 76 or 75 when it cannot be read; the list is then empty.
     void RefreshList();
-    /// Selects the first entry that is the active table, case ignored; with none the selection stays.
+    /// Selects the active table's first entry, ignoring case; without one the selection stays.
     void SelectActive();
 
     ListBox* flbListaTabelle;

@@ -9,7 +9,16 @@
 namespace zelvia
 {
 
-class TablePage;
+/// What the windows of the training tables need of the day page.
+class TablePage
+{
+public:
+    virtual ~TablePage() = default;
+    /// Shows the name of the active table, or nothing.
+    virtual void SetActiveTableName(TextView name) = 0;
+    /// Has the page read the active table again at its next tick.
+    virtual void RequestTableReading() = 0;
+};
 
 /// The two windows of the training tables, which open and refresh each other.
 class TableWindows

@@ -40,7 +40,7 @@ void frmCalendario::ShowOtherDiary()
 {
     CalendarioModificato = 0;
     PrimaGaraPagina = 0;
-    // This is no turning of the page: the boxes hold the races of the diary before.
+    // Not as a turn of the page: the boxes still hold the races of the previous diary.
     const auto turned = std::exchange(upPaginaGare->Change, {});
     upPaginaGare->SetValue(0);
     upPaginaGare->Change = turned;
@@ -61,7 +61,7 @@ void frmCalendario::VisualizzaCalendarioGare()
             grid_.ShowSigns(row, GiornoGara[race] > 0);
         }
         grid_.Visit([this](int column, int row) {
-            grid_.Box(column, row)->SetContent(RaceText(static_cast<RaceColumn>(column), RaceOf(row)));
+            grid_.Box(column, row)->SetContent(CalendarGrid::RaceText(column, RaceOf(row)));
         });
         grid_.Speak("Gara", PrimaGaraPagina.value());
         lblPaginaGare->setText(
@@ -97,7 +97,7 @@ void frmCalendario::ControllaSaveGar(i16& result)
     Trap("ControllaSaveGar - ERRORE : ", [&] {
         result = 0;
         grid_.Visit([&](int column, int row) {
-            if (RaceDiffers(static_cast<RaceColumn>(column), RaceOf(row), grid_.Content(column, row))) {
+            if (CalendarGrid::RaceDiffers(column, RaceOf(row), grid_.Content(column, row))) {
                 result = 1;
             }
         });

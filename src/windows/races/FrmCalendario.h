@@ -31,7 +31,7 @@ public:
 
     /// Corrects the dates of the page, with a message for each correction and for each part that is missing.
     void ContrData();
-    /// Asks for changes that are not saved, as closing does; true when the user wants to stay.
+    /// Asks whether to save changes, as closing does; true when the user wants to stay.
     bool QueryUnload() override;
     /// Shows the calendar in memory, another diary's, from its first page on.
     void ShowOtherDiary();
@@ -43,7 +43,7 @@ public:
     void upPaginaGare_Change();
 
     /// A box of the grid; rows are 1..20.
-    TextBox* Box(CalendarGrid::RaceColumn column, int row) const { return grid_.Box(static_cast<int>(column), row); }
+    TextBox* Box(CalendarGrid::RaceColumn column, int row) const { return grid_.Box(column, row); }
 
     i16 PrimaGaraPagina;      ///< Row of the calendar before the first of the page: 0, 20, 40, 60 or 80.
     i16 CalendarioModificato; ///< 1 when the last comparison found the page different from the columns.
@@ -65,10 +65,7 @@ private:
     void BuildLabels(int row);
     void BuildGrid();
     void BuildFoot();
-    double Number(CalendarGrid::RaceColumn column, int row) const
-    {
-        return grid_.Number(static_cast<int>(column), row);
-    }
+    double Number(CalendarGrid::RaceColumn column, int row) const { return grid_.Number(column, row); }
     int RaceOf(int row) const { return PrimaGaraPagina.value() + row; }
 
     void Load();
@@ -79,7 +76,7 @@ private:
     CalendarSheetTexts SheetTexts() const;
     /// `result` becomes 1 when the page differs from the columns, else 0.
     void ControllaSaveGar(i16& result);
-    /// `result` becomes 1 when two rows carry the same date, else 0; says so for each two.
+    /// `result` becomes 1 when two rows carry the same date, else 0; reports each pair.
     void ControllaDateGare(i16& result);
 
     BoxGrid grid_{CalendarGrid::kRaceColumns};

@@ -9,18 +9,18 @@
 namespace zelvia::CalendarGrid
 {
 
-Text RaceText(RaceColumn column, int race)
+Text RaceText(int column, int race)
 {
-    if (column <= RaceColumn::Anno && !(Module1::GiornoGara[race] > 0)) {
+    if (column <= Anno && !(Module1::GiornoGara[race] > 0)) {
         return {};
     }
-    const GridColumn& shown = kRaceColumns[IndexOf(column)];
+    const GridColumn& shown = kRaceColumns[static_cast<std::size_t>(column)];
     return CellText(shown.cell(race), shown.format);
 }
 
-bool RaceDiffers(RaceColumn column, int race, TextView text)
+bool RaceDiffers(int column, int race, TextView text)
 {
-    const GridColumn& shown = kRaceColumns[IndexOf(column)];
+    const GridColumn& shown = kRaceColumns[static_cast<std::size_t>(column)];
     return std::visit(
         [&]<typename Value>(const Value* value) {
             if constexpr (std::same_as<Value, Text>) {

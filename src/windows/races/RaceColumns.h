@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "diary/CalendarGrid.h"
 #include "diary/CalendarModel.h"
+#include "diary/CalendarSheet.h"
 #include "diary/Limits.h"
 #include "toolkit/BoxGrid.h"
 
@@ -40,10 +40,10 @@ inline constexpr std::array<TextView, kColumns> kHeads = {"gg", "mm",    "aaaa",
                                                           "mm", "ss",    "Categoria",    "categoria"};
 
 /// What a box shows of a race: no date for one without a day.
-Text RaceText(RaceColumn column, int race);
+Text RaceText(int column, int race);
 
-/// True when the text of a box stands for another value than the race's; the case of texts does not count.
-bool RaceDiffers(RaceColumn column, int race, TextView text);
+/// True when the text of a box means another value than the race's, ignoring the case of texts.
+bool RaceDiffers(int column, int race, TextView text);
 
 // The two dashes between the boxes of the date.
 inline constexpr TextView kDateStrip = "      -      -    ";

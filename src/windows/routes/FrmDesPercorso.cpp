@@ -6,12 +6,11 @@
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
-#include "diary/RouteTotals.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
-#include "windows/routes/RoutePage.h"
 
 #include <array>
+#include <numeric>
 #include <optional>
 
 namespace zelvia
@@ -65,21 +64,18 @@ GridLook Look(int rows, int top)
             .digitsRight = false};
 }
 
-i32 Parsed(const TextBox& box)
+i32 NumberIn(const TextBox* box)
 {
-    return RoundTo<i32>(Val(box.Content()));
+    return Parsed<i32>(box->Content());
 }
 
-std::array<i32, kRows> Parsed(const BoundedArray<TextBox*, 1, kRows>& boxes)
+i32 SumOf(const BoundedArray<TextBox*, 1, kRows>& boxes)
 {
-    std::array<i32, kRows> numbers;
-    for (int j = 1; j <= kRows; ++j) {
-        numbers[static_cast<std::size_t>(j - 1)] = Parsed(*boxes[j]);
-    }
-    return numbers;
+    return std::accumulate(boxes.begin(), boxes.end(), i32(0),
+                           [](i32 sum, const TextBox* box) { return sum + NumberIn(box); });
 }
 
-/// Tells when there is no place for the route.
+/// Reports when there is no place for the route.
 std::optional<i16> PlaceOfCurrentRoute()
 {
     const auto place = RoutePlace(PercorsoCorrente);
@@ -167,10 +163,10 @@ void frmDesPercorso::CalcolaDistanza()
 {
     Trap("CalcolaDistanza - ERRORE : ", [this] {
         TotaleKm = TotaleMetri = RestoMetri = 0;
-        // The kilometres are on show before the metres are added: these may be too many.
-        TotaleKm = SumOfStretches(Parsed(txtKm));
+        // The kilometres are shown before the metres are added: their sum may be out of range.
+        TotaleKm = SumOf(txtKm);
         txtDistanzaKm->SetContent(PlainText(TotaleKm));
-        TotaleMetri = SumOfStretches(Parsed(txtMetri));
+        TotaleMetri = SumOf(txtMetri);
         const RouteLength total = LengthOf(TotaleKm, TotaleMetri);
         TotaleKm = total.km;
         if (TotaleMetri != total.metres) {
@@ -190,11 +186,11 @@ void frmDesPercorso::AssegnaArray()
         }
         for (int j = 1; j <= kRows; ++j) {
             TrattoDescrizione[*place][j] = txtTratto[j]->Content();
-            TrattoKm[*place][j] = Parsed(*txtKm[j]);
-            TrattoMetri[*place][j] = Parsed(*txtMetri[j]);
+            TrattoKm[*place][j] = NumberIn(txtKm[j]);
+            TrattoMetri[*place][j] = NumberIn(txtMetri[j]);
         }
-        const i32 km = Parsed(*txtDistanzaKm);
-        const i32 metres = Parsed(*txtDistanzaMetri);
+        const i32 km = NumberIn(txtDistanzaKm);
+        const i32 metres = NumberIn(txtDistanzaMetri);
         DistanzePercorso[*place] = km * 1000 + metres;
         page_.SetDistance(km, metres);
         AzzeraVideo();

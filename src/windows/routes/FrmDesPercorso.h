@@ -11,7 +11,14 @@
 namespace zelvia
 {
 
-class RoutePage;
+/// What the window of a route's description needs of the day page.
+class RoutePage
+{
+public:
+    virtual ~RoutePage() = default;
+    /// Puts a distance into the spin controls of the day.
+    virtual void SetDistance(i32 km, i32 metres) = 0;
+};
 
 /// The window that describes the stretches of one route, the one named by PercorsoCorrente. Closing it stores them and
 /// hands their total to the day page as its distance.
@@ -20,7 +27,7 @@ class frmDesPercorso : public Form
     Q_OBJECT
 
 public:
-    /// Loads the route; the window stands over the page's window and blocks it while it is open.
+    /// Loads the route; the window stays over the page's window and blocks it while it is open.
     frmDesPercorso(QWidget* owner, RoutePage& page);
 
     void VisualizzaListaPercorso();
@@ -37,8 +44,8 @@ public:
     TextBox* txtDistanzaMetri = nullptr;
 
     i32 TotaleKm;    ///< With the whole kilometres of the metres.
-    i32 TotaleMetri; ///< As they stand in the boxes.
-    i32 RestoMetri;  ///< What the whole kilometres leave of 1000 metres or more, else 0.
+    i32 TotaleMetri; ///< The sum of the boxes.
+    i32 RestoMetri;  ///< Of 1000 metres or more, what is left after the whole kilometres; else 0.
 
 protected:
     void OnUnload() override;

@@ -5,7 +5,6 @@
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/StatisticSheets.h"
-#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Printer.h"
 
@@ -21,7 +20,7 @@ using namespace Module1;
 namespace
 {
 
-// Places, in logical pixels. The chart as it first comes up fits the frame of a printed sheet.
+// Places, in logical pixels. The chart in its first size fits the frame of a printed sheet.
 constexpr QSize kSize{968, 692};
 constexpr QSize kSmallest{640, 460};
 constexpr int kFrame = 12; ///< From the border to the printed frame.
@@ -47,28 +46,20 @@ constexpr QRect ChartPlace(const QSize& window)
     return {kMargin - border, kFrame + 4, window.width() - 2 * (kMargin - border), RuleTop(window) - kFrame - kGap};
 }
 
-Button* MakeButton(QWidget* parent, const char* name, TextView caption)
-{
-    auto* button = new Button(parent, QLatin1String(name), caption);
-    button->setFont(PageFont("Times New Roman", 15));
-    return button;
-}
-
 template <typename Make>
 void ShowChart(FormSlot<frmGrafici>& finestra, TextView title, Make&& make)
 {
     frmGrafici& window = finestra.Load();
     Trap(title, [&] { window.MSChart1->Show(make()); });
-    window.show();
-    window.raise();
-    window.activateWindow();
+    window.ShowInFront();
 }
 
 } // namespace
 
 frmGrafici::frmGrafici()
     : Form(QStringLiteral("frmGrafici")), MSChart1(new Chart(this, QStringLiteral("MSChart1"))),
-      cmdStampa(MakeButton(this, "cmdStampa", "Stampa")), cmdEsci(MakeButton(this, "cmdEsci", "Esci"))
+      cmdStampa(MakeButton(this, "cmdStampa", "Stampa", {}, [this] { cmdStampa_Click(); })),
+      cmdEsci(MakeButton(this, "cmdEsci", "Esci", {}, [this] { Unload(); }))
 {
     setWindowTitle(QStringLiteral("Grafici"));
     setPalette(PagePalette());
@@ -79,8 +70,6 @@ frmGrafici::frmGrafici()
         shapes_[i] = new Picture(this, QLatin1String(names[i]),
                                  [ink](QPainter& painter, const QRectF& area) { painter.fillRect(area, ink); });
     }
-    cmdStampa->Click = [this] { cmdStampa_Click(); };
-    cmdEsci->Click = [this] { Unload(); };
     setMinimumSize(kSmallest);
     resize(kSize);
 }

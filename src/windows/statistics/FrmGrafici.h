@@ -14,7 +14,7 @@
 namespace zelvia
 {
 
-/// The window of the charts: one at a time, the next one takes its place.
+/// The window of the charts: one at a time, replaced by the next one.
 class frmGrafici : public Form
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ private:
 };
 
 // Each loads the chart window if need be, gives it the chart and shows it. An error is reported under the name of the
-// routine, the window comes up all the same.
+// routine, and the window still opens.
 
 /// How often each value of the category counted last occurred, as bars, under the category's word.
 void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo);

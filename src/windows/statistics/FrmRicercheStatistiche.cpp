@@ -37,14 +37,14 @@ void frmRicercheStatistiche::AssegnaVariabili()
         &CondizioniRicerca::GiornoFine,   &CondizioniRicerca::MeseFine,   &CondizioniRicerca::AnnoFine};
     const TestiPeriodo testi = PeriodTexts();
     for (std::size_t i = 0; i < testi.size(); ++i) {
-        condizioni.*dates[i] = RoundTo<i16>(Val(testi[i]));
+        condizioni.*dates[i] = Parsed<i16>(testi[i]);
     }
     for (const CondizioneCategoria& condizione : kCondizioni) {
         const Text caption = ControlliDi(condizione.categoria).lbl->Caption();
         if (condizione.testo != nullptr) {
             condizioni.*condizione.testo = caption;
         } else {
-            condizioni.*condizione.numero = RoundTo<i16>(Val(caption));
+            condizioni.*condizione.numero = Parsed<i16>(caption);
         }
     }
 }
@@ -146,7 +146,7 @@ void frmRicercheStatistiche::RicercaMedie()
         const auto end = esito.righe.begin() + static_cast<std::ptrdiff_t>(count);
         lstMedie->AddItems(std::vector<TextView>(std::exchange(listed, end), end));
     };
-    // A box finds the list as far as it was when its error arose.
+    // While a box is up the list shows what had been found when its error arose.
     for (const ErroreRicerca& errore : esito.errori) {
         list(errore.righe);
         ReportError(errore.titolo, errore.errore);
@@ -157,7 +157,7 @@ void frmRicercheStatistiche::RicercaMedie()
     }
 }
 
-/// Shows each total as soon as it is known: a box finds those before it on show.
+/// Shows each total as soon as it is known, before any box that the next one brings.
 void frmRicercheStatistiche::AddUp()
 {
     Trap("SommaKm - ERRORE : ", [this] { SommaKm(totali); });

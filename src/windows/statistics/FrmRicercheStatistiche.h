@@ -123,7 +123,7 @@ private:
     BoxGrid period_;
     std::array<ControlliCondizione, kCondizioni.size()> controlli_;
     std::vector<Control*> totals_;     ///< The totals and their heads.
-    std::array<Picture*, 3> shapes_{}; ///< shp6 .. shp8, the empty form where the totals will stand.
+    std::array<Picture*, 3> shapes_{}; ///< shp6 .. shp8, the empty form in the place of the totals.
 };
 
 } // namespace zelvia

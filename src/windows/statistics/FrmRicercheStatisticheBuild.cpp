@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The search window's controls: where they stand, how they look and what they set off.
+// The search window's controls: their places, looks and handlers.
 #include "core/Conversions.h"
 #include "diary/Limits.h"
 #include "toolkit/Colours.h"
@@ -17,7 +17,7 @@ namespace zelvia
 namespace
 {
 
-// Places, in logical pixels: the conditions, the values to choose from and the result stand side by side, the period
+// Places, in logical pixels: the conditions, the values to choose from and the result are side by side, the period
 // and the commands below.
 constexpr QSize kSize{1104, 632};
 constexpr int kFrame = 12; ///< From the border to the printed frame.
@@ -102,7 +102,7 @@ frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
 
 void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
 {
-    // The printed frame, a rule over the commands, and one that parts choice and result.
+    // The printed frame, a rule over the commands, and one between choice and result.
     QPainter painter(this);
     painter.setPen(Ink::Rule);
     painter.drawRect(rect().adjusted(kFrame, kFrame, -kFrame - 1, -kFrame - 1));
@@ -171,7 +171,7 @@ void frmRicercheStatistiche::BuildPeriod()
 {
     cmdPeriodo = MakeButton(this, "cmdPeriodo", "Periodo", {kMargin, kPeriodTop, kButtonWidth, kFrameHeight},
                             [this] { cmdPeriodo_Click(); });
-    constexpr int captionPixels = 24; // Its blanks part the strokes by the width of a box.
+    constexpr int captionPixels = 24; // Its blanks separate the strokes by the width of a box.
     constexpr int wordPixels = 16;
     lblDalTit = MakeLabel("lblDalTit", "Dal", {kValueLeft, kPeriodTop, 32, kFrameHeight}, wordPixels);
     lblDataInizio = MakeLabel("lblDataInizio", "      -      -", {kStartLeft, kPeriodTop, kFrameWidth, kFrameHeight},
@@ -200,7 +200,7 @@ void frmRicercheStatistiche::BuildPeriod()
 
 void frmRicercheStatistiche::BuildResult()
 {
-    // The face's blanks bring the words over the columns of the list.
+    // The font's blanks put the words over the columns of the list.
     constexpr int headPixels = 16;
     constexpr int dateLeft = 288;
     lblTitoliMedie = MakeLabel("lblTitoliMedie", "      Km             Tempi          Media Km    ",

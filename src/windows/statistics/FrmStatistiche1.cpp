@@ -26,7 +26,7 @@ using namespace Module1;
 namespace
 {
 
-// Places, in logical pixels. The times lie over the list and its heads.
+// Places, in logical pixels. The times cover the list and its heads.
 constexpr QSize kSize{568, 644};
 constexpr QRect kTitle{34, 34, 500, 40};
 constexpr QRect kTimes{26, 92, 516, 466};
@@ -72,26 +72,6 @@ const Shape kShapes[] = {
     {"shpStampa", Before(ButtonPlace(2)), Ink::Rule},
     {"shpEsci", Before(ButtonPlace(3)), Ink::Rule},
 };
-
-/// The list view as a classification writes it.
-class VistaFinestra : public VistaTempi
-{
-public:
-    explicit VistaFinestra(ListView& vista) : vista_(vista) {}
-    void AggiungiRiga(TextView posizione, TextView tempo, TextView media, TextView data) override
-    {
-        vista_.AddRow({posizione, tempo, media, data});
-    }
-
-private:
-    ListView& vista_;
-};
-
-/// A piece of a row's text as a number; one that can't be read is reported and counts as 0.
-i16 Scomponi(TextView errore, i16 (*pezzo)(TextView), TextView testo)
-{
-    return TrapValue(errore, i16(0), [&] { return pezzo(testo); });
-}
 
 /// What the sheet shows of the slots 1..60.
 std::vector<StatisticSheetSlot> SlotsOnPaper()
@@ -163,7 +143,7 @@ void frmStatistiche1::Build()
     lvListaOrdinata->setFont(PageFont("Times New Roman", 18));
     lvListaOrdinata->setAlternatingRowColors(true);
     lvListaOrdinata->setAccessibleName(QStringLiteral("Tempi del valore scelto"));
-    // Its frame would let the heads under it shine through.
+    // Its frame would show the heads below it.
     lvListaOrdinata->setAutoFillBackground(true);
     lvListaOrdinata->SetVisible(false);
     cmdTempiLO->setToolTip(QStringLiteral("I tempi del valore scelto"));
@@ -263,41 +243,16 @@ void frmStatistiche1::FillTimes(const ProvaGiorno& scelto)
             AggiungiCorsa(*ListaTempi, giorno.NumGiorno, giorno.TempoImpiegato, giorno.MediaKm, giorno.Data);
         }
     }
-    VistaFinestra vista(*lvListaOrdinata);
     ListaTempi->Ordina();
-    ListaTempi->NuovaLista(&vista);
+    ListaTempi->NuovaLista([this](TextView place, TextView time, TextView average, TextView date) {
+        lvListaOrdinata->AddRow({place, time, average, date});
+    });
     ListaTempi->RiempiLista();
-    ListaTempi->NuovaLista(nullptr);
 }
 
-i16 frmStatistiche1::ScomponiKm(TextView testo)
+i16 frmStatistiche1::Scomponi(TextView title, i16 (*piece)(TextView), TextView text)
 {
-    return Scomponi("ScomponiKm - ERRORE : ", PezzoKm, testo);
-}
-
-i16 frmStatistiche1::ScomponiMetri(TextView testo)
-{
-    return Scomponi("ScomponiMetri - ERRORE : ", PezzoMetri, testo);
-}
-
-i16 frmStatistiche1::ScomponiVolte(TextView testo)
-{
-    return Scomponi("ScomponiVolte - ERRORE : ", PezzoVolte, testo);
-}
-
-i16 frmStatistiche1::ScomponiDistanza(TextView testo)
-{
-    return Scomponi("ScomponiDistanza - ERRORE : ", PezzoDistanza, testo);
-}
-
-i16 frmStatistiche1::ScomponiQuante(TextView testo)
-{
-    return Scomponi("ScomponiQuante - ERRORE : ", PezzoQuante, testo);
-}
-
-i16 frmStatistiche1::ScomponiTempi(TextView testo)
-{
-    return Scomponi("ScomponiTempi - ERRORE : ", PezzoTempi, testo);
+    return TrapValue(title, i16(0), [&] { return piece(text); });
 }
 
 } // namespace zelvia

@@ -5,6 +5,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "diary/CategoryStatistics.h"
+#include "diary/CategoryTexts.h"
 #include "diary/ListaOrdinata.h"
 #include "diary/RecordGiorno.h"
 #include "toolkit/Button.h"
@@ -19,7 +20,7 @@
 namespace zelvia
 {
 
-/// Opens the chart of the statistic last counted, under the title on show.
+/// Opens the chart of the statistic last counted, under the title shown.
 using AperturaGrafico = std::function<void(const Text& titolo)>;
 
 /// The window of one statistic: its values ranked and, over them for a while, the sorted times of the days of one
@@ -52,7 +53,7 @@ public:
     ListView* lvListaOrdinata;
 
 protected:
-    /// A click beside the controls takes the times away as one on a control does.
+    /// A click outside the controls hides the times as one on a control does.
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
@@ -66,12 +67,14 @@ private:
     void BeginTimes();
     void FillTimes(const ProvaGiorno& scelto);
 
-    i16 ScomponiKm(TextView testo);
-    i16 ScomponiMetri(TextView testo);
-    i16 ScomponiVolte(TextView testo);
-    i16 ScomponiDistanza(TextView testo);
-    i16 ScomponiQuante(TextView testo);
-    i16 ScomponiTempi(TextView testo);
+    /// A piece of a row's text as a number; one that can't be read is reported and counts as 0.
+    static i16 Scomponi(TextView title, i16 (*piece)(TextView), TextView text);
+    i16 ScomponiKm(TextView text) { return Scomponi("ScomponiKm - ERRORE : ", PezzoKm, text); }
+    i16 ScomponiMetri(TextView text) { return Scomponi("ScomponiMetri - ERRORE : ", PezzoMetri, text); }
+    i16 ScomponiVolte(TextView text) { return Scomponi("ScomponiVolte - ERRORE : ", PezzoVolte, text); }
+    i16 ScomponiDistanza(TextView text) { return Scomponi("ScomponiDistanza - ERRORE : ", PezzoDistanza, text); }
+    i16 ScomponiQuante(TextView text) { return Scomponi("ScomponiQuante - ERRORE : ", PezzoQuante, text); }
+    i16 ScomponiTempi(TextView text) { return Scomponi("ScomponiTempi - ERRORE : ", PezzoTempi, text); }
 
     AperturaGrafico apriGrafico_;
     std::optional<ListaOrdinata> ListaTempi; ///< Alive while the times are shown.

@@ -4,7 +4,7 @@
 #include "support/TableDesk.h"
 #include "support/WindowTest.h"
 #include "toolkit/Colours.h"
-#include "windows/plan/TableColours.h"
+#include "windows/plan/PlanColumns.h"
 
 namespace zelvia::test
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The values of the calendar as the boxes of its window show and hold them, and as the day page tells them.
-#include "diary/RaceTexts.h"
+// The values of the calendar as the boxes of its window show and hold them, and as the day page shows them.
+#include "diary/CalendarModel.h"
 #include "support/Bytes.h"
 #include "support/TestProgram.h"
 #include "windows/races/RaceColumns.h"
@@ -43,7 +43,7 @@ namespace
 
 void Take(RaceColumn column, int race, TextView text)
 {
-    const GridColumn& taken = CalendarGrid::kRaceColumns[IndexOf(column)];
+    const GridColumn& taken = CalendarGrid::kRaceColumns[column];
     SetCell(taken.cell(race), text, taken.format);
 }
 
