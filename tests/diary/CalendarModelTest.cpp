@@ -33,13 +33,13 @@ private Q_SLOTS:
     void RowNumbersAreTakenFromTheFile();
     void ExtremeValuesComeBack();
     void CutAtEveryLineOfSomeRows_data();
-    void CutAtEveryLineOfSomeRows();
+    void CutAtEveryLineOfSomeRows() { kFile.ReadCut(); }
     void GarbledLine_data();
-    void GarbledLine();
+    void GarbledLine() { kFile.ReadGarbled(); }
     void AQuoteInANameEndsInTheReport();
     void FailuresAreReported_data() { test::AddFolderFailures(); }
-    void FailuresAreReported();
-    void AFullDiskIsReported();
+    void FailuresAreReported() { kFile.FailInFolder(); }
+    void AFullDiskIsReported() { kFile.WriteToFullDisk(); }
     void WritingReplacesTheFile();
 
 private:
@@ -213,34 +213,12 @@ void CalendarModelTest::CutAtEveryLineOfSomeRows_data()
     QTest::newRow("whole") << 1500;
 }
 
-void CalendarModelTest::CutAtEveryLineOfSomeRows()
-{
-    QFETCH(int, kept);
-    kFile.ReadCut(kept);
-}
-
 void CalendarModelTest::GarbledLine_data()
 {
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QByteArray>("garbage");
-    QTest::addColumn<int>("error"); // 0 where the line passes silently.
+    ModelFile::AddGarbledColumns();
     for (int column = 1; column <= 15; ++column) {
-        const bool words = IsText(column - 1);
-        const bool wide = column == 9 || column == 10 || column == 15;
-        QTest::addRow("column %d, text", column) << column << QByteArray("xyz") << (words ? 0 : 13);
-        QTest::addRow("column %d, quoted", column) << column << QByteArray("\"7\"") << (words ? 0 : 13);
-        QTest::addRow("column %d, empty", column) << column << QByteArray() << (words ? 0 : 13);
-        QTest::addRow("column %d, 99999", column) << column << QByteArray("99999") << (words || wide ? 0 : 6);
-        QTest::addRow("column %d, 2147483648", column) << column << QByteArray("2147483648") << (words ? 0 : 6);
+        kFile.AddGarbled(49 * 15 + column - 1, column == 9 || column == 10 || column == 15);
     }
-}
-
-void CalendarModelTest::GarbledLine()
-{
-    QFETCH(int, column);
-    QFETCH(QByteArray, garbage);
-    QFETCH(int, error);
-    kFile.ReadGarbled(49 * 15 + column - 1, garbage, error);
 }
 
 void CalendarModelTest::AQuoteInANameEndsInTheReport()
@@ -256,19 +234,6 @@ void CalendarModelTest::AQuoteInANameEndsInTheReport()
     QCOMPARE(Bytes(Gara[3]), QByteArray("la "));
     QCOMPARE(Bytes(Localita[3]), QByteArray("lunga\" gara\""));
     QVERIFY(KmGara[3] == 0);
-}
-
-void CalendarModelTest::FailuresAreReported()
-{
-    QFETCH(QByteArray, folder);
-    QFETCH(int, reading);
-    QFETCH(int, writing);
-    kFile.FailInFolder(folder, reading, writing);
-}
-
-void CalendarModelTest::AFullDiskIsReported()
-{
-    kFile.WriteToFullDisk();
 }
 
 void CalendarModelTest::WritingReplacesTheFile()

@@ -34,12 +34,12 @@ private Q_SLOTS:
     void PlaceZeroStaysOut();
     void ExtremeValuesComeBack();
     void CutAtEveryLineOfSomeRoutes_data();
-    void CutAtEveryLineOfSomeRoutes();
+    void CutAtEveryLineOfSomeRoutes() { kFile.ReadCut(); }
     void GarbledLine_data();
-    void GarbledLine();
+    void GarbledLine() { kFile.ReadGarbled(); }
     void FailuresAreReported_data() { test::AddFolderFailures(); }
     void FailuresAreReported();
-    void AFullDiskIsReported();
+    void AFullDiskIsReported() { kFile.WriteToFullDisk(); }
 
 private:
     static const ModelFile kFile;
@@ -237,47 +237,18 @@ void RouteModelTest::CutAtEveryLineOfSomeRoutes_data()
     QTest::newRow("whole") << 12400;
 }
 
-void RouteModelTest::CutAtEveryLineOfSomeRoutes()
-{
-    QFETCH(int, kept);
-    kFile.ReadCut(kept);
-}
-
 void RouteModelTest::GarbledLine_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QByteArray>("garbage");
-    QTest::addColumn<int>("error"); // 0 where the line passes silently.
+    ModelFile::AddGarbledColumns();
     for (const int line : {0, 1, 2, 3, 4, 60, 61, 62, 63, 12397, 12398, 12399}) {
-        const bool words = IsText(line);
-        QTest::addRow("line %d, text", line + 1) << line << QByteArray("xyz") << (words ? 0 : 13);
-        QTest::addRow("line %d, quoted", line + 1) << line << QByteArray("\"7\"") << (words ? 0 : 13);
-        QTest::addRow("line %d, empty", line + 1) << line << QByteArray() << (words ? 0 : 13);
-        QTest::addRow("line %d, 99999", line + 1) << line << QByteArray("99999") << 0;
-        QTest::addRow("line %d, 2147483648", line + 1) << line << QByteArray("2147483648") << (words ? 0 : 6);
+        kFile.AddGarbled(line, true);
     }
-}
-
-void RouteModelTest::GarbledLine()
-{
-    QFETCH(int, line);
-    QFETCH(QByteArray, garbage);
-    QFETCH(int, error);
-    kFile.ReadGarbled(line, garbage, error);
 }
 
 void RouteModelTest::FailuresAreReported()
 {
-    QFETCH(QByteArray, folder);
-    QFETCH(int, reading);
-    QFETCH(int, writing);
     FillRoute(5);
-    kFile.FailInFolder(folder, reading, writing);
-}
-
-void RouteModelTest::AFullDiskIsReported()
-{
-    kFile.WriteToFullDisk();
+    kFile.FailInFolder();
 }
 
 ZELVIA_TEST(RouteModelTest)

@@ -34,9 +34,9 @@ private Q_SLOTS:
     void RowNumbersAreTakenFromTheFile();
     void WritingReplacesTheFile();
     void CutAtEveryLine_data();
-    void CutAtEveryLine();
+    void CutAtEveryLine() { kFile.ReadCut(); }
     void GarbledLine_data();
-    void GarbledLine();
+    void GarbledLine() { kFile.ReadGarbled(); }
     void ReadingFailsWithAReport_data();
     void ReadingFailsWithAReport();
     void WritingFailsWithAReport_data() { test::AddWriteFailures(); }
@@ -221,34 +221,15 @@ void TableModelTest::CutAtEveryLine_data()
     }
 }
 
-void TableModelTest::CutAtEveryLine()
-{
-    QFETCH(int, kept);
-    kFile.ReadCut(kept);
-}
-
 void TableModelTest::GarbledLine_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QByteArray>("garbage");
-    QTest::addColumn<int>("error");
-    for (const int line : {1, 2, 15, 16, 233, 465}) {
-        QTest::addRow("line %d, text", line) << line << QByteArray("xyz") << 13;
-        QTest::addRow("line %d, quoted", line) << line << QByteArray("\"7\"") << 13;
-        QTest::addRow("line %d, empty", line) << line << QByteArray() << 13;
-        QTest::addRow("line %d, too large", line) << line << QByteArray("40000") << 6;
+    ModelFile::AddGarbledColumns();
+    for (const int line : {0, 1, 14, 15, 232, 464}) {
+        kFile.AddGarbled(line, false);
     }
-    QTest::newRow("the date, a number") << 466 << QByteArray("7") << 13;
-    QTest::newRow("the date, no such day") << 466 << QByteArray("#2007-02-29#") << 13;
-    QTest::newRow("the date, the other way round") << 466 << QByteArray("#17/03/2008#") << 13;
-}
-
-void TableModelTest::GarbledLine()
-{
-    QFETCH(int, line);
-    QFETCH(QByteArray, garbage);
-    QFETCH(int, error);
-    kFile.ReadGarbled(line - 1, garbage, error);
+    QTest::newRow("the date, a number") << 465 << QByteArray("7") << 13;
+    QTest::newRow("the date, no such day") << 465 << QByteArray("#2007-02-29#") << 13;
+    QTest::newRow("the date, the other way round") << 465 << QByteArray("#17/03/2008#") << 13;
 }
 
 void TableModelTest::ReadingFailsWithAReport_data()

@@ -14,7 +14,7 @@ namespace zelvia::test
 /// the temporary one, "occupata" having a folder in the place of the file; "-" means that no folder is known.
 inline void AddFolderFailures()
 {
-    QTest::addColumn<QByteArray>("folder");
+    QTest::addColumn<QByteArray>("failing");
     QTest::addColumn<int>("reading");
     QTest::addColumn<int>("writing");
     QTest::newRow("missing file") << QByteArray("vuota") << 53 << 0;

@@ -77,9 +77,10 @@ struct ModelFile {
         QCOMPARE(MemoryDiffersFrom(lines), QByteArray());
     }
 
-    /// Of a file that ends after some lines these are taken, and the end is reported.
-    void ReadCut(int kept) const
+    /// For rows of `kept`: of a file that ends after some lines these are taken, and the end is reported.
+    void ReadCut() const
     {
+        QFETCH(int, kept);
         FileLines expected = memory();
         std::copy_n(counted.begin(), kept, expected.begin());
         Put({counted.begin(), counted.begin() + kept});
@@ -87,9 +88,30 @@ struct ModelFile {
         QCOMPARE(MemoryDiffersFrom(expected), QByteArray());
     }
 
-    /// Reads a file with one garbled line: with an error the lines before it are taken, else all.
-    void ReadGarbled(int line, const QByteArray& garbage, int error) const
+    static void AddGarbledColumns()
     {
+        QTest::addColumn<int>("line"); // From 0.
+        QTest::addColumn<QByteArray>("garbage");
+        QTest::addColumn<int>("error"); // 0 where the line passes silently.
+    }
+
+    /// Rows of garbage in one line; a `wide` number has 32 bits.
+    void AddGarbled(int line, bool wide) const
+    {
+        const bool text = isText(line);
+        QTest::addRow("line %d, text", line + 1) << line << QByteArray("xyz") << (text ? 0 : 13);
+        QTest::addRow("line %d, quoted", line + 1) << line << QByteArray("\"7\"") << (text ? 0 : 13);
+        QTest::addRow("line %d, empty", line + 1) << line << QByteArray() << (text ? 0 : 13);
+        QTest::addRow("line %d, 40000", line + 1) << line << QByteArray("40000") << (text || wide ? 0 : 6);
+        QTest::addRow("line %d, 2147483648", line + 1) << line << QByteArray("2147483648") << (text ? 0 : 6);
+    }
+
+    /// For those rows: with an error the lines before the garbled one are taken, else all.
+    void ReadGarbled() const
+    {
+        QFETCH(int, line);
+        QFETCH(QByteArray, garbage);
+        QFETCH(int, error);
         FileLines filed = counted;
         filed[static_cast<std::size_t>(line)] = garbage.toStdString();
         Put(filed);
@@ -104,9 +126,12 @@ struct ModelFile {
         QCOMPARE(MemoryDiffersFrom(expected), QByteArray());
     }
 
-    /// Reads and writes in one of the folders of AddFolderFailures; nothing in memory changes.
-    void FailInFolder(const QByteArray& failing, int reading, int writing) const
+    /// For the rows of AddFolderFailures: nothing in memory changes.
+    void FailInFolder() const
     {
+        QFETCH(QByteArray, failing);
+        QFETCH(int, reading);
+        QFETCH(int, writing);
         Module1::CartellaDiario = MakeFailingFolder(folder, failing, name);
         const FileLines before = memory();
         Read(reading);
