@@ -24,22 +24,22 @@ constexpr int kRounds = 20;
 /// A training table with something in each of its boxes.
 Sheet FullTable()
 {
-    TableSheetTexts tabella;
-    tabella.data = CalendarDate(2026, 5, 20);
-    tabella.titolo = "Tabella allenamento : Base 10 km    di   ";
-    for (auto& riga : tabella.righe) {
-        riga = {"12", "500", "1", "02", "30", "5", "05", "250", "Media", "Strada", "12", "1.500", "5", "05"};
+    TableSheetTexts table;
+    table.date = CalendarDate(2026, 5, 20);
+    table.title = "Tabella allenamento : Base 10 km    di   ";
+    for (auto& row : table.rows) {
+        row = {"12", "500", "1", "02", "30", "5", "05", "250", "Media", "Strada", "12", "1.500", "5", "05"};
     }
-    return TableSheet(tabella);
+    return TableSheet(table);
 }
 
 /// A search that found each day of a leap year, on thirteen pages.
 Sheet WholeYear()
 {
-    SearchSheetTexts ricerca;
-    ricerca.data = CalendarDate(2028, 12, 31);
-    ricerca.righe.assign(366, "  7,500   0:40:00     5:07      01/03/2028 ");
-    return SearchSheet(ricerca);
+    SearchSheetTexts search;
+    search.date = CalendarDate(2028, 12, 31);
+    search.lines.assign(366, "  7,500   0:40:00     5:07      01/03/2028 ");
+    return SearchSheet(search);
 }
 
 void PrintEmptyPage()

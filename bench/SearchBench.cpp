@@ -91,7 +91,7 @@ void Measure(frmMain& page, const std::string& platform)
 
     auto& search = Shown<frmRicercheStatistiche>();
     // A condition on the pace of running, which every day meets.
-    const auto& condition = search.ControlliDi(Categoria::Andatura);
+    const auto& condition = search.ControlsFor(Categoria::Andatura);
     condition.cmd->click();
     search.lstStatistiche->SetListIndex(0);
     search.lstStatistiche_DblClick();

@@ -43,12 +43,12 @@ struct Routine {
 };
 
 constexpr std::array<Routine, 6> kRoutines = {{
-    {PezzoKm, [](const Text& row) { return std::optional(Before(row, ',')); }},
-    {PezzoMetri, [](const Text& row) { return std::optional(Behind(row, row.find(','))); }},
-    {PezzoVolte, [](const Text& row) { return std::optional(Before(row, 'x')); }},
-    {PezzoDistanza, [](const Text& row) { return Between(row, row.rfind('x'), row.rfind('@')); }},
-    {PezzoQuante, [](const Text& row) { return Between(row, row.rfind('@'), row.rfind(':')); }},
-    {PezzoTempi, [](const Text& row) { return std::optional(Behind(row, row.rfind(':'))); }},
+    {KmPart, [](const Text& row) { return std::optional(Before(row, ',')); }},
+    {MetresPart, [](const Text& row) { return std::optional(Behind(row, row.find(','))); }},
+    {TimesPart, [](const Text& row) { return std::optional(Before(row, 'x')); }},
+    {DistancePart, [](const Text& row) { return Between(row, row.rfind('x'), row.rfind('@')); }},
+    {MinutesPart, [](const Text& row) { return Between(row, row.rfind('@'), row.rfind(':')); }},
+    {SecondsPart, [](const Text& row) { return std::optional(Behind(row, row.rfind(':'))); }},
 }};
 
 void CheckPiece(const Routine& routine, const Text& row)
@@ -64,12 +64,12 @@ void CheckPiece(const Routine& routine, const Text& row)
 /// A text gives back the numbers it was built from.
 void CheckReturn(const RecordGiorno& day)
 {
-    const Text distance = TestoKm(day);
-    Require(PezzoKm(distance) == day.Km && PezzoMetri(distance) == day.Metri, "the distance comes back");
-    const Text repetitions = TestoRipetizioni(day);
-    Require(PezzoVolte(repetitions) == day.Ripetizioni && PezzoDistanza(repetitions) == day.RipetizioniDistanza,
+    const Text distance = KmText(day);
+    Require(KmPart(distance) == day.Km && MetresPart(distance) == day.Metri, "the distance comes back");
+    const Text repetitions = RepetitionsText(day);
+    Require(TimesPart(repetitions) == day.Ripetizioni && DistancePart(repetitions) == day.RipetizioniDistanza,
             "the repetitions and their distance come back");
-    Require(PezzoQuante(repetitions) == day.RipetizioniQuante && PezzoTempi(repetitions) == day.RipetizioniTempi,
+    Require(MinutesPart(repetitions) == day.RipetizioniQuante && SecondsPart(repetitions) == day.RipetizioniTempi,
             "the time of the repetitions comes back");
 }
 

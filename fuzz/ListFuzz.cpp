@@ -23,7 +23,7 @@ struct Loaded {
 Loaded Load()
 {
     Loaded loaded;
-    loaded.error = RaisedBy([&] { LeggiLista(Scratch::Instance().Path("Percorso.lsx"), loaded.entries); });
+    loaded.error = RaisedBy([&] { ReadEntries(Scratch::Instance().Path("Percorso.lsx"), loaded.entries); });
     return loaded;
 }
 
@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Loaded loaded = Load();
     Require(loaded == Expected(InputText(data, size)), "the entries of the list");
     if (std::none_of(loaded.entries.begin(), loaded.entries.end(), HasQuote)) {
-        ScriviLista(scratch.Path("Percorso.lsx"), loaded.entries);
+        WriteEntries(scratch.Path("Percorso.lsx"), loaded.entries);
         Require(Load() == Loaded{loaded.entries, 0}, "a list that was written is read again");
     }
     return 0;

@@ -68,9 +68,9 @@ void CheckShown(const Text& average, const Run& run)
 
 void CheckRun(const Run& run)
 {
-    const Orario time{run.seconds / 3600, run.seconds / 60 % 60, run.seconds % 60};
+    const ClockTime time{run.seconds / 3600, run.seconds / 60 % 60, run.seconds % 60};
     std::optional<Text> average;
-    const int error = RaisedBy([&] { average = CalcolaMedia(CaptionOf(run), time); });
+    const int error = RaisedBy([&] { average = AverageText(CaptionOf(run), time); });
     Require(error == ExpectedError(run), "the error of an average");
     if (error != 0) {
         return;

@@ -50,13 +50,13 @@ struct Sums {
     bool operator==(const Sums&) const = default;
 };
 
-Sums SumsOf(const TotaliRicerca& totals)
+Sums SumsOf(const SearchTotals& totals)
 {
     return {totals.TotOre.value(), totals.TotMinuti.value(), totals.TotSecondi.value(), totals.TotMediaMinuti.value(),
             totals.TotMediaSecondi.value()};
 }
 
-void AddTime(TotaliRicerca& totals, Sums& sums, const Text& time)
+void AddTime(SearchTotals& totals, Sums& sums, const Text& time)
 {
     const auto pieces = Pieces(time, 3);
     const int error = RaisedBy([&] { SommaTempi(totals, time); });
@@ -69,7 +69,7 @@ void AddTime(TotaliRicerca& totals, Sums& sums, const Text& time)
     Require(SumsOf(totals) == sums, "a time is added, or nothing");
 }
 
-void AddAverage(TotaliRicerca& totals, Sums& sums, const Text& average)
+void AddAverage(SearchTotals& totals, Sums& sums, const Text& average)
 {
     const auto pieces = Pieces(average, 2);
     const int error = RaisedBy([&] { SommaMedia(totals, average); });
@@ -94,7 +94,7 @@ void AddAverage(TotaliRicerca& totals, Sums& sums, const Text& average)
     Require(SumsOf(totals) == sums, "an average is added to the sums");
 }
 
-void CheckTotalTime(TotaliRicerca& totals, Sums& sums)
+void CheckTotalTime(SearchTotals& totals, Sums& sums)
 {
     TempiTotali(totals);
     const int carried = sums.seconds >= 60 ? sums.seconds / 60 : 0;
@@ -107,7 +107,7 @@ void CheckTotalTime(TotaliRicerca& totals, Sums& sums)
     Require(sums.seconds < 60 && sums.minutes < 60, "what is carried over");
 }
 
-void CheckMean(TotaliRicerca& totals, Sums& sums)
+void CheckMean(SearchTotals& totals, Sums& sums)
 {
     MediaTotali(totals);
     if (sums.averageMinutes >= 1 || sums.averageSeconds >= 1) {
@@ -123,8 +123,8 @@ void CheckMean(TotaliRicerca& totals, Sums& sums)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static TotaliRicerca totals;
-    AzzeraTotali(totals);
+    static SearchTotals totals;
+    ClearTotals(totals);
     Sums sums;
     const std::vector<Text> lines = InputLines(data, size, 2 * kRuns);
     for (std::size_t run = 0; run < kRuns; ++run) {
@@ -134,8 +134,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     CheckTotalTime(totals, sums);
     CheckMean(totals, sums);
-    Require(TestoCorse(totals) == " 8", "the number of the runs");
-    Require(TestoTempi(totals).starts_with(" " + std::to_string(sums.hours) + ":"), "the time as text");
-    Require(TestoMedia(totals).starts_with(" " + std::to_string(sums.averageMinutes) + ":"), "the average as text");
+    Require(RunsText(totals) == " 8", "the number of the runs");
+    Require(TimesText(totals).starts_with(" " + std::to_string(sums.hours) + ":"), "the time as text");
+    Require(MeanText(totals).starts_with(" " + std::to_string(sums.averageMinutes) + ":"), "the average as text");
     return 0;
 }

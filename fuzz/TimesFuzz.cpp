@@ -16,7 +16,7 @@ namespace
 {
 
 /// Mostly times of day; occasionally anything a long holds.
-Orario TakeTime(Bytes& input)
+ClockTime TakeTime(Bytes& input)
 {
     if (input.Take<std::uint8_t>() == 255) {
         return {input.Take<std::int32_t>(), input.Take<std::int32_t>(), input.Take<std::int32_t>()};
@@ -24,19 +24,19 @@ Orario TakeTime(Bytes& input)
     return {input.Take<std::uint8_t>() % 24, input.Take<std::uint8_t>() % 60, input.Take<std::uint8_t>() % 60};
 }
 
-bool IsTimeOfDay(const Orario& time)
+bool IsTimeOfDay(const ClockTime& time)
 {
     const auto within = [](i32 part, int limit) { return part >= 0 && part < limit; };
-    return within(time.ore, 24) && within(time.minuti, 60) && within(time.secondi, 60);
+    return within(time.hours, 24) && within(time.minutes, 60) && within(time.seconds, 60);
 }
 
-std::tuple<int, int, int> Parts(const Orario& time)
+std::tuple<int, int, int> Parts(const ClockTime& time)
 {
-    return {time.ore.value(), time.minuti.value(), time.secondi.value()};
+    return {time.hours.value(), time.minutes.value(), time.seconds.value()};
 }
 
 /// The message for an end that is not after the start; the blanks at its end distinguish the cases.
-Text WarningOf(const Orario& start, const Orario& end)
+Text WarningOf(const ClockTime& start, const ClockTime& end)
 {
     if (Parts(end) == Parts(start)) {
         return "L'ORA FINE E' UGUALE ALL'ORA INIZIO        ";
@@ -44,23 +44,25 @@ Text WarningOf(const Orario& start, const Orario& end)
     if (Parts(end) > Parts(start)) {
         return {};
     }
-    const bool bySeconds = end.ore == start.ore && end.minuti == start.minuti;
+    const bool bySeconds = end.hours == start.hours && end.minutes == start.minutes;
     return Text("L'ORA FINE E' MINORE DELL'ORA INIZIO") + Text(bySeconds ? 8 : 9, ' ');
 }
 
-void CheckVerdict(bool distance, const Orario& start, const Orario& end)
+void CheckVerdict(bool distance, const ClockTime& start, const ClockTime& end)
 {
-    const EsitoTempi verdict = ControllaTempi(distance, start, end);
-    const bool given = end.ore >= 1 || end.minuti >= 1 || end.secondi >= 1;
-    const Calcolo wanted = !given ? Calcolo::Niente : distance ? Calcolo::TempoEMedia : Calcolo::SoloTempo;
-    Require(verdict.calcolo == wanted, "what can be computed");
-    Require(verdict.azzera == (!given || !distance), "time and average are blanked when either is missing");
-    Require(verdict.avviso == (given ? WarningOf(start, end) : Text()), "the warning of the order of the times");
+    const TimesCheck verdict = CheckTimes(distance, start, end);
+    const bool given = end.hours >= 1 || end.minutes >= 1 || end.seconds >= 1;
+    const Calculation wanted = !given     ? Calculation::None
+                               : distance ? Calculation::TimeAndAverage
+                                          : Calculation::TimeOnly;
+    Require(verdict.calculation == wanted, "what can be computed");
+    Require(verdict.blanks == (!given || !distance), "time and average are blanked when either is missing");
+    Require(verdict.warning == (given ? WarningOf(start, end) : Text()), "the warning of the order of the times");
 }
 
-double SecondsOf(const Orario& time)
+double SecondsOf(const ClockTime& time)
 {
-    return (time.ore.value() * 60.0 + time.minuti.value()) * 60.0 + time.secondi.value();
+    return (time.hours.value() * 60.0 + time.minutes.value()) * 60.0 + time.seconds.value();
 }
 
 /// The average as text against the same in double precision, at most a second apart.
@@ -73,10 +75,10 @@ void CheckAverage(const Text& average, double metres, double seconds)
     Require(std::fabs(shown - seconds * 1000 / metres) <= 1.001, "the average per kilometre");
 }
 
-void CheckPace(const Text& distance, const Orario& time)
+void CheckPace(const Text& distance, const ClockTime& time)
 {
     std::optional<Text> average;
-    const int error = RaisedBy([&] { average = CalcolaMedia(distance, time); });
+    const int error = RaisedBy([&] { average = AverageText(distance, time); });
     RequireError(error, {Errore::Overflow, Errore::DivisionePerZero, Errore::TipoNonCorrispondente});
     if (error != 0 || !average || !IsTimeOfDay(time)) {
         return;
@@ -92,22 +94,22 @@ void CheckPace(const Text& distance, const Orario& time)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     Bytes input(data, size);
-    const Orario start = TakeTime(input);
-    const Orario end = TakeTime(input);
+    const ClockTime start = TakeTime(input);
+    const ClockTime end = TakeTime(input);
     const Text distance = input.Rest();
 
     CheckVerdict(!distance.empty(), start, end);
 
-    Orario taken{};
-    const int error = RaisedBy([&] { taken = TempoTrascorso(start, end); });
+    ClockTime taken{};
+    const int error = RaisedBy([&] { taken = ElapsedTime(start, end); });
     RequireError(error, {Errore::Overflow});
     if (error == 0) {
-        Require(!TestoTempo(taken).empty(), "a time as text");
+        Require(!TimeText(taken).empty(), "a time as text");
         CheckPace(distance, taken);
     }
     if (IsTimeOfDay(start) && IsTimeOfDay(end)) {
         Require(SecondsOf(taken) == SecondsOf(end) - SecondsOf(start), "the time between start and end");
-        Require(taken.minuti >= 0 && taken.minuti < 60 && taken.secondi >= 0 && taken.secondi < 60, "the borrows");
+        Require(taken.minutes >= 0 && taken.minutes < 60 && taken.seconds >= 0 && taken.seconds < 60, "the borrows");
     }
     CheckPace(distance, end);
     return 0;

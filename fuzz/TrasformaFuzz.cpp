@@ -16,11 +16,11 @@ namespace
 
 constexpr std::size_t kRuns = 12;
 
-class Rows : public CasellaTempi
+class Rows : public TimesBox
 {
 public:
-    void AggiungiRiga(TextView riga) override { rows.emplace_back(riga); }
-    void Seleziona(int indice) override { selected = indice; }
+    void AddLine(TextView riga) override { rows.emplace_back(riga); }
+    void Select(int indice) override { selected = indice; }
 
     std::vector<Text> rows;
     int selected = -2;

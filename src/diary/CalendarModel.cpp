@@ -79,7 +79,7 @@ RaceTexts RaceTextsOf(i16 row)
     texts.gara = Gara[row];
     texts.localita = Localita[row];
     texts.partecipanti = Format(Partecipanti[row], thousands);
-    texts.tempo = TestoTempo({OreGara[row], MinutiGara[row], SecondiGara[row]});
+    texts.tempo = TimeText({OreGara[row], MinutiGara[row], SecondiGara[row]});
     texts.risultato = Format(Risultato[row], thousands);
     texts.categoria = Categoria[row];
     texts.risultatoCat = Format(RisultatoCat[row], thousands);

@@ -15,9 +15,9 @@ namespace Module1
 {
 
 Text TitoloStatistica;
-PerCategoria<Text> NomeCategoria;
-PerCategoria<i16> ContaCategoria;
-PerCategoria<i16> ValoreCategoria;
+PerCategory<Text> NomeCategoria;
+PerCategory<i16> ContaCategoria;
+PerCategory<i16> ValoreCategoria;
 
 } // namespace Module1
 
@@ -29,45 +29,45 @@ namespace
 using R = RecordGiorno;
 
 template <Text R::*field>
-bool Filled(const R& giorno)
+bool Filled(const R& day)
 {
-    return !(giorno.*field).empty();
+    return !(day.*field).empty();
 }
 
 template <Text R::*field>
-Text TextOf(const R& giorno)
+Text TextOf(const R& day)
 {
-    return giorno.*field;
+    return day.*field;
 }
 
 template <auto field>
-bool NotZero(const R& giorno)
+bool NotZero(const R& day)
 {
-    return giorno.*field != 0;
+    return day.*field != 0;
 }
 
 template <auto field>
-i32 NumberOf(const R& giorno)
+i32 NumberOf(const R& day)
 {
-    return giorno.*field;
+    return day.*field;
 }
 
-bool HasDistance(const R& giorno)
+bool HasDistance(const R& day)
 {
-    return giorno.Km != 0 || giorno.Metri != 0;
+    return day.Km != 0 || day.Metri != 0;
 }
 
 template <Text R::*field>
-constexpr Statistica TextStatistic(TextView titolo, TextView errore, TextView erroreLista)
+constexpr Statistic TextStatistic(TextView title, TextView error, TextView listError)
 {
-    return {titolo, errore, erroreLista, Filled<field>, TextOf<field>};
+    return {title, error, listError, Filled<field>, TextOf<field>};
 }
 
 /// In the order of the categories.
-constexpr Statistica kStatistiche[] = {
+constexpr Statistic kStatistiche[] = {
     TextStatistic<&R::Percorso>("Percorso", "StatisPercorso - ERRORE : ", "Lista Percorso - ERRORE : "),
     TextStatistic<&R::Lunghezza>("Lunghezza", "StatisLunghezza - ERRORE : ", "Lista Lunghezza - ERRORE : "),
-    {"Km", "StatisKm - ERRORE : ", "Lista Km - ERRORE : ", HasDistance, TestoKm},
+    {"Km", "StatisKm - ERRORE : ", "Lista Km - ERRORE : ", HasDistance, KmText},
     TextStatistic<&R::Modo>("Andatura", "SatisAndatura - ERRORE : ", "Lista Andatura - ERRORE : "),
     TextStatistic<&R::Fondo>("Terreno", "StatisFondo - ERRORE : ", "Lista Fondo - ERRORE : "),
     TextStatistic<&R::Tipo>("Tipo", "StatisTipo - ERRORE : ", "Lista Tipo - ERRORE : "),
@@ -78,7 +78,7 @@ constexpr Statistica kStatistiche[] = {
      NumberOf<&R::Corridori>},
     {"Peso", "StatisPeso - ERRORE : ", "Lista Peso - ERRORE : ", NotZero<&R::Peso>, nullptr, NumberOf<&R::Peso>},
     {"Ripetizioni", "StatisRipetizioni - ERRORE : ", "Lista Ripetizioni - ERRORE : ", NotZero<&R::Ripetizioni>,
-     TestoRipetizioni},
+     RepetitionsText},
 };
 
 bool SameValue(const Text& slot, const Text& value)
@@ -93,7 +93,7 @@ bool SameValue(i16 slot, i32 value)
 
 /// The slot of the value among the first `used`, 0 when it has none.
 template <typename Slot, typename Value>
-int SlotOf(const PerCategoria<Slot>& slots, int used, const Value& value)
+int SlotOf(const PerCategory<Slot>& slots, int used, const Value& value)
 {
     for (int i = 1; i <= used; ++i) {
         if (SameValue(slots[i], value)) {
@@ -104,18 +104,18 @@ int SlotOf(const PerCategoria<Slot>& slots, int used, const Value& value)
 }
 
 template <typename Slot, typename Value>
-void Count(PerCategoria<Slot>& slots, bool (*counted)(const R&), Value (*valueOf)(const R&))
+void Count(PerCategory<Slot>& slots, bool (*counted)(const R&), Value (*valueOf)(const R&))
 {
     int used = 0;
     for (i16 d = 1; d <= GiornoCorrente; d += 1) {
-        const R& giorno = Giorni[d];
-        if (!counted(giorno)) {
+        const R& day = Giorni[d];
+        if (!counted(day)) {
             continue;
         }
-        const Value value = valueOf(giorno);
+        const Value value = valueOf(day);
         if (const int slot = SlotOf(slots, used, value); slot > 0) {
             ContaCategoria[slot] += 1;
-        } else if (used < kMaxCategorie) {
+        } else if (used < kMaxCategories) {
             ++used;
             slots[used] = Slot(value);
             ContaCategoria[used] = 1;
@@ -127,7 +127,7 @@ void Count(PerCategoria<Slot>& slots, bool (*counted)(const R&), Value (*valueOf
 int HighestSlot()
 {
     int highest = 0;
-    for (int i = 1; i <= kMaxCategorie; ++i) {
+    for (int i = 1; i <= kMaxCategories; ++i) {
         if (ContaCategoria[i] > (highest == 0 ? i16(0) : ContaCategoria[highest])) {
             highest = i;
         }
@@ -136,10 +136,10 @@ int HighestSlot()
 }
 
 template <typename Slot>
-void Rank(PerCategoria<Slot>& slots)
+void Rank(PerCategory<Slot>& slots)
 {
-    PerCategoria<Slot> values;
-    PerCategoria<i16> counts;
+    PerCategory<Slot> values;
+    PerCategory<i16> counts;
     int place = 0;
     for (int slot = HighestSlot(); slot > 0; slot = HighestSlot()) {
         ++place;
@@ -152,26 +152,26 @@ void Rank(PerCategoria<Slot>& slots)
 }
 
 template <typename T>
-void Blank(PerCategoria<T>& slots)
+void Blank(PerCategory<T>& slots)
 {
     std::fill(slots.begin() + 1, slots.end(), T());
 }
 
 } // namespace
 
-const Statistica& StatisticaDi(Categoria categoria)
+const Statistic& StatisticOf(Categoria category)
 {
-    return kStatistiche[static_cast<std::size_t>(categoria)];
+    return kStatistiche[static_cast<std::size_t>(category)];
 }
 
-const Statistica* StatisticaDi(TextView titolo)
+const Statistic* StatisticOf(TextView title)
 {
     const auto* found = std::find_if(std::begin(kStatistiche), std::end(kStatistiche),
-                                     [&](const Statistica& statistica) { return statistica.titolo == titolo; });
+                                     [&](const Statistic& statistic) { return statistic.title == title; });
     return found == std::end(kStatistiche) ? nullptr : found;
 }
 
-void Module1::AzzeraStatistica()
+void Module1::ClearStatistic()
 {
     TitoloStatistica.clear();
     NomeCategoria = {};
@@ -179,65 +179,65 @@ void Module1::AzzeraStatistica()
     ValoreCategoria = {};
 }
 
-void Module1::ContaValori(const Statistica& statistica)
+void Module1::CountValues(const Statistic& statistic)
 {
     Blank(NomeCategoria);
     Blank(ContaCategoria);
-    if (statistica.numero != nullptr) {
+    if (statistic.number != nullptr) {
         Blank(ValoreCategoria);
-        Count(ValoreCategoria, statistica.contato, statistica.numero);
+        Count(ValoreCategoria, statistic.counts, statistic.number);
         Rank(ValoreCategoria);
     } else {
-        Count(NomeCategoria, statistica.contato, statistica.testo);
+        Count(NomeCategoria, statistic.counts, statistic.text);
         Rank(NomeCategoria);
     }
 }
 
-void Module1::VisualStat(TextView titolo, VistaStatistica& vista)
+void Module1::VisualStat(TextView title, StatisticView& view)
 {
     Trap("VisualStat - ERRORE : ", [&] {
-        vista.SetTitolo(titolo);
-        for (int i = 1; i <= kMaxCategorie; ++i) {
+        view.SetTitle(title);
+        for (int i = 1; i <= kMaxCategories; ++i) {
             if (!NomeCategoria[i].empty()) {
-                vista.AggiungiRiga(RigaStatistica(NomeCategoria[i], ContaCategoria[i]));
+                view.AddLine(StatisticLine(NomeCategoria[i], ContaCategoria[i]));
             }
         }
     });
 }
 
-void Module1::VisualStatint(TextView titolo, VistaStatistica& vista)
+void Module1::VisualStatint(TextView title, StatisticView& view)
 {
     Trap("VisualStatint - ERRORE : ", [&] {
-        vista.SetTitolo(titolo);
-        for (int i = 1; i <= kMaxCategorie; ++i) {
+        view.SetTitle(title);
+        for (int i = 1; i <= kMaxCategories; ++i) {
             if (ValoreCategoria[i] != 0) {
-                vista.AggiungiRiga(RigaStatistica(Str(ValoreCategoria[i]), ContaCategoria[i]));
+                view.AddLine(StatisticLine(Str(ValoreCategoria[i]), ContaCategoria[i]));
             }
         }
     });
 }
 
-Text RigaStatistica(TextView nome, i16 conta)
+Text StatisticLine(TextView name, i16 count)
 {
     constexpr std::size_t nameColumns = 30;
     constexpr std::size_t columns = 40;
-    Text riga(nome.substr(0, nameColumns));
-    riga.resize(nameColumns, ' ');
-    riga += conta < 10 ? "     " : conta < 100 ? "    " : "   ";
-    riga += PlainText(conta);
-    riga.resize(columns, ' ');
-    return riga;
+    Text line(name.substr(0, nameColumns));
+    line.resize(nameColumns, ' ');
+    line += count < 10 ? "     " : count < 100 ? "    " : "   ";
+    line += PlainText(count);
+    line.resize(columns, ' ');
+    return line;
 }
 
-void EseguiStatistica(const Statistica& statistica, VistaStatistica& vista)
+void RunStatistic(const Statistic& statistic, StatisticView& view)
 {
-    Trap(statistica.errore, [&] {
-        TitoloStatistica = Text(statistica.titolo);
-        ContaValori(statistica);
-        if (statistica.numero != nullptr) {
-            VisualStatint(TitoloStatistica, vista);
+    Trap(statistic.error, [&] {
+        TitoloStatistica = Text(statistic.title);
+        CountValues(statistic);
+        if (statistic.number != nullptr) {
+            VisualStatint(TitoloStatistica, view);
         } else {
-            VisualStat(TitoloStatistica, vista);
+            VisualStat(TitoloStatistica, view);
         }
     });
 }

@@ -28,38 +28,38 @@ enum class Categoria {
     Ripetizioni
 };
 
-inline constexpr std::array<Categoria, 12> kTutteLeCategorie = {
+inline constexpr std::array<Categoria, 12> kAllCategories = {
     Categoria::Percorso,    Categoria::Lunghezza, Categoria::Km,       Categoria::Andatura,
     Categoria::Fondo,       Categoria::Tipo,      Categoria::Stagione, Categoria::Meteo,
     Categoria::Temperatura, Categoria::Corridori, Categoria::Peso,     Categoria::Ripetizioni};
 
 /// What is specific to one category's statistic.
-struct Statistica {
-    TextView titolo;                                     ///< The word that names the category.
-    TextView errore;                                     ///< Title of the statistic's error report.
-    TextView erroreLista;                                ///< The same for the list of the search.
-    bool (*contato)(const RecordGiorno& giorno);         ///< Whether the day counts.
-    Text (*testo)(const RecordGiorno& giorno);           ///< Its value, null where that is a number.
-    i32 (*numero)(const RecordGiorno& giorno) = nullptr; ///< Its value, null where that is a text.
+struct Statistic {
+    TextView title;                                   ///< The word that names the category.
+    TextView error;                                   ///< Title of the statistic's error report.
+    TextView listError;                               ///< The same for the list of the search.
+    bool (*counts)(const RecordGiorno& day);          ///< Whether the day counts.
+    Text (*text)(const RecordGiorno& day);            ///< Its value, null where that is a number.
+    i32 (*number)(const RecordGiorno& day) = nullptr; ///< Its value, null where that is a text.
 };
 
-const Statistica& StatisticaDi(Categoria categoria);
+const Statistic& StatisticOf(Categoria category);
 /// By its title, case-sensitive; null when there is none.
-const Statistica* StatisticaDi(TextView titolo);
+const Statistic* StatisticOf(TextView title);
 
 /// The largest number of different values in a statistic.
-inline constexpr int kMaxCategorie = 60;
+inline constexpr int kMaxCategories = 60;
 /// Slot 0 is never written.
 template <typename T>
-using PerCategoria = BoundedArray<T, 0, kMaxCategorie>;
+using PerCategory = BoundedArray<T, 0, kMaxCategories>;
 
 /// Where a statistic is shown.
-class VistaStatistica
+class StatisticView
 {
 public:
-    virtual ~VistaStatistica() = default;
-    virtual void SetTitolo(TextView titolo) = 0;
-    virtual void AggiungiRiga(TextView riga) = 0;
+    virtual ~StatisticView() = default;
+    virtual void SetTitle(TextView title) = 0;
+    virtual void AddLine(TextView line) = 0;
 };
 
 namespace Module1
@@ -67,30 +67,30 @@ namespace Module1
 
 // The result of the last statistic, in descending order of count in the slots from 1 on.
 extern Text TitoloStatistica;
-extern PerCategoria<Text> NomeCategoria;
-extern PerCategoria<i16> ContaCategoria;
-extern PerCategoria<i16> ValoreCategoria; ///< The numeric statistics use it in place of NomeCategoria.
+extern PerCategory<Text> NomeCategoria;
+extern PerCategory<i16> ContaCategoria;
+extern PerCategory<i16> ValoreCategoria; ///< The numeric statistics use it in place of NomeCategoria.
 
 /// Empties all of it.
-void AzzeraStatistica();
+void ClearStatistic();
 
 /// Counts each value of the days 1..GiornoCorrente and ranks them into the arrays above; of equal counts the value seen
 /// first comes first. Texts are compared ignoring case and kept as first spelt. Values beyond the 60th are left out.
 /// TitoloStatistica stays, ValoreCategoria too unless the values are numbers. Raises error 6 for a number above 32767;
 /// the slots then hold the counts so far, unranked.
-void ContaValori(const Statistica& statistica);
+void CountValues(const Statistic& statistic);
 
 /// Writes the title, and a line for each slot that has a name.
-void VisualStat(TextView titolo, VistaStatistica& vista);
+void VisualStat(TextView title, StatisticView& view);
 /// Writes the title, and a line for each slot whose value is not 0.
-void VisualStatint(TextView titolo, VistaStatistica& vista);
+void VisualStatint(TextView title, StatisticView& view);
 
 } // namespace Module1
 
 /// A line of 40 columns: the name, cut at 30 characters, and the count, which ends in column 36.
-Text RigaStatistica(TextView nome, i16 conta);
+Text StatisticLine(TextView name, i16 count);
 
 /// The whole routine of one statistic under its trap: names it, counts and shows.
-void EseguiStatistica(const Statistica& statistica, VistaStatistica& vista);
+void RunStatistic(const Statistic& statistic, StatisticView& view);
 
 } // namespace zelvia

@@ -32,47 +32,47 @@ i16 NumberBetween(TextView text, TextView first, TextView second)
 
 } // namespace
 
-Text TestoKm(const RecordGiorno& giorno)
+Text KmText(const RecordGiorno& day)
 {
-    return InTwoColumns(giorno.Km) + "," + PlainText(giorno.Metri);
+    return InTwoColumns(day.Km) + "," + PlainText(day.Metri);
 }
 
-Text TestoRipetizioni(const RecordGiorno& giorno)
+Text RepetitionsText(const RecordGiorno& day)
 {
     constexpr int fourDigits = 1000;
-    return InTwoColumns(giorno.Ripetizioni) + " x " + PlainText(giorno.RipetizioniDistanza) +
-           (giorno.RipetizioniDistanza >= fourDigits ? " @ " : "  @ ") + PlainText(giorno.RipetizioniQuante) + ":" +
-           PlainText(giorno.RipetizioniTempi);
+    return InTwoColumns(day.Ripetizioni) + " x " + PlainText(day.RipetizioniDistanza) +
+           (day.RipetizioniDistanza >= fourDigits ? " @ " : "  @ ") + PlainText(day.RipetizioniQuante) + ":" +
+           PlainText(day.RipetizioniTempi);
 }
 
-i16 PezzoKm(TextView testo)
+i16 KmPart(TextView text)
 {
-    return NumberBefore(testo, ",");
+    return NumberBefore(text, ",");
 }
 
-i16 PezzoMetri(TextView testo)
+i16 MetresPart(TextView text)
 {
-    return Parsed<i16>(Mid(testo, InStr(testo, ",") + 1));
+    return Parsed<i16>(Mid(text, InStr(text, ",") + 1));
 }
 
-i16 PezzoVolte(TextView testo)
+i16 TimesPart(TextView text)
 {
-    return NumberBefore(testo, "x");
+    return NumberBefore(text, "x");
 }
 
-i16 PezzoDistanza(TextView testo)
+i16 DistancePart(TextView text)
 {
-    return NumberBetween(testo, "x", "@");
+    return NumberBetween(text, "x", "@");
 }
 
-i16 PezzoQuante(TextView testo)
+i16 MinutesPart(TextView text)
 {
-    return NumberBetween(testo, "@", ":");
+    return NumberBetween(text, "@", ":");
 }
 
-i16 PezzoTempi(TextView testo)
+i16 SecondsPart(TextView text)
 {
-    return Parsed<i16>(Mid(testo, InStrRev(testo, ":") + 1));
+    return Parsed<i16>(Mid(text, InStrRev(text, ":") + 1));
 }
 
 } // namespace zelvia

@@ -9,7 +9,7 @@ namespace zelvia
 namespace
 {
 
-/// How many of the kMaxCategorie 1..`last` hold more than 0.
+/// How many of the kMaxCategories 1..`last` hold more than 0.
 template <typename Values>
 int CountAbove0(const Values& values, int last)
 {
@@ -22,39 +22,39 @@ int CountAbove0(const Values& values, int last)
 
 } // namespace
 
-ChartData GraficoCategorie(TextView titolo, const PerCategoria<Text>& nomi, const PerCategoria<i16>& conta,
-                           const PerCategoria<i16>& valori)
+ChartData CategoryChart(TextView title, const PerCategory<Text>& names, const PerCategory<i16>& count,
+                        const PerCategory<i16>& values)
 {
-    ChartData grafico;
-    grafico.chartType = ChartType::Bars;
-    grafico.TitleText = titolo;
-    grafico.SetColumnCount(CountAbove0(conta, kMaxCategorie));
-    grafico.SetRowCount(1);
-    for (int i = 1; i <= kMaxCategorie; ++i) {
-        if (conta[i] > 0) {
-            grafico.Column = i;
-            grafico.SetData(PlainText(conta[i]));
-            grafico.SetColumnLabel(nomi[i].empty() ? PlainText(valori[i]) : nomi[i]);
+    ChartData chart;
+    chart.chartType = ChartType::Bars;
+    chart.TitleText = title;
+    chart.SetColumnCount(CountAbove0(count, kMaxCategories));
+    chart.SetRowCount(1);
+    for (int i = 1; i <= kMaxCategories; ++i) {
+        if (count[i] > 0) {
+            chart.Column = i;
+            chart.SetData(PlainText(count[i]));
+            chart.SetColumnLabel(names[i].empty() ? PlainText(values[i]) : names[i]);
         }
     }
-    return grafico;
+    return chart;
 }
 
-ChartData GraficoMedie(const PaceTable& valori)
+ChartData PaceChart(const PaceTable& values)
 {
-    const int n = CountAbove0(valori, kChartedRuns);
-    ChartData grafico;
-    grafico.chartType = ChartType::Line;
-    grafico.TitleText = "Velocità Media per Km"_t;
-    grafico.SetColumnCount(1);
-    grafico.SetRowCount(n);
-    grafico.SetColumnLabel("Tempo");
+    const int n = CountAbove0(values, kChartedRuns);
+    ChartData chart;
+    chart.chartType = ChartType::Line;
+    chart.TitleText = "Velocità Media per Km"_t;
+    chart.SetColumnCount(1);
+    chart.SetRowCount(n);
+    chart.SetColumnLabel("Tempo");
     for (int i = 1; i <= n; ++i) {
-        grafico.Row = i;
-        grafico.SetData(PlainText(valori[i]));
-        grafico.SetRowLabel(PlainText(valori[i]));
+        chart.Row = i;
+        chart.SetData(PlainText(values[i]));
+        chart.SetRowLabel(PlainText(values[i]));
     }
-    return grafico;
+    return chart;
 }
 
 } // namespace zelvia

@@ -19,11 +19,11 @@ inline constexpr int kChartedRuns = 350;
 
 /// How often each value of a category occurred: a bar for each place 1..60 whose count is above 0, under its name or,
 /// where that is empty, its number. Raises error 9 when these places are not contiguous from 1 on.
-ChartData GraficoCategorie(TextView titolo, const PerCategoria<Text>& nomi, const PerCategoria<i16>& conta,
-                           const PerCategoria<i16>& valori);
+ChartData CategoryChart(TextView title, const PerCategory<Text>& names, const PerCategory<i16>& count,
+                        const PerCategory<i16>& values);
 
 /// The pace of the runs found, in their order: as many of the first 350 places as hold more than 0. A run without a
 /// pace is among them as a point of 0, and the last run then falls off the end.
-ChartData GraficoMedie(const PaceTable& valori);
+ChartData PaceChart(const PaceTable& values);
 
 } // namespace zelvia

@@ -39,7 +39,7 @@ struct DateField : SingleField<CalendarDate> {
 
 /// A text that is entered with a selection list.
 struct ListField : SingleField<Text> {
-    ListaScelta lista;
+    SelectionList lista;
 };
 
 template <typename T>
@@ -83,10 +83,10 @@ inline constexpr auto kFields = [] {
     using R = RecordGiorno;
     return std::tuple(
         SlotField{{{}, &R::NumGiorno}}, DateField{{"Data", &R::Data}},
-        ListField{{"Percorso", &R::Percorso}, ListaScelta::Percorso},
-        ListField{{"Lunghezza", &R::Lunghezza}, ListaScelta::Lunghezza}, NumberField<i16>{{"Km", &R::Km}, {0, 500}},
-        NumberField<i16>{{"Metri", &R::Metri}, {0, 999}}, ListField{{"Andatura", &R::Modo}, ListaScelta::Modo},
-        ListField{{"Terreno", &R::Fondo}, ListaScelta::Fondo}, ListField{{"Tipo", &R::Tipo}, ListaScelta::Tipo},
+        ListField{{"Percorso", &R::Percorso}, SelectionList::Percorso},
+        ListField{{"Lunghezza", &R::Lunghezza}, SelectionList::Lunghezza}, NumberField<i16>{{"Km", &R::Km}, {0, 500}},
+        NumberField<i16>{{"Metri", &R::Metri}, {0, 999}}, ListField{{"Andatura", &R::Modo}, SelectionList::Modo},
+        ListField{{"Terreno", &R::Fondo}, SelectionList::Fondo}, ListField{{"Tipo", &R::Tipo}, SelectionList::Tipo},
         NumberField<i16>{{"Ora Inizio, ore", &R::OraInizio}, {0, 24}},
         NumberField<i16>{{"Ora Inizio, minuti", &R::MinutiInizio}, {0, 59}},
         NumberField<i16>{{"Ora Inizio, secondi", &R::SecondiInizio}, {0, 59}},
@@ -94,9 +94,9 @@ inline constexpr auto kFields = [] {
         NumberField<i16>{{"Ora Fine, minuti", &R::MinutiFine}, {0, 59}},
         NumberField<i16>{{"Ora Fine, secondi", &R::SecondiFine}, {0, 59}},
         TimeField{{"Tempo", &R::TempoImpiegato}, "0:00:00"}, TimeField{{"Media", &R::MediaKm}, "0:00"},
-        SplitsField{"Tempi Km"}, ListField{{"Stagione", &R::Stagione}, ListaScelta::Stagione},
-        ListField{{"Meteo", &R::TempoAtm}, ListaScelta::TempoAtm},
-        ListField{{"Temperatura", &R::Temperatura}, ListaScelta::Temperatura},
+        SplitsField{"Tempi Km"}, ListField{{"Stagione", &R::Stagione}, SelectionList::Stagione},
+        ListField{{"Meteo", &R::TempoAtm}, SelectionList::TempoAtm},
+        ListField{{"Temperatura", &R::Temperatura}, SelectionList::Temperatura},
         NumberField<i32>{{"Corridori", &R::Corridori}, {1, 100000}}, NumberField<i16>{{"Peso", &R::Peso}, {0, 150}},
         NumberField<i16>{{"Ripetizioni", &R::Ripetizioni}, {0, 99}},
         NumberField<i16>{{"Ripetizioni, metri", &R::RipetizioniDistanza}, {0, 10000, 100}},

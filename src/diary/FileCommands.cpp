@@ -28,18 +28,18 @@ constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA 
 constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
 
 /// Why a diary can't be kept under the path chosen, or nothing: its folder has to be one.
-Text RefusalOfFolder(const Text& diario, const Text& scelto)
+Text RefusalOfFolder(const Text& diary, const Text& chosen)
 {
-    Text cartella;
+    Text folder;
     // A path in another folder is refused after the dialog.
-    if (CAPTIONPATH(diario, scelto) == 0) {
-        TrapWith([&] { cartella += FolderOfDiary(scelto); }, [](const ErroreRunTime&) {});
+    if (CAPTIONPATH(diary, chosen) == 0) {
+        TrapWith([&] { folder += FolderOfDiary(chosen); }, [](const ErroreRunTime&) {});
     }
-    if (cartella.empty() || CanBeFolder(cartella)) {
+    if (folder.empty() || CanBeFolder(folder)) {
         return {};
     }
     return " LA CARTELLA DEL DIARIO AVREBBE IL NOME DI UN FILE CHE C'E' GIA' :  " +
-           Mid(cartella, InStrRev(cartella, "\\") + 1) + "   ";
+           Mid(folder, InStrRev(folder, "\\") + 1) + "   ";
 }
 
 /// Points CartellaDiario somewhere else for as long as it lives.
@@ -60,30 +60,30 @@ private:
 class FileCommands::Attempt
 {
 public:
-    /// The choice has to be in the folder of `diario`.
-    Attempt(DiaryPage& page, TextView title, bool opens, Text diario)
-        : page_(page), title_(title), opens_(opens), diario_(std::move(diario))
+    /// The choice has to be in the folder of `diary`.
+    Attempt(DiaryPage& page, TextView title, bool opens, Text diary)
+        : page_(page), title_(title), opens_(opens), diary_(std::move(diary))
     {
     }
 
     void Choose()
     {
         page_.ChooseFile(
-            {title_, opens_, [diario = diario_](const Text& scelto) { return RefusalOfFolder(diario, scelto); }});
+            {title_, opens_, [diary = diary_](const Text& chosen) { return RefusalOfFolder(diary, chosen); }});
     }
 
     /// The name chosen. Raises error 32755 after the refusal's box when it is in another folder; the dialog then
-    /// holds `diario` again.
+    /// holds `diary` again.
     Text Checked()
     {
-        Text& scelto = page_.ChosenName();
-        if (CAPTIONPATH(diario_, scelto) != 0) {
-            scelto = diario_;
+        Text& chosen = page_.ChosenName();
+        if (CAPTIONPATH(diary_, chosen) != 0) {
+            chosen = diary_;
             MsgBox(opens_ ? kRefusedOpen : kRefusedSave, MsgButtons::OK, MsgIcon::Critical);
             refused_ = true;
             throw ErroreRunTime(Errore::Annullato);
         }
-        return scelto;
+        return chosen;
     }
 
     /// Runs the command. A refused choice has it run `again`; a cancelled dialog ends it silently; any other
@@ -108,13 +108,13 @@ private:
     DiaryPage& page_;
     TextView title_;
     bool opens_;
-    Text diario_;
+    Text diary_;
     bool refused_ = false;
 };
 
-void FileCommands::ChiediSalvataggio(i16& annullato)
+void FileCommands::ChiediSalvataggio(i16& cancelled)
 {
-    annullato = 0;
+    cancelled = 0;
     page_.AssegnaCampi();
     if (FileModificato != 1) {
         return;
@@ -123,13 +123,13 @@ void FileCommands::ChiediSalvataggio(i16& annullato)
                    MsgIcon::Information)) {
     case MsgAnswer::Yes: mnuFileSave_Click(); break;
     case MsgAnswer::No: FileModificato = 0; break;
-    default: annullato = 1; break;
+    default: cancelled = 1; break;
     }
 }
 
 void FileCommands::mnuFileSave_Click()
 {
-    CMouse puntatore;
+    CMouse pointer;
     Attempt attempt(page_, "Salva con nome", false, session.NomeFile);
     attempt.Run(
         [&] {
@@ -137,9 +137,9 @@ void FileCommands::mnuFileSave_Click()
             if (page_.ChosenName().empty()) {
                 attempt.Choose();
             }
-            const Text scelto = attempt.Checked();
-            puntatore.SetPointer(MousePointer::Hourglass);
-            SalvaDiario(scelto);
+            const Text chosen = attempt.Checked();
+            pointer.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(chosen);
             FileModificato = 0;
             SaveCompanions();
         },
@@ -148,17 +148,17 @@ void FileCommands::mnuFileSave_Click()
 
 void FileCommands::mnuFileSaveAs_Click()
 {
-    CMouse puntatore;
+    CMouse pointer;
     Attempt attempt(page_, "Salva con nome", false, session.NomeFile);
     attempt.Run(
         [&] {
             page_.AssegnaCampi();
             attempt.Choose();
-            const Text scelto = attempt.Checked();
-            puntatore.SetPointer(MousePointer::Hourglass);
-            SalvaDiario(scelto);
+            const Text chosen = attempt.Checked();
+            pointer.SetPointer(MousePointer::Hourglass);
+            SalvaDiario(chosen);
             FileModificato = 0;
-            const OtherFolder copia(CAPTIONDIR(scelto));
+            const OtherFolder copy(CAPTIONDIR(chosen));
             if (FilesIn(CartellaDiario).empty()) {
                 if (FindFolder(CartellaDiario).empty()) {
                     MakeFolder(CartellaDiario);
@@ -182,20 +182,20 @@ void FileCommands::mnuFileOpen_Click()
 void FileCommands::OpenDiary()
 {
     std::optional<Session> kept;
-    bool aperto = false;
+    bool opened = false;
     Attempt attempt(page_, "Apri", true, session.NomeFile);
     attempt.Run(
         [&] {
-            i16 annullato;
-            ChiediSalvataggio(annullato);
-            if (annullato == 1) {
+            i16 cancelled;
+            ChiediSalvataggio(cancelled);
+            if (cancelled == 1) {
                 return;
             }
             kept = session;
             session = kept->ForOtherDiary();
             attempt.Choose();
             session.NomeFile = attempt.Checked();
-            aperto = true;
+            opened = true;
             ReadOpenedDiary();
         },
         "mnuFileOpen - ERRORE : ", [this] { OpenDiary(); },
@@ -205,7 +205,7 @@ void FileCommands::OpenDiary()
             }
         });
     // Also when reading it has failed half-way: what the other windows hold must not be saved there.
-    if (aperto) {
+    if (opened) {
         page_.ShowOtherDiary();
     }
 }
@@ -242,9 +242,9 @@ void FileCommands::mnuFileNuovo_Click()
         if (page_.CalendarStays()) {
             return;
         }
-        i16 annullato;
-        ChiediSalvataggio(annullato);
-        if (annullato == 1) {
+        i16 cancelled;
+        ChiediSalvataggio(cancelled);
+        if (cancelled == 1) {
             return;
         }
         const Session kept = session;
@@ -279,9 +279,9 @@ void FileCommands::ShowNewDiary()
     page_.ShowOtherDiary();
 }
 
-void FileCommands::SalvaFileNuovo(const Text& percorso)
+void FileCommands::SalvaFileNuovo(const Text& path)
 {
-    Attempt attempt(page_, "Nuovo file", false, percorso);
+    Attempt attempt(page_, "Nuovo file", false, path);
     attempt.Run(
         [&] {
             page_.ChosenName().clear();
@@ -296,7 +296,7 @@ void FileCommands::SalvaFileNuovo(const Text& percorso)
             session.EsitoDir = FindFolder(CartellaDiario);
             page_.SetBusy(false);
         },
-        "SalvaFileNuovo - ERRORE : ", [&] { SalvaFileNuovo(percorso); }, [this] { NuovoAnnullato = 1; });
+        "SalvaFileNuovo - ERRORE : ", [&] { SalvaFileNuovo(path); }, [this] { NuovoAnnullato = 1; });
 }
 
 } // namespace zelvia

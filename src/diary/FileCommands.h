@@ -37,7 +37,7 @@ public:
     virtual void ShowTableName() = 0;
     /// Reads the active table and shows the row of the day.
     virtual void ShowActiveTable() = 0;
-    virtual void ShowList(ListaScelta lista) = 0;
+    virtual void ShowList(SelectionList list) = 0;
     /// Has the other windows that are open show the calendar and the tables of the diary that is open now.
     virtual void ShowOtherDiary() = 0;
     /// True when the calendar's window is open with changes and the user wants to stay with them.
@@ -64,10 +64,10 @@ public:
     void mnuFileNuovo_Click();
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
-    /// Asks to save what changed; `annullato` becomes 1 when the user cancels.
-    void ChiediSalvataggio(i16& annullato);
-    void NuovoFile(const Text& percorso) { SalvaFileNuovo(percorso); }
-    void SalvaFileNuovo(const Text& percorso);
+    /// Asks to save what changed; `cancelled` becomes 1 when the user cancels.
+    void ChiediSalvataggio(i16& cancelled);
+    void NuovoFile(const Text& path) { SalvaFileNuovo(path); }
+    void SalvaFileNuovo(const Text& path);
 
     void CaricaNomeFile();
     /// The counterpart of CaricaNomeFile: writes NomeFile to the pointer file of the program's folder.
@@ -75,8 +75,8 @@ public:
     void NomeFleListe();
 
     void InizializzaListe();
-    void SalvaLista(ListaScelta lista);
-    void CaricaLista(ListaScelta lista);
+    void SalvaLista(SelectionList list);
+    void CaricaLista(SelectionList list);
     void CaricaListe();
 
 private:
@@ -101,7 +101,7 @@ private:
 };
 
 /// The range of the dates that the page shows.
-inline constexpr CalendarDate kDataMinima(2001, 1, 1);
-inline constexpr CalendarDate kDataMassima(2099, 12, 31);
+inline constexpr CalendarDate kFirstDate(2001, 1, 1);
+inline constexpr CalendarDate kLastDate(2099, 12, 31);
 
 } // namespace zelvia

@@ -51,7 +51,7 @@ void FileCommands::Start()
 
 void FileCommands::SetToday()
 {
-    DataCorrente = std::clamp(Date(), kDataMinima, kDataMassima);
+    DataCorrente = std::clamp(Date(), kFirstDate, kLastDate);
 }
 
 void FileCommands::CaricaNomeFile()
@@ -132,45 +132,45 @@ void FileCommands::LoadCompanions()
 void FileCommands::InizializzaListe()
 {
     Trap("InizializzaListe - ERRORE : ", [this] {
-        for (const ListaScelta lista : kTutteLeListe) {
-            const auto voci = VociIniziali(lista);
-            VociDi(lista).assign(voci.begin(), voci.end());
-            page_.ShowList(lista);
+        for (const SelectionList list : kAllLists) {
+            const auto entries = FirstEntries(list);
+            EntriesOf(list).assign(entries.begin(), entries.end());
+            page_.ShowList(list);
         }
     });
 }
 
-void FileCommands::SalvaLista(ListaScelta lista)
+void FileCommands::SalvaLista(SelectionList list)
 {
-    Trap("SalvaLista" + Text(NomeLista(lista)) + " - ERRORE : ", [&] { ScriviLista(FileLista(lista), VociDi(lista)); });
+    Trap("SalvaLista" + Text(ListName(list)) + " - ERRORE : ", [&] { WriteEntries(ListPath(list), EntriesOf(list)); });
 }
 
-void FileCommands::CaricaLista(ListaScelta lista)
+void FileCommands::CaricaLista(SelectionList list)
 {
     // The name of the temperatures' routine lacks a letter, and so does its report.
-    const Text nome = lista == ListaScelta::Temperatura ? "Teperatura" : Text(NomeLista(lista));
+    const Text name = list == SelectionList::Temperatura ? "Teperatura" : Text(ListName(list));
     const auto read = [&] {
-        LeggiLista(FileLista(lista), VociDi(lista));
-        page_.ShowList(lista);
+        ReadEntries(ListPath(list), EntriesOf(list));
+        page_.ShowList(list);
     };
     TrapWith(read, [&](const ErroreRunTime& error) {
         // As far as it was read.
-        page_.ShowList(lista);
-        ReportError("CaricaLista" + nome + " - ERRORE : ", error);
+        page_.ShowList(list);
+        ReportError("CaricaLista" + name + " - ERRORE : ", error);
     });
 }
 
 void FileCommands::SalvaListe()
 {
-    for (const ListaScelta lista : kListeSuFile) {
-        SalvaLista(lista);
+    for (const SelectionList list : kFiledLists) {
+        SalvaLista(list);
     }
 }
 
 void FileCommands::CaricaListe()
 {
-    for (const ListaScelta lista : kListeSuFile) {
-        CaricaLista(lista);
+    for (const SelectionList list : kFiledLists) {
+        CaricaLista(list);
     }
 }
 

@@ -25,24 +25,24 @@ std::ptrdiff_t ColonFrom(TextView text, std::ptrdiff_t from)
 
 } // namespace
 
-void ListaOrdinata::Clear(int posto)
+void ListaOrdinata::Clear(int place)
 {
-    VociGiorno[posto] = 0;
-    VociOre[posto] = 0;
-    VociMinuti[posto] = 0;
-    VociSecondi[posto] = 0;
-    VociMedia[posto].clear();
-    VociData[posto] = CalendarDate(2000, 1, 1);
+    VociGiorno[place] = 0;
+    VociOre[place] = 0;
+    VociMinuti[place] = 0;
+    VociSecondi[place] = 0;
+    VociMedia[place].clear();
+    VociData[place] = CalendarDate(2000, 1, 1);
 }
 
-void ListaOrdinata::Copy(int posto, const ListaOrdinata& from, int source)
+void ListaOrdinata::Copy(int place, const ListaOrdinata& from, int source)
 {
-    VociGiorno[posto] = from.VociGiorno[source];
-    VociOre[posto] = from.VociOre[source];
-    VociMinuti[posto] = from.VociMinuti[source];
-    VociSecondi[posto] = from.VociSecondi[source];
-    VociMedia[posto] = from.VociMedia[source];
-    VociData[posto] = from.VociData[source];
+    VociGiorno[place] = from.VociGiorno[source];
+    VociOre[place] = from.VociOre[source];
+    VociMinuti[place] = from.VociMinuti[source];
+    VociSecondi[place] = from.VociSecondi[source];
+    VociMedia[place] = from.VociMedia[source];
+    VociData[place] = from.VociData[source];
 }
 
 void ListaOrdinata::CreaLista()
@@ -87,18 +87,18 @@ void ListaOrdinata::Incrementa()
 int ListaOrdinata::SmallestPlace() const
 {
     int found = 0;
-    i16 ore = 99;
-    i16 minuti = 60;
-    i16 secondi = 60;
+    i16 hours = 99;
+    i16 minutes = 60;
+    i16 seconds = 60;
     for (int j = 1; j <= kCapacity; ++j) {
-        const bool candidate =
-            VociOre[j] < ore ||
-            (VociOre[j] == ore && (VociMinuti[j] < minuti || (VociMinuti[j] == minuti && VociSecondi[j] <= secondi)));
+        const bool candidate = VociOre[j] < hours ||
+                               (VociOre[j] == hours &&
+                                (VociMinuti[j] < minutes || (VociMinuti[j] == minutes && VociSecondi[j] <= seconds)));
         if (candidate && VociOre[j] + VociMinuti[j] + VociSecondi[j] > 0) {
             found = j;
-            ore = VociOre[j];
-            minuti = VociMinuti[j];
-            secondi = VociSecondi[j];
+            hours = VociOre[j];
+            minutes = VociMinuti[j];
+            seconds = VociSecondi[j];
         }
     }
     return found;
@@ -110,9 +110,9 @@ void ListaOrdinata::Ordina()
         ListaOrdinata sorted;
         sorted.CreaLista();
         int count = 0;
-        for (int posto = SmallestPlace(); posto > 0; posto = SmallestPlace()) {
-            sorted.Copy(++count, *this, posto);
-            Clear(posto);
+        for (int place = SmallestPlace(); place > 0; place = SmallestPlace()) {
+            sorted.Copy(++count, *this, place);
+            Clear(place);
         }
         for (int i = 1; i <= kCapacity; ++i) {
             Copy(i, sorted, i);
@@ -120,9 +120,9 @@ void ListaOrdinata::Ordina()
     });
 }
 
-Text ListaOrdinata::TempoDi(int posto) const
+Text ListaOrdinata::TempoDi(int place) const
 {
-    return TestoTempo({VociOre[posto], VociMinuti[posto], VociSecondi[posto]});
+    return TimeText({VociOre[place], VociMinuti[place], VociSecondi[place]});
 }
 
 void ListaOrdinata::RiempiLista()
@@ -138,20 +138,20 @@ void ListaOrdinata::RiempiListalst()
 {
     Trap("RiempiListalst - ERRORE : ", [this] {
         // An average of any other length leaves the padded text of the previous line.
-        Text media;
+        Text average;
         for (int i = 1; i <= kCapacity && VociGiorno[i] != 0; ++i) {
-            const Text posto = Text(i < 10 ? "  " : i < 100 ? " " : "") + Str(i32(i)) + Text("°"_t);
+            const Text place = Text(i < 10 ? "  " : i < 100 ? " " : "") + Str(i32(i)) + Text("°"_t);
             if (Len(VociMedia[i]) == 4) {
-                media = "   " + VociMedia[i];
+                average = "   " + VociMedia[i];
             } else if (Len(VociMedia[i]) == 5) {
-                media = "  " + VociMedia[i];
+                average = "  " + VociMedia[i];
             }
-            Text riga = posto + "   ";
-            riga += TempoDi(i);
-            riga += media;
-            riga += "   ";
-            riga += PlainText(VociData[i]);
-            CasellaLista->AggiungiRiga(riga);
+            Text line = place + "   ";
+            line += TempoDi(i);
+            line += average;
+            line += "   ";
+            line += PlainText(VociData[i]);
+            CasellaLista->AddLine(line);
         }
     });
 }
@@ -165,18 +165,18 @@ void ListaOrdinata::Posizione()
                 found = i;
             }
         }
-        CasellaLista->Seleziona(found - 1);
+        CasellaLista->Select(found - 1);
     });
 }
 
-void AggiungiCorsa(ListaOrdinata& lista, i16 giorno, TextView tempo, TextView media, CalendarDate data)
+void AddRunTo(ListaOrdinata& list, i16 day, TextView time, TextView average, CalendarDate date)
 {
-    lista.LOgiorno(giorno);
-    lista.LOtempo(tempo);
-    lista.LOmedia(media);
-    lista.LOdata(data);
-    lista.Trasforma();
-    lista.Incrementa();
+    list.LOgiorno(day);
+    list.LOtempo(time);
+    list.LOmedia(average);
+    list.LOdata(date);
+    list.Trasforma();
+    list.Incrementa();
 }
 
 } // namespace zelvia

@@ -14,13 +14,13 @@ namespace zelvia
 {
 
 /// A list box that shows a classification, one line per entry.
-class CasellaTempi
+class TimesBox
 {
 public:
-    virtual ~CasellaTempi() = default;
-    virtual void AggiungiRiga(TextView riga) = 0;
+    virtual ~TimesBox() = default;
+    virtual void AddLine(TextView line) = 0;
     /// From 0 on; -1 selects nothing.
-    virtual void Seleziona(int indice) = 0;
+    virtual void Select(int indice) = 0;
 };
 
 /// Adds a row to a list view that shows a classification: place, time, average and date.
@@ -35,10 +35,10 @@ public:
     void CreaLista();
 
     // The entry being assembled.
-    void LOgiorno(i16 giorno) { GiornoCella = giorno; }
-    void LOtempo(TextView tempo) { TempoCella = tempo; }
-    void LOmedia(TextView media) { MediaCella = media; }
-    void LOdata(CalendarDate data) { DataCella = data; }
+    void LOgiorno(i16 day) { GiornoCella = day; }
+    void LOtempo(TextView time) { TempoCella = time; }
+    void LOmedia(TextView average) { MediaCella = average; }
+    void LOdata(CalendarDate date) { DataCella = date; }
 
     /// Splits the entry's time. Hours and minutes without a colon of their own keep those of the previous entry; only
     /// the seconds are always set.
@@ -53,7 +53,7 @@ public:
 
     void NuovaLista(TimesView view) { VistaLista = std::move(view); }
     void RiempiLista();
-    void NuovaListalst(CasellaTempi* casella) { CasellaLista = casella; }
+    void NuovaListalst(TimesBox* casella) { CasellaLista = casella; }
     void RiempiListalst();
 
     /// Selects the row of the day assembled last, or none.
@@ -65,9 +65,9 @@ private:
     using Voci = BoundedArray<T, 0, kCapacity>;
 
     int SmallestPlace() const;
-    void Clear(int posto);
-    void Copy(int posto, const ListaOrdinata& from, int source);
-    Text TempoDi(int posto) const;
+    void Clear(int place);
+    void Copy(int place, const ListaOrdinata& from, int source);
+    Text TempoDi(int place) const;
 
     i16 GiornoCella;
     Text TempoCella;
@@ -84,10 +84,10 @@ private:
     Voci<Text> VociMedia;
     Voci<CalendarDate> VociData;
     TimesView VistaLista;
-    CasellaTempi* CasellaLista = nullptr;
+    TimesBox* CasellaLista = nullptr;
 };
 
 /// Adds one run. Raises error 9 beyond 366 entries.
-void AggiungiCorsa(ListaOrdinata& lista, i16 giorno, TextView tempo, TextView media, CalendarDate data);
+void AddRunTo(ListaOrdinata& list, i16 day, TextView time, TextView average, CalendarDate date);
 
 } // namespace zelvia

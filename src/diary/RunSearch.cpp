@@ -14,40 +14,39 @@ namespace zelvia
 namespace
 {
 
-struct Periodo {
-    std::optional<CalendarDate> inizio;
-    std::optional<CalendarDate> fine;
+struct Period {
+    std::optional<CalendarDate> start;
+    std::optional<CalendarDate> end;
 };
 
-std::optional<CalendarDate> DateOf(i16 giorno, i16 mese, i16 anno)
+std::optional<CalendarDate> DateOf(i16 day, i16 month, i16 year)
 {
-    if (giorno <= 0) {
+    if (day <= 0) {
         return std::nullopt;
     }
-    return DateValue(PlainText(giorno) + "/" + PlainText(mese) + "/" + PlainText(anno));
+    return DateValue(PlainText(day) + "/" + PlainText(month) + "/" + PlainText(year));
 }
 
-bool Fulfils(const RecordGiorno& giorno, const CondizioniRicerca& condizioni, const CondizioneCategoria& condizione)
+bool Fulfils(const RecordGiorno& day, const SearchCriteria& criteria, const CategoryCriterion& criterion)
 {
-    const Statistica& statistica = StatisticaDi(condizione.categoria);
-    if (condizione.testo != nullptr) {
-        const Text& cercato = condizioni.*condizione.testo;
-        return cercato.empty() || SameText(cercato, statistica.testo(giorno));
+    const Statistic& statistic = StatisticOf(criterion.category);
+    if (criterion.text != nullptr) {
+        const Text& sought = criteria.*criterion.text;
+        return sought.empty() || SameText(sought, statistic.text(day));
     }
-    const i16 cercato = condizioni.*condizione.numero;
-    return cercato == 0 || i32(cercato) == statistica.numero(giorno);
+    const i16 sought = criteria.*criterion.number;
+    return sought == 0 || i32(sought) == statistic.number(day);
 }
 
-bool IsSought(const RecordGiorno& giorno, const CondizioniRicerca& condizioni, const Periodo& periodo)
+bool IsSought(const RecordGiorno& day, const SearchCriteria& criteria, const Period& period)
 {
-    if ((periodo.inizio && giorno.Data < *periodo.inizio) || (periodo.fine && giorno.Data > *periodo.fine)) {
+    if ((period.start && day.Data < *period.start) || (period.end && day.Data > *period.end)) {
         return false;
     }
     // A day with no distance is not a run.
-    return std::all_of(
-               kCondizioni.begin(), kCondizioni.end(),
-               [&](const CondizioneCategoria& condizione) { return Fulfils(giorno, condizioni, condizione); }) &&
-           giorno.Km + giorno.Metri > 0;
+    return std::all_of(kCriteria.begin(), kCriteria.end(),
+                       [&](const CategoryCriterion& criterion) { return Fulfils(day, criteria, criterion); }) &&
+           day.Km + day.Metri > 0;
 }
 
 /// Overwrites the columns of a line from `column` on, counted from 1; the line keeps its length.
@@ -60,54 +59,54 @@ void WriteAt(Text& line, std::size_t column, TextView text)
 
 /// Runs a block under the title of its routine; its error is kept. True when there was none.
 template <typename Block>
-bool Attempt(EsitoRicerca& esito, TextView titolo, Block&& block)
+bool Attempt(SearchResult& result, TextView title, Block&& block)
 {
     bool passed = true;
-    TrapWith(std::forward<Block>(block), [&](const ErroreRunTime& errore) {
+    TrapWith(std::forward<Block>(block), [&](const ErroreRunTime& error) {
         passed = false;
-        esito.errori.push_back({titolo, errore, esito.righe.size()});
+        result.errors.push_back({title, error, result.lines.size()});
     });
     return passed;
 }
 
-void AddRun(EsitoRicerca& esito, const RecordGiorno& giorno)
+void AddRun(SearchResult& result, const RecordGiorno& day)
 {
-    TotaliRicerca& totali = esito.totali;
-    totali.NumCorse += 1;
-    totali.TotKm += i32(giorno.Km);
-    totali.TotMetri += i32(giorno.Metri);
-    Attempt(esito, "Somma Tempi - ERRORE : ", [&] { SommaTempi(totali, giorno.TempoImpiegato); });
-    Attempt(esito, "Somma Media - ERRORE : ", [&] { SommaMedia(totali, giorno.MediaKm); });
-    esito.righe.push_back(RigaCorsa(giorno, totali.MinutiMedia));
+    SearchTotals& totals = result.totals;
+    totals.NumCorse += 1;
+    totals.TotKm += i32(day.Km);
+    totals.TotMetri += i32(day.Metri);
+    Attempt(result, "Somma Tempi - ERRORE : ", [&] { SommaTempi(totals, day.TempoImpiegato); });
+    Attempt(result, "Somma Media - ERRORE : ", [&] { SommaMedia(totals, day.MediaKm); });
+    result.lines.push_back(RunLine(day, totals.MinutiMedia));
 }
 
 } // namespace
 
-Text RigaCorsa(const RecordGiorno& giorno, i16 minutiMedia)
+Text RunLine(const RecordGiorno& day, i16 averageMinutes)
 {
     constexpr std::size_t columns = 43;
-    Text riga(columns, ' ');
-    WriteAt(riga, 2, TestoKm(giorno));
-    WriteAt(riga, 11, giorno.TempoImpiegato);
-    WriteAt(riga, minutiMedia <= 9 ? 23 : 22, giorno.MediaKm);
-    WriteAt(riga, 33, PlainText(giorno.Data));
-    return riga;
+    Text line(columns, ' ');
+    WriteAt(line, 2, KmText(day));
+    WriteAt(line, 11, day.TempoImpiegato);
+    WriteAt(line, averageMinutes <= 9 ? 23 : 22, day.MediaKm);
+    WriteAt(line, 33, PlainText(day.Data));
+    return line;
 }
 
-EsitoRicerca CercaCorse(const BoundedArray<RecordGiorno, 0, 366>& giorni, i16 ultimo,
-                        const CondizioniRicerca& condizioni, const TotaliRicerca& totali)
+SearchResult FindRuns(const BoundedArray<RecordGiorno, 0, 366>& days, i16 last, const SearchCriteria& criteria,
+                      const SearchTotals& totals)
 {
-    EsitoRicerca esito{totali, {}, {}, false};
-    esito.interrotta = !Attempt(esito, "Ricerca Medie - ERRORE : ", [&] {
-        const Periodo periodo{DateOf(condizioni.GiornoInizio, condizioni.MeseInizio, condizioni.AnnoInizio),
-                              DateOf(condizioni.GiornoFine, condizioni.MeseFine, condizioni.AnnoFine)};
-        for (i16 d = 1; d <= ultimo; d += 1) {
-            if (IsSought(giorni[d], condizioni, periodo)) {
-                AddRun(esito, giorni[d]);
+    SearchResult result{totals, {}, {}, false};
+    result.ended = !Attempt(result, "Ricerca Medie - ERRORE : ", [&] {
+        const Period period{DateOf(criteria.GiornoInizio, criteria.MeseInizio, criteria.AnnoInizio),
+                            DateOf(criteria.GiornoFine, criteria.MeseFine, criteria.AnnoFine)};
+        for (i16 d = 1; d <= last; d += 1) {
+            if (IsSought(days[d], criteria, period)) {
+                AddRun(result, days[d]);
             }
         }
     });
-    return esito;
+    return result;
 }
 
 } // namespace zelvia

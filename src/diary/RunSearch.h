@@ -17,7 +17,7 @@ namespace zelvia
 {
 
 /// The conditions that a run must meet. A date whose day is 0, an empty text and a number of 0 set no condition.
-struct CondizioniRicerca {
+struct SearchCriteria {
     i16 GiornoInizio;
     i16 MeseInizio;
     i16 AnnoInizio;
@@ -39,50 +39,50 @@ struct CondizioniRicerca {
 };
 
 /// The condition on one category: a text or a number.
-struct CondizioneCategoria {
-    Categoria categoria;
-    Text CondizioniRicerca::*testo;
-    i16 CondizioniRicerca::*numero = nullptr;
+struct CategoryCriterion {
+    Categoria category;
+    Text SearchCriteria::*text;
+    i16 SearchCriteria::*number = nullptr;
 };
 
 /// All twelve, in the order of their buttons.
-inline constexpr std::array<CondizioneCategoria, 12> kCondizioni = {{
-    {Categoria::Percorso, &CondizioniRicerca::CercaPercorso},
-    {Categoria::Lunghezza, &CondizioniRicerca::CercaLunghezza},
-    {Categoria::Km, &CondizioniRicerca::CercaKm},
-    {Categoria::Andatura, &CondizioniRicerca::CercaAndatura},
-    {Categoria::Fondo, &CondizioniRicerca::CercaFondo},
-    {Categoria::Tipo, &CondizioniRicerca::CercaTipo},
-    {Categoria::Stagione, &CondizioniRicerca::CercaStagione},
-    {Categoria::Meteo, &CondizioniRicerca::CercaMeteo},
-    {Categoria::Temperatura, &CondizioniRicerca::CercaTemperatura},
-    {Categoria::Corridori, nullptr, &CondizioniRicerca::CercaCorridori},
-    {Categoria::Peso, nullptr, &CondizioniRicerca::CercaPeso},
-    {Categoria::Ripetizioni, &CondizioniRicerca::CercaRipetizioni},
+inline constexpr std::array<CategoryCriterion, 12> kCriteria = {{
+    {Categoria::Percorso, &SearchCriteria::CercaPercorso},
+    {Categoria::Lunghezza, &SearchCriteria::CercaLunghezza},
+    {Categoria::Km, &SearchCriteria::CercaKm},
+    {Categoria::Andatura, &SearchCriteria::CercaAndatura},
+    {Categoria::Fondo, &SearchCriteria::CercaFondo},
+    {Categoria::Tipo, &SearchCriteria::CercaTipo},
+    {Categoria::Stagione, &SearchCriteria::CercaStagione},
+    {Categoria::Meteo, &SearchCriteria::CercaMeteo},
+    {Categoria::Temperatura, &SearchCriteria::CercaTemperatura},
+    {Categoria::Corridori, nullptr, &SearchCriteria::CercaCorridori},
+    {Categoria::Peso, nullptr, &SearchCriteria::CercaPeso},
+    {Categoria::Ripetizioni, &SearchCriteria::CercaRipetizioni},
 }};
 
 /// An error of a search, under the title of the routine that it belongs to.
-struct ErroreRicerca {
-    TextView titolo;
-    ErroreRunTime errore;
-    std::size_t righe; ///< How many lines were listed before it.
+struct SearchError {
+    TextView title;
+    ErroreRunTime error;
+    std::size_t lines; ///< How many lines were listed before it.
 };
 
-struct EsitoRicerca {
-    TotaliRicerca totali;
-    std::vector<Text> righe;           ///< A line for each run found.
-    std::vector<ErroreRicerca> errori; ///< In the order in which they arose.
-    bool interrotta = false;           ///< The search ended before the totals, with the last of the errors.
+struct SearchResult {
+    SearchTotals totals;
+    std::vector<Text> lines;         ///< A line for each run found.
+    std::vector<SearchError> errors; ///< In the order in which they arose.
+    bool ended = false;              ///< The search ended before the totals, with the last of the errors.
 };
 
-/// Finds the runs among the days 1..`ultimo` and adds them up; the sums are not carried over yet. `totali` are those of
+/// Finds the runs among the days 1..`last` and adds them up; the sums are not carried over yet. `totals` are those of
 /// the previous search, emptied. A time or an average that can't be read is reported and left out; a period that is not
 /// a date ends the search.
-EsitoRicerca CercaCorse(const BoundedArray<RecordGiorno, 0, 366>& giorni, i16 ultimo,
-                        const CondizioniRicerca& condizioni, const TotaliRicerca& totali);
+SearchResult FindRuns(const BoundedArray<RecordGiorno, 0, 366>& days, i16 last, const SearchCriteria& criteria,
+                      const SearchTotals& totals);
 
 /// A run as a line of 43 columns: its distance from column 2 on, its time from 11, its average from 23, or from 22 when
-/// `minutiMedia` has two digits, and its date from 33.
-Text RigaCorsa(const RecordGiorno& giorno, i16 minutiMedia);
+/// `averageMinutes` has two digits, and its date from 33.
+Text RunLine(const RecordGiorno& day, i16 averageMinutes);
 
 } // namespace zelvia

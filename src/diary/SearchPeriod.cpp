@@ -7,24 +7,24 @@
 namespace zelvia
 {
 
-using namespace CampoPeriodo;
+using namespace PeriodBox;
 
 namespace
 {
 
 /// The boxes of one of the two dates, and the messages of its repairs.
-struct Estremo {
-    Campo giorno;
-    Campo mese;
-    Campo anno;
+struct PeriodEnd {
+    Box day;
+    Box month;
+    Box year;
     TextView max30;
     TextView max28;
-    TextView minGiorno;
-    TextView minMese;
-    TextView minAnno;
+    TextView minDay;
+    TextView minMonth;
+    TextView minYear;
 };
 
-constexpr Estremo kEstremi[] = {
+constexpr PeriodEnd kEnds[] = {
     {GiornoInizio, MeseInizio, AnnoInizio, "DATA INIZIO  MAX 30 GIORNI                 ",
      "DATA INIZIO  MAX 28 GIORNI                 ", "DATA INIZIO  MIN GIORNO 1                 ",
      "DATA INIZIO  MIN MESE  1               ", "DATA INIZIO  ANNO 2007                 "},
@@ -35,47 +35,47 @@ constexpr Estremo kEstremi[] = {
 
 constexpr int kFirstYear = 2007;
 
-void Check(const Estremo& estremo, TestiPeriodo& testi, std::vector<CorrezionePeriodo>& correzioni)
+void Check(const PeriodEnd& end, PeriodEntries& texts, std::vector<PeriodCorrection>& corrections)
 {
-    const auto number = [&](Campo campo) { return Val(testi[campo]); };
-    const auto correct = [&](TextView messaggio, Campo campo, TextView valore) {
-        testi[campo] = Text(valore);
-        correzioni.push_back({messaggio, campo, valore});
+    const auto number = [&](Box box) { return Val(texts[box]); };
+    const auto correct = [&](TextView message, Box box, TextView value) {
+        texts[box] = Text(value);
+        corrections.push_back({message, box, value});
     };
-    const double mese = number(estremo.mese);
-    if ((mese == 4 || mese == 6 || mese == 9 || mese == 11) && number(estremo.giorno) > 30) {
-        correct(estremo.max30, estremo.giorno, "30");
+    const double month = number(end.month);
+    if ((month == 4 || month == 6 || month == 9 || month == 11) && number(end.day) > 30) {
+        correct(end.max30, end.day, "30");
     }
-    if (mese == 2 && number(estremo.giorno) > 28) {
-        correct(estremo.max28, estremo.giorno, "28");
+    if (month == 2 && number(end.day) > 28) {
+        correct(end.max28, end.day, "28");
     }
-    if (number(estremo.giorno) < 1 && number(estremo.mese) < 1 && number(estremo.anno) < 1) {
+    if (number(end.day) < 1 && number(end.month) < 1 && number(end.year) < 1) {
         return;
     }
-    if (number(estremo.giorno) < 1) {
-        correct(estremo.minGiorno, estremo.giorno, "1");
+    if (number(end.day) < 1) {
+        correct(end.minDay, end.day, "1");
     }
-    if (number(estremo.mese) < 1) {
-        correct(estremo.minMese, estremo.mese, "1");
+    if (number(end.month) < 1) {
+        correct(end.minMonth, end.month, "1");
     }
-    if (number(estremo.anno) < kFirstYear) {
-        correct(estremo.minAnno, estremo.anno, "2007");
+    if (number(end.year) < kFirstYear) {
+        correct(end.minYear, end.year, "2007");
     }
 }
 
 } // namespace
 
-ControlloPeriodo ControllaPeriodo(TestiPeriodo testi)
+PeriodCheck CheckPeriod(PeriodEntries texts)
 {
-    ControlloPeriodo controllo;
-    for (const Estremo& estremo : kEstremi) {
-        Check(estremo, testi, controllo.correzioni);
+    PeriodCheck check;
+    for (const PeriodEnd& end : kEnds) {
+        Check(end, texts, check.corrections);
     }
-    const auto number = [&](Campo campo) { return Val(testi[campo]); };
-    controllo.invertito = number(GiornoInizio) >= 1 &&
-                          (number(MeseInizio) > number(MeseFine) ||
-                           (number(MeseInizio) == number(MeseFine) && number(GiornoInizio) > number(GiornoFine)));
-    return controllo;
+    const auto number = [&](Box box) { return Val(texts[box]); };
+    check.reversed = number(GiornoInizio) >= 1 &&
+                     (number(MeseInizio) > number(MeseFine) ||
+                      (number(MeseInizio) == number(MeseFine) && number(GiornoInizio) > number(GiornoFine)));
+    return check;
 }
 
 } // namespace zelvia

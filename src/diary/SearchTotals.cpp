@@ -47,96 +47,96 @@ Integer Whole(Integer total, int unit)
 
 } // namespace
 
-void AzzeraTotali(TotaliRicerca& totali)
+void ClearTotals(SearchTotals& totals)
 {
-    TotaliRicerca empty;
-    empty.MinutiMedia = totali.MinutiMedia;
-    empty.Medie = totali.Medie;
+    SearchTotals empty;
+    empty.MinutiMedia = totals.MinutiMedia;
+    empty.Medie = totals.Medie;
     for (int i = 1; i <= kChartedRuns; ++i) {
         empty.Medie[i] = 0;
     }
-    totali = empty;
+    totals = empty;
 }
 
-void SommaTempi(TotaliRicerca& totali, TextView tempo)
+void SommaTempi(SearchTotals& totals, TextView time)
 {
-    const auto [ore, minuti, secondi] = NumbersOf<3>(tempo);
-    totali.TotOre += i32(ore);
-    totali.TotMinuti += minuti;
-    totali.TotSecondi += secondi;
+    const auto [hours, minutes, seconds] = NumbersOf<3>(time);
+    totals.TotOre += i32(hours);
+    totals.TotMinuti += minutes;
+    totals.TotSecondi += seconds;
 }
 
-void SommaMedia(TotaliRicerca& totali, TextView media)
+void SommaMedia(SearchTotals& totals, TextView average)
 {
-    const auto [minuti, secondi] = NumbersOf<2>(media);
-    totali.MinutiMedia = minuti;
-    totali.Medie[totali.NumCorse] = LocaleSingle(PlainText(minuti) + (secondi <= 9 ? ",0" : ",") + PlainText(secondi));
-    totali.TotMediaMinuti += i32(minuti);
-    totali.TotMediaSecondi += i32(secondi);
+    const auto [minutes, seconds] = NumbersOf<2>(average);
+    totals.MinutiMedia = minutes;
+    totals.Medie[totals.NumCorse] = LocaleSingle(PlainText(minutes) + (seconds <= 9 ? ",0" : ",") + PlainText(seconds));
+    totals.TotMediaMinuti += i32(minutes);
+    totals.TotMediaSecondi += i32(seconds);
 }
 
-void SommaKm(TotaliRicerca& totali)
+void SommaKm(SearchTotals& totals)
 {
-    if (totali.TotMetri >= kPerKm) {
-        const i32 interi = Whole(totali.TotMetri, kPerKm);
-        totali.TotKm += interi;
-        totali.TotMetri -= interi * kPerKm;
+    if (totals.TotMetri >= kPerKm) {
+        const i32 whole = Whole(totals.TotMetri, kPerKm);
+        totals.TotKm += whole;
+        totals.TotMetri -= whole * kPerKm;
     }
 }
 
-void TempiTotali(TotaliRicerca& totali)
+void TempiTotali(SearchTotals& totals)
 {
-    i16 minuti;
-    if (totali.TotSecondi >= kPerMinute) {
-        minuti = Whole(totali.TotSecondi, kPerMinute);
-        totali.TotSecondi -= minuti * kPerMinute;
+    i16 minutes;
+    if (totals.TotSecondi >= kPerMinute) {
+        minutes = Whole(totals.TotSecondi, kPerMinute);
+        totals.TotSecondi -= minutes * kPerMinute;
     }
-    totali.TotMinuti += minuti;
-    if (totali.TotMinuti >= kPerMinute) {
-        const i16 ore = Whole(totali.TotMinuti, kPerMinute);
-        totali.TotMinuti -= ore * kPerMinute;
-        totali.TotOre += i32(ore);
+    totals.TotMinuti += minutes;
+    if (totals.TotMinuti >= kPerMinute) {
+        const i16 hours = Whole(totals.TotMinuti, kPerMinute);
+        totals.TotMinuti -= hours * kPerMinute;
+        totals.TotOre += i32(hours);
     }
 }
 
-void MediaTotali(TotaliRicerca& totali)
+void MediaTotali(SearchTotals& totals)
 {
-    if (totali.TotMediaMinuti < 1 && totali.TotMediaSecondi < 1) {
+    if (totals.TotMediaMinuti < 1 && totals.TotMediaSecondi < 1) {
         return;
     }
-    i32 secondi;
-    if (totali.TotMediaMinuti == 0) {
-        secondi = Whole(totali.TotMediaSecondi, totali.NumCorse.value());
-    } else if (totali.TotMediaMinuti > 0) {
-        secondi = Whole(totali.TotMediaMinuti * kPerMinute + totali.TotMediaSecondi, totali.NumCorse.value());
+    i32 seconds;
+    if (totals.TotMediaMinuti == 0) {
+        seconds = Whole(totals.TotMediaSecondi, totals.NumCorse.value());
+    } else if (totals.TotMediaMinuti > 0) {
+        seconds = Whole(totals.TotMediaMinuti * kPerMinute + totals.TotMediaSecondi, totals.NumCorse.value());
     }
-    if (secondi < kPerMinute) {
-        totali.TotMediaSecondi = secondi;
+    if (seconds < kPerMinute) {
+        totals.TotMediaSecondi = seconds;
         return;
     }
-    totali.TotMediaMinuti = Whole(secondi, kPerMinute);
-    totali.TotMediaSecondi = secondi - totali.TotMediaMinuti * kPerMinute;
+    totals.TotMediaMinuti = Whole(seconds, kPerMinute);
+    totals.TotMediaSecondi = seconds - totals.TotMediaMinuti * kPerMinute;
 }
 
-Text TestoCorse(const TotaliRicerca& totali)
+Text RunsText(const SearchTotals& totals)
 {
-    return " " + PlainText(totali.NumCorse);
+    return " " + PlainText(totals.NumCorse);
 }
 
-Text TestoDistanza(const TotaliRicerca& totali)
+Text DistanceText(const SearchTotals& totals)
 {
-    const Text km = " " + Format(totali.TotKm, "###,###");
-    return totali.TotMetri >= 1 ? km + "," + Format(totali.TotMetri, "###") : km;
+    const Text km = " " + Format(totals.TotKm, "###,###");
+    return totals.TotMetri >= 1 ? km + "," + Format(totals.TotMetri, "###") : km;
 }
 
-Text TestoTempi(const TotaliRicerca& totali)
+Text TimesText(const SearchTotals& totals)
 {
-    return " " + TestoTempo({totali.TotOre, totali.TotMinuti, totali.TotSecondi});
+    return " " + TimeText({totals.TotOre, totals.TotMinuti, totals.TotSecondi});
 }
 
-Text TestoMedia(const TotaliRicerca& totali)
+Text MeanText(const SearchTotals& totals)
 {
-    return " " + PlainText(totali.TotMediaMinuti) + ":" + Format(totali.TotMediaSecondi, "00");
+    return " " + PlainText(totals.TotMediaMinuti) + ":" + Format(totals.TotMediaSecondi, "00");
 }
 
 } // namespace zelvia

@@ -11,7 +11,7 @@ namespace zelvia
 {
 
 /// What a search adds up.
-struct TotaliRicerca {
+struct SearchTotals {
     i32 TotKm;
     i32 TotMetri;
     i32 TotOre;
@@ -25,30 +25,30 @@ struct TotaliRicerca {
 };
 
 /// Empties the totals, but of Medie only the places 1..350, and keeps MinutiMedia.
-void AzzeraTotali(TotaliRicerca& totali);
+void ClearTotals(SearchTotals& totals);
 
 /// Adds the time of a day, hours:minutes:seconds. Raises error 5, and adds nothing, when one of the three is longer
 /// than three characters; error 6 when minutes or seconds grow beyond 32767.
-void SommaTempi(TotaliRicerca& totali, TextView tempo);
+void SommaTempi(SearchTotals& totals, TextView time);
 
 /// Adds the average of the run counted last, minutes:seconds. Raises error 5, and changes nothing, when one of the two
 /// is longer than three characters; error 13, and adds nothing, when the seconds are below 0.
-void SommaMedia(TotaliRicerca& totali, TextView media);
+void SommaMedia(SearchTotals& totals, TextView average);
 
 /// Carries whole thousands of metres over to the kilometres.
-void SommaKm(TotaliRicerca& totali);
+void SommaKm(SearchTotals& totals);
 
 /// Carries the seconds over to the minutes and these to the hours. Raises error 6 when the minutes are too many.
-void TempiTotali(TotaliRicerca& totali);
+void TempiTotali(SearchTotals& totals);
 
 /// Turns the sum of the averages into their mean, each run weighing the same. Of a mean below a minute only the seconds
 /// are set: the sum of the minutes stays.
-void MediaTotali(TotaliRicerca& totali);
+void MediaTotali(SearchTotals& totals);
 
 // The totals as they are shown.
-Text TestoCorse(const TotaliRicerca& totali);
-Text TestoDistanza(const TotaliRicerca& totali);
-Text TestoTempi(const TotaliRicerca& totali);
-Text TestoMedia(const TotaliRicerca& totali);
+Text RunsText(const SearchTotals& totals);
+Text DistanceText(const SearchTotals& totals);
+Text TimesText(const SearchTotals& totals);
+Text MeanText(const SearchTotals& totals);
 
 } // namespace zelvia

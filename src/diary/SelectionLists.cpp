@@ -30,69 +30,69 @@ constexpr std::array<TextView, 17> kTempoAtm = {
     "Nebbia/Neve", "Nebbia/Neve/Ghiaccio"};
 constexpr std::array<TextView, 6> kTemperatura = {"Caldo", "Molto Caldo", "Afa", "Mite", "Freddo", "Molto Freddo"};
 
-struct Lista {
-    TextView nome;
-    std::span<const TextView> voci;
+struct NamedList {
+    TextView name;
+    std::span<const TextView> entries;
 };
 
-constexpr std::array<Lista, 8> kListe = {{{"Percorso", {}},
-                                          {"Lunghezza", kLunghezza},
-                                          {"Modo", kModo},
-                                          {"Fondo", kFondo},
-                                          {"Tipo", kTipo},
-                                          {"Stagione", kStagione},
-                                          {"TempoAtm", kTempoAtm},
-                                          {"Temperatura", kTemperatura}}};
+constexpr std::array<NamedList, 8> kLists = {{{"Percorso", {}},
+                                              {"Lunghezza", kLunghezza},
+                                              {"Modo", kModo},
+                                              {"Fondo", kFondo},
+                                              {"Tipo", kTipo},
+                                              {"Stagione", kStagione},
+                                              {"TempoAtm", kTempoAtm},
+                                              {"Temperatura", kTemperatura}}};
 
-const Lista& Riga(ListaScelta lista)
+const NamedList& RowOf(SelectionList list)
 {
-    return kListe[static_cast<std::size_t>(lista) - 1];
+    return kLists[static_cast<std::size_t>(list) - 1];
 }
 
 } // namespace
 
-TextView NomeLista(ListaScelta lista)
+TextView ListName(SelectionList list)
 {
-    return Riga(lista).nome;
+    return RowOf(list).name;
 }
 
-std::span<const TextView> VociIniziali(ListaScelta lista)
+std::span<const TextView> FirstEntries(SelectionList list)
 {
-    return Riga(lista).voci;
+    return RowOf(list).entries;
 }
 
-Text FileLista(ListaScelta lista)
+Text ListPath(SelectionList list)
 {
-    return Module1::CartellaDiario + "\\" + Text(NomeLista(lista)) + ".lsx";
+    return Module1::CartellaDiario + "\\" + Text(ListName(list)) + ".lsx";
 }
 
-std::vector<Text>& VociDi(ListaScelta lista)
+std::vector<Text>& EntriesOf(SelectionList list)
 {
-    return Module1::session.liste[static_cast<int>(lista)];
+    return Module1::session.lists[static_cast<int>(list)];
 }
 
-bool Holds(const std::vector<Text>& voci, TextView testo)
+bool Holds(const std::vector<Text>& entries, TextView text)
 {
-    return std::any_of(voci.begin(), voci.end(), [&](const Text& voce) { return SameText(voce, testo); });
+    return std::any_of(entries.begin(), entries.end(), [&](const Text& entry) { return SameText(entry, text); });
 }
 
-void ScriviLista(TextView path, const std::vector<Text>& voci)
+void WriteEntries(TextView path, const std::vector<Text>& entries)
 {
     ValueWriter file(path);
-    for (const Text& voce : voci) {
-        file.Write(voce);
+    for (const Text& entry : entries) {
+        file.Write(entry);
     }
     file.Close();
 }
 
-void LeggiLista(TextView path, std::vector<Text>& voci)
+void ReadEntries(TextView path, std::vector<Text>& entries)
 {
     ValueReader file(path);
-    voci.clear();
+    entries.clear();
     while (!file.AtEnd()) {
-        Text voce;
-        file.Input(voce);
-        voci.push_back(std::move(voce));
+        Text entry;
+        file.Input(entry);
+        entries.push_back(std::move(entry));
     }
 }
 

@@ -36,7 +36,7 @@ struct Session {
     // What stays when another diary is opened.
     i16 UltimoPeso;                              ///< Last weight above 0 up to the day on the page, kilograms.
     i32 KmAnno;                                  ///< Kilometres of the year up to the day on the page.
-    BoundedArray<std::vector<Text>, 1, 8> liste; ///< The entries of the selection lists.
+    BoundedArray<std::vector<Text>, 1, 8> lists; ///< The entries of the selection lists.
 
     friend bool operator==(const Session&, const Session&) = default;
 
@@ -46,7 +46,7 @@ struct Session {
         Session other;
         other.UltimoPeso = UltimoPeso;
         other.KmAnno = KmAnno;
-        other.liste = liste;
+        other.lists = lists;
         return other;
     }
 };

@@ -21,7 +21,7 @@ void PrintPair(Sheet& sheet, int x, int valueX, int y, TextView label, TextView 
     sheet.Print(valueX, y, value);
 }
 
-void PrintPeriod(Sheet& sheet, const SearchSheetTexts& ricerca)
+void PrintPeriod(Sheet& sheet, const SearchSheetTexts& search)
 {
     constexpr int y = 4;
     constexpr int step = 3;
@@ -33,13 +33,13 @@ void PrintPeriod(Sheet& sheet, const SearchSheetTexts& ricerca)
         }
     };
     sheet.Print(2, y, "Periodo       dal ");
-    date(15, ricerca.inizio);
+    date(15, search.start);
     sheet.SetFontItalic(false);
     sheet.Print(30, y, " al ");
-    date(33, ricerca.fine);
+    date(33, search.end);
 }
 
-void PrintConditions(Sheet& sheet, const std::array<Text, 12>& condizioni)
+void PrintConditions(Sheet& sheet, const std::array<Text, 12>& criteria)
 {
     constexpr std::array<TextView, 12> labels = {"Percorso",    "Lunghezza", "Km",       "Andatura",
                                                  "Terreno",     "Tipo",      "Stagione", "Meteo",
@@ -48,8 +48,8 @@ void PrintConditions(Sheet& sheet, const std::array<Text, 12>& condizioni)
     constexpr int firstLine = 6;
     for (std::size_t i = 0; i < half; ++i) {
         const int y = firstLine + 2 * static_cast<int>(i);
-        PrintPair(sheet, 2, 15, y, labels[i], condizioni[i]);
-        PrintPair(sheet, 45, 60, y, labels[i + half], condizioni[i + half]);
+        PrintPair(sheet, 2, 15, y, labels[i], criteria[i]);
+        PrintPair(sheet, 45, 60, y, labels[i + half], criteria[i + half]);
     }
 }
 
@@ -60,27 +60,27 @@ void PrintHeads(Sheet& sheet, int y)
     sheet.Print(heads);
 }
 
-void PrintRun(Sheet& sheet, int y, const Text& riga)
+void PrintRun(Sheet& sheet, int y, const Text& line)
 {
-    const auto columns = [&](int from, int to) { return Trim(Mid(riga, from, to - from + 1)); };
-    const Text media = columns(22, 27);
+    const auto columns = [&](int from, int to) { return Trim(Mid(line, from, to - from + 1)); };
+    const Text average = columns(22, 27);
     sheet.SetFontItalic(true);
     sheet.Print(2, y, columns(2, 9));
     sheet.Print(10, y, columns(11, 18));
-    sheet.Print(Val(Left(media, 2)) > 9 ? 21 : 22, y, media);
+    sheet.Print(Val(Left(average, 2)) > 9 ? 21 : 22, y, average);
     sheet.Print(30, y, columns(33, 42));
 }
 
 /// Prints the runs and returns the line reached on the sheet.
-int PrintRuns(Sheet& sheet, const std::vector<Text>& righe)
+int PrintRuns(Sheet& sheet, const std::vector<Text>& lines)
 {
     constexpr int headLine = 20;
     constexpr int lastLine = 64;
     int y = headLine;
     PrintHeads(sheet, y);
-    for (const Text& riga : righe) {
+    for (const Text& line : lines) {
         y += 2;
-        PrintRun(sheet, y, riga);
+        PrintRun(sheet, y, line);
         if (y == lastLine) {
             sheet.NewPage();
             y = 2;
@@ -90,7 +90,7 @@ int PrintRuns(Sheet& sheet, const std::vector<Text>& righe)
     return y;
 }
 
-void PrintTotals(Sheet& sheet, int y, const std::array<Text, 4>& totali)
+void PrintTotals(Sheet& sheet, int y, const std::array<Text, 4>& totals)
 {
     constexpr int lastLineWithRoom = 50;
     constexpr int totalsSize = 11;
@@ -107,30 +107,30 @@ void PrintTotals(Sheet& sheet, int y, const std::array<Text, 4>& totali)
     sheet.Print(10, y, "Totali");
     constexpr std::array<TextView, 4> labels = {"Corse", "Km", "Tempi", "Media"};
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        PrintPair(sheet, 2, 10, y + 2 + 2 * static_cast<int>(i), labels[i], totali[i]);
+        PrintPair(sheet, 2, 10, y + 2 + 2 * static_cast<int>(i), labels[i], totals[i]);
     }
 }
 
 } // namespace
 
-Text StatisticSheetNumber(i16 valore)
+Text StatisticSheetNumber(i16 value)
 {
-    return Str(valore) + " ";
+    return Str(value) + " ";
 }
 
-Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const StatisticSheetSlot> categorie)
+Sheet StatisticSheet(CalendarDate date, TextView title, std::span<const StatisticSheetSlot> slots)
 {
     constexpr std::size_t column = 30;
     constexpr int firstLine = 5;
-    Sheet sheet = DatedSheet(Orientation::Portrait, "statistica", data, 80);
+    Sheet sheet = DatedSheet(Orientation::Portrait, "statistica", date, 80);
     sheet.Box(10, 1, 87, 66);
-    sheet.Print(35, 2, "       Statistica " + Text(titolo));
+    sheet.Print(35, 2, "       Statistica " + Text(title));
     sheet.SetFontSize(kSheetTextSize);
     const auto slot = [&](std::size_t index, int x, int y) {
         constexpr int countAfter = 30;
-        if (index < categorie.size() && !categorie[index].valore.empty()) {
-            sheet.Print(x, y, categorie[index].valore);
-            sheet.PrintNumber(x + countAfter, y, categorie[index].conta);
+        if (index < slots.size() && !slots[index].value.empty()) {
+            sheet.Print(x, y, slots[index].value);
+            sheet.PrintNumber(x + countAfter, y, slots[index].count);
         }
     };
     for (std::size_t i = 0; i < column; ++i) {
@@ -141,23 +141,23 @@ Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const Statist
     return sheet;
 }
 
-Sheet SearchSheet(const SearchSheetTexts& ricerca)
+Sheet SearchSheet(const SearchSheetTexts& search)
 {
-    Sheet sheet = DatedSheet(Orientation::Portrait, "ricerca", ricerca.data, 80);
+    Sheet sheet = DatedSheet(Orientation::Portrait, "ricerca", search.date, 80);
     sheet.Box(1, 3, 85, 18);
     sheet.Print(32, 1, "   Ricerche Statistiche ");
     sheet.SetFontSize(kSheetTextSize);
-    PrintPeriod(sheet, ricerca);
-    PrintConditions(sheet, ricerca.condizioni);
-    PrintTotals(sheet, PrintRuns(sheet, ricerca.righe), ricerca.totali);
+    PrintPeriod(sheet, search);
+    PrintConditions(sheet, search.criteria);
+    PrintTotals(sheet, PrintRuns(sheet, search.lines), search.totals);
     return sheet;
 }
 
-Sheet ChartSheet(CalendarDate data, std::function<void()> copia)
+Sheet ChartSheet(CalendarDate date, std::function<void()> copy)
 {
-    Sheet sheet = DatedSheet(Orientation::Landscape, "grafico", data, 125, true);
+    Sheet sheet = DatedSheet(Orientation::Landscape, "grafico", date, 125, true);
     sheet.Box(2, 1, 132, 47);
-    sheet.PaintClipboard(15, 3, std::move(copia));
+    sheet.PaintClipboard(15, 3, std::move(copy));
     return sheet;
 }
 

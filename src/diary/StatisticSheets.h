@@ -15,32 +15,32 @@ namespace zelvia
 
 /// A value of a statistic and the number of its days.
 struct StatisticSheetSlot {
-    Text valore; ///< As it is printed; empty when the slot is not filled.
-    i16 conta;
+    Text value; ///< As it is printed; empty when the slot is not filled.
+    i16 count;
 };
 
 /// A number as the sheet of a statistic shows it: with a blank or minus sign before it and a blank after it.
-Text StatisticSheetNumber(i16 valore);
+Text StatisticSheetNumber(i16 value);
 
 /// The sheet of a statistic: up to 60 slots, in two columns of 30.
-Sheet StatisticSheet(CalendarDate data, TextView titolo, std::span<const StatisticSheetSlot> categorie);
+Sheet StatisticSheet(CalendarDate date, TextView title, std::span<const StatisticSheetSlot> slots);
 
 /// What the window of the searches shows.
 struct SearchSheetTexts {
-    CalendarDate data;
-    std::array<Text, 3> inizio; ///< Day, month and year as typed.
-    std::array<Text, 3> fine;
+    CalendarDate date;
+    std::array<Text, 3> start; ///< Day, month and year as typed.
+    std::array<Text, 3> end;
     /// Route, length, distance, pace, terrain, kind, season, weather, temperature, runners, weight, repetitions.
-    std::array<Text, 12> condizioni;
-    std::vector<Text> righe; ///< The lines of the runs found.
+    std::array<Text, 12> criteria;
+    std::vector<Text> lines; ///< The lines of the runs found.
     /// Runs, kilometres, times, average.
-    std::array<Text, 4> totali;
+    std::array<Text, 4> totals;
 };
 
 /// The sheet of a search, over as many pages as its runs take.
-Sheet SearchSheet(const SearchSheetTexts& ricerca);
+Sheet SearchSheet(const SearchSheetTexts& search);
 
-/// The sheet of a chart, whose picture `copia` puts on the clipboard.
-Sheet ChartSheet(CalendarDate data, std::function<void()> copia);
+/// The sheet of a chart, whose picture `copy` puts on the clipboard.
+Sheet ChartSheet(CalendarDate date, std::function<void()> copy);
 
 } // namespace zelvia

@@ -15,9 +15,9 @@ namespace
 {
 
 struct DayTime {
-    i16 ore;
-    i16 minuti;
-    i16 secondi;
+    i16 hours;
+    i16 minutes;
+    i16 seconds;
 };
 
 /// The time that a text holds; none without two separators.
@@ -34,8 +34,8 @@ DayTime TimeOf(TextView text)
 }
 
 struct DayAverage {
-    i16 minuti;
-    i16 secondi;
+    i16 minutes;
+    i16 seconds;
 };
 
 DayAverage AverageOf(TextView text)
@@ -56,23 +56,24 @@ struct Demand {
 
 Demand Distance(const RecordGiorno& day, const PlanRow& row)
 {
-    return {row.km == 0 && row.metri == 0, day.Km == 0 && day.Metri == 0,
-            std::tie(row.km, row.metri) > std::tie(day.Km, day.Metri)};
+    return {row.km == 0 && row.metres == 0, day.Km == 0 && day.Metri == 0,
+            std::tie(row.km, row.metres) > std::tie(day.Km, day.Metri)};
 }
 
 Demand Time(const RecordGiorno& day, const PlanRow& row)
 {
     const DayTime run = TimeOf(day.TempoImpiegato);
-    return {row.ore == 0 && row.minuti == 0 && row.secondi == 0, run.ore == 0 && run.minuti == 0 && run.secondi == 0,
-            std::tie(row.ore, row.minuti, row.secondi) > std::tie(run.ore, run.minuti, run.secondi)};
+    return {row.hours == 0 && row.minutes == 0 && row.seconds == 0,
+            run.hours == 0 && run.minutes == 0 && run.seconds == 0,
+            std::tie(row.hours, row.minutes, row.seconds) > std::tie(run.hours, run.minutes, run.seconds)};
 }
 
 Demand Average(const RecordGiorno& day, const PlanRow& row)
 {
     const DayAverage run = AverageOf(day.MediaKm);
-    const bool none = run.minuti == 0 && run.secondi == 0;
-    return {row.mediaMinuti == 0 && row.mediaSecondi == 0, none,
-            none || std::tie(row.mediaMinuti, row.mediaSecondi) < std::tie(run.minuti, run.secondi)};
+    const bool none = run.minutes == 0 && run.seconds == 0;
+    return {row.averageMinutes == 0 && row.averageSeconds == 0, none,
+            none || std::tie(row.averageMinutes, row.averageSeconds) < std::tie(run.minutes, run.seconds)};
 }
 
 Demand SameClass(const Text& day, const Text& row)
@@ -82,10 +83,10 @@ Demand SameClass(const Text& day, const Text& row)
 
 Demand Repetitions(const RecordGiorno& day, const PlanRow& row)
 {
-    const bool tooLittle = row.ripetVolte > day.Ripetizioni || row.ripetDistanza > day.RipetizioniDistanza;
+    const bool tooLittle = row.repetitions > day.Ripetizioni || row.repetitionMetres > day.RipetizioniDistanza;
     const bool tooSlow =
-        std::tie(row.ripetQuante, row.ripetTempi) < std::tie(day.RipetizioniQuante, day.RipetizioniTempi);
-    return {row.ripetVolte == 0, day.Ripetizioni == 0, row.ripetVolte > 0 && (tooLittle || tooSlow)};
+        std::tie(row.repetitionMinutes, row.repetitionSeconds) < std::tie(day.RipetizioniQuante, day.RipetizioniTempi);
+    return {row.repetitions == 0, day.Ripetizioni == 0, row.repetitions > 0 && (tooLittle || tooSlow)};
 }
 
 } // namespace
@@ -105,8 +106,8 @@ i16 FailedDemands(const RecordGiorno& day, const PlanRow& row)
     bool rowEmpty = true;
     bool dayEmpty = true;
     for (const Demand& demand :
-         {Distance(day, row), Time(day, row), Average(day, row), SameClass(day.Modo, row.andatura),
-          SameClass(day.Fondo, row.fondo), Repetitions(day, row)}) {
+         {Distance(day, row), Time(day, row), Average(day, row), SameClass(day.Modo, row.paceClass),
+          SameClass(day.Fondo, row.terrain), Repetitions(day, row)}) {
         rowEmpty = rowEmpty && demand.rowEmpty;
         dayEmpty = dayEmpty && demand.dayEmpty;
         if (!demand.rowEmpty && demand.failed) {

@@ -12,18 +12,18 @@ namespace zelvia
 /// One row of a training table, field by field as its columns.
 struct PlanRow {
     i16 km;
-    i16 metri;
-    i16 ore;
-    i16 minuti;
-    i16 secondi;
-    i16 mediaMinuti;
-    i16 mediaSecondi;
-    Text andatura;
-    Text fondo;
-    i16 ripetVolte;
-    i16 ripetDistanza;
-    i16 ripetQuante;
-    i16 ripetTempi;
+    i16 metres;
+    i16 hours;
+    i16 minutes;
+    i16 seconds;
+    i16 averageMinutes;
+    i16 averageSeconds;
+    Text paceClass;
+    Text terrain;
+    i16 repetitions;
+    i16 repetitionMetres;
+    i16 repetitionMinutes;
+    i16 repetitionSeconds;
 };
 
 /// Row 0..31 of the table in memory. Raises error 9 for any other.

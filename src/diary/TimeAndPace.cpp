@@ -13,69 +13,69 @@ constexpr TextView kEndBeforeStart = "L'ORA FINE E' MINORE DELL'ORA INIZIO      
 constexpr TextView kEndBeforeStartBySeconds = "L'ORA FINE E' MINORE DELL'ORA INIZIO        ";
 constexpr TextView kEndEqualsStart = "L'ORA FINE E' UGUALE ALL'ORA INIZIO        ";
 
-TextView Warning(const Orario& inizio, const Orario& fine)
+TextView Warning(const ClockTime& start, const ClockTime& end)
 {
-    if (fine.ore != inizio.ore) {
-        return fine.ore < inizio.ore ? kEndBeforeStart : TextView();
+    if (end.hours != start.hours) {
+        return end.hours < start.hours ? kEndBeforeStart : TextView();
     }
-    if (fine.minuti != inizio.minuti) {
-        return fine.minuti < inizio.minuti ? kEndBeforeStart : TextView();
+    if (end.minutes != start.minutes) {
+        return end.minutes < start.minutes ? kEndBeforeStart : TextView();
     }
-    if (fine.secondi != inizio.secondi) {
-        return fine.secondi < inizio.secondi ? kEndBeforeStartBySeconds : TextView();
+    if (end.seconds != start.seconds) {
+        return end.seconds < start.seconds ? kEndBeforeStartBySeconds : TextView();
     }
     return kEndEqualsStart;
 }
 
-i32 SecondsOf(const Orario& tempo)
+i32 SecondsOf(const ClockTime& time)
 {
-    if (tempo.ore >= 1) {
-        return (tempo.ore * 60 + tempo.minuti) * 60 + tempo.secondi;
+    if (time.hours >= 1) {
+        return (time.hours * 60 + time.minutes) * 60 + time.seconds;
     }
-    if (tempo.ore == 0 && tempo.minuti > 0) {
-        return tempo.minuti * 60 + tempo.secondi;
+    if (time.hours == 0 && time.minutes > 0) {
+        return time.minutes * 60 + time.seconds;
     }
-    return tempo.ore == 0 && tempo.minuti == 0 && tempo.secondi > 0 ? tempo.secondi : i32(0);
+    return time.hours == 0 && time.minutes == 0 && time.seconds > 0 ? time.seconds : i32(0);
 }
 
 } // namespace
 
-EsitoTempi ControllaTempi(bool distanza, const Orario& inizio, const Orario& fine)
+TimesCheck CheckTimes(bool distance, const ClockTime& start, const ClockTime& end)
 {
-    const bool haFine = fine.ore >= 1 || fine.minuti >= 1 || fine.secondi >= 1;
+    const bool haFine = end.hours >= 1 || end.minutes >= 1 || end.seconds >= 1;
     if (!haFine) {
-        return {Calcolo::Niente, true, {}};
+        return {Calculation::None, true, {}};
     }
-    return {distanza ? Calcolo::TempoEMedia : Calcolo::SoloTempo, !distanza, Text(Warning(inizio, fine))};
+    return {distance ? Calculation::TimeAndAverage : Calculation::TimeOnly, !distance, Text(Warning(start, end))};
 }
 
-Orario TempoTrascorso(const Orario& inizio, const Orario& fine)
+ClockTime ElapsedTime(const ClockTime& start, const ClockTime& end)
 {
-    Orario tempo{0, 0, 0};
-    if (fine.secondi < inizio.secondi) {
-        tempo.secondi = 60 - inizio.secondi + fine.secondi;
-        tempo.minuti -= 1;
+    ClockTime time{0, 0, 0};
+    if (end.seconds < start.seconds) {
+        time.seconds = 60 - start.seconds + end.seconds;
+        time.minutes -= 1;
     } else {
-        tempo.secondi = fine.secondi - inizio.secondi;
+        time.seconds = end.seconds - start.seconds;
     }
-    if (fine.minuti < inizio.minuti) {
-        tempo.minuti = 60 - inizio.minuti + tempo.minuti + fine.minuti;
-        tempo.ore -= 1;
+    if (end.minutes < start.minutes) {
+        time.minutes = 60 - start.minutes + time.minutes + end.minutes;
+        time.hours -= 1;
     } else {
-        tempo.minuti = fine.minuti - inizio.minuti + tempo.minuti;
+        time.minutes = end.minutes - start.minutes + time.minutes;
     }
     // The minutes were equal and a second was borrowed.
-    if (tempo.minuti < 0) {
-        tempo.minuti = 60 - inizio.minuti + tempo.minuti + fine.minuti;
-        tempo.ore -= 1;
+    if (time.minutes < 0) {
+        time.minutes = 60 - start.minutes + time.minutes + end.minutes;
+        time.hours -= 1;
     }
-    tempo.ore = fine.ore - inizio.ore + tempo.ore;
-    return tempo;
+    time.hours = end.hours - start.hours + time.hours;
+    return time;
 }
 
-Text TestoTempo(const Orario& tempo)
+Text TimeText(const ClockTime& time)
 {
-    return PlainText(tempo.ore) + ":" + Format(tempo.minuti, "00") + ":" + Format(tempo.secondi, "00");
+    return PlainText(time.hours) + ":" + Format(time.minutes, "00") + ":" + Format(time.seconds, "00");
 }
 
 std::optional<Pace> PaceOf(i32 metres, i32 seconds)
@@ -93,10 +93,10 @@ std::optional<Pace> PaceOf(i32 metres, i32 seconds)
     return Pace{minutes, wholeSeconds, (rest - static_cast<f32>(wholeSeconds.value())) * 1000.0F};
 }
 
-std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo)
+std::optional<Text> AverageText(TextView distance, const ClockTime& time)
 {
-    const f32 kilometres = LocaleSingle(distanza);
-    const std::optional<Pace> pace = PaceOf(RoundTo<i32>(static_cast<double>(kilometres * 1000.0F)), SecondsOf(tempo));
+    const f32 kilometres = LocaleSingle(distance);
+    const std::optional<Pace> pace = PaceOf(RoundTo<i32>(static_cast<double>(kilometres * 1000.0F)), SecondsOf(time));
     if (!pace) {
         return std::nullopt;
     }

@@ -11,30 +11,30 @@ namespace zelvia
 {
 
 /// A time of day or a time taken; the hours of a time taken can be negative.
-struct Orario {
-    i32 ore;
-    i32 minuti;
-    i32 secondi;
+struct ClockTime {
+    i32 hours;
+    i32 minutes;
+    i32 seconds;
 };
 
 /// What can be computed from the fields of a day.
-enum class Calcolo { Niente = 0, TempoEMedia = 1, SoloTempo = 2 };
+enum class Calculation { None = 0, TimeAndAverage = 1, TimeOnly = 2 };
 
-struct EsitoTempi {
-    Calcolo calcolo;
-    bool azzera; ///< Time and average of the day must be blanked.
-    Text avviso; ///< A warning to show, or empty.
+struct TimesCheck {
+    Calculation calculation;
+    bool blanks;  ///< Time and average of the day must be blanked.
+    Text warning; ///< A warning to show, or empty.
 };
 
 /// Decides what can be computed. The end time counts as given when any part of it is 1 or more; the start time is
 /// ignored. A warning does not change the result.
-EsitoTempi ControllaTempi(bool distanza, const Orario& inizio, const Orario& fine);
+TimesCheck CheckTimes(bool distance, const ClockTime& start, const ClockTime& end);
 
-/// `fine` less `inizio` within one day, with borrows; past midnight the hours come out negative.
-Orario TempoTrascorso(const Orario& inizio, const Orario& fine);
+/// `end` less `start` within one day, with borrows; past midnight the hours come out negative.
+ClockTime ElapsedTime(const ClockTime& start, const ClockTime& end);
 
 /// Hours as plain digits, minutes and seconds with two.
-Text TestoTempo(const Orario& tempo);
+Text TimeText(const ClockTime& time);
 
 /// A time per kilometre.
 struct Pace {
@@ -49,6 +49,6 @@ std::optional<Pace> PaceOf(i32 metres, i32 seconds);
 
 /// The average per kilometre from the caption of a distance such as 10,500 and a time taken. Raises as PaceOf, and
 /// error 13 for a caption that is not a number.
-std::optional<Text> CalcolaMedia(TextView distanza, const Orario& tempo);
+std::optional<Text> AverageText(TextView distance, const ClockTime& time);
 
 } // namespace zelvia

@@ -16,7 +16,7 @@ struct BoxRow {
     int limit;
     const NumberKind* kind;
     QString message; ///< Beyond the limit.
-    i16 CondizioniRicerca::*condition;
+    i16 SearchCriteria::*condition;
     int lowest;
     QString below; ///< Said of a lower value before the search, which then takes the lowest.
     const char* other;
@@ -25,16 +25,16 @@ struct BoxRow {
 // A period of which one box is tried: what the other five hold.
 const BoxRow kBoxes[] = {
     {"txtGiornoInizio", 2, &kTwoCharactersToALimit, QStringLiteral("MAX 31 GIORNI                 "),
-     &CondizioniRicerca::GiornoInizio, 1, QStringLiteral("DATA INIZIO  MIN GIORNO 1                 "), "1"},
+     &SearchCriteria::GiornoInizio, 1, QStringLiteral("DATA INIZIO  MIN GIORNO 1                 "), "1"},
     {"txtMeseInizio", 2, &kTwoCharactersToALimit, QStringLiteral("MAX 12 MESI                   "),
-     &CondizioniRicerca::MeseInizio, 1, QStringLiteral("DATA INIZIO  MIN MESE  1               "), "1"},
-    {"txtAnnoInizio", 4, &kYear, QStringLiteral("MAX ANNO 2099                 "), &CondizioniRicerca::AnnoInizio, 2007,
+     &SearchCriteria::MeseInizio, 1, QStringLiteral("DATA INIZIO  MIN MESE  1               "), "1"},
+    {"txtAnnoInizio", 4, &kYear, QStringLiteral("MAX ANNO 2099                 "), &SearchCriteria::AnnoInizio, 2007,
      QStringLiteral("DATA INIZIO  ANNO 2007                 "), "2026"},
     {"txtGiornoFine", 2, &kTwoCharactersToALimit, QStringLiteral("MAX 31 GIORNI                 "),
-     &CondizioniRicerca::GiornoFine, 1, QStringLiteral("DATA FINE  MIN GIORNO 1                 "), "31"},
+     &SearchCriteria::GiornoFine, 1, QStringLiteral("DATA FINE  MIN GIORNO 1                 "), "31"},
     {"txtMeseFine", 2, &kTwoCharactersToALimit, QStringLiteral("MAX 12 MESI                   "),
-     &CondizioniRicerca::MeseFine, 1, QStringLiteral("DATA FINE  MIN MESE  1                "), "12"},
-    {"txtAnnoFine", 4, &kYear, QStringLiteral("MAX ANNO 2099                 "), &CondizioniRicerca::AnnoFine, 2007,
+     &SearchCriteria::MeseFine, 1, QStringLiteral("DATA FINE  MIN MESE  1                "), "12"},
+    {"txtAnnoFine", 4, &kYear, QStringLiteral("MAX ANNO 2099                 "), &SearchCriteria::AnnoFine, 2007,
      QStringLiteral("DATA FINE  ANNO 2007                 "), "2026"},
 };
 
@@ -42,7 +42,7 @@ void FillOthers(const SearchDesk& desk, int index)
 {
     for (int i = 0; i < int(std::size(kBoxes)); ++i) {
         if (i != index) {
-            desk->campiPeriodo[static_cast<std::size_t>(i)]->setText(QLatin1String(kBoxes[i].other));
+            desk->periodBoxes[static_cast<std::size_t>(i)]->setText(QLatin1String(kBoxes[i].other));
         }
     }
 }
@@ -86,7 +86,7 @@ void SearchTest::period()
     desk.StartSearch();
     hand::Click(*desk->cmdPeriodo);
     QTRY_COMPARE(SearchDesk::Focused(), QByteArray("txtGiornoInizio"));
-    TextBox& box = *desk->campiPeriodo[static_cast<std::size_t>(index)];
+    TextBox& box = *desk->periodBoxes[static_cast<std::size_t>(index)];
     QCOMPARE(box.objectName(), QLatin1String(row.name));
     for (std::size_t i = 0; i < kNumberInputs; ++i) {
         const Outcome& outcome = (*row.kind)[i];
@@ -112,7 +112,7 @@ void SearchTest::period()
         desk.Run();
         desk.AwaitBoxes();
         QTRY_VERIFY(desk.ShowsResult());
-        QCOMPARE((desk->condizioni.*row.condition).value(), value);
+        QCOMPARE((desk->criteria.*row.condition).value(), value);
     }
     VERIFY_SCRIPT(desk.script);
 }

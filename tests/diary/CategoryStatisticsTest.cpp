@@ -22,11 +22,11 @@ namespace
 {
 
 /// Keeps what a statistic shows.
-class View : public VistaStatistica
+class View : public StatisticView
 {
 public:
-    void SetTitolo(TextView title) override { titles << Bytes(title); }
-    void AggiungiRiga(TextView line) override { lines << Bytes(line); }
+    void SetTitle(TextView title) override { titles << Bytes(title); }
+    void AddLine(TextView line) override { lines << Bytes(line); }
 
     QByteArrayList titles;
     QByteArrayList lines;
@@ -36,13 +36,13 @@ public:
 class FullView : public View
 {
 public:
-    void AggiungiRiga(TextView /*line*/) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
+    void AddLine(TextView /*line*/) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
 };
 
 View Run(Categoria category)
 {
     View view;
-    EseguiStatistica(StatisticaDi(category), view);
+    RunStatistic(StatisticOf(category), view);
     return view;
 }
 
@@ -147,7 +147,7 @@ private:
 void CategoryStatisticsTest::init()
 {
     ForgetDays();
-    AzzeraStatistica();
+    ClearStatistic();
     boxes_ = std::make_unique<MessageScript>();
 }
 
@@ -187,8 +187,8 @@ void CategoryStatisticsTest::NoDayCounts()
     const View view = Run(kRows[row].category);
     QCOMPARE(view.titles, QByteArrayList{kRows[row].title});
     QCOMPARE(view.lines, QByteArrayList());
-    QVERIFY(ContaCategoria == PerCategoria<i16>());
-    QVERIFY(NomeCategoria == PerCategoria<Text>());
+    QVERIFY(ContaCategoria == PerCategory<i16>());
+    QVERIFY(NomeCategoria == PerCategory<Text>());
     QCOMPARE(boxes_->Shown(), 0);
 }
 
@@ -206,10 +206,10 @@ void CategoryStatisticsTest::ErrorsBearItsName()
 void CategoryStatisticsTest::TitlesAreFoundToTheLetter()
 {
     for (const Row& row : kRows) {
-        QCOMPARE(StatisticaDi(TextView(row.title)), &StatisticaDi(row.category));
+        QCOMPARE(StatisticOf(TextView(row.title)), &StatisticOf(row.category));
     }
     for (const char* none : {"", "percorso", "Percorso ", "Fondo"}) {
-        QVERIFY(StatisticaDi(TextView(none)) == nullptr);
+        QVERIFY(StatisticOf(TextView(none)) == nullptr);
     }
 }
 
@@ -356,7 +356,7 @@ void CategoryStatisticsTest::NumbersLeaveNoNames()
     Run(Categoria::Percorso);
     Giorni[2].Peso = 71;
     QCOMPARE(Run(Categoria::Peso).lines, QByteArrayList{Line(" 71", 1)});
-    QVERIFY(NomeCategoria == PerCategoria<Text>());
+    QVERIFY(NomeCategoria == PerCategory<Text>());
     QVERIFY(ContaCategoria[2] == 0);
     PutRunners({2});
     Run(Categoria::Corridori);
@@ -370,7 +370,7 @@ void CategoryStatisticsTest::SlotZeroIsNeverWritten()
     ValoreCategoria[0] = 88;
     PutRoutes({"Lago", "Bosco"});
     PutRunners({1, 2});
-    for (const Categoria category : kTutteLeCategorie) {
+    for (const Categoria category : kAllCategories) {
         Run(category);
         QVERIFY(NomeCategoria[0] == "zero" && ContaCategoria[0] == 77 && ValoreCategoria[0] == 88);
     }
@@ -402,7 +402,7 @@ void CategoryStatisticsTest::CountsEndInOneColumn()
 {
     QFETCH(int, count);
     QFETCH(QByteArray, columns);
-    const QByteArray line = Bytes(RigaStatistica("Lago", count));
+    const QByteArray line = Bytes(StatisticLine("Lago", count));
     QCOMPARE(line, "Lago                          " + columns);
     QCOMPARE(line.size(), 40);
     PutRoutes(QByteArrayList(count, "Lago"));
@@ -414,8 +414,8 @@ void CategoryStatisticsTest::ShownBelowWhatIsThere()
     PutRoutes({"Lago"});
     Giorni[1].Peso = 70;
     View view;
-    EseguiStatistica(StatisticaDi(Categoria::Percorso), view);
-    EseguiStatistica(StatisticaDi(Categoria::Peso), view);
+    RunStatistic(StatisticOf(Categoria::Percorso), view);
+    RunStatistic(StatisticOf(Categoria::Peso), view);
     QCOMPARE(view.titles, (QByteArrayList{"Percorso", "Peso"}));
     QCOMPARE(view.lines, (QByteArrayList{Line("Lago", 1), Line(" 70", 1)}));
 }
@@ -426,9 +426,9 @@ void CategoryStatisticsTest::FailuresOfTheView()
     Giorni[1].Peso = 70;
     FullView view;
     boxes_->ExpectError("VisualStat - ERRORE : ", 7);
-    EseguiStatistica(StatisticaDi(Categoria::Percorso), view);
+    RunStatistic(StatisticOf(Categoria::Percorso), view);
     boxes_->ExpectError("VisualStatint - ERRORE : ", 7);
-    EseguiStatistica(StatisticaDi(Categoria::Peso), view);
+    RunStatistic(StatisticOf(Categoria::Peso), view);
     QCOMPARE(view.titles, (QByteArrayList{"Percorso", "Peso"}));
 }
 

@@ -51,18 +51,18 @@ RecordGiorno Repeated(int volte, int distanza, int quante, int tempi)
     return giorno;
 }
 
-using Pezzo = i16 (*)(TextView);
+using Part = i16 (*)(TextView);
 
 struct NamedPiece {
     const char* name;
-    Pezzo piece;
+    Part piece;
 };
 
-constexpr NamedPiece kPieces[] = {{"Km", PezzoKm},         {"Metri", PezzoMetri},
-                                  {"Volte", PezzoVolte},   {"Distanza", PezzoDistanza},
-                                  {"Quante", PezzoQuante}, {"Tempi", PezzoTempi}};
+constexpr NamedPiece kPieces[] = {{"Km", KmPart},          {"Metri", MetresPart},
+                                  {"Volte", TimesPart},    {"Distanza", DistancePart},
+                                  {"Quante", MinutesPart}, {"Tempi", SecondsPart}};
 
-Pezzo PieceOf(const QByteArray& name)
+Part PieceOf(const QByteArray& name)
 {
     for (const NamedPiece& piece : kPieces) {
         if (name == piece.name) {
@@ -96,7 +96,7 @@ void CategoryTextsTest::Distances()
 {
     QFETCH(int, km);
     QFETCH(int, metri);
-    QTEST(Bytes(TestoKm(Distance(km, metri))), "text");
+    QTEST(Bytes(KmText(Distance(km, metri))), "text");
 }
 
 void CategoryTextsTest::Repetitions_data()
@@ -118,7 +118,7 @@ void CategoryTextsTest::Repetitions_data()
 void CategoryTextsTest::Repetitions()
 {
     QFETCH(QList<int>, numbers);
-    QTEST(Bytes(TestoRipetizioni(Repeated(numbers[0], numbers[1], numbers[2], numbers[3]))), "text");
+    QTEST(Bytes(RepetitionsText(Repeated(numbers[0], numbers[1], numbers[2], numbers[3]))), "text");
 }
 
 void CategoryTextsTest::Pieces_data()
@@ -214,12 +214,12 @@ void CategoryTextsTest::WhatIsBuiltIsTakenApart()
     for (int i = 0; i < rounds; ++i) {
         const int highest = i % 2 == 0 ? 99 : 32767;
         const RecordGiorno run = Distance(any(highest), any(highest));
-        const Text km = TestoKm(run);
-        QVERIFY2(PezzoKm(km) == run.Km && PezzoMetri(km) == run.Metri, km.c_str());
+        const Text km = KmText(run);
+        QVERIFY2(KmPart(km) == run.Km && MetresPart(km) == run.Metri, km.c_str());
         const RecordGiorno day = Repeated(any(highest), any(32767), any(highest), any(highest));
-        const Text text = TestoRipetizioni(day);
-        QVERIFY2(PezzoVolte(text) == day.Ripetizioni && PezzoDistanza(text) == day.RipetizioniDistanza &&
-                     PezzoQuante(text) == day.RipetizioniQuante && PezzoTempi(text) == day.RipetizioniTempi,
+        const Text text = RepetitionsText(day);
+        QVERIFY2(TimesPart(text) == day.Ripetizioni && DistancePart(text) == day.RipetizioniDistanza &&
+                     MinutesPart(text) == day.RipetizioniQuante && SecondsPart(text) == day.RipetizioniTempi,
                  text.c_str());
     }
 }

@@ -58,13 +58,13 @@ private Q_SLOTS:
 
 void ChartModelTest::BarsStandAsRanked()
 {
-    PerCategoria<Text> names;
-    PerCategoria<i16> counts;
+    PerCategory<Text> names;
+    PerCategory<i16> counts;
     names[1] = "Lungofiume";
     names[2] = "Citt\xE0";
     counts[1] = 12;
     counts[2] = 3;
-    const ChartData chart = GraficoCategorie("Percorso", names, counts, {});
+    const ChartData chart = CategoryChart("Percorso", names, counts, {});
     QVERIFY(chart.chartType == ChartType::Bars);
     QCOMPARE(Bytes(chart.TitleText), QByteArray("Percorso"));
     QCOMPARE(chart.RowCount(), 1);
@@ -73,31 +73,31 @@ void ChartModelTest::BarsStandAsRanked()
 
 void ChartModelTest::ALongNameIsKept()
 {
-    PerCategoria<Text> names;
-    PerCategoria<i16> counts;
+    PerCategory<Text> names;
+    PerCategory<i16> counts;
     const QByteArray name("Dal ponte vecchio alla cascata e ritorno per la riva destra");
     names[1] = name.toStdString();
     counts[1] = 1;
-    QCOMPARE(Bars(GraficoCategorie("Percorso", names, counts, {})), QByteArrayList{name + "=1"});
+    QCOMPARE(Bars(CategoryChart("Percorso", names, counts, {})), QByteArrayList{name + "=1"});
 }
 
 void ChartModelTest::NumbersWhereThereIsNoName()
 {
     // Days with a distance and no runners have a bar, labelled 0.
-    PerCategoria<i16> counts;
-    PerCategoria<i16> values;
+    PerCategory<i16> counts;
+    PerCategory<i16> values;
     counts[1] = 40;
     values[1] = 1;
     counts[2] = 7;
     values[2] = 0;
     counts[3] = 2;
     values[3] = 15;
-    QCOMPARE(Bars(GraficoCategorie("Corridori", {}, counts, values)), (QByteArrayList{"1=40", "0=7", "15=2"}));
+    QCOMPARE(Bars(CategoryChart("Corridori", {}, counts, values)), (QByteArrayList{"1=40", "0=7", "15=2"}));
 }
 
 void ChartModelTest::AStatisticWithoutValues()
 {
-    const ChartData chart = GraficoCategorie("Meteo", {}, {}, {});
+    const ChartData chart = CategoryChart("Meteo", {}, {}, {});
     QCOMPARE(Bytes(chart.TitleText), QByteArray("Meteo"));
     QCOMPARE(chart.ColumnCount(), 0);
     QCOMPARE(chart.RowCount(), 1);
@@ -105,13 +105,13 @@ void ChartModelTest::AStatisticWithoutValues()
 
 void ChartModelTest::SixtyBars()
 {
-    PerCategoria<Text> names;
-    PerCategoria<i16> counts;
+    PerCategory<Text> names;
+    PerCategory<i16> counts;
     for (int i = 1; i <= 60; ++i) {
         names[i] = "P" + std::to_string(i);
         counts[i] = 61 - i;
     }
-    const QByteArrayList bars = Bars(GraficoCategorie("Percorso", names, counts, {}));
+    const QByteArrayList bars = Bars(CategoryChart("Percorso", names, counts, {}));
     QCOMPARE(bars.size(), 60);
     QCOMPARE(bars.first(), QByteArray("P1=60"));
     QCOMPARE(bars.last(), QByteArray("P60=1"));
@@ -119,10 +119,10 @@ void ChartModelTest::SixtyBars()
 
 void ChartModelTest::AGapInTheRankingIsAnError()
 {
-    PerCategoria<i16> counts;
+    PerCategory<i16> counts;
     counts[1] = 1;
     counts[3] = 1;
-    QCOMPARE(RaisedBy([&] { GraficoCategorie("Percorso", {}, counts, {}); }), 9);
+    QCOMPARE(RaisedBy([&] { CategoryChart("Percorso", {}, counts, {}); }), 9);
 }
 
 void ChartModelTest::TheLineFollowsTheRuns()
@@ -132,7 +132,7 @@ void ChartModelTest::TheLineFollowsTheRuns()
     paces[2] = 4.5F;
     paces[3] = 6.0F;
     paces[4] = 12.35F;
-    const ChartData chart = GraficoMedie(paces);
+    const ChartData chart = PaceChart(paces);
     QVERIFY(chart.chartType == ChartType::Line);
     QCOMPARE(Bytes(chart.TitleText), QByteArray("Velocit\xE0 Media per Km"));
     QCOMPARE(chart.ColumnCount(), 1);
@@ -142,7 +142,7 @@ void ChartModelTest::TheLineFollowsTheRuns()
 
 void ChartModelTest::BeforeAnySearch()
 {
-    const ChartData chart = GraficoMedie({});
+    const ChartData chart = PaceChart({});
     QCOMPARE(chart.RowCount(), 0);
     QCOMPARE(Bytes(chart.TitleText), QByteArray("Velocit\xE0 Media per Km"));
 }
@@ -154,7 +154,7 @@ void ChartModelTest::ARunWithoutAPaceStandsInTheLine()
     paces[1] = 5.0F;
     paces[3] = 5.1F;
     paces[4] = 5.2F;
-    QCOMPARE(Points(GraficoMedie(paces)), (QByteArrayList{"5=5", "0=0", "5,1=5.1"}));
+    QCOMPARE(Points(PaceChart(paces)), (QByteArrayList{"5=5", "0=0", "5,1=5.1"}));
 }
 
 void ChartModelTest::Only350Runs()
@@ -163,7 +163,7 @@ void ChartModelTest::Only350Runs()
     for (int i = 1; i <= 370; ++i) {
         paces[i] = i <= 350 ? 5.5F : 4.0F;
     }
-    const QByteArrayList points = Points(GraficoMedie(paces));
+    const QByteArrayList points = Points(PaceChart(paces));
     QCOMPARE(points.size(), 350);
     QCOMPARE(points.last(), QByteArray("5,5=5.5"));
 }

@@ -47,11 +47,11 @@ namespace
 {
 
 /// Controls that are out of memory.
-class FailingBox : public CasellaTempi
+class FailingBox : public TimesBox
 {
 public:
-    void AggiungiRiga(TextView) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
-    void Seleziona(int) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
+    void AddLine(TextView) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
+    void Select(int) override { throw ErroreRunTime(Errore::MemoriaEsaurita); }
 };
 
 struct Run {

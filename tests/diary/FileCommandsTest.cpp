@@ -45,7 +45,7 @@ public:
     void ShowDiaryName() override { asked << QStringLiteral("diary's name"); }
     void ShowTableName() override { asked << QStringLiteral("table's name"); }
     void ShowActiveTable() override { asked << QStringLiteral("active table"); }
-    void ShowList(ListaScelta lista) override { asked << QStringLiteral("list %1").arg(static_cast<int>(lista)); }
+    void ShowList(SelectionList lista) override { asked << QStringLiteral("list %1").arg(static_cast<int>(lista)); }
     void ShowOtherDiary() override { asked << QStringLiteral("other diary"); }
     bool CalendarStays() override { return calendarStays; }
     void SetBusy(bool busy) override { asked << (busy ? QStringLiteral("busy") : QStringLiteral("idle")); }
@@ -168,7 +168,7 @@ void FileCommandsTest::SaveOther()
     const Session open = Module1::session;
     page_.chosen = Diary("altra.zlv");
     Module1::CartellaDiario = folder_->Path("altra");
-    VociDi(ListaScelta::Tipo) = {"Gara"};
+    EntriesOf(SelectionList::Tipo) = {"Gara"};
     files_->mnuFileSave_Click();
     Module1::session = open;
     page_.chosen = open.NomeFile;
@@ -179,13 +179,13 @@ void FileCommandsTest::openResetsAndReads()
 {
     const MessageScript script;
     SaveOther();
-    VociDi(ListaScelta::Modo) = {"Lenta"};
+    EntriesOf(SelectionList::Modo) = {"Lenta"};
     page_.choices = {Diary("altra.zlv")};
     files_->mnuFileOpen_Click();
     Session reset;
     reset.UltimoPeso = 71;
     reset.KmAnno = 500;
-    reset.liste[static_cast<int>(ListaScelta::Modo)] = {"Lenta"};
+    reset.lists[static_cast<int>(SelectionList::Modo)] = {"Lenta"};
     QVERIFY(page_.atDialogs.front() == reset);
     QCOMPARE(page_.asked.join(QStringLiteral(", ")),
              QStringLiteral("AssegnaCampi, dialog Apri, Data, VisualizzaGiorno, DatiAnno, diary's name, "
@@ -194,7 +194,7 @@ void FileCommandsTest::openResetsAndReads()
     QCOMPARE(Module1::session.NomeFile, Diary("altra.zlv"));
     QCOMPARE(Module1::session.NomeBaseFile, Text("altra"));
     QCOMPARE(Module1::CartellaDiario, folder_->Path("altra"));
-    QCOMPARE(VociDi(ListaScelta::Tipo), std::vector<Text>{"Gara"});
+    QCOMPARE(EntriesOf(SelectionList::Tipo), std::vector<Text>{"Gara"});
 }
 
 void FileCommandsTest::openCancelled()
@@ -300,7 +300,7 @@ void FileCommandsTest::newInMemoryOnly()
     QVERIFY(Module1::Giorni[60].Km == 0);
     QVERIFY(files_->NuovoAnnullato == 0);
     QCOMPARE(Module1::session.NomeFile, Diary("nuova.zlv"));
-    QCOMPARE(VociDi(ListaScelta::Tipo), (std::vector<Text>{"Allenamento", "Gara"}));
+    QCOMPARE(EntriesOf(SelectionList::Tipo), (std::vector<Text>{"Allenamento", "Gara"}));
     QVERIFY(!folder_->Has("ZelviaFile/nuova.zlv"));
     QVERIFY(!folder_->Has("nuova"));
     QCOMPARE(page_.asked.last(), QStringLiteral("other diary"));

@@ -16,11 +16,11 @@ inline constexpr int kNothingSelected = -1;
 inline constexpr int kUntouched = -2;
 
 /// Keeps what a list writes and selects.
-class Box : public CasellaTempi
+class Box : public TimesBox
 {
 public:
-    void AggiungiRiga(TextView riga) override { lines << Bytes(riga); }
-    void Seleziona(int indice) override { selected = indice; }
+    void AddLine(TextView riga) override { lines << Bytes(riga); }
+    void Select(int indice) override { selected = indice; }
 
     QByteArrayList lines;
     int selected = kUntouched;

@@ -39,43 +39,42 @@ void PutRuns(int last)
 }
 
 /// A search with its sums carried over, as the window does it.
-EsitoRicerca AddedUp(EsitoRicerca result)
+SearchResult AddedUp(SearchResult result)
 {
-    SommaKm(result.totali);
-    TempiTotali(result.totali);
-    MediaTotali(result.totali);
+    SommaKm(result.totals);
+    TempiTotali(result.totals);
+    MediaTotali(result.totals);
     return result;
 }
 
-EsitoRicerca Find(int last, const CondizioniRicerca& conditions = {})
+SearchResult Find(int last, const SearchCriteria& conditions = {})
 {
-    return AddedUp(CercaCorse(Giorni, last, conditions, {}));
+    return AddedUp(FindRuns(Giorni, last, conditions, {}));
 }
 
 /// The days of the runs found, from the dates of their lines.
-QByteArrayList Dates(const EsitoRicerca& result)
+QByteArrayList Dates(const SearchResult& result)
 {
     QByteArrayList dates;
-    for (const Text& line : result.righe) {
+    for (const Text& line : result.lines) {
         dates << Bytes(line).mid(32, 5);
     }
     return dates;
 }
 
-QByteArrayList Told(const EsitoRicerca& result)
+QByteArrayList Told(const SearchResult& result)
 {
     QByteArrayList told;
-    for (const ErroreRicerca& error : result.errori) {
-        told << Bytes(error.titolo) + QByteArray::number(error.errore.Number()) + ' ' +
-                    Bytes(error.errore.Description());
+    for (const SearchError& error : result.errors) {
+        told << Bytes(error.title) + QByteArray::number(error.error.Number()) + ' ' + Bytes(error.error.Description());
     }
     return told;
 }
 
-QByteArray Totals(const EsitoRicerca& result)
+QByteArray Totals(const SearchResult& result)
 {
-    return Bytes(TestoCorse(result.totali) + "|" + TestoDistanza(result.totali) + "|" + TestoTempi(result.totali) +
-                 "|" + TestoMedia(result.totali));
+    return Bytes(RunsText(result.totals) + "|" + DistanceText(result.totals) + "|" + TimesText(result.totals) + "|" +
+                 MeanText(result.totals));
 }
 
 } // namespace
@@ -109,11 +108,11 @@ private Q_SLOTS:
 void RunSearchTest::WithoutConditionsAllRunsUpToTheDayShown()
 {
     PutRuns(366);
-    const EsitoRicerca result = Find(3);
+    const SearchResult result = Find(3);
     QCOMPARE(Dates(result), (QByteArrayList{"01/01", "02/01", "03/01"}));
     QCOMPARE(Totals(result), QByteArray(" 3| 30| 2:30:00| 5:00"));
-    QVERIFY(!result.interrotta);
-    QCOMPARE(Find(0).righe.size(), std::size_t{0});
+    QVERIFY(!result.ended);
+    QCOMPARE(Find(0).lines.size(), std::size_t{0});
     QCOMPARE(Totals(Find(0)), QByteArray(" 0| | 0:00:00| 0:00"));
 }
 
@@ -128,7 +127,7 @@ void RunSearchTest::MetresAloneAreARun()
 {
     PutRun(1, 0, 500, "0:02:30", "5:00");
     QCOMPARE(Totals(Find(1)), QByteArray(" 1| ,500| 0:02:30| 5:00"));
-    QCOMPARE(Bytes(Find(1).righe[0]), QByteArray("  0,500   0:02:30     5:00      01/01/2026 "));
+    QCOMPARE(Bytes(Find(1).lines[0]), QByteArray("  0,500   0:02:30     5:00      01/01/2026 "));
 }
 
 void RunSearchTest::BothEndsAreInsideThePeriod_data()
@@ -152,7 +151,7 @@ void RunSearchTest::BothEndsAreInsideThePeriod()
     QFETCH(CalendarDate, from);
     QFETCH(CalendarDate, to);
     PutRuns(8);
-    CondizioniRicerca conditions;
+    SearchCriteria conditions;
     const CalendarDate none;
     if (from != none) {
         conditions.GiornoInizio = from.Day();
@@ -213,12 +212,12 @@ void RunSearchTest::EachConditionAlone()
     Giorni[3].Peso = 73;
     Giorni[3].RipetizioniTempi = 2;
 
-    CondizioniRicerca conditions;
-    const CondizioneCategoria& condition = kCondizioni[static_cast<std::size_t>(row)];
-    if (condition.testo != nullptr) {
-        conditions.*condition.testo = TextOf(wanted);
+    SearchCriteria conditions;
+    const CategoryCriterion& condition = kCriteria[static_cast<std::size_t>(row)];
+    if (condition.text != nullptr) {
+        conditions.*condition.text = TextOf(wanted);
     } else {
-        conditions.*condition.numero = wanted.toInt();
+        conditions.*condition.number = wanted.toInt();
     }
     QCOMPARE(Dates(Find(4, conditions)), QByteArrayList{"02/01"});
 }
@@ -231,7 +230,7 @@ void RunSearchTest::ConditionsMeet()
         Giorni[day].Tipo = day >= 2 ? "Gara" : "Lento";
         Giorni[day].Corridori = day == 3 ? 5 : 1;
     }
-    CondizioniRicerca conditions;
+    SearchCriteria conditions;
     conditions.CercaPercorso = "Alfa";
     conditions.CercaTipo = "Gara";
     conditions.CercaCorridori = 1;
@@ -245,23 +244,23 @@ void RunSearchTest::ARunWithoutATimePullsTheMeanDown()
 {
     PutRuns(2);
     PutRun(2, 5, 0, "", "");
-    const EsitoRicerca result = Find(2);
+    const SearchResult result = Find(2);
     QCOMPARE(Totals(result), QByteArray(" 2| 15| 0:50:00| 2:30"));
-    QCOMPARE(result.totali.Medie[1], 5.0F);
-    QCOMPARE(result.totali.Medie[2], 0.0F);
+    QCOMPARE(result.totals.Medie[1], 5.0F);
+    QCOMPARE(result.totals.Medie[2], 0.0F);
     QCOMPARE(Told(result), QByteArrayList());
-    QCOMPARE(Bytes(result.righe[1]), QByteArray("  5,0                           02/01/2026 "));
+    QCOMPARE(Bytes(result.lines[1]), QByteArray("  5,0                           02/01/2026 "));
 }
 
 void RunSearchTest::TooLongATimeIsToldAndLeftOut()
 {
     PutRuns(3);
     Giorni[2].TempoImpiegato = "1:0000:59";
-    const EsitoRicerca result = Find(3);
+    const SearchResult result = Find(3);
     QCOMPARE(Told(result), QByteArrayList{"Somma Tempi - ERRORE : 5 Argomento non valido"});
     QCOMPARE(Totals(result), QByteArray(" 3| 30| 1:40:00| 5:00"));
-    QCOMPARE(Bytes(result.righe[1]), QByteArray(" 10,0     1:0000:59   5:00      02/01/2026 "));
-    QVERIFY(!result.interrotta);
+    QCOMPARE(Bytes(result.lines[1]), QByteArray(" 10,0     1:0000:59   5:00      02/01/2026 "));
+    QVERIFY(!result.ended);
 }
 
 void RunSearchTest::TooLongAnAverageIsToldAndLeftOut()
@@ -269,28 +268,28 @@ void RunSearchTest::TooLongAnAverageIsToldAndLeftOut()
     PutRuns(3);
     Giorni[1].MediaKm = "12:00";
     Giorni[2].MediaKm = "1234:56";
-    const EsitoRicerca result = Find(3);
+    const SearchResult result = Find(3);
     QCOMPARE(Told(result), QByteArrayList{"Somma Media - ERRORE : 5 Argomento non valido"});
     // 17 minutes over three runs.
     QCOMPARE(Totals(result), QByteArray(" 3| 30| 2:30:00| 5:40"));
-    QCOMPARE(result.totali.Medie[2], 0.0F);
+    QCOMPARE(result.totals.Medie[2], 0.0F);
     // The minutes read last place the average of the line.
-    QCOMPARE(Bytes(result.righe[0]), QByteArray(" 10,0     0:50:00    12:00      01/01/2026 "));
-    QCOMPARE(Bytes(result.righe[1]), QByteArray(" 10,0     0:50:00    1234:56    02/01/2026 "));
-    QCOMPARE(Bytes(result.righe[2]), QByteArray(" 10,0     0:50:00     5:00      03/01/2026 "));
+    QCOMPARE(Bytes(result.lines[0]), QByteArray(" 10,0     0:50:00    12:00      01/01/2026 "));
+    QCOMPARE(Bytes(result.lines[1]), QByteArray(" 10,0     0:50:00    1234:56    02/01/2026 "));
+    QCOMPARE(Bytes(result.lines[2]), QByteArray(" 10,0     0:50:00     5:00      03/01/2026 "));
 }
 
 void RunSearchTest::APeriodThatIsNoDateEndsTheSearch()
 {
     PutRuns(3);
-    CondizioniRicerca conditions;
+    SearchCriteria conditions;
     conditions.GiornoInizio = 31;
     conditions.MeseInizio = 4;
     conditions.AnnoInizio = 2026;
-    const EsitoRicerca result = Find(3, conditions);
-    QVERIFY(result.interrotta);
+    const SearchResult result = Find(3, conditions);
+    QVERIFY(result.ended);
     QCOMPARE(Told(result), QByteArrayList{"Ricerca Medie - ERRORE : 13 Tipo non corrispondente"});
-    QCOMPARE(result.righe.size(), std::size_t{0});
+    QCOMPARE(result.lines.size(), std::size_t{0});
     QCOMPARE(Totals(result), QByteArray(" 0| | 0:00:00| 0:00"));
 }
 
@@ -299,8 +298,8 @@ void RunSearchTest::KilometresAndMetresBeyondAnInteger()
     PutRuns(3);
     Giorni[2].Km = 32767;
     Giorni[2].Metri = 1;
-    const EsitoRicerca result = Find(3);
-    QVERIFY(result.interrotta);
+    const SearchResult result = Find(3);
+    QVERIFY(result.ended);
     QCOMPARE(Told(result), QByteArrayList{"Ricerca Medie - ERRORE : 6 Numero oltre i limiti"});
     QCOMPARE(Dates(result), QByteArrayList{"01/01"});
 }
@@ -311,20 +310,20 @@ void RunSearchTest::MoreThan350Runs()
     for (int day = 351; day <= 366; ++day) {
         Giorni[day].MediaKm = "6:30";
     }
-    const EsitoRicerca all = Find(366);
-    QCOMPARE(int{all.totali.NumCorse.value()}, 366);
-    QCOMPARE(all.totali.Medie[350], 5.0F);
-    QCOMPARE(all.totali.Medie[366], 6.3F);
+    const SearchResult all = Find(366);
+    QCOMPARE(int{all.totals.NumCorse.value()}, 366);
+    QCOMPARE(all.totals.Medie[350], 5.0F);
+    QCOMPARE(all.totals.Medie[366], 6.3F);
     // The next search empties the first 350 places and leaves those behind them.
-    TotaliRicerca totals = all.totali;
-    AzzeraTotali(totals);
-    const EsitoRicerca few = CercaCorse(Giorni, 10, {}, totals);
-    QCOMPARE(int{few.totali.NumCorse.value()}, 10);
-    QCOMPARE(few.totali.Medie[10], 5.0F);
-    QCOMPARE(few.totali.Medie[11], 0.0F);
-    QCOMPARE(few.totali.Medie[350], 0.0F);
-    QCOMPARE(few.totali.Medie[351], 6.3F);
-    QCOMPARE(few.totali.Medie[366], 6.3F);
+    SearchTotals totals = all.totals;
+    ClearTotals(totals);
+    const SearchResult few = FindRuns(Giorni, 10, {}, totals);
+    QCOMPARE(int{few.totals.NumCorse.value()}, 10);
+    QCOMPARE(few.totals.Medie[10], 5.0F);
+    QCOMPARE(few.totals.Medie[11], 0.0F);
+    QCOMPARE(few.totals.Medie[350], 0.0F);
+    QCOMPARE(few.totals.Medie[351], 6.3F);
+    QCOMPARE(few.totals.Medie[366], 6.3F);
 }
 
 void RunSearchTest::Lines_data()
@@ -355,7 +354,7 @@ void RunSearchTest::Lines()
     QFETCH(QByteArray, average);
     QFETCH(int, minutes);
     PutRun(10, km, metres, time, average);
-    QTEST(Bytes(RigaCorsa(Giorni[10], minutes)), "line");
+    QTEST(Bytes(RunLine(Giorni[10], minutes)), "line");
 }
 
 ZELVIA_TEST(RunSearchTest)

@@ -90,21 +90,21 @@ void SampleYearTest::Diary()
 void SampleYearTest::Lists_data()
 {
     QTest::addColumn<int>("number");
-    for (const ListaScelta list : kListeSuFile) {
-        QTest::newRow(Bytes(NomeLista(list)).constData()) << static_cast<int>(list);
+    for (const SelectionList list : kFiledLists) {
+        QTest::newRow(Bytes(ListName(list)).constData()) << static_cast<int>(list);
     }
 }
 
 void SampleYearTest::Lists()
 {
     QFETCH(int, number);
-    const auto list = static_cast<ListaScelta>(number);
+    const auto list = static_cast<SelectionList>(number);
     std::vector<Text> entries;
-    LeggiLista(FileLista(list), entries);
+    ReadEntries(ListPath(list), entries);
     QVERIFY(!entries.empty());
     Module1::CartellaDiario = folder_.Path();
-    ScriviLista(FileLista(list), entries);
-    CheckSame(std::string(NomeLista(list)) + ".lsx");
+    WriteEntries(ListPath(list), entries);
+    CheckSame(std::string(ListName(list)) + ".lsx");
 }
 
 void SampleYearTest::Routes()

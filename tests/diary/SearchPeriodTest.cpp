@@ -83,18 +83,18 @@ void SearchPeriodTest::Checks()
     QFETCH(QByteArray, after);
     QFETCH(bool, refused);
     QByteArrayList texts = boxes.split('|');
-    TestiPeriodo fields;
+    PeriodEntries fields;
     QCOMPARE(texts.size(), static_cast<qsizetype>(fields.size()));
     std::transform(texts.begin(), texts.end(), fields.begin(), TextOf);
-    const ControlloPeriodo check = ControllaPeriodo(fields);
+    const PeriodCheck check = CheckPeriod(fields);
     QByteArrayList told;
-    for (const CorrezionePeriodo& repair : check.correzioni) {
-        told << Bytes(repair.messaggio);
-        texts[static_cast<qsizetype>(repair.campo)] = Bytes(repair.valore);
+    for (const PeriodCorrection& repair : check.corrections) {
+        told << Bytes(repair.message);
+        texts[static_cast<qsizetype>(repair.box)] = Bytes(repair.value);
     }
     QCOMPARE(told, messages);
     QCOMPARE(texts.join('|'), after);
-    QCOMPARE(check.invertito, refused);
+    QCOMPARE(check.reversed, refused);
 }
 
 ZELVIA_TEST(SearchPeriodTest)

@@ -67,7 +67,7 @@ void SearchTotalsTest::TimesAreAdded()
 {
     QFETCH(QByteArray, time);
     QFETCH(std::vector<int>, added);
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotOre = 1000;
     totals.TotMinuti = 100;
     totals.TotSecondi = 10;
@@ -79,7 +79,7 @@ void SearchTotalsTest::TimesAreAdded()
 
 void SearchTotalsTest::MinutesHaveALimit()
 {
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotMinuti = 32700;
     QCOMPARE(RaisedBy([&] { SommaTempi(totals, "1:99:59"); }), 6);
     QCOMPARE(totals.TotOre.value(), 1);
@@ -118,7 +118,7 @@ void SearchTotalsTest::AveragesAreAdded()
     QFETCH(int, minutes);
     QFETCH(int, seconds);
     QFETCH(float, pace);
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.NumCorse = 3;
     totals.TotMediaMinuti = 40;
     totals.TotMediaSecondi = 90;
@@ -145,7 +145,7 @@ void SearchTotalsTest::MetresBecomeKilometres()
 {
     QFETCH(int, km);
     QFETCH(int, metres);
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotKm = km;
     totals.TotMetri = metres;
     SommaKm(totals);
@@ -172,7 +172,7 @@ void SearchTotalsTest::SecondsBecomeMinutesAndHours_data()
 void SearchTotalsTest::SecondsBecomeMinutesAndHours()
 {
     QFETCH(std::vector<int>, before);
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotOre = before[0];
     totals.TotMinuti = before[1];
     totals.TotSecondi = before[2];
@@ -204,7 +204,7 @@ void SearchTotalsTest::AMeanOfAverages()
     QFETCH(int, minutes);
     QFETCH(int, seconds);
     QFETCH(int, runs);
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotMediaMinuti = minutes;
     totals.TotMediaSecondi = seconds;
     totals.NumCorse = runs;
@@ -229,7 +229,7 @@ void SearchTotalsTest::Shown_data()
 void SearchTotalsTest::Shown()
 {
     QFETCH(std::vector<int>, totals);
-    TotaliRicerca filled;
+    SearchTotals filled;
     filled.NumCorse = totals[0];
     filled.TotKm = totals[1];
     filled.TotMetri = totals[2];
@@ -238,19 +238,19 @@ void SearchTotalsTest::Shown()
     filled.TotSecondi = totals[5];
     filled.TotMediaMinuti = totals[6];
     filled.TotMediaSecondi = totals[7];
-    QTEST(Bytes(TestoCorse(filled) + "|" + TestoDistanza(filled) + "|" + TestoTempi(filled) + "|" + TestoMedia(filled)),
+    QTEST(Bytes(RunsText(filled) + "|" + DistanceText(filled) + "|" + TimesText(filled) + "|" + MeanText(filled)),
           "shown");
 }
 
 void SearchTotalsTest::EmptyingKeepsTheLastPlaces()
 {
-    TotaliRicerca totals;
+    SearchTotals totals;
     totals.TotKm = totals.TotMetri = totals.TotOre = totals.TotMediaMinuti = totals.TotMediaSecondi = 9;
     totals.TotMinuti = totals.TotSecondi = totals.NumCorse = totals.MinutiMedia = 9;
     for (int i = 0; i <= 370; ++i) {
         totals.Medie[i] = 5;
     }
-    AzzeraTotali(totals);
+    ClearTotals(totals);
     QCOMPARE(totals.TotKm.value() + totals.TotMetri.value() + totals.TotOre.value(), 0);
     QCOMPARE(totals.TotMediaMinuti.value() + totals.TotMediaSecondi.value(), 0);
     QCOMPARE(totals.TotMinuti.value() + totals.TotSecondi.value() + totals.NumCorse.value(), 0);

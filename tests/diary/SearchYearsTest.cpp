@@ -114,9 +114,9 @@ std::vector<PlainDay> DaysOnShow()
     return days;
 }
 
-CondizioniRicerca ConditionsOf(const PlainQuery& query)
+SearchCriteria ConditionsOf(const PlainQuery& query)
 {
-    CondizioniRicerca conditions;
+    SearchCriteria conditions;
     conditions.GiornoInizio = query.from.isValid() ? query.from.day() : 0;
     conditions.MeseInizio = query.from.isValid() ? query.from.month() : 0;
     conditions.AnnoInizio = query.from.isValid() ? query.from.year() : 0;
@@ -136,11 +136,11 @@ CondizioniRicerca ConditionsOf(const PlainQuery& query)
     return conditions;
 }
 
-QByteArrayList Told(const std::vector<ErroreRicerca>& errors)
+QByteArrayList Told(const std::vector<SearchError>& errors)
 {
     QByteArrayList told;
-    for (const ErroreRicerca& error : errors) {
-        told << Bytes(error.titolo) + QByteArray::number(error.errore.Number());
+    for (const SearchError& error : errors) {
+        told << Bytes(error.title) + QByteArray::number(error.error.Number());
     }
     return told;
 }
@@ -149,30 +149,30 @@ QByteArrayList Told(const std::vector<ErroreRicerca>& errors)
 int Compare(const PlainQuery& query)
 {
     const PlainResult expected = Search(DaysOnShow(), query);
-    const EsitoRicerca result = CercaCorse(Giorni, GiornoCorrente, ConditionsOf(query), {});
+    const SearchResult result = FindRuns(Giorni, GiornoCorrente, ConditionsOf(query), {});
     QByteArrayList lines;
-    for (const Text& line : result.righe) {
+    for (const Text& line : result.lines) {
         lines << Bytes(line);
     }
     QTest::qCompare(lines, expected.lines, "lines", "expected", __FILE__, __LINE__);
-    TotaliRicerca totals = result.totali;
+    SearchTotals totals = result.totals;
     SommaKm(totals);
     TempiTotali(totals);
     MediaTotali(totals);
     QTest::qCompare(
-        Bytes(TestoCorse(totals) + "|" + TestoDistanza(totals) + "|" + TestoTempi(totals) + "|" + TestoMedia(totals)),
+        Bytes(RunsText(totals) + "|" + DistanceText(totals) + "|" + TimesText(totals) + "|" + MeanText(totals)),
         expected.totals, "totals", "expected", __FILE__, __LINE__);
     QByteArrayList errors;
     for (const QByteArray& unreadable : expected.unreadable) {
         errors << (unreadable.startsWith('T') ? "Somma Tempi - ERRORE : 5" : "Somma Media - ERRORE : 5");
     }
-    QTest::qCompare(Told(result.errori), errors, "errors", "expected", __FILE__, __LINE__);
+    QTest::qCompare(Told(result.errors), errors, "errors", "expected", __FILE__, __LINE__);
 
     // The chart: as many places as the first 350 hold paces, from the first on.
     const auto charted =
         std::count_if(expected.paces.begin(), expected.paces.begin() + std::min<qsizetype>(350, expected.paces.size()),
                       [](double pace) { return pace > 0; });
-    const ChartData chart = GraficoMedie(totals.Medie);
+    const ChartData chart = PaceChart(totals.Medie);
     QTest::qCompare(static_cast<qsizetype>(chart.RowCount()), static_cast<qsizetype>(charted), "points", "paces",
                     __FILE__, __LINE__);
     for (int row = 1; row <= chart.RowCount(); ++row) {
@@ -190,8 +190,8 @@ void CompareBars()
     const std::vector<PlainDay> days = DaysOnShow();
     for (const QByteArray& title : kTitles) {
         const std::vector<PlainRow> rows = Ranked(title, days);
-        ContaValori(*StatisticaDi(TextOf(title)));
-        const ChartData chart = GraficoCategorie(TextOf(title), NomeCategoria, ContaCategoria, ValoreCategoria);
+        CountValues(*StatisticOf(TextOf(title)));
+        const ChartData chart = CategoryChart(TextOf(title), NomeCategoria, ContaCategoria, ValoreCategoria);
         QCOMPARE(Bytes(chart.TitleText), title);
         QCOMPARE(chart.ColumnCount(), static_cast<int>(rows.size()));
         QCOMPARE(chart.RowCount(), 1);
@@ -224,7 +224,7 @@ private:
 void SearchYearsTest::init()
 {
     ForgetDays();
-    AzzeraStatistica();
+    ClearStatistic();
     boxes_ = std::make_unique<MessageScript>();
 }
 
@@ -232,7 +232,7 @@ void SearchYearsTest::cleanup()
 {
     boxes_.reset();
     ForgetDays();
-    AzzeraStatistica();
+    ClearStatistic();
 }
 
 void SearchYearsTest::TheSampleYear_data()

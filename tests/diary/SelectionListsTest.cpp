@@ -43,7 +43,7 @@ struct ListRead {
 
     int Read(TextView path)
     {
-        return RaisedBy([&] { LeggiLista(path, entries); });
+        return RaisedBy([&] { ReadEntries(path, entries); });
     }
 };
 
@@ -89,10 +89,10 @@ void SelectionListsTest::EntriesAtStart()
     QFETCH(int, number);
     QFETCH(QByteArray, name);
     QFETCH(QByteArray, entries);
-    const auto list = static_cast<ListaScelta>(number);
-    QCOMPARE(Bytes(NomeLista(list)), name);
+    const auto list = static_cast<SelectionList>(number);
+    QCOMPARE(Bytes(ListName(list)), name);
     QByteArrayList found;
-    for (const TextView entry : VociIniziali(list)) {
+    for (const TextView entry : FirstEntries(list)) {
         found.append(Bytes(entry));
     }
     QCOMPARE(found, entries.isEmpty() ? QByteArrayList() : entries.split(';'));
@@ -102,15 +102,15 @@ void SelectionListsTest::FilesAndOrder()
 {
     Module1::CartellaDiario = R"(C:\X\prova)";
     QByteArrayList files;
-    for (const ListaScelta list : kListeSuFile) {
-        files.append(Bytes(FileLista(list)));
+    for (const SelectionList list : kFiledLists) {
+        files.append(Bytes(ListPath(list)));
     }
     QCOMPARE(files, (QByteArrayList{R"(C:\X\prova\Percorso.lsx)", R"(C:\X\prova\Lunghezza.lsx)",
                                     R"(C:\X\prova\Modo.lsx)", R"(C:\X\prova\Fondo.lsx)", R"(C:\X\prova\Tipo.lsx)",
                                     R"(C:\X\prova\TempoAtm.lsx)", R"(C:\X\prova\Temperatura.lsx)"}));
-    QCOMPARE(kTutteLeListe.size(), std::size_t{8});
-    for (std::size_t i = 0; i < kTutteLeListe.size(); ++i) {
-        QCOMPARE(static_cast<std::size_t>(kTutteLeListe[i]), i + 1);
+    QCOMPARE(kAllLists.size(), std::size_t{8});
+    for (std::size_t i = 0; i < kAllLists.size(); ++i) {
+        QCOMPARE(static_cast<std::size_t>(kAllLists[i]), i + 1);
     }
     Module1::AzzeraStato();
 }
@@ -136,7 +136,7 @@ void SelectionListsTest::WrittenForms()
     for (const QByteArray& entry : entries) {
         voci.push_back(TextOf(entry));
     }
-    ScriviLista(folder.Path("Tipo.lsx"), voci);
+    WriteEntries(folder.Path("Tipo.lsx"), voci);
     QCOMPARE(Bytes(folder.Read("Tipo.lsx")), bytes);
     ListRead box;
     QCOMPARE(box.Read(folder.Path("Tipo.lsx")), 0);
@@ -146,8 +146,8 @@ void SelectionListsTest::WrittenForms()
 void SelectionListsTest::WritingReplacesTheFile()
 {
     const TempFolder folder;
-    ScriviLista(folder.Path("Tipo.lsx"), {"Allenamento", "Gara", "Camminata"});
-    ScriviLista(folder.Path("Tipo.lsx"), {"Gara"});
+    WriteEntries(folder.Path("Tipo.lsx"), {"Allenamento", "Gara", "Camminata"});
+    WriteEntries(folder.Path("Tipo.lsx"), {"Gara"});
     QCOMPARE(Bytes(folder.Read("Tipo.lsx")), QByteArray("\"Gara\"\r\n"));
 }
 
@@ -210,10 +210,10 @@ void SelectionListsTest::WritingFails()
 {
     const TempFolder folder;
     folder.MakeFolder("cartella");
-    QCOMPARE(RaisedBy([&] { ScriviLista(folder.FullDisk(), {"a"}); }), 61);
-    QCOMPARE(RaisedBy([&] { ScriviLista(folder.Path("cartella"), {"a"}); }), 75);
-    QCOMPARE(RaisedBy([&] { ScriviLista(folder.Path("manca/x"), {"a"}); }), 76);
-    QCOMPARE(RaisedBy([&] { ScriviLista("\\Tipo.lsx", {"a"}); }), 76);
+    QCOMPARE(RaisedBy([&] { WriteEntries(folder.FullDisk(), {"a"}); }), 61);
+    QCOMPARE(RaisedBy([&] { WriteEntries(folder.Path("cartella"), {"a"}); }), 75);
+    QCOMPARE(RaisedBy([&] { WriteEntries(folder.Path("manca/x"), {"a"}); }), 76);
+    QCOMPARE(RaisedBy([&] { WriteEntries("\\Tipo.lsx", {"a"}); }), 76);
 }
 
 ZELVIA_TEST(SelectionListsTest)

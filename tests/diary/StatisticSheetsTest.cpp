@@ -21,13 +21,13 @@ const CalendarDate kDay(2026, 5, 20);
 SearchSheetTexts ASearch(int runs)
 {
     SearchSheetTexts ricerca;
-    ricerca.data = kDay;
-    ricerca.inizio = {"1", "2", "2026"};
-    ricerca.fine = {"30", "4", "2026"};
-    ricerca.condizioni = {"via",    "corto", " 8,0",  "lento", "strada", "gara",
-                          "estate", "sole",  "caldo", "3",     "68",     " 8 x 400  @ 1:30"};
-    ricerca.righe.assign(static_cast<std::size_t>(runs), "  8,0     0:40:00     5:00      01/03/2026 ");
-    ricerca.totali = {" 3", " 24", " 2:00:00", " 5:00"};
+    ricerca.date = kDay;
+    ricerca.start = {"1", "2", "2026"};
+    ricerca.end = {"30", "4", "2026"};
+    ricerca.criteria = {"via",    "corto", " 8,0",  "lento", "strada", "gara",
+                        "estate", "sole",  "caldo", "3",     "68",     " 8 x 400  @ 1:30"};
+    ricerca.lines.assign(static_cast<std::size_t>(runs), "  8,0     0:40:00     5:00      01/03/2026 ");
+    ricerca.totals = {" 3", " 24", " 2:00:00", " 5:00"};
     return ricerca;
 }
 
@@ -176,7 +176,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, line);
         SearchSheetTexts ricerca = ASearch(0);
-        ricerca.righe = {line.toStdString()};
+        ricerca.lines = {line.toStdString()};
         QTEST(SheetRow(SearchSheet(ricerca), 22), "printed");
     }
 

@@ -20,11 +20,11 @@ using namespace zelvia::test;
 namespace
 {
 
-class Lines : public VistaStatistica
+class Lines : public StatisticView
 {
 public:
-    void SetTitolo(TextView text) override { title = Bytes(text); }
-    void AggiungiRiga(TextView line) override { lines << Bytes(line); }
+    void SetTitle(TextView text) override { title = Bytes(text); }
+    void AddLine(TextView line) override { lines << Bytes(line); }
 
     QByteArray title;
     QByteArrayList lines;
@@ -93,14 +93,14 @@ std::vector<PlainDay> DaysOnShow()
 void Compare(const QByteArray& title)
 {
     const std::vector<PlainRow> rows = Ranked(title, DaysOnShow());
-    const Statistica* statistic = StatisticaDi(TextOf(title));
+    const Statistic* statistic = StatisticOf(TextOf(title));
     QVERIFY(statistic != nullptr);
     Lines view;
-    EseguiStatistica(*statistic, view);
+    RunStatistic(*statistic, view);
     QCOMPARE(view.title, title);
     QCOMPARE(Bytes(TitoloStatistica), title);
     QCOMPARE(view.lines, LinesOf(title, rows));
-    for (int slot = 1; slot <= kMaxCategorie; ++slot) {
+    for (int slot = 1; slot <= kMaxCategories; ++slot) {
         const auto place = static_cast<std::size_t>(slot - 1);
         const PlainRow row = place < rows.size() ? rows[place] : PlainRow{IsNumeric(title) ? "0" : "", 0};
         QCOMPARE(int{ContaCategoria[slot].value()}, row.count);
@@ -132,7 +132,7 @@ private:
 void StatisticsYearsTest::init()
 {
     ForgetDays();
-    AzzeraStatistica();
+    ClearStatistic();
     boxes_ = std::make_unique<MessageScript>();
 }
 

@@ -56,7 +56,7 @@ int SecondsOfDay(Clock clock)
     return (clock.hours * 60 + clock.minutes) * 60 + clock.seconds;
 }
 
-Orario OrarioOf(Clock clock)
+ClockTime OrarioOf(Clock clock)
 {
     return {clock.hours, clock.minutes, clock.seconds};
 }
@@ -166,11 +166,11 @@ Text CaptionOf(int metres)
     return TextOf(QString::asprintf("%d,%03d", metres / 1000, metres % 1000).toLatin1());
 }
 
-Outcome ActualAverage(TextView caption, Orario taken)
+Outcome ActualAverage(TextView caption, ClockTime taken)
 {
     Outcome outcome;
     outcome.error = RaisedBy([&] {
-        if (const auto average = CalcolaMedia(caption, taken)) {
+        if (const auto average = AverageText(caption, taken)) {
             outcome.shown = Bytes(*average);
         }
     });
@@ -187,19 +187,19 @@ QByteArray Discrepancy(Clock start, Clock end, int metres)
 {
     const QByteArray run = Shown(start) + " to " + Shown(end) + " over " + QByteArray::number(metres) + " m: ";
 
-    const EsitoTempi found = ControllaTempi(metres > 0, OrarioOf(start), OrarioOf(end));
+    const TimesCheck found = CheckTimes(metres > 0, OrarioOf(start), OrarioOf(end));
     const bool hasEnd = SecondsOfDay(end) > 0;
     const int possible = !hasEnd ? 0 : metres > 0 ? 1 : 2;
     const QByteArray warning = hasEnd ? ExpectedWarning(start, end) : QByteArray();
-    if (static_cast<int>(found.calcolo) != possible || found.azzera != (possible != 1) ||
-        Bytes(found.avviso) != warning) {
+    if (static_cast<int>(found.calculation) != possible || found.blanks != (possible != 1) ||
+        Bytes(found.warning) != warning) {
         return run + "what can be computed, or its warning";
     }
 
     const Clock taken = ExpectedTime(start, end);
-    const Orario time = TempoTrascorso(OrarioOf(start), OrarioOf(end));
-    if (Bytes(TestoTempo(time)) != Shown(taken)) {
-        return run + Bytes(TestoTempo(time)) + " instead of " + Shown(taken);
+    const ClockTime time = ElapsedTime(OrarioOf(start), OrarioOf(end));
+    if (Bytes(TimeText(time)) != Shown(taken)) {
+        return run + Bytes(TimeText(time)) + " instead of " + Shown(taken);
     }
 
     const Outcome actual = ActualAverage(CaptionOf(metres), time);
@@ -259,10 +259,10 @@ void TimeAndPaceTest::WhatCanBeComputed()
     QFETCH(int, result);
     QFETCH(bool, blanked);
     QFETCH(QByteArray, warning);
-    const EsitoTempi found = ControllaTempi(distance, OrarioOf(ClockOf(start)), OrarioOf(ClockOf(end)));
-    QCOMPARE(static_cast<int>(found.calcolo), result);
-    QCOMPARE(found.azzera, blanked);
-    QCOMPARE(Bytes(found.avviso), warning);
+    const TimesCheck found = CheckTimes(distance, OrarioOf(ClockOf(start)), OrarioOf(ClockOf(end)));
+    QCOMPARE(static_cast<int>(found.calculation), result);
+    QCOMPARE(found.blanks, blanked);
+    QCOMPARE(Bytes(found.warning), warning);
 }
 
 void TimeAndPaceTest::TimeTaken_data()
@@ -296,11 +296,11 @@ void TimeAndPaceTest::TimeTaken()
     QFETCH(QByteArray, start);
     QFETCH(QByteArray, end);
     QFETCH(QByteArray, taken);
-    const Orario found = TempoTrascorso(OrarioOf(ClockOf(start)), OrarioOf(ClockOf(end)));
+    const ClockTime found = ElapsedTime(OrarioOf(ClockOf(start)), OrarioOf(ClockOf(end)));
     const Clock expected = ClockOf(taken);
-    QCOMPARE(found.ore.value(), expected.hours);
-    QCOMPARE(found.minuti.value(), expected.minutes);
-    QCOMPARE(found.secondi.value(), expected.seconds);
+    QCOMPARE(found.hours.value(), expected.hours);
+    QCOMPARE(found.minutes.value(), expected.minutes);
+    QCOMPARE(found.seconds.value(), expected.seconds);
 }
 
 void TimeAndPaceTest::TimesAsText_data()
@@ -323,7 +323,7 @@ void TimeAndPaceTest::TimesAsText()
     QFETCH(int, minutes);
     QFETCH(int, seconds);
     QFETCH(QByteArray, text);
-    QCOMPARE(Bytes(TestoTempo({hours, minutes, seconds})), text);
+    QCOMPARE(Bytes(TimeText({hours, minutes, seconds})), text);
 }
 
 void TimeAndPaceTest::Average_data()
@@ -365,7 +365,7 @@ void TimeAndPaceTest::Average()
     QFETCH(QByteArray, distance);
     QFETCH(QByteArray, taken);
     QFETCH(QByteArray, average);
-    const auto found = CalcolaMedia(TextOf(distance), OrarioOf(ClockOf(taken)));
+    const auto found = AverageText(TextOf(distance), OrarioOf(ClockOf(taken)));
     QCOMPARE(found ? Bytes(*found) : QByteArray("-"), average);
 }
 
@@ -402,8 +402,8 @@ void TimeAndPaceTest::AverageFails()
     QFETCH(QByteArray, distance);
     QFETCH(QByteArray, taken);
     QFETCH(int, error);
-    const Orario time = OrarioOf(ClockOf(taken));
-    QCOMPARE(RaisedBy([&] { CalcolaMedia(TextOf(distance), time); }), error);
+    const ClockTime time = OrarioOf(ClockOf(taken));
+    QCOMPARE(RaisedBy([&] { AverageText(TextOf(distance), time); }), error);
 }
 
 /// 216 times of day as the start by the same 216 as the end, each pair over two of the distances in turn.
@@ -457,7 +457,7 @@ void TimeAndPaceTest::EverySecondOfTwoHours()
             if (second > kilometres * hour) {
                 continue;
             }
-            const auto average = CalcolaMedia(CaptionOf(1000 * kilometres), OrarioOf(end));
+            const auto average = AverageText(CaptionOf(1000 * kilometres), OrarioOf(end));
             QVERIFY(average.has_value());
             const auto shown = [](int seconds) {
                 return QString::asprintf("%d:%02d", seconds / 60, seconds % 60).toLatin1();

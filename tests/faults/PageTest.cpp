@@ -126,7 +126,7 @@ ExpectedBox RestoreQuestion()
 
 void ClearLists(const DayPage& page)
 {
-    for (const ListaScelta list : kListeSuFile) {
+    for (const SelectionList list : kFiledLists) {
         page.SetEntries(list, {});
     }
 }
@@ -134,8 +134,8 @@ void ClearLists(const DayPage& page)
 /// True when what a file fills holds something.
 bool IsLoaded(const DayPage& page, const FileTitle& file)
 {
-    for (const ListaScelta list : kListeSuFile) {
-        if (PathOf(file) == QLatin1String("prova/%1.lsx").arg(QString::fromStdString(Text(NomeLista(list))))) {
+    for (const SelectionList list : kFiledLists) {
+        if (PathOf(file) == QLatin1String("prova/%1.lsx").arg(QString::fromStdString(Text(ListName(list))))) {
             return page->Campo(list).lst->ListCount() > 0;
         }
     }

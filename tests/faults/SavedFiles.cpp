@@ -141,12 +141,12 @@ constexpr TextView kPointerTitle = "puntatore - ";
 
 void WriteList()
 {
-    Trap(kListTitle, [] { ScriviLista(FileLista(ListaScelta::Percorso), list); });
+    Trap(kListTitle, [] { WriteEntries(ListPath(SelectionList::Percorso), list); });
 }
 
 void ReadList()
 {
-    Trap(kListTitle, [] { LeggiLista(FileLista(ListaScelta::Percorso), list); });
+    Trap(kListTitle, [] { ReadEntries(ListPath(SelectionList::Percorso), list); });
 }
 
 SavedFile ListFile()

@@ -57,7 +57,7 @@ void PageMemoryTest::init()
     page_ = std::make_unique<EntryPage>();
     Page().Start();
     for (int number = 1; number <= 8; ++number) {
-        Page().SetEntries(static_cast<ListaScelta>(number), {FromQString(kLong)});
+        Page().SetEntries(static_cast<SelectionList>(number), {FromQString(kLong)});
     }
     // So that no window asks for its description.
     Module1::NomiPercorso[1] = FromQString(kLong);
@@ -179,7 +179,7 @@ void PageMemoryTest::OpenRoutes() const
 {
     CloseField(1);
     const ControlliLista& field = Page().Field(1);
-    Page().SetEntries(ListaScelta::Percorso, {FromQString(kLong)});
+    Page().SetEntries(SelectionList::Percorso, {FromQString(kLong)});
     hand::Click(*field.lblImmis);
     Settle();
     field.txt->SetContent(FromQString(kLong));
@@ -241,7 +241,7 @@ std::map<QByteArray, Command> PageMemoryTest::Commands() const
     };
     const auto newRoute = [this] {
         OpenRoutes();
-        Page().SetEntries(ListaScelta::Percorso, {});
+        Page().SetEntries(SelectionList::Percorso, {});
         Page().Field(1).txt->SetFocus();
         Settle();
         Page().Field(1).txt->SetContent(FromQString(kLong));

@@ -126,7 +126,7 @@ void WindowMemoryTest::period()
     SearchDesk desk;
     desk.StartSearch();
     desk.TypePeriod("1|4|2026|30|4|2026");
-    const auto prepare = [&] { desk->campiPeriodo[CampoPeriodo::GiornoInizio]->SetContent("31"); };
+    const auto prepare = [&] { desk->periodBoxes[PeriodBox::GiornoInizio]->SetContent("31"); };
     VerifyReports({{"Controllo Data"}, prepare, [&] { desk.Run(); }});
 }
 

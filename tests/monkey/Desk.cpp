@@ -76,7 +76,7 @@ void Desk::Start()
 {
     Application::Instance().ReleaseInstanceLock();
     Module1::AzzeraTabella();
-    Module1::AzzeraStatistica();
+    Module1::ClearStatistic();
     pageTimer_.clear();
     page_ = new frmMain;
     if (!page_->FormLoad()) {

@@ -170,8 +170,8 @@ Kind KindOf(const QString& file)
 Text ListOnPage(const QString& file, const frmMain& page)
 {
     Lines lines;
-    for (const ListaScelta list : kListeSuFile) {
-        if (QFileInfo(file).completeBaseName().toStdString() == NomeLista(list)) {
+    for (const SelectionList list : kFiledLists) {
+        if (QFileInfo(file).completeBaseName().toStdString() == ListName(list)) {
             for (const Text& entry : page.campi[static_cast<int>(list)].lst->Items()) {
                 lines.Add(entry);
             }
@@ -272,8 +272,8 @@ QString FileWatch::ReadBack(const QString& file) const
         break;
     case Kind::List: {
         std::vector<Text> entries;
-        LeggiLista(path, entries);
-        rewritten([&] { ScriviLista(copy, entries); });
+        ReadEntries(path, entries);
+        rewritten([&] { WriteEntries(copy, entries); });
         break;
     }
     case Kind::Table:

@@ -388,14 +388,14 @@ void Actions::Search(QWidget& window)
     if (way == 0) {
         PressIf(*search->cmdPeriodo);
         desk_.Settle();
-        for (int i = 0; i < 6 && !search.isNull() && search->campiPeriodo[0]->isVisible(); ++i) {
-            hand_.Type(FittingText(*search->campiPeriodo[0]));
+        for (int i = 0; i < 6 && !search.isNull() && search->periodBoxes[0]->isVisible(); ++i) {
+            hand_.Type(FittingText(*search->periodBoxes[0]));
             hand_.Key(Qt::Key_Return);
             desk_.Settle();
         }
     } else if (way < 3) {
-        const auto category = static_cast<Categoria>(dice_.Below(static_cast<int>(kCondizioni.size())));
-        PressIf(*search->ControlliDi(category).cmd);
+        const auto category = static_cast<Categoria>(dice_.Below(static_cast<int>(kCriteria.size())));
+        PressIf(*search->ControlsFor(category).cmd);
         desk_.Settle();
         if (!search.isNull() && search->lstStatistiche->isVisible()) {
             UseList(*search);

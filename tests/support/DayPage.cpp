@@ -46,7 +46,7 @@ DayPage::~DayPage()
     Module1::AzzeraAnno();
     Module1::AzzeraStato();
     Module1::AzzeraTabella();
-    Module1::AzzeraStatistica();
+    Module1::ClearStatistic();
     Application::Instance().ReleaseInstanceLock();
     SetClock({});
     SetProgramFolder({});
@@ -132,15 +132,15 @@ void DayPage::GoTo(int slot) const
     }
 }
 
-void DayPage::SetEntries(ListaScelta lista, std::vector<Text> entries) const
+void DayPage::SetEntries(SelectionList lista, std::vector<Text> entries) const
 {
-    VociDi(lista) = std::move(entries);
+    EntriesOf(lista) = std::move(entries);
     static_cast<DiaryPage&>(Page()).ShowList(lista);
 }
 
-void DayPage::AddEntry(ListaScelta lista, const Text& entry) const
+void DayPage::AddEntry(SelectionList lista, const Text& entry) const
 {
-    std::vector<Text> entries = VociDi(lista);
+    std::vector<Text> entries = EntriesOf(lista);
     entries.push_back(entry);
     SetEntries(lista, std::move(entries));
 }

@@ -56,8 +56,8 @@ public:
     void GoTo(int slot) const;
 
     /// Gives a selection list other entries, or one more.
-    void SetEntries(ListaScelta lista, std::vector<Text> entries) const;
-    void AddEntry(ListaScelta lista, const Text& entry) const;
+    void SetEntries(SelectionList lista, std::vector<Text> entries) const;
+    void AddEntry(SelectionList lista, const Text& entry) const;
 
     // Dialogs as the commands show them; `choose` none cancels.
     ExpectedDialog OpenDialog(const QString& preset, const QString& choose = {}) const;

@@ -64,14 +64,14 @@ void SearchDesk::TypePeriod(const QByteArray& boxes) const
     const QByteArrayList parts = boxes.split('|');
     for (qsizetype i = 0; i < parts.size(); ++i) {
         if (!parts[i].isEmpty()) {
-            Write(static_cast<CampoPeriodo::Campo>(i), QString::fromLatin1(parts[i]));
+            Write(static_cast<PeriodBox::Box>(i), QString::fromLatin1(parts[i]));
         }
     }
 }
 
-void SearchDesk::Write(CampoPeriodo::Campo field, const QString& text) const
+void SearchDesk::Write(PeriodBox::Box field, const QString& text) const
 {
-    TextBox& box = *Search()->campiPeriodo[field];
+    TextBox& box = *Search()->periodBoxes[field];
     hand::Click(box);
     QTRY_VERIFY2(box.hasFocus(), qPrintable(box.objectName()));
     box.selectAll();
@@ -82,7 +82,7 @@ void SearchDesk::Write(CampoPeriodo::Campo field, const QString& text) const
 QByteArray SearchDesk::Period() const
 {
     QByteArrayList parts;
-    for (const TextBox* box : Search()->campiPeriodo) {
+    for (const TextBox* box : Search()->periodBoxes) {
         parts << box->text().toLatin1();
     }
     return parts.join('|');

@@ -26,15 +26,15 @@ public:
     frmGrafici* Charts() const { return Shown<frmGrafici>(); }
     frmRicercheStatistiche* operator->() const { return Search(); }
 
-    void ClickCategory(Categoria category) const { hand::Click(*Search()->ControlliDi(category).cmd); }
-    Label& Condition(Categoria category) const { return *Search()->ControlliDi(category).lbl; }
+    void ClickCategory(Categoria category) const { hand::Click(*Search()->ControlsFor(category).cmd); }
+    Label& Condition(Categoria category) const { return *Search()->ControlsFor(category).lbl; }
     /// A double click on a value of the list.
     void Choose(const QString& value) const;
     /// Turns a condition on and chooses its value.
     void Demand(Categoria category, const QString& value) const;
     /// Opens the period and types its six parts; empty ones stay.
     void TypePeriod(const QByteArray& boxes) const;
-    void Write(CampoPeriodo::Campo field, const QString& text) const;
+    void Write(PeriodBox::Box field, const QString& text) const;
     void Run() const { hand::Click(*Search()->cmdAvvia); }
 
     /// The boxes of the period separated by "|".

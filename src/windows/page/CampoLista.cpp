@@ -25,8 +25,8 @@ Text Title(TextView control, TextView nome)
 
 } // namespace
 
-CampoLista::CampoLista(frmMain& page, ListaScelta lista)
-    : page_(page), lista_(lista), controlli_(page.Campo(lista)), nome_(NomeLista(lista))
+CampoLista::CampoLista(frmMain& page, SelectionList lista)
+    : page_(page), lista_(lista), controls_(page.Campo(lista)), nome_(ListName(lista))
 {
     Connect();
 }
@@ -36,22 +36,22 @@ void CampoLista::Connect()
     const auto trapped = [this](TextView control, void (CampoLista::*handler)()) {
         return [this, title = Title(control, nome_), handler] { Trap(title, [&] { (this->*handler)(); }); };
     };
-    controlli_.lblImmis->OnClick(trapped("lblImmis", &CampoLista::Apri));
-    controlli_.lbl->OnClick(trapped("lbl", &CampoLista::LeaveBox), KeyReach::MouseOnly);
-    controlli_.txt->LostFocus = trapped("txt", &CampoLista::Chiudi);
-    controlli_.txt->Click = trapped("txt", &CampoLista::LeaveBox);
-    controlli_.txt->KeyPress = [leave = controlli_.txt->Click](int& keyAscii) {
+    controls_.lblImmis->OnClick(trapped("lblImmis", &CampoLista::Apri));
+    controls_.lbl->OnClick(trapped("lbl", &CampoLista::LeaveBox), KeyReach::MouseOnly);
+    controls_.txt->LostFocus = trapped("txt", &CampoLista::Chiudi);
+    controls_.txt->Click = trapped("txt", &CampoLista::LeaveBox);
+    controls_.txt->KeyPress = [leave = controls_.txt->Click](int& keyAscii) {
         if (keyAscii == kEnter || keyAscii == kEscape) {
             leave();
         }
     };
-    controlli_.lst->GotFocus = trapped("lst", &CampoLista::OnListGotFocus);
-    controlli_.lst->Click = trapped("lst", &CampoLista::OnListClick);
-    controlli_.lst->DblClick = trapped("lst", &CampoLista::OnListDblClick);
+    controls_.lst->GotFocus = trapped("lst", &CampoLista::OnListGotFocus);
+    controls_.lst->Click = trapped("lst", &CampoLista::OnListClick);
+    controls_.lst->DblClick = trapped("lst", &CampoLista::OnListDblClick);
     // The key handler of the temperatures goes by no name of its own.
-    const Text keyTitle = lista_ == ListaScelta::Temperatura ? Text(kBareTitle) : Title("lst", nome_);
-    controlli_.lst->KeyPress = [this, keyTitle](int keyAscii) { Trap(keyTitle, [&] { OnListKeyPress(keyAscii); }); };
-    controlli_.lst->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
+    const Text keyTitle = lista_ == SelectionList::Temperatura ? Text(kBareTitle) : Title("lst", nome_);
+    controls_.lst->KeyPress = [this, keyTitle](int keyAscii) { Trap(keyTitle, [&] { OnListKeyPress(keyAscii); }); };
+    controls_.lst->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
         Trap(Title("lst", nome_), [&] { OnListMouseUp(button, position); });
     };
 }
@@ -59,21 +59,21 @@ void CampoLista::Connect()
 void CampoLista::Apri()
 {
     Trap(Title("Immis", nome_), [this] {
-        page_.FollowInTabOrder(*controlli_.lst);
-        controlli_.txt->SetVisible(true);
-        controlli_.lst->SetVisible(true);
-        page_.EnterField(*controlli_.txt);
+        page_.FollowInTabOrder(*controls_.lst);
+        controls_.txt->SetVisible(true);
+        controls_.lst->SetVisible(true);
+        page_.EnterField(*controls_.txt);
     });
 }
 
 void CampoLista::Chiudi()
 {
-    controlli_.txt->SetVisible(false);
-    controlli_.lst->SetVisible(false);
+    controls_.txt->SetVisible(false);
+    controls_.lst->SetVisible(false);
     page_.ListaAperta = 0;
-    const i16 presente = page_.AggiungiLista(*controlli_.txt, lista_);
-    const Text testo = controlli_.txt->Content();
-    controlli_.lblImmis->SetCaption(testo);
+    const i16 presente = page_.AggiungiLista(*controls_.txt, lista_);
+    const Text testo = controls_.txt->Content();
+    controls_.lblImmis->SetCaption(testo);
     OnChiusura(testo, presente);
 }
 
@@ -84,35 +84,35 @@ void CampoLista::OnChiusura(const Text& /*testo*/, i16 /*presente*/)
 
 void CampoLista::OnListGotFocus()
 {
-    controlli_.txt->SetVisible(true);
-    controlli_.lst->SetVisible(true);
+    controls_.txt->SetVisible(true);
+    controls_.lst->SetVisible(true);
     page_.ListaAperta = static_cast<int>(lista_);
     page_.CursoreMano();
 }
 
 void CampoLista::OnListClick()
 {
-    controlli_.lst->viewport()->update();
-    OnScelta(controlli_.lst->List(controlli_.lst->ListIndex()));
+    controls_.lst->viewport()->update();
+    OnScelta(controls_.lst->List(controls_.lst->ListIndex()));
 }
 
 void CampoLista::OnListDblClick()
 {
-    const Text voce = controlli_.lst->List(controlli_.lst->ListIndex());
-    controlli_.txt->SetContent(voce);
+    const Text voce = controls_.lst->List(controls_.lst->ListIndex());
+    controls_.txt->SetContent(voce);
     OnPresa(voce);
-    controlli_.txt->SetFocus();
+    controls_.txt->SetFocus();
     page_.FocusSink().SetFocus();
 }
 
 void CampoLista::OnListKeyPress(int keyAscii)
 {
-    if (keyAscii == kEnter && controlli_.lst->ListIndex() >= 0) {
-        controlli_.lst->DblClick();
+    if (keyAscii == kEnter && controls_.lst->ListIndex() >= 0) {
+        controls_.lst->DblClick();
     } else if (keyAscii == kEnter || keyAscii == kEscape) {
         // With nothing selected Enter too closes the field on the text of its box.
-        controlli_.txt->SetFocus();
-        controlli_.txt->Click();
+        controls_.txt->SetFocus();
+        controls_.txt->Click();
     }
 }
 

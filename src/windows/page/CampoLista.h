@@ -18,7 +18,7 @@ struct ControlliLista;
 class CampoLista
 {
 public:
-    CampoLista(frmMain& page, ListaScelta lista);
+    CampoLista(frmMain& page, SelectionList lista);
     virtual ~CampoLista() = default;
     CampoLista(const CampoLista&) = delete;
     CampoLista& operator=(const CampoLista&) = delete;
@@ -48,8 +48,8 @@ private:
     void LeaveBox();
     void Connect();
 
-    ListaScelta lista_;
-    ControlliLista& controlli_;
+    SelectionList lista_;
+    ControlliLista& controls_;
     Text nome_;
 };
 
@@ -57,7 +57,7 @@ private:
 class CampoPercorso : public CampoLista
 {
 public:
-    explicit CampoPercorso(frmMain& page) : CampoLista(page, ListaScelta::Percorso) {}
+    explicit CampoPercorso(frmMain& page) : CampoLista(page, SelectionList::Percorso) {}
 
 protected:
     void OnScelta(const Text& voce) override;

@@ -38,7 +38,7 @@ Label* PageControls::*LabelOf(const TimeField& field)
 
 } // namespace
 
-void DayOnPage::ShowText(ListaScelta lista, TextView valore)
+void DayOnPage::ShowText(SelectionList lista, TextView valore)
 {
     page_.Campo(lista).lblImmis->SetCaption(valore);
     page_.Campo(lista).txt->SetContent(valore);

@@ -15,7 +15,7 @@ class DayOnPage
 public:
     explicit DayOnPage(PageControls& page) : page_(page) {}
 
-    void ShowText(ListaScelta lista, TextView valore);
+    void ShowText(SelectionList lista, TextView valore);
     /// Puts the day into the controls.
     void Show(const RecordGiorno& giorno);
     /// Empties the controls, of the texts those that the day fills. Time and average stay those of the day.

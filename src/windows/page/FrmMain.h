@@ -56,8 +56,8 @@ public:
     Control& FocusSink() override { return *pctGiornoAnno; }
 
     // State of the open diary, and the range of the page.
-    static constexpr CalendarDate DataMinima = kDataMinima;
-    static constexpr CalendarDate DataMassima = kDataMassima;
+    static constexpr CalendarDate DataMinima = kFirstDate;
+    static constexpr CalendarDate DataMassima = kLastDate;
     i16& GiornoMese = Module1::session.GiornoMese;
     i16& MeseCorrente = Module1::session.MeseCorrente;
     i16& AnnoCorrente = Module1::session.AnnoCorrente;
@@ -121,31 +121,31 @@ public:
 
     // Selection lists.
     void InizializzaListe() { files_.InizializzaListe(); }
-    void SalvaListaPercorso() { files_.SalvaLista(ListaScelta::Percorso); }
-    void SalvaListaLunghezza() { files_.SalvaLista(ListaScelta::Lunghezza); }
-    void SalvaListaModo() { files_.SalvaLista(ListaScelta::Modo); }
-    void SalvaListaFondo() { files_.SalvaLista(ListaScelta::Fondo); }
-    void SalvaListaTipo() { files_.SalvaLista(ListaScelta::Tipo); }
-    void SalvaListaTempoAtm() { files_.SalvaLista(ListaScelta::TempoAtm); }
-    void SalvaListaTemperatura() { files_.SalvaLista(ListaScelta::Temperatura); }
-    void CaricaListaPercorso() { files_.CaricaLista(ListaScelta::Percorso); }
-    void CaricaListaLunghezza() { files_.CaricaLista(ListaScelta::Lunghezza); }
-    void CaricaListaModo() { files_.CaricaLista(ListaScelta::Modo); }
-    void CaricaListaFondo() { files_.CaricaLista(ListaScelta::Fondo); }
-    void CaricaListaTipo() { files_.CaricaLista(ListaScelta::Tipo); }
-    void CaricaListaTempoAtm() { files_.CaricaLista(ListaScelta::TempoAtm); }
-    void CaricaListaTeperatura() { files_.CaricaLista(ListaScelta::Temperatura); }
+    void SalvaListaPercorso() { files_.SalvaLista(SelectionList::Percorso); }
+    void SalvaListaLunghezza() { files_.SalvaLista(SelectionList::Lunghezza); }
+    void SalvaListaModo() { files_.SalvaLista(SelectionList::Modo); }
+    void SalvaListaFondo() { files_.SalvaLista(SelectionList::Fondo); }
+    void SalvaListaTipo() { files_.SalvaLista(SelectionList::Tipo); }
+    void SalvaListaTempoAtm() { files_.SalvaLista(SelectionList::TempoAtm); }
+    void SalvaListaTemperatura() { files_.SalvaLista(SelectionList::Temperatura); }
+    void CaricaListaPercorso() { files_.CaricaLista(SelectionList::Percorso); }
+    void CaricaListaLunghezza() { files_.CaricaLista(SelectionList::Lunghezza); }
+    void CaricaListaModo() { files_.CaricaLista(SelectionList::Modo); }
+    void CaricaListaFondo() { files_.CaricaLista(SelectionList::Fondo); }
+    void CaricaListaTipo() { files_.CaricaLista(SelectionList::Tipo); }
+    void CaricaListaTempoAtm() { files_.CaricaLista(SelectionList::TempoAtm); }
+    void CaricaListaTeperatura() { files_.CaricaLista(SelectionList::Temperatura); }
 
-    void ImmisPercorso() { Immis(ListaScelta::Percorso); }
-    void ImmisLunghezza() { Immis(ListaScelta::Lunghezza); }
-    void ImmisModo() { Immis(ListaScelta::Modo); }
-    void ImmisFondo() { Immis(ListaScelta::Fondo); }
-    void ImmisTipo() { Immis(ListaScelta::Tipo); }
-    void ImmisStagione() { Immis(ListaScelta::Stagione); }
-    void ImmisTempoAtm() { Immis(ListaScelta::TempoAtm); }
-    void ImmisTemperatura() { Immis(ListaScelta::Temperatura); }
+    void ImmisPercorso() { Immis(SelectionList::Percorso); }
+    void ImmisLunghezza() { Immis(SelectionList::Lunghezza); }
+    void ImmisModo() { Immis(SelectionList::Modo); }
+    void ImmisFondo() { Immis(SelectionList::Fondo); }
+    void ImmisTipo() { Immis(SelectionList::Tipo); }
+    void ImmisStagione() { Immis(SelectionList::Stagione); }
+    void ImmisTempoAtm() { Immis(SelectionList::TempoAtm); }
+    void ImmisTemperatura() { Immis(SelectionList::Temperatura); }
     /// Adds the box's trimmed text to the list if it is new there; 1 when the list held it already, else 0.
-    i16 AggiungiLista(TextBox& txt, ListaScelta lista);
+    i16 AggiungiLista(TextBox& txt, SelectionList lista);
     /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
     void FollowInTabOrder(QWidget& field);
     /// Gives the focus to the control of a field that opens. The hand comes with it, behind the closing of another
@@ -252,7 +252,7 @@ private:
     void ShowDiaryName() override { lblNomeFile->SetCaption(NomeBaseFile); }
     void ShowTableName() override { slips_.ShowTableName(); }
     void ShowActiveTable() override { slips_.ShowActiveTable(); }
-    void ShowList(ListaScelta lista) override;
+    void ShowList(SelectionList lista) override;
     void ShowOtherDiary() override;
     bool CalendarStays() override;
     void SetBusy(bool busy) override;
@@ -262,15 +262,15 @@ private:
     void ShowHelp(int comando, const QString& argomento = {});
 
     // Entry.
-    void Immis(ListaScelta lista);
-    void RemoveSelected(ListaScelta lista);
+    void Immis(SelectionList lista);
+    void RemoveSelected(SelectionList lista);
     /// The route's box holds a name that its list does not.
     bool NewRouteTyped();
     /// Closes the route's field if its box has the focus.
     void LeaveRouteBox();
-    Orario StartTime() const;
-    Orario EndTime() const;
-    Orario ShowTimeTaken();
+    ClockTime StartTime() const;
+    ClockTime EndTime() const;
+    ClockTime ShowTimeTaken();
     void ShowRoute(const Text& nome);
 
     // Statistics.

@@ -36,19 +36,19 @@ void frmMain::EnterField(Control& control)
 
 void frmMain::ConnectLists()
 {
-    for (const ListaScelta lista : kTutteLeListe) {
-        campiLista_[static_cast<int>(lista)] = lista == ListaScelta::Percorso
+    for (const SelectionList lista : kAllLists) {
+        campiLista_[static_cast<int>(lista)] = lista == SelectionList::Percorso
                                                    ? std::make_unique<CampoPercorso>(*this)
                                                    : std::make_unique<CampoLista>(*this, lista);
     }
 }
 
-void frmMain::Immis(ListaScelta lista)
+void frmMain::Immis(SelectionList lista)
 {
     campiLista_[static_cast<int>(lista)]->Apri();
 }
 
-i16 frmMain::AggiungiLista(TextBox& txt, ListaScelta lista)
+i16 frmMain::AggiungiLista(TextBox& txt, SelectionList lista)
 {
     i16 presente = 0;
     Trap("AggiungiLista - ERRORE : ", [&] {
@@ -59,9 +59,9 @@ i16 frmMain::AggiungiLista(TextBox& txt, ListaScelta lista)
         if (!CampoNonVuoto(testo)) {
             return;
         }
-        presente = Holds(VociDi(lista), testo) ? 1 : 0;
+        presente = Holds(EntriesOf(lista), testo) ? 1 : 0;
         if (presente == 0) {
-            VociDi(lista).push_back(testo);
+            EntriesOf(lista).push_back(testo);
             Campo(lista).lst->AddItem(testo);
             FileModificato = 1;
         }
@@ -78,15 +78,15 @@ void frmMain::ShowRouteEntries(bool visible)
 
 bool frmMain::NewRouteTyped()
 {
-    const ControlliLista& campo = Campo(ListaScelta::Percorso);
+    const ControlliLista& campo = Campo(SelectionList::Percorso);
     const Text testo = Trim(campo.txt->Content());
-    return CampoNonVuoto(testo) && !Holds(VociDi(ListaScelta::Percorso), testo);
+    return CampoNonVuoto(testo) && !Holds(EntriesOf(SelectionList::Percorso), testo);
 }
 
 void frmMain::LeaveRouteBox()
 {
     FocusController& focus = FocusController::Instance();
-    if (focus.Current() == Campo(ListaScelta::Percorso).txt) {
+    if (focus.Current() == Campo(SelectionList::Percorso).txt) {
         focus.LeaveField();
     }
 }
@@ -97,7 +97,7 @@ void frmMain::mnuCancella_Click()
         const int numero = ListaAperta.value();
         constexpr int splits = 9;
         if (numero >= 1 && numero <= 8) {
-            RemoveSelected(static_cast<ListaScelta>(numero));
+            RemoveSelected(static_cast<SelectionList>(numero));
         } else if (numero == splits && lstListaKM->ListIndex() >= 0) {
             lstListaKM->RemoveItem(lstListaKM->ListIndex());
         }
@@ -105,17 +105,17 @@ void frmMain::mnuCancella_Click()
     });
 }
 
-void frmMain::RemoveSelected(ListaScelta lista)
+void frmMain::RemoveSelected(SelectionList lista)
 {
     ControlliLista& campo = Campo(lista);
     const int selected = campo.lst->ListIndex();
     if (selected < 0) {
         return;
     }
-    const bool percorso = lista == ListaScelta::Percorso;
+    const bool percorso = lista == SelectionList::Percorso;
     // A route without a description has been described at place 0, which must not hand it on to another one.
     const i16 descrizione = percorso ? NumeroPercorso() : i16(0);
-    VociDi(lista).erase(VociDi(lista).begin() + selected);
+    EntriesOf(lista).erase(EntriesOf(lista).begin() + selected);
     campo.lst->RemoveItem(selected);
     campo.txt->SetContent({});
     if (percorso) {
@@ -131,8 +131,8 @@ void frmMain::CopyLastRun(const Text& percorso)
             continue;
         }
         DayOnPage day(*this);
-        day.ShowText(ListaScelta::Lunghezza, giorno.Lunghezza);
-        day.ShowText(ListaScelta::Fondo, giorno.Fondo);
+        day.ShowText(SelectionList::Lunghezza, giorno.Lunghezza);
+        day.ShowText(SelectionList::Fondo, giorno.Fondo);
         upKM->SetValue(giorno.Km);
         upMetri->SetValue(giorno.Metri);
         if (ControlloTempiKm() == 1) {

@@ -21,18 +21,18 @@ namespace
 /// The captions that get the hand while a field is open, in their order.
 std::array<Label*, 15> HandLabels(PageControls& page)
 {
-    const auto lista = [&page](ListaScelta which) { return page.Campo(which).lbl; };
-    return {lista(ListaScelta::Percorso),
-            lista(ListaScelta::Lunghezza),
+    const auto lista = [&page](SelectionList which) { return page.Campo(which).lbl; };
+    return {lista(SelectionList::Percorso),
+            lista(SelectionList::Lunghezza),
             page.lblKm,
-            lista(ListaScelta::Modo),
-            lista(ListaScelta::Fondo),
-            lista(ListaScelta::Tipo),
+            lista(SelectionList::Modo),
+            lista(SelectionList::Fondo),
+            lista(SelectionList::Tipo),
             page.lblOraInizio,
             page.lblOraFine,
-            lista(ListaScelta::Stagione),
-            lista(ListaScelta::TempoAtm),
-            lista(ListaScelta::Temperatura),
+            lista(SelectionList::Stagione),
+            lista(SelectionList::TempoAtm),
+            lista(SelectionList::Temperatura),
             page.lblCorridori,
             page.lblPeso,
             page.lblTempoKm,

@@ -31,11 +31,11 @@ void frmMain::ChooseFile(const FileChoice& choice)
     choice.opens ? dlgCommonDialog.ShowOpen() : dlgCommonDialog.ShowSave();
 }
 
-void frmMain::ShowList(ListaScelta lista)
+void frmMain::ShowList(SelectionList lista)
 {
     ListBox& lst = *Campo(lista).lst;
     lst.Clear();
-    lst.AddItems(std::vector<TextView>(VociDi(lista).begin(), VociDi(lista).end()));
+    lst.AddItems(std::vector<TextView>(EntriesOf(lista).begin(), EntriesOf(lista).end()));
 }
 
 bool frmMain::CalendarStays()

@@ -31,14 +31,14 @@ std::array<Text, N> Captions(const Label* const (&labels)[N])
 /// What the labels of the page show, whether or not it has been committed.
 DaySheetTexts TextsOf(PageControls& page)
 {
-    const auto campo = [&](ListaScelta lista) { return page.Campo(lista).lblImmis; };
+    const auto campo = [&](SelectionList lista) { return page.Campo(lista).lblImmis; };
     DaySheetTexts testi;
     testi.data = DataCorrente;
-    testi.campi = Captions({campo(ListaScelta::Percorso), campo(ListaScelta::Lunghezza), page.lblImmisMetri,
-                            campo(ListaScelta::Modo), campo(ListaScelta::Fondo), campo(ListaScelta::Tipo),
+    testi.campi = Captions({campo(SelectionList::Percorso), campo(SelectionList::Lunghezza), page.lblImmisMetri,
+                            campo(SelectionList::Modo), campo(SelectionList::Fondo), campo(SelectionList::Tipo),
                             page.lblImmisOraInizio, page.lblImmisOraFine, page.lblOutTempoImpiegato, page.lblOutMediaKM,
-                            campo(ListaScelta::Stagione), campo(ListaScelta::TempoAtm), campo(ListaScelta::Temperatura),
-                            page.lblImmisCorridori, page.lblImmisPeso});
+                            campo(SelectionList::Stagione), campo(SelectionList::TempoAtm),
+                            campo(SelectionList::Temperatura), page.lblImmisCorridori, page.lblImmisPeso});
     testi.ripetizioniVolte = page.lblRipetizioniVolte->Caption();
     testi.ripetizioniDistanza = page.lblRipetizioniDistanza->Caption();
     testi.ripetizioniQuante = page.lblRipetizioniQuante->Caption();

@@ -15,7 +15,7 @@ using namespace Module1;
 void frmMain::SalvaNomePercorso()
 {
     Trap("SalvaNomePercorso - ERRORE : ", [this] {
-        const Text nome = Campo(ListaScelta::Percorso).txt->Content();
+        const Text nome = Campo(SelectionList::Percorso).txt->Content();
         if (nome.empty() || RoutePlace(nome).value_or(0) > 0) {
             return;
         }
@@ -41,7 +41,7 @@ void frmMain::mnuDescrizionePercorso_Click()
         if (desPercorso_.Loaded()) {
             return;
         }
-        const ListBox& lst = *Campo(ListaScelta::Percorso).lst;
+        const ListBox& lst = *Campo(SelectionList::Percorso).lst;
         const Text nome = lst.List(lst.ListIndex());
         if (!nome.empty()) {
             PercorsoCorrente = nome;

@@ -13,7 +13,7 @@ frmStatistiche1& frmMain::StatisticsWindow()
 
 void frmMain::Statis(Categoria categoria)
 {
-    EseguiStatistica(StatisticaDi(categoria), StatisticsWindow());
+    RunStatistic(StatisticOf(categoria), StatisticsWindow());
 }
 
 void frmMain::ShowStatistic(void (frmMain::*statis)())

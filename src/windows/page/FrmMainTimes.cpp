@@ -14,19 +14,19 @@ using namespace Module1;
 namespace
 {
 
-Orario Reading(const UpDown& ore, const UpDown& minuti, const UpDown& secondi)
+ClockTime Reading(const UpDown& ore, const UpDown& minuti, const UpDown& secondi)
 {
     return {ore.Value(), minuti.Value(), secondi.Value()};
 }
 
 } // namespace
 
-Orario frmMain::StartTime() const
+ClockTime frmMain::StartTime() const
 {
     return Reading(*upOraInizio, *upMinutiInizio, *upSecondiInizio);
 }
 
-Orario frmMain::EndTime() const
+ClockTime frmMain::EndTime() const
 {
     return Reading(*upOraFine, *upMinutiFine, *upSecondiFine);
 }
@@ -36,16 +36,16 @@ i16 frmMain::ControlloTempiKm()
     i16 risultato = 0;
     Trap("ControlloTempiKm - ERRORE : ", [&] {
         const bool distanza = upKM->Value() >= 1 || upMetri->Value() >= 1 || upMetro->Value() >= 1;
-        const EsitoTempi esito = ControllaTempi(distanza, StartTime(), EndTime());
-        risultato = static_cast<int>(esito.calcolo);
-        if (esito.azzera) {
+        const TimesCheck esito = CheckTimes(distanza, StartTime(), EndTime());
+        risultato = static_cast<int>(esito.calculation);
+        if (esito.blanks) {
             Giorni[GiornoCorrente].TempoImpiegato.clear();
             Giorni[GiornoCorrente].MediaKm.clear();
             lblOutTempoImpiegato->SetCaption("0:00:00");
             lblOutMediaKM->SetCaption("0:00");
         }
-        if (!esito.avviso.empty()) {
-            MsgBox(esito.avviso, MsgButtons::OK, MsgIcon::Exclamation);
+        if (!esito.warning.empty()) {
+            MsgBox(esito.warning, MsgButtons::OK, MsgIcon::Exclamation);
         }
     });
     return risultato;
@@ -54,10 +54,10 @@ i16 frmMain::ControlloTempiKm()
 void frmMain::TempoImpiegato()
 {
     Trap("TempoImpiegato - ERRORE : ", [this] {
-        const Orario trascorso = ShowTimeTaken();
-        MediaKm(trascorso.ore, trascorso.minuti, trascorso.secondi);
+        const ClockTime trascorso = ShowTimeTaken();
+        MediaKm(trascorso.hours, trascorso.minutes, trascorso.seconds);
         lstListaOrdinata->Clear();
-        ListavOrdinata(Campo(ListaScelta::Percorso).lblImmis->Caption());
+        ListavOrdinata(Campo(SelectionList::Percorso).lblImmis->Caption());
     });
 }
 
@@ -66,17 +66,17 @@ void frmMain::tempo()
     Trap("tempo - ERRORE : ", [this] { ShowTimeTaken(); });
 }
 
-Orario frmMain::ShowTimeTaken()
+ClockTime frmMain::ShowTimeTaken()
 {
-    const Orario trascorso = TempoTrascorso(StartTime(), EndTime());
-    lblOutTempoImpiegato->SetCaption(TestoTempo(trascorso));
+    const ClockTime trascorso = ElapsedTime(StartTime(), EndTime());
+    lblOutTempoImpiegato->SetCaption(TimeText(trascorso));
     return trascorso;
 }
 
 void frmMain::MediaKm(i32 ore, i32 minuti, i32 secondi)
 {
     Trap("MediaKm - ERRORE : ", [&] {
-        if (const auto media = CalcolaMedia(lblImmisMetri->Caption(), {ore, minuti, secondi})) {
+        if (const auto media = AverageText(lblImmisMetri->Caption(), {ore, minuti, secondi})) {
             lblOutMediaKM->SetCaption(*media);
         } else {
             MsgBox("OLTRE 60 MINUTI                 ", MsgButtons::OK, MsgIcon::Exclamation);
@@ -87,7 +87,7 @@ void frmMain::MediaKm(i32 ore, i32 minuti, i32 secondi)
 void frmMain::mnuListaWOrdinata_Click()
 {
     Trap("mnuListaWOrdinata - ERRORE : ", [this] {
-        const ListBox& lst = *Campo(ListaScelta::Percorso).lst;
+        const ListBox& lst = *Campo(SelectionList::Percorso).lst;
         lstListaOrdinata->Clear();
         ListavOrdinataDue(lst.List(lst.ListIndex()));
     });

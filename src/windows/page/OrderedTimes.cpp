@@ -14,12 +14,12 @@ namespace
 {
 
 /// The list box of the page as a classification writes it.
-class CasellaPagina : public CasellaTempi
+class PageTimesBox : public TimesBox
 {
 public:
-    explicit CasellaPagina(ListBox& casella) : casella_(casella) {}
-    void AggiungiRiga(TextView riga) override { casella_.AddItem(riga); }
-    void Seleziona(int indice) override { casella_.SetListIndex(indice); }
+    explicit PageTimesBox(ListBox& casella) : casella_(casella) {}
+    void AddLine(TextView riga) override { casella_.AddItem(riga); }
+    void Select(int indice) override { casella_.SetListIndex(indice); }
 
 private:
     ListBox& casella_;
@@ -40,7 +40,7 @@ void OrderedTimes::Begin()
 
 void OrderedTimes::AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun)
 {
-    AggiungiCorsa(*times_, giorno, tempoRun, media, dataRun);
+    AddRunTo(*times_, giorno, tempoRun, media, dataRun);
 }
 
 void OrderedTimes::AddRunsOf(const Text& percorso, i16 ultimo)
@@ -55,7 +55,7 @@ void OrderedTimes::AddRunsOf(const Text& percorso, i16 ultimo)
 
 void OrderedTimes::Fill(bool posizione)
 {
-    CasellaPagina casella(*page_.lstListaOrdinata);
+    PageTimesBox casella(*page_.lstListaOrdinata);
     times_->Ordina();
     times_->NuovaListalst(&casella);
     times_->RiempiListalst();

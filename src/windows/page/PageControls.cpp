@@ -52,7 +52,7 @@ struct PictureRow {
 };
 
 struct ListRow {
-    ListaScelta lista;
+    SelectionList lista;
     TextView caption;
     Row row;
 };
@@ -186,14 +186,14 @@ constexpr int kListTextLimit = 22;
 constexpr int kNoteLimit = 32;
 
 const ListRow kLists[] = {
-    {ListaScelta::Percorso, "Percorso ", Percorso},
-    {ListaScelta::Lunghezza, "Lunghezza", Lunghezza},
-    {ListaScelta::Modo, "Andatura ", Andatura},
-    {ListaScelta::Fondo, "Terreno", Terreno},
-    {ListaScelta::Tipo, "Tipo", Tipo},
-    {ListaScelta::Stagione, "Stagione", Stagione},
-    {ListaScelta::TempoAtm, "Meteo", Meteo},
-    {ListaScelta::Temperatura, "Temperatura", Temperatura},
+    {SelectionList::Percorso, "Percorso ", Percorso},
+    {SelectionList::Lunghezza, "Lunghezza", Lunghezza},
+    {SelectionList::Modo, "Andatura ", Andatura},
+    {SelectionList::Fondo, "Terreno", Terreno},
+    {SelectionList::Tipo, "Tipo", Tipo},
+    {SelectionList::Stagione, "Stagione", Stagione},
+    {SelectionList::TempoAtm, "Meteo", Meteo},
+    {SelectionList::Temperatura, "Temperatura", Temperatura},
 };
 
 void ApplyStyle(Label& label, Style style)
@@ -319,7 +319,7 @@ void DressInput(QWidget& input, const QRect& place)
 void MakeList(PageControls& controls, QWidget* page, const ListRow& row)
 {
     ControlliLista& campo = controls.Campo(row.lista);
-    const QString name = ToQString(NomeLista(row.lista));
+    const QString name = ToQString(ListName(row.lista));
     campo.lbl = MakeLabel(page, QLatin1String("lbl") + name, row.caption, Caption(row.row), Style::Caption, {});
     campo.lblImmis = MakeLabel(page, QLatin1String("lblImmis") + name, {}, Value(row.row), Style::Value, row.caption);
     campo.txt = new TextBox(page, QLatin1String("txt") + name, kListTextLimit);

@@ -56,7 +56,7 @@ struct PageControls {
 
     // Text fields, in the order of their lists' numbers.
     BoundedArray<ControlliLista, 1, 8> campi;
-    ControlliLista& Campo(ListaScelta lista) { return campi[static_cast<int>(lista)]; }
+    ControlliLista& Campo(SelectionList lista) { return campi[static_cast<int>(lista)]; }
 
     // Numeric fields.
     struct NumberSpin {

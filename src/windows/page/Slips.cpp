@@ -79,13 +79,13 @@ void Slips::ShowTableRow(i16 riga)
 {
     const PlanRow row = PlanRowAt(riga);
     const auto digits = [](i16 number) { return PlainText(number); };
-    page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metri));
-    page_.lblTempoTab->SetCaption(digits(row.ore) + ":" + digits(row.minuti) + ":" + digits(row.secondi));
-    page_.lblMediaTab->SetCaption(digits(row.mediaMinuti) + ":" + digits(row.mediaSecondi));
-    page_.lblAndaturaTab->SetCaption(row.andatura);
-    page_.lblFondoTab->SetCaption(row.fondo);
-    page_.lblRipetizioniTab->SetCaption(digits(row.ripetVolte) + " x " + digits(row.ripetDistanza) + "  @  " +
-                                        digits(row.ripetQuante) + ":" + digits(row.ripetTempi));
+    page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metres));
+    page_.lblTempoTab->SetCaption(digits(row.hours) + ":" + digits(row.minutes) + ":" + digits(row.seconds));
+    page_.lblMediaTab->SetCaption(digits(row.averageMinutes) + ":" + digits(row.averageSeconds));
+    page_.lblAndaturaTab->SetCaption(row.paceClass);
+    page_.lblFondoTab->SetCaption(row.terrain);
+    page_.lblRipetizioniTab->SetCaption(digits(row.repetitions) + " x " + digits(row.repetitionMetres) + "  @  " +
+                                        digits(row.repetitionMinutes) + ":" + digits(row.repetitionSeconds));
 }
 
 void Slips::ShowTablePanel(bool visible)

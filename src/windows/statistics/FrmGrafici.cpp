@@ -47,9 +47,9 @@ constexpr QRect ChartPlace(const QSize& window)
 }
 
 template <typename Make>
-void ShowChart(FormSlot<frmGrafici>& finestra, TextView title, Make&& make)
+void ShowChart(FormSlot<frmGrafici>& slot, TextView title, Make&& make)
 {
-    frmGrafici& window = finestra.Load();
+    frmGrafici& window = slot.Load();
     Trap(title, [&] { window.MSChart1->Show(make()); });
     window.ShowInFront();
 }
@@ -116,16 +116,16 @@ void frmGrafici::cmdStampa_Click()
     }
 }
 
-void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo)
+void MostraGrafico(FormSlot<frmGrafici>& slot, TextView title)
 {
-    ShowChart(finestra, "MostraGrafico - ERRORE : ", [&] {
-        return GraficoCategorie(titolo, NomeCategoria, ContaCategoria, ValoreCategoria);
+    ShowChart(slot, "MostraGrafico - ERRORE : ", [&] {
+        return CategoryChart(title, NomeCategoria, ContaCategoria, ValoreCategoria);
     });
 }
 
-void MostraGraficoMedia(FormSlot<frmGrafici>& finestra, const PaceTable& valori)
+void MostraGraficoMedia(FormSlot<frmGrafici>& slot, const PaceTable& values)
 {
-    ShowChart(finestra, "MostraGraficoMedia - ERRORE : ", [&] { return GraficoMedie(valori); });
+    ShowChart(slot, "MostraGraficoMedia - ERRORE : ", [&] { return PaceChart(values); });
 }
 
 } // namespace zelvia

@@ -41,9 +41,9 @@ private:
 // routine, and the window still opens.
 
 /// How often each value of the category counted last occurred, as bars, under the category's word.
-void MostraGrafico(FormSlot<frmGrafici>& finestra, TextView titolo);
+void MostraGrafico(FormSlot<frmGrafici>& slot, TextView title);
 
 /// The pace of the runs that a search found, as a line.
-void MostraGraficoMedia(FormSlot<frmGrafici>& finestra, const PaceTable& valori);
+void MostraGraficoMedia(FormSlot<frmGrafici>& slot, const PaceTable& values);
 
 } // namespace zelvia

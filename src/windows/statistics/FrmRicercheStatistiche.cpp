@@ -18,62 +18,62 @@ using namespace Module1;
 
 void frmRicercheStatistiche::InizializzaVarMedie()
 {
-    condizioni = {};
-    AzzeraTotali(totali);
+    criteria = {};
+    ClearTotals(totals);
 }
 
-TestiPeriodo frmRicercheStatistiche::PeriodTexts() const
+PeriodEntries frmRicercheStatistiche::PeriodTexts() const
 {
-    TestiPeriodo testi;
-    std::transform(campiPeriodo.begin(), campiPeriodo.end(), testi.begin(),
+    PeriodEntries texts;
+    std::transform(periodBoxes.begin(), periodBoxes.end(), texts.begin(),
                    [](const TextBox* box) { return box->Content(); });
-    return testi;
+    return texts;
 }
 
 void frmRicercheStatistiche::AssegnaVariabili()
 {
-    static constexpr i16 CondizioniRicerca::*dates[] = {
-        &CondizioniRicerca::GiornoInizio, &CondizioniRicerca::MeseInizio, &CondizioniRicerca::AnnoInizio,
-        &CondizioniRicerca::GiornoFine,   &CondizioniRicerca::MeseFine,   &CondizioniRicerca::AnnoFine};
-    const TestiPeriodo testi = PeriodTexts();
-    for (std::size_t i = 0; i < testi.size(); ++i) {
-        condizioni.*dates[i] = Parsed<i16>(testi[i]);
+    static constexpr i16 SearchCriteria::*dates[] = {&SearchCriteria::GiornoInizio, &SearchCriteria::MeseInizio,
+                                                     &SearchCriteria::AnnoInizio,   &SearchCriteria::GiornoFine,
+                                                     &SearchCriteria::MeseFine,     &SearchCriteria::AnnoFine};
+    const PeriodEntries texts = PeriodTexts();
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        criteria.*dates[i] = Parsed<i16>(texts[i]);
     }
-    for (const CondizioneCategoria& condizione : kCondizioni) {
-        const Text caption = ControlliDi(condizione.categoria).lbl->Caption();
-        if (condizione.testo != nullptr) {
-            condizioni.*condizione.testo = caption;
+    for (const CategoryCriterion& criterion : kCriteria) {
+        const Text caption = ControlsFor(criterion.category).lbl->Caption();
+        if (criterion.text != nullptr) {
+            criteria.*criterion.text = caption;
         } else {
-            condizioni.*condizione.numero = Parsed<i16>(caption);
+            criteria.*criterion.number = Parsed<i16>(caption);
         }
     }
 }
 
-void frmRicercheStatistiche::cmdCategoria_Click(Categoria categoria)
+void frmRicercheStatistiche::cmdCategoria_Click(Categoria category)
 {
-    Label& lbl = *ControlliDi(categoria).lbl;
+    Label& lbl = *ControlsFor(category).lbl;
     NascondiMedie();
     lstStatistiche->Clear();
     lbl.SetCaption({});
     if (!lbl.Visible()) {
         lbl.SetVisible(true);
-        Lista(categoria);
+        Lista(category);
     } else {
         lbl.SetVisible(false);
         lblTitoliSta->SetVisible(false);
     }
 }
 
-void frmRicercheStatistiche::Lista(Categoria categoria)
+void frmRicercheStatistiche::Lista(Categoria category)
 {
-    const Statistica& statistica = StatisticaDi(categoria);
-    Trap(statistica.erroreLista, [&] {
-        CategoriaLista = Text(statistica.titolo);
-        ContaValori(statistica);
-        for (int i = 1; i <= kMaxCategorie; ++i) {
-            if (statistica.numero == nullptr && !NomeCategoria[i].empty()) {
+    const Statistic& statistic = StatisticOf(category);
+    Trap(statistic.listError, [&] {
+        CategoriaLista = Text(statistic.title);
+        CountValues(statistic);
+        for (int i = 1; i <= kMaxCategories; ++i) {
+            if (statistic.number == nullptr && !NomeCategoria[i].empty()) {
                 lstStatistiche->AddItem(NomeCategoria[i]);
-            } else if (statistica.numero != nullptr && ValoreCategoria[i] != 0) {
+            } else if (statistic.number != nullptr && ValoreCategoria[i] != 0) {
                 lstStatistiche->AddItem(PlainText(ValoreCategoria[i]));
             }
         }
@@ -84,9 +84,9 @@ void frmRicercheStatistiche::Lista(Categoria categoria)
 
 void frmRicercheStatistiche::lstStatistiche_DblClick()
 {
-    for (const CondizioneCategoria& condizione : kCondizioni) {
-        if (SameText(StatisticaDi(condizione.categoria).titolo, CategoriaLista)) {
-            ControlliDi(condizione.categoria).lbl->SetCaption(lstStatistiche->List(lstStatistiche->ListIndex()));
+    for (const CategoryCriterion& criterion : kCriteria) {
+        if (SameText(StatisticOf(criterion.category).title, CategoriaLista)) {
+            ControlsFor(criterion.category).lbl->SetCaption(lstStatistiche->List(lstStatistiche->ListIndex()));
         }
     }
 }
@@ -97,36 +97,36 @@ void frmRicercheStatistiche::cmdPeriodo_Click()
     for (Control* control : {lblDalTit, lblDataInizio, lblAlTit, lblDataFine}) {
         control->SetVisible(show);
     }
-    for (TextBox* box : campiPeriodo) {
+    for (TextBox* box : periodBoxes) {
         box->SetContent({});
         box->SetVisible(show);
     }
     if (show) {
-        campiPeriodo[CampoPeriodo::GiornoInizio]->SetFocus();
+        periodBoxes[PeriodBox::GiornoInizio]->SetFocus();
     }
 }
 
-void frmRicercheStatistiche::ControlloData(i16& errore)
+void frmRicercheStatistiche::ControlloData(i16& error)
 {
-    errore = 0;
+    error = 0;
     Trap("Controllo Data - ERRORE : ", [&] {
-        const ControlloPeriodo controllo = ControllaPeriodo(PeriodTexts());
-        for (const CorrezionePeriodo& correzione : controllo.correzioni) {
-            MsgBox(correzione.messaggio, MsgButtons::OK, MsgIcon::Exclamation);
-            campiPeriodo[correzione.campo]->SetContent(correzione.valore);
+        const PeriodCheck check = CheckPeriod(PeriodTexts());
+        for (const PeriodCorrection& correction : check.corrections) {
+            MsgBox(correction.message, MsgButtons::OK, MsgIcon::Exclamation);
+            periodBoxes[correction.box]->SetContent(correction.value);
         }
-        if (controllo.invertito) {
-            MsgBox(kPeriodoInvertito, MsgButtons::OK, MsgIcon::Exclamation);
-            errore = 1;
+        if (check.reversed) {
+            MsgBox(kPeriodReversed, MsgButtons::OK, MsgIcon::Exclamation);
+            error = 1;
         }
     });
 }
 
 void frmRicercheStatistiche::cmdAvvia_Click()
 {
-    i16 errore;
-    ControlloData(errore);
-    if (errore == 1) {
+    i16 error;
+    ControlloData(error);
+    if (error == 1) {
         return;
     }
     InizializzaVarMedie();
@@ -139,20 +139,20 @@ void frmRicercheStatistiche::cmdAvvia_Click()
 
 void frmRicercheStatistiche::RicercaMedie()
 {
-    const EsitoRicerca esito = CercaCorse(Giorni, GiornoCorrente, condizioni, totali);
-    totali = esito.totali;
-    auto listed = esito.righe.begin();
+    const SearchResult result = FindRuns(Giorni, GiornoCorrente, criteria, totals);
+    totals = result.totals;
+    auto listed = result.lines.begin();
     const auto list = [&](std::size_t count) {
-        const auto end = esito.righe.begin() + static_cast<std::ptrdiff_t>(count);
+        const auto end = result.lines.begin() + static_cast<std::ptrdiff_t>(count);
         lstMedie->AddItems(std::vector<TextView>(std::exchange(listed, end), end));
     };
     // While a box is up the list shows what had been found when its error arose.
-    for (const ErroreRicerca& errore : esito.errori) {
-        list(errore.righe);
-        ReportError(errore.titolo, errore.errore);
+    for (const SearchError& error : result.errors) {
+        list(error.lines);
+        ReportError(error.title, error.error);
     }
-    list(esito.righe.size());
-    if (!esito.interrotta) {
+    list(result.lines.size());
+    if (!result.ended) {
         AddUp();
     }
 }
@@ -160,32 +160,32 @@ void frmRicercheStatistiche::RicercaMedie()
 /// Shows each total as soon as it is known, before any box that the next one brings.
 void frmRicercheStatistiche::AddUp()
 {
-    Trap("SommaKm - ERRORE : ", [this] { SommaKm(totali); });
+    Trap("SommaKm - ERRORE : ", [this] { SommaKm(totals); });
     VisualLblTotali();
-    lblTcorse->SetCaption(TestoCorse(totali));
-    lblTkm->SetCaption(TestoDistanza(totali));
-    Trap("Tempi Totali - ERRORE : ", [this] { TempiTotali(totali); });
-    lblTtempi->SetCaption(TestoTempi(totali));
-    Trap("Media Totali - ERRORE : ", [this] { MediaTotali(totali); });
-    lblTmedia->SetCaption(TestoMedia(totali));
+    lblTcorse->SetCaption(RunsText(totals));
+    lblTkm->SetCaption(DistanceText(totals));
+    Trap("Tempi Totali - ERRORE : ", [this] { TempiTotali(totals); });
+    lblTtempi->SetCaption(TimesText(totals));
+    Trap("Media Totali - ERRORE : ", [this] { MediaTotali(totals); });
+    lblTmedia->SetCaption(MeanText(totals));
 }
 
 /// What the window shows of its search.
 SearchSheetTexts frmRicercheStatistiche::SheetTexts() const
 {
-    SearchSheetTexts testi;
-    testi.data = DataCorrente;
-    const TestiPeriodo periodo = PeriodTexts();
-    std::copy_n(periodo.begin(), testi.inizio.size(), testi.inizio.begin());
-    std::copy_n(periodo.begin() + CampoPeriodo::GiornoFine, testi.fine.size(), testi.fine.begin());
+    SearchSheetTexts texts;
+    texts.date = DataCorrente;
+    const PeriodEntries period = PeriodTexts();
+    std::copy_n(period.begin(), texts.start.size(), texts.start.begin());
+    std::copy_n(period.begin() + PeriodBox::GiornoFine, texts.end.size(), texts.end.begin());
     std::transform(
-        kCondizioni.begin(), kCondizioni.end(), testi.condizioni.begin(),
-        [this](const CondizioneCategoria& condizione) { return ControlliDi(condizione.categoria).lbl->Caption(); });
+        kCriteria.begin(), kCriteria.end(), texts.criteria.begin(),
+        [this](const CategoryCriterion& criterion) { return ControlsFor(criterion.category).lbl->Caption(); });
     for (int i = 0; i < lstMedie->ListCount(); ++i) {
-        testi.righe.push_back(lstMedie->List(i));
+        texts.lines.push_back(lstMedie->List(i));
     }
-    testi.totali = {lblTcorse->Caption(), lblTkm->Caption(), lblTtempi->Caption(), lblTmedia->Caption()};
-    return testi;
+    texts.totals = {lblTcorse->Caption(), lblTkm->Caption(), lblTtempi->Caption(), lblTmedia->Caption()};
+    return texts;
 }
 
 void frmRicercheStatistiche::cmdStampa_Click()

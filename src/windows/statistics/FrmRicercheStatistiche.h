@@ -24,7 +24,7 @@ namespace zelvia
 {
 
 /// Opens the chart of the paces of a search.
-using AperturaGraficoMedia = std::function<void(const PaceTable& medie)>;
+using PaceChartOpener = std::function<void(const PaceTable& paces)>;
 
 /// Finds the runs of the open diary that fulfil a set of conditions, lists them and adds them up. It is either
 /// choosing, its result hidden, or showing a result.
@@ -33,18 +33,18 @@ class frmRicercheStatistiche : public Form
     Q_OBJECT
 
 public:
-    explicit frmRicercheStatistiche(AperturaGraficoMedia apriGrafico);
+    explicit frmRicercheStatistiche(PaceChartOpener openChart);
 
-    Control& FocusSink() override { return *ControlliDi(Categoria::Percorso).cmd; }
+    Control& FocusSink() override { return *ControlsFor(Categoria::Percorso).cmd; }
 
     /// The button of a category and the label of its condition, which is off while the label is hidden.
-    struct ControlliCondizione {
+    struct CriterionControls {
         Button* cmd = nullptr;
         Label* lbl = nullptr;
     };
-    const ControlliCondizione& ControlliDi(Categoria categoria) const
+    const CriterionControls& ControlsFor(Categoria category) const
     {
-        return controlli_[static_cast<std::size_t>(categoria)];
+        return controls_[static_cast<std::size_t>(category)];
     }
 
     void AssegnaVariabili();
@@ -63,26 +63,26 @@ public:
     void ListaRipetizioni() { Lista(Categoria::Ripetizioni); }
     void RicercaMedie();
     void InizializzaVarMedie();
-    /// Repairs the boxes of the period, with a message for each repair; `errore` becomes 1 when there is to be no
+    /// Repairs the boxes of the period, with a message for each repair; `error` becomes 1 when there is to be no
     /// search.
-    void ControlloData(i16& errore);
+    void ControlloData(i16& error);
     void VisualLblTotali() { ShowTotals(true); }
     void NascondiLblTotali() { ShowTotals(false); }
 
-    void cmdCategoria_Click(Categoria categoria);
+    void cmdCategoria_Click(Categoria category);
     void lstStatistiche_DblClick();
     void cmdPeriodo_Click();
     void cmdAvvia_Click();
     void cmdStampa_Click();
 
-    CondizioniRicerca condizioni;
-    TotaliRicerca totali;
+    SearchCriteria criteria;
+    SearchTotals totals;
     Text CategoriaLista; ///< The word of the category in lstStatistiche.
 
     ListBox* lstStatistiche = nullptr;
     Label* lblTitoliSta = nullptr;
     Button* cmdPeriodo = nullptr;
-    std::array<TextBox*, CampoPeriodo::kCampi> campiPeriodo{}; ///< txtGiornoInizio .. txtAnnoFine.
+    std::array<TextBox*, PeriodBox::kBoxes> periodBoxes{}; ///< txtGiornoInizio .. txtAnnoFine.
     Label* lblDalTit = nullptr;
     Label* lblDataInizio = nullptr;
     Label* lblAlTit = nullptr;
@@ -111,17 +111,17 @@ private:
     Label* MakeSlip(const char* name, const QRect& place);
     ListBox* MakeList(const char* name, const QRect& place, const QString& spoken);
 
-    void Lista(Categoria categoria);
+    void Lista(Categoria category);
     void AddUp();
     void NascondiMedie();
     void ShowHeads(bool visible);
     void ShowTotals(bool visible);
-    TestiPeriodo PeriodTexts() const;
+    PeriodEntries PeriodTexts() const;
     SearchSheetTexts SheetTexts() const;
 
-    AperturaGraficoMedia apriGrafico_;
+    PaceChartOpener openChart_;
     BoxGrid period_;
-    std::array<ControlliCondizione, kCondizioni.size()> controlli_;
+    std::array<CriterionControls, kCriteria.size()> controls_;
     std::vector<Control*> totals_;     ///< The totals and their heads.
     std::array<Picture*, 3> shapes_{}; ///< shp6 .. shp8, the empty form in the place of the totals.
 };

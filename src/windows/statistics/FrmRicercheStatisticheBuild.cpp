@@ -51,7 +51,7 @@ constexpr int kStartLeft = kValueLeft + 36;
 constexpr int kEndLeft = kStartLeft + kFrameWidth + 44;
 
 // The strokes between them are those of the frame's caption.
-constexpr std::array<GridColumn, CampoPeriodo::kCampi> kPeriodColumns = {{
+constexpr std::array<GridColumn, PeriodBox::kBoxes> kPeriodColumns = {{
     {"txtGiornoInizio", 2, true, Limits::kDay, CellFormat::Plain, kStartLeft + 2, 34, "Inizio del periodo, giorno"},
     {"txtMeseInizio", 2, true, Limits::kMonth, CellFormat::Plain, kStartLeft + 46, 34, "Inizio del periodo, mese"},
     {"txtAnnoInizio", 4, true, Limits::kYear, CellFormat::Plain, kStartLeft + 90, 58, "Inizio del periodo, anno"},
@@ -87,8 +87,8 @@ void DrawEmptyForm(QPainter& painter, const QRectF& area)
 
 } // namespace
 
-frmRicercheStatistiche::frmRicercheStatistiche(AperturaGraficoMedia apriGrafico)
-    : Form(QStringLiteral("frmRicercheStatistiche")), apriGrafico_(std::move(apriGrafico)), period_(kPeriodColumns)
+frmRicercheStatistiche::frmRicercheStatistiche(PaceChartOpener openChart)
+    : Form(QStringLiteral("frmRicercheStatistiche")), openChart_(std::move(openChart)), period_(kPeriodColumns)
 {
     setWindowTitle(QStringLiteral("Ricerche Statistiche"));
     LayOnPaper(kSize);
@@ -139,18 +139,18 @@ ListBox* frmRicercheStatistiche::MakeList(const char* name, const QRect& place, 
 void frmRicercheStatistiche::BuildConditions()
 {
     int top = kTop;
-    for (std::size_t i = 0; i < kCondizioni.size(); ++i, top += kRowStep) {
-        const Categoria categoria = kCondizioni[i].categoria;
-        const TextView word = StatisticaDi(categoria).titolo;
+    for (std::size_t i = 0; i < kCriteria.size(); ++i, top += kRowStep) {
+        const Categoria category = kCriteria[i].category;
+        const TextView word = StatisticOf(category).title;
         const QByteArray name(kNames[i]);
-        ControlliCondizione& controlli = controlli_[i];
-        controlli.cmd = MakeButton(this, ("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight},
-                                   [this, categoria] { cmdCategoria_Click(categoria); });
-        controlli.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
-        controlli.lbl = MakeSlip(("lbl" + name).constData(), {kValueLeft, top, kValueWidth, kRowHeight});
-        controlli.lbl->setIndent(6);
-        controlli.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
-        controlli.lbl->SetVisible(false);
+        CriterionControls& controls = controls_[i];
+        controls.cmd = MakeButton(this, ("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight},
+                                  [this, category] { cmdCategoria_Click(category); });
+        controls.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
+        controls.lbl = MakeSlip(("lbl" + name).constData(), {kValueLeft, top, kValueWidth, kRowHeight});
+        controls.lbl->setIndent(6);
+        controls.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
+        controls.lbl->SetVisible(false);
     }
     lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 18);
     SetForeColour(*lblTitoliSta, Ink::Accent);
@@ -182,16 +182,16 @@ void frmRicercheStatistiche::BuildPeriod()
     for (Label* label : {lblDalTit, lblDataInizio, lblAlTit, lblDataFine}) {
         label->SetVisible(false);
     }
-    period_.LastEntered = [this] { ControlliDi(Categoria::Percorso).cmd->SetFocus(); };
+    period_.LastEntered = [this] { ControlsFor(Categoria::Percorso).cmd->SetFocus(); };
     period_.Build(this, {.rows = 1,
                          .top = kPeriodTop + 2,
                          .step = 0,
                          .height = kFrameHeight - 4,
                          .font = PageFont("Times New Roman", 16),
                          .digitsRight = false});
-    for (std::size_t i = 0; i < campiPeriodo.size(); ++i) {
-        campiPeriodo[i] = period_.Box(static_cast<int>(i), 1);
-        campiPeriodo[i]->SetVisible(false);
+    for (std::size_t i = 0; i < periodBoxes.size(); ++i) {
+        periodBoxes[i] = period_.Box(static_cast<int>(i), 1);
+        periodBoxes[i]->SetVisible(false);
     }
     cmdAvvia =
         MakeButton(this, "cmdAvvia", "Avvia", {kMargin, kCommandTop, kButtonWidth + 8 + kValueWidth, kCommandHeight},
@@ -217,7 +217,7 @@ void frmRicercheStatistiche::BuildResult()
         const int left = kResultLeft + place * step;
         return MakeButton(this, name, caption, {left, kCommandTop, width, kCommandHeight}, std::move(click));
     };
-    cmGrafico = command("cmGrafico", "Grafico", 0, [this] { apriGrafico_(totali.Medie); });
+    cmGrafico = command("cmGrafico", "Grafico", 0, [this] { openChart_(totals.Medie); });
     cmdStampa = command("cmdStampa", "Stampa", 1, [this] { cmdStampa_Click(); });
     cmdEsci = command("cmdEsci", "Esci", 2, [this] { Unload(); });
 }

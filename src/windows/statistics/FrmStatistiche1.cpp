@@ -77,20 +77,20 @@ const Shape kShapes[] = {
 std::vector<StatisticSheetSlot> SlotsOnPaper()
 {
     const bool numbers = SameText(TitoloStatistica, "Corridori") || SameText(TitoloStatistica, "Peso");
-    std::vector<StatisticSheetSlot> slots60;
-    for (int i = 1; i <= kMaxCategorie; ++i) {
-        Text valore = NomeCategoria[i];
+    std::vector<StatisticSheetSlot> slots;
+    for (int i = 1; i <= kMaxCategories; ++i) {
+        Text value = NomeCategoria[i];
         if (numbers) {
-            valore = ValoreCategoria[i] != 0 ? StatisticSheetNumber(ValoreCategoria[i]) : Text();
+            value = ValoreCategoria[i] != 0 ? StatisticSheetNumber(ValoreCategoria[i]) : Text();
         }
-        slots60.push_back({std::move(valore), ContaCategoria[i]});
+        slots.push_back({std::move(value), ContaCategoria[i]});
     }
-    return slots60;
+    return slots;
 }
 
 } // namespace
 
-frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
+frmStatistiche1::frmStatistiche1(ChartOpener openChart)
     : Form(QStringLiteral("frmStatistiche1")), lblTitolo(new Label(this, QStringLiteral("lblTitolo"))),
       cmdStatitolo(MakeButton(this, "cmdStatitolo", "descrizione", kNameHead)),
       cmdStatfre(MakeButton(this, "cmdStatfre", "frequenza", kCountHead)),
@@ -102,7 +102,7 @@ frmStatistiche1::frmStatistiche1(AperturaGrafico apriGrafico)
       // 1587, 2117, 1587 and 2117 twips, of which 15 are a pixel.
       lvListaOrdinata(new ListView(this, QStringLiteral("lvListaOrdinata"),
                                    {{"classifica", 106}, {"tempo", 141}, {"media", 106}, {"data", 141}})),
-      apriGrafico_(std::move(apriGrafico))
+      openChart_(std::move(openChart))
 {
     setWindowTitle(QStringLiteral("Statistiche"));
     LayOnPaper(kSize);
@@ -175,8 +175,8 @@ void frmStatistiche1::cmdStampa_Click()
 
 void frmStatistiche1::cmGrafico_Click()
 {
-    if (apriGrafico_) {
-        apriGrafico_(lblTitolo->Caption());
+    if (openChart_) {
+        openChart_(lblTitolo->Caption());
     }
 }
 
@@ -187,20 +187,20 @@ void frmStatistiche1::lvListaOrdinata_LostFocus()
     lvListaOrdinata->SetVisible(false);
 }
 
-void frmStatistiche1::ListaWOrdinata(const Text& valore)
+void frmStatistiche1::ListaWOrdinata(const Text& value)
 {
     Trap("ListaWOrdinata - ERRORE : ", [&] {
         BeginTimes();
-        FillTimes(DaysOf(valore));
+        FillTimes(DaysOf(value));
     });
 }
 
-void frmStatistiche1::ListavOrdinata(i16 valore)
+void frmStatistiche1::ListavOrdinata(i16 value)
 {
     Trap("ListavOrdinata - ERRORE : ", [&] {
         BeginTimes();
-        const Statistica* statistica = StatisticaDi(TitoloStatistica);
-        FillTimes([&](const RecordGiorno& giorno) { return statistica->numero(giorno) == valore; });
+        const Statistic* statistic = StatisticOf(TitoloStatistica);
+        FillTimes([&](const RecordGiorno& day) { return statistic->number(day) == value; });
     });
 }
 
@@ -213,34 +213,34 @@ void frmStatistiche1::BeginTimes()
 }
 
 /// The texts of days are compared to the letter, unlike at their counting.
-frmStatistiche1::ProvaGiorno frmStatistiche1::DaysOf(const Text& valore)
+frmStatistiche1::DayTest frmStatistiche1::DaysOf(const Text& value)
 {
     if (TitoloStatistica == "Km") {
-        const i16 km = ScomponiKm(valore);
-        const i16 metri = ScomponiMetri(valore);
-        return [=](const RecordGiorno& giorno) { return giorno.Km == km && giorno.Metri == metri; };
+        const i16 km = ScomponiKm(value);
+        const i16 metres = ScomponiMetri(value);
+        return [=](const RecordGiorno& day) { return day.Km == km && day.Metri == metres; };
     }
     if (TitoloStatistica == "Ripetizioni") {
-        const i16 volte = ScomponiVolte(valore);
-        const i16 distanza = ScomponiDistanza(valore);
-        const i16 quante = ScomponiQuante(valore);
-        const i16 tempi = ScomponiTempi(valore);
-        return [=](const RecordGiorno& giorno) {
-            return giorno.Ripetizioni == volte && giorno.RipetizioniDistanza == distanza &&
-                   giorno.RipetizioniQuante == quante && giorno.RipetizioniTempi == tempi;
+        const i16 times = ScomponiVolte(value);
+        const i16 distance = ScomponiDistanza(value);
+        const i16 minutes = ScomponiQuante(value);
+        const i16 seconds = ScomponiTempi(value);
+        return [=](const RecordGiorno& day) {
+            return day.Ripetizioni == times && day.RipetizioniDistanza == distance &&
+                   day.RipetizioniQuante == minutes && day.RipetizioniTempi == seconds;
         };
     }
-    return [valore, statistica = StatisticaDi(TitoloStatistica)](const RecordGiorno& giorno) {
-        return statistica != nullptr && statistica->testo(giorno) == valore;
+    return [value, statistic = StatisticOf(TitoloStatistica)](const RecordGiorno& day) {
+        return statistic != nullptr && statistic->text(day) == value;
     };
 }
 
-void frmStatistiche1::FillTimes(const ProvaGiorno& scelto)
+void frmStatistiche1::FillTimes(const DayTest& chosen)
 {
     for (i16 d = 1; d <= GiornoCorrente; d += 1) {
-        const RecordGiorno& giorno = Giorni[d];
-        if (scelto(giorno)) {
-            AggiungiCorsa(*ListaTempi, giorno.NumGiorno, giorno.TempoImpiegato, giorno.MediaKm, giorno.Data);
+        const RecordGiorno& day = Giorni[d];
+        if (chosen(day)) {
+            AddRunTo(*ListaTempi, day.NumGiorno, day.TempoImpiegato, day.MediaKm, day.Data);
         }
     }
     ListaTempi->Ordina();

@@ -21,21 +21,21 @@ namespace zelvia
 {
 
 /// Opens the chart of the statistic last counted, under the title shown.
-using AperturaGrafico = std::function<void(const Text& titolo)>;
+using ChartOpener = std::function<void(const Text& title)>;
 
 /// The window of one statistic: its values ranked and, over them for a while, the sorted times of the days of one
 /// value. It is not emptied by a further statistic that finds it open.
-class frmStatistiche1 : public Form, public VistaStatistica
+class frmStatistiche1 : public Form, public StatisticView
 {
     Q_OBJECT
 
 public:
-    explicit frmStatistiche1(AperturaGrafico apriGrafico);
+    explicit frmStatistiche1(ChartOpener openChart);
 
     Control& FocusSink() override { return *lstStatistica; }
 
-    void SetTitolo(TextView titolo) override { lblTitolo->SetCaption(titolo); }
-    void AggiungiRiga(TextView riga) override { lstStatistica->AddItem(riga); }
+    void SetTitle(TextView title) override { lblTitolo->SetCaption(title); }
+    void AddLine(TextView line) override { lstStatistica->AddItem(line); }
 
     void cmdTempiLO_Click();
     void cmGrafico_Click();
@@ -57,26 +57,26 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    using ProvaGiorno = std::function<bool(const RecordGiorno&)>;
+    using DayTest = std::function<bool(const RecordGiorno&)>;
 
     void Build();
 
-    void ListaWOrdinata(const Text& valore);
-    void ListavOrdinata(i16 valore);
-    ProvaGiorno DaysOf(const Text& valore);
+    void ListaWOrdinata(const Text& value);
+    void ListavOrdinata(i16 value);
+    DayTest DaysOf(const Text& value);
     void BeginTimes();
-    void FillTimes(const ProvaGiorno& scelto);
+    void FillTimes(const DayTest& chosen);
 
     /// A piece of a row's text as a number; one that can't be read is reported and counts as 0.
     static i16 Scomponi(TextView title, i16 (*piece)(TextView), TextView text);
-    i16 ScomponiKm(TextView text) { return Scomponi("ScomponiKm - ERRORE : ", PezzoKm, text); }
-    i16 ScomponiMetri(TextView text) { return Scomponi("ScomponiMetri - ERRORE : ", PezzoMetri, text); }
-    i16 ScomponiVolte(TextView text) { return Scomponi("ScomponiVolte - ERRORE : ", PezzoVolte, text); }
-    i16 ScomponiDistanza(TextView text) { return Scomponi("ScomponiDistanza - ERRORE : ", PezzoDistanza, text); }
-    i16 ScomponiQuante(TextView text) { return Scomponi("ScomponiQuante - ERRORE : ", PezzoQuante, text); }
-    i16 ScomponiTempi(TextView text) { return Scomponi("ScomponiTempi - ERRORE : ", PezzoTempi, text); }
+    i16 ScomponiKm(TextView text) { return Scomponi("ScomponiKm - ERRORE : ", KmPart, text); }
+    i16 ScomponiMetri(TextView text) { return Scomponi("ScomponiMetri - ERRORE : ", MetresPart, text); }
+    i16 ScomponiVolte(TextView text) { return Scomponi("ScomponiVolte - ERRORE : ", TimesPart, text); }
+    i16 ScomponiDistanza(TextView text) { return Scomponi("ScomponiDistanza - ERRORE : ", DistancePart, text); }
+    i16 ScomponiQuante(TextView text) { return Scomponi("ScomponiQuante - ERRORE : ", MinutesPart, text); }
+    i16 ScomponiTempi(TextView text) { return Scomponi("ScomponiTempi - ERRORE : ", SecondsPart, text); }
 
-    AperturaGrafico apriGrafico_;
+    ChartOpener openChart_;
     std::optional<ListaOrdinata> ListaTempi; ///< Alive while the times are shown.
 };
 

@@ -25,14 +25,14 @@ struct ChangeRow {
     Check stored;
 };
 
-template <ListaScelta lista>
+template <SelectionList lista>
 void Capitals(frmMain& page)
 {
     Label& label = *page.Campo(lista).lblImmis;
     label.setText(label.text().toUpper());
 }
 
-template <ListaScelta lista>
+template <SelectionList lista>
 void NewText(frmMain& page)
 {
     page.Campo(lista).lblImmis->SetCaption("Altro");
@@ -46,23 +46,24 @@ void OneMore(frmMain& page)
 
 const ChangeRow kChanges[] = {
     {"nothing", [](frmMain&) {}, 0, [](const RecordGiorno& day) { return day.Km == 16 && day.Metri == 200; }},
-    {"Percorso, case only", Capitals<ListaScelta::Percorso>, 0,
+    {"Percorso, case only", Capitals<SelectionList::Percorso>, 0,
      [](const RecordGiorno& day) { return day.Percorso == "COLLE DELL'UNIVERSITÀ"_t; }},
-    {"Lunghezza, case only", Capitals<ListaScelta::Lunghezza>, 0,
+    {"Lunghezza, case only", Capitals<SelectionList::Lunghezza>, 0,
      [](const RecordGiorno& day) { return day.Lunghezza == "LUNGO"; }},
-    {"Modo, case only", Capitals<ListaScelta::Modo>, 0, [](const RecordGiorno& day) { return day.Modo == "LENTA"; }},
-    {"Tipo, case only", Capitals<ListaScelta::Tipo>, 0,
+    {"Modo, case only", Capitals<SelectionList::Modo>, 0, [](const RecordGiorno& day) { return day.Modo == "LENTA"; }},
+    {"Tipo, case only", Capitals<SelectionList::Tipo>, 0,
      [](const RecordGiorno& day) { return day.Tipo == "ALLENAMENTO"; }},
-    {"Percorso", NewText<ListaScelta::Percorso>, 1, [](const RecordGiorno& day) { return day.Percorso == "Altro"; }},
-    {"Lunghezza", NewText<ListaScelta::Lunghezza>, 1, [](const RecordGiorno& day) { return day.Lunghezza == "Altro"; }},
-    {"Modo", NewText<ListaScelta::Modo>, 1, [](const RecordGiorno& day) { return day.Modo == "Altro"; }},
-    {"Fondo", NewText<ListaScelta::Fondo>, 1, [](const RecordGiorno& day) { return day.Fondo == "Altro"; }},
-    {"Tipo", NewText<ListaScelta::Tipo>, 1, [](const RecordGiorno& day) { return day.Tipo == "Altro"; }},
-    {"Stagione", NewText<ListaScelta::Stagione>, 1, [](const RecordGiorno& day) { return day.Stagione == "Altro"; }},
-    {"TempoAtm", NewText<ListaScelta::TempoAtm>, 1, [](const RecordGiorno& day) { return day.TempoAtm == "Altro"; }},
-    {"Temperatura", NewText<ListaScelta::Temperatura>, 1,
+    {"Percorso", NewText<SelectionList::Percorso>, 1, [](const RecordGiorno& day) { return day.Percorso == "Altro"; }},
+    {"Lunghezza", NewText<SelectionList::Lunghezza>, 1,
+     [](const RecordGiorno& day) { return day.Lunghezza == "Altro"; }},
+    {"Modo", NewText<SelectionList::Modo>, 1, [](const RecordGiorno& day) { return day.Modo == "Altro"; }},
+    {"Fondo", NewText<SelectionList::Fondo>, 1, [](const RecordGiorno& day) { return day.Fondo == "Altro"; }},
+    {"Tipo", NewText<SelectionList::Tipo>, 1, [](const RecordGiorno& day) { return day.Tipo == "Altro"; }},
+    {"Stagione", NewText<SelectionList::Stagione>, 1, [](const RecordGiorno& day) { return day.Stagione == "Altro"; }},
+    {"TempoAtm", NewText<SelectionList::TempoAtm>, 1, [](const RecordGiorno& day) { return day.TempoAtm == "Altro"; }},
+    {"Temperatura", NewText<SelectionList::Temperatura>, 1,
      [](const RecordGiorno& day) { return day.Temperatura == "Altro"; }},
-    {"a text emptied", [](frmMain& page) { page.Campo(ListaScelta::Tipo).lblImmis->SetCaption(""); }, 1,
+    {"a text emptied", [](frmMain& page) { page.Campo(SelectionList::Tipo).lblImmis->SetCaption(""); }, 1,
      [](const RecordGiorno& day) { return day.Tipo.empty(); }},
     {"Km", OneMore<&PageControls::upKM>, 1, [](const RecordGiorno& day) { return day.Km == 17; }},
     {"Metri", [](frmMain& page) { page.upMetri->SetValue(550); }, 1,

@@ -247,8 +247,8 @@ void ListMenuTest::thePreviousLists()
     EntryPage page;
     page.Start();
     for (int number = 1; number <= 8; ++number) {
-        const auto list = static_cast<ListaScelta>(number);
-        VociDi(list).erase(VociDi(list).begin());
+        const auto list = static_cast<SelectionList>(number);
+        EntriesOf(list).erase(EntriesOf(list).begin());
         page.AddEntry(list, "Altra");
     }
     Module1::NomiPercorso[1] = "Altra";
@@ -270,7 +270,7 @@ void ListMenuTest::thePreviousListsRefused()
 {
     EntryPage page;
     page.Start();
-    page.AddEntry(ListaScelta::Percorso, "Altra");
+    page.AddEntry(SelectionList::Percorso, "Altra");
     page.script.Expect(PreviousQuestion(QMessageBox::Cancel));
     page.Menu("mnuOpzioni", Qt::Key_L);
     VERIFY_SCRIPT(page.script);

@@ -55,7 +55,7 @@ void NewTest::newDiaryInMemoryOnly()
     page.Start();
     page.GoTo(58);
     Module1::NomeTabellaAttiva = "attiva";
-    page.AddEntry(ListaScelta::Stagione, "Quinta");
+    page.AddEntry(SelectionList::Stagione, "Quinta");
     page.script.Expect(page.NewDialog(QStringLiteral("nuova")));
     page.Menu("mnuFile", Qt::Key_N);
     VERIFY_SCRIPT(page.script);
@@ -75,8 +75,8 @@ void NewTest::newDiaryInMemoryOnly()
     QCOMPARE(page.Caption("lblImmisPercorso"), QString());
     QCOMPARE(page.Caption("lblNumKMPercorsi"), QString());
     QCOMPARE(page.Caption("lblNumGiorniCorseAnno"), QStringLiteral("0"));
-    QCOMPARE(page->Campo(ListaScelta::Percorso).lst->ListCount(), 0);
-    QCOMPARE(page->Campo(ListaScelta::Stagione).lst->ListCount(), 4);
+    QCOMPARE(page->Campo(SelectionList::Percorso).lst->ListCount(), 0);
+    QCOMPARE(page->Campo(SelectionList::Stagione).lst->ListCount(), 4);
     QCOMPARE(Module1::NomiPercorso[1], Text());
     QVERIFY(!page.folder.Exists(kNew));
     QVERIFY(!page.folder.Exists(QStringLiteral("nuova")));

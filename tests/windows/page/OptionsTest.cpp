@@ -36,7 +36,7 @@ ExpectedBox PreviousQuestion(bool goesOn)
 /// Adds an entry to each list.
 void AddEntries(DayPage& page)
 {
-    for (const ListaScelta lista : kTutteLeListe) {
+    for (const SelectionList lista : kAllLists) {
         page.AddEntry(lista, "Aggiunta");
     }
 }
@@ -44,7 +44,7 @@ void AddEntries(DayPage& page)
 std::vector<int> Counts(frmMain& page)
 {
     std::vector<int> counts;
-    for (const ListaScelta lista : kTutteLeListe) {
+    for (const SelectionList lista : kAllLists) {
         counts.push_back(page.Campo(lista).lst->ListCount());
     }
     return counts;
@@ -127,7 +127,7 @@ void OptionsTest::initialLists()
     page.Menu("mnuOpzioni", Qt::Key_I);
     VERIFY_SCRIPT(page.script);
     QVERIFY(Counts(page.Page()) == kInitialCounts);
-    QVERIFY(page->Campo(ListaScelta::Stagione).lst->Items() ==
+    QVERIFY(page->Campo(SelectionList::Stagione).lst->Items() ==
             (std::vector<Text>{"Primavera", "Estate", "Autunno", "Inverno"}));
     QCOMPARE(Module1::NomiPercorso[1], Text());
     QVERIFY(Module1::FileModificato == 1);

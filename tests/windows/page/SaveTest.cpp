@@ -84,7 +84,7 @@ void SaveTest::saveWritesTheSetWithoutADialog()
     page.folder.Write(QStringLiteral("prova/nometab"), "untouched");
     page.folder.Write(QStringLiteral("nomeload"), "untouched");
     page->upKM->SetValue(17);
-    page.AddEntry(ListaScelta::Modo, "Passeggiata");
+    page.AddEntry(SelectionList::Modo, "Passeggiata");
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
     QVERIFY(Module1::FileModificato == 0);
@@ -160,7 +160,7 @@ void SaveTest::saveAfterSaveAsGoesToTheCopy()
     page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("copia")));
     page.Menu("mnuFile", Qt::Key_V);
     page->upKM->SetValue(18);
-    page.AddEntry(ListaScelta::Tipo, "Gita");
+    page.AddEntry(SelectionList::Tipo, "Gita");
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
     QVERIFY(page.folder.Read(QStringLiteral("ZelviaFile/copia.zlv")) == SampleWithKm("18").Bytes());

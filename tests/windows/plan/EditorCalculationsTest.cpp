@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// "Calcolo Medie" of the table editor.
+// "Calculation Medie" of the table editor.
 #include "diary/TableModel.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"

@@ -33,7 +33,7 @@ public:
     /// From seven o'clock on.
     void RunTime(int minutes, int seconds = 0) const;
     /// Types into the field of a list.
-    void Enter(ListaScelta field, const QString& text) const;
+    void Enter(SelectionList field, const QString& text) const;
     /// Turns the page by the arrow of the day.
     void NextDay() const;
     void DayBefore() const;
@@ -75,7 +75,7 @@ void Runner::RunTime(int minutes, int seconds) const
     QTRY_VERIFY(!times.isVisible());
 }
 
-void Runner::Enter(ListaScelta field, const QString& text) const
+void Runner::Enter(SelectionList field, const QString& text) const
 {
     const ControlliLista& controls = Page().Campo(field);
     hand::Click(*controls.lblImmis);
@@ -246,8 +246,8 @@ void PlanToTheEndTest::MeetTheWork(const Runner& desk)
     desk.RunTime(60);
     desk.NextDay();
     desk.Verify(kRow5, 5);
-    desk.Enter(ListaScelta::Modo, QStringLiteral("media"));
-    desk.Enter(ListaScelta::Fondo, QStringLiteral("strada bianca"));
+    desk.Enter(SelectionList::Modo, QStringLiteral("media"));
+    desk.Enter(SelectionList::Fondo, QStringLiteral("strada bianca"));
     desk.NextDay();
     desk.Verify(kRow6, 6);
     desk.Turn(*page.lblRipetizioniVolte, *page.upRipetizioni, Steps(5));

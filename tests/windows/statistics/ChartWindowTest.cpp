@@ -18,12 +18,12 @@ namespace
 class ChartDesk : public SearchDesk
 {
 public:
-    ~ChartDesk() { Module1::AzzeraStatistica(); }
+    ~ChartDesk() { Module1::ClearStatistic(); }
 
     void Bars(Categoria category)
     {
-        Module1::ContaValori(StatisticaDi(category));
-        MostraGrafico(slot_, StatisticaDi(category).titolo);
+        Module1::CountValues(StatisticOf(category));
+        MostraGrafico(slot_, StatisticOf(category).title);
         QTRY_VERIFY(Charts() != nullptr);
         AwaitFront(*Charts());
     }
@@ -251,7 +251,7 @@ void ChartWindowTest::onlyTheFirst350Runs()
     desk.OpenSearch();
     desk.Run();
     QTRY_VERIFY(desk.ShowsResult());
-    QVERIFY(desk->totali.NumCorse == 366);
+    QVERIFY(desk->totals.NumCorse == 366);
     hand::Click(*desk->cmGrafico);
     QTRY_VERIFY(desk.Charts() != nullptr);
     QCOMPARE(desk.Charts()->MSChart1->Shown().RowCount(), 350);
@@ -263,8 +263,8 @@ void ChartWindowTest::onlyTheFirst350Runs()
     desk.Run();
     desk.AwaitBoxes();
     QTRY_COMPARE(desk->lstMedie->count(), 1);
-    QCOMPARE(desk->totali.Medie[350], 0.0F);
-    QCOMPARE(desk->totali.Medie[351], 6.3F);
+    QCOMPARE(desk->totals.Medie[350], 0.0F);
+    QCOMPARE(desk->totals.Medie[351], 6.3F);
     hand::Click(*desk->cmGrafico);
     QTRY_COMPARE(desk.Charts()->MSChart1->Shown().RowCount(), 1);
     VERIFY_SCRIPT(desk.script);

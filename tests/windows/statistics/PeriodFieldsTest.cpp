@@ -34,7 +34,7 @@ void PeriodFieldsTest::aButtonShowsAndEmptiesThem()
                                                                            desk->lblAlTit, desk->lblDataFine}) {
             count += widget->isVisible() ? 1 : 0;
         }
-        for (const TextBox* box : desk->campiPeriodo) {
+        for (const TextBox* box : desk->periodBoxes) {
             count += box->isVisible() ? 1 : 0;
         }
         return count;
@@ -85,7 +85,7 @@ void PeriodFieldsTest::typingTakesTheTextsPlace()
     SearchDesk desk;
     desk.StartSearch();
     desk.TypePeriod("6|4|2025|7|5|2025");
-    hand::Click(*desk->campiPeriodo[CampoPeriodo::GiornoInizio]);
+    hand::Click(*desk->periodBoxes[PeriodBox::GiornoInizio]);
     QTRY_COMPARE(SearchDesk::Focused(), QByteArray("txtGiornoInizio"));
     for (const char* value : {"1", "2026", "21", "12", "2026"}) {
         hand::Key(Qt::Key_Return);
@@ -100,17 +100,17 @@ void PeriodFieldsTest::aValueBeyondTheLimitHoldsTheFocus_data()
     QTest::addColumn<int>("field");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("message");
-    QTest::newRow("start day") << int{CampoPeriodo::GiornoInizio} << "32"
+    QTest::newRow("start day") << int{PeriodBox::GiornoInizio} << "32"
                                << "MAX 31 GIORNI                 ";
-    QTest::newRow("start month") << int{CampoPeriodo::MeseInizio} << "13"
+    QTest::newRow("start month") << int{PeriodBox::MeseInizio} << "13"
                                  << "MAX 12 MESI                   ";
-    QTest::newRow("start year") << int{CampoPeriodo::AnnoInizio} << "2100"
+    QTest::newRow("start year") << int{PeriodBox::AnnoInizio} << "2100"
                                 << "MAX ANNO 2099                 ";
-    QTest::newRow("end day") << int{CampoPeriodo::GiornoFine} << "99"
+    QTest::newRow("end day") << int{PeriodBox::GiornoFine} << "99"
                              << "MAX 31 GIORNI                 ";
-    QTest::newRow("end month") << int{CampoPeriodo::MeseFine} << "20"
+    QTest::newRow("end month") << int{PeriodBox::MeseFine} << "20"
                                << "MAX 12 MESI                   ";
-    QTest::newRow("end year") << int{CampoPeriodo::AnnoFine} << "9999"
+    QTest::newRow("end year") << int{PeriodBox::AnnoFine} << "9999"
                               << "MAX ANNO 2099                 ";
 }
 
@@ -123,12 +123,12 @@ void PeriodFieldsTest::aValueBeyondTheLimitHoldsTheFocus()
     desk.StartSearch();
     hand::Click(*desk->cmdPeriodo);
     QTRY_VERIFY(desk->lblAlTit->isVisible());
-    const auto place = static_cast<CampoPeriodo::Campo>(field);
+    const auto place = static_cast<PeriodBox::Box>(field);
     desk.Write(place, typed);
-    TextBox& box = *desk->campiPeriodo[place];
+    TextBox& box = *desk->periodBoxes[place];
     // Enter, Tab, another box, a condition, the search and the way out: each with its one message and nothing else.
     TextBox& other =
-        *desk->campiPeriodo[place == CampoPeriodo::GiornoInizio ? CampoPeriodo::MeseFine : CampoPeriodo::GiornoInizio];
+        *desk->periodBoxes[place == PeriodBox::GiornoInizio ? PeriodBox::MeseFine : PeriodBox::GiornoInizio];
     for (int way = 0; way < 6; ++way) {
         desk.script.Expect(Warning(message));
         switch (way) {

@@ -119,7 +119,7 @@ void SearchWindowTest::opensFromTheMenu()
     }
     QVERIFY(QFontInfo(window.lstMedie->font()).fixedPitch());
     QCOMPARE(window.lstMedie->font().families().constFirst(), QStringLiteral("Courier"));
-    for (const TextBox* box : window.campiPeriodo) {
+    for (const TextBox* box : window.periodBoxes) {
         QVERIFY(!box->accessibleName().isEmpty());
     }
     // A second command brings the same one.

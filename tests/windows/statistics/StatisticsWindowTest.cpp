@@ -97,7 +97,7 @@ private Q_SLOTS:
 void StatisticsWindowTest::itsControls()
 {
     const DayPage page;
-    const frmStatistiche1 window{AperturaGrafico()};
+    const frmStatistiche1 window{ChartOpener()};
     QCOMPARE(window.objectName(), QStringLiteral("frmStatistiche1"));
     QCOMPARE(window.windowTitle(), QStringLiteral("Statistiche"));
     QVERIFY(window.windowModality() == Qt::NonModal);
@@ -291,7 +291,7 @@ void StatisticsWindowTest::theChartIsAskedFor()
     EntryPage::AwaitFront(window);
     hand::Click(*window.cmGrafico);
     QTRY_COMPARE(asked, QByteArrayList{"Statistica"});
-    window.SetTitolo("Tipo");
+    window.SetTitle("Tipo");
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(asked, (QByteArrayList{"Statistica", "Tipo"}));
 }
