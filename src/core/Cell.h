@@ -11,6 +11,8 @@
 namespace zelvia
 {
 
+struct Message;
+
 /// How the text of a box is written once the box is left.
 enum class CellFormat { Plain, TwoDigits, ThreeDigits, Capitals, Thousands };
 
@@ -23,7 +25,7 @@ double CellNumber(TextView text, CellFormat format);
 /// The highest number that a box accepts, and the message beyond it.
 struct Limit {
     double highest = 0; ///< 0 for no limit.
-    TextView message = {};
+    const Message* message = nullptr;
 };
 
 /// The value that a box shows.

@@ -18,13 +18,26 @@ MsgBoxHandler& CurrentHandler()
 
 } // namespace
 
-MsgAnswer MsgBox(TextView text, MsgButtons buttons, MsgIcon icon, TextView title)
+MsgRequest Filled(const Message& message, std::initializer_list<TextView> parts)
+{
+    constexpr TextView place = "{}";
+    MsgRequest request{Text(message.text), message.icon, message.buttons};
+    std::size_t from = 0;
+    for (const TextView part : parts) {
+        from = request.text.find(place, from);
+        request.text.replace(from, place.size(), part);
+        from += part.size();
+    }
+    return request;
+}
+
+MsgAnswer ShowBox(const MsgRequest& request)
 {
     if (CurrentHandler()) {
-        return CurrentHandler()({Text(text), buttons, icon, Text(title)});
+        return CurrentHandler()(request);
     }
-    std::cerr << ToUtf8(text) << '\n';
-    return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
+    std::cerr << ToUtf8(request.text) << '\n';
+    return request.buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
 }
 
 MsgBoxHandler SetMsgBoxHandler(MsgBoxHandler handler)

@@ -5,6 +5,7 @@
 #include "core/Text.h"
 
 #include <functional>
+#include <initializer_list>
 
 namespace zelvia
 {
@@ -13,16 +14,34 @@ enum class MsgButtons { OK, OKCancel, YesNoCancel };
 enum class MsgIcon { None, Critical, Exclamation, Information };
 enum class MsgAnswer { OK, Cancel, Yes, No };
 
-/// What a message box shows. Boxes have no title of their own, except the two of the help commands.
+/// What a message box shows.
 struct MsgRequest {
     Text text;
-    MsgButtons buttons = MsgButtons::OK;
     MsgIcon icon = MsgIcon::None;
-    Text title;
+    MsgButtons buttons = MsgButtons::OK;
+
+    friend bool operator==(const MsgRequest&, const MsgRequest&) = default;
 };
 
+/// A message of the program, a row of Messages.h. Each `{}` in its text stands for a part that changes.
+struct Message {
+    TextView name;
+    TextView text;
+    MsgIcon icon;
+    MsgButtons buttons = MsgButtons::OK;
+};
+
+/// The message with its parts in their places, in order.
+MsgRequest Filled(const Message& message, std::initializer_list<TextView> parts);
+
 /// Shows a modal message box and returns the button pressed.
-MsgAnswer MsgBox(TextView text, MsgButtons buttons, MsgIcon icon = MsgIcon::None, TextView title = {});
+MsgAnswer ShowBox(const MsgRequest& request);
+
+template <typename... Parts>
+MsgAnswer MsgBox(const Message& message, const Parts&... parts)
+{
+    return ShowBox(Filled(message, {TextView(parts)...}));
+}
 
 using MsgBoxHandler = std::function<MsgAnswer(const MsgRequest&)>;
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/RunTimeError.h"
 
+#include "core/MessageBox.h"
+
 namespace zelvia
 {
 
@@ -47,7 +49,7 @@ ErroreRunTime CurrentError()
 
 void ReportError(TextView title, const ErroreRunTime& error)
 {
-    MsgBox(Text(title) + std::to_string(error.Number()) + " " + error.Description(), MsgButtons::OK);
+    ShowBox({Text(title) + std::to_string(error.Number()) + " " + error.Description()});
 }
 
 } // namespace zelvia

@@ -3,6 +3,7 @@
 #include "diary/CalendarDates.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 
 namespace zelvia::Module1
@@ -15,30 +16,23 @@ constexpr int kFirstYear = 2007;
 
 using Field = DateCorrection::Field;
 
-Text MessageAt(TextView what, i16 row, TextView detail)
-{
-    return Text(what) + PlainText(row) + " : " + Text(detail);
-}
-
 void CorrectDay(RaceDate& date, i16 row, std::vector<DateCorrection>& corrections)
 {
-    constexpr TextView wrong = " ERRORE AL N° "_t;
-    const auto cut = [&](int days) {
-        const Text last = PlainText(i16(days));
-        corrections.push_back({MessageAt(wrong, row, " MAX " + last + " GIORNI "), Field::Day, last});
+    const auto cut = [&](int days, const Message& message) {
+        corrections.push_back({Filled(message, {PlainText(row)}), Field::Day, PlainText(i16(days))});
         date.day = days;
     };
     for (const int shortMonth : {4, 6, 9, 11}) {
         if (date.month == shortMonth && date.day > 30) {
-            cut(30);
+            cut(30, Messages::kRaceMax30);
         }
     }
     const bool leap = RoundTo<i32>(date.year).value() % 4 == 0;
     if (leap && date.month == 2 && date.day > 29) {
-        cut(29);
+        cut(29, Messages::kRaceMax29);
     }
     if (!leap && date.month == 2 && date.day > 28) {
-        cut(28);
+        cut(28, Messages::kRaceMax28);
     }
 }
 
@@ -52,16 +46,15 @@ std::vector<DateCorrection> CorrectDate(const RaceDate& date, i16 row, i16 curre
     if (corrected.day < 1 && corrected.month < 1 && corrected.year < 1) {
         return corrections;
     }
-    constexpr TextView missing = " MANCA AL N° "_t;
     if (corrected.day < 1) {
-        corrections.push_back({MessageAt(missing, row, "  GIORNO   ")});
+        corrections.push_back({Filled(Messages::kRaceWithoutDay, {PlainText(row)})});
     }
     if (corrected.month < 1) {
-        corrections.push_back({MessageAt(missing, row, "  MESE   ")});
+        corrections.push_back({Filled(Messages::kRaceWithoutMonth, {PlainText(row)})});
     }
     if (corrected.year < kFirstYear) {
         const Text year = PlainText(currentYear);
-        corrections.push_back({MessageAt(" MODIFICA AL N° "_t, row, "  ANNO " + year + "  "), Field::Year, year});
+        corrections.push_back({Filled(Messages::kRaceYear, {PlainText(row), year}), Field::Year, year});
     }
     return corrections;
 }
@@ -82,10 +75,11 @@ std::vector<std::pair<i16, i16>> SameDates()
     return pairs;
 }
 
-Text SameDatesMessage(i16 first, i16 second)
+MsgRequest SameDatesMessage(i16 first, i16 second)
 {
-    return PlainText(GiornoGara[first]) + "-" + PlainText(MeseGara[first]) + "-" + PlainText(AnnoGara[first]) +
-           Text("   DATA PRESENTE AL  N° "_t) + PlainText(first) + Text("  E AL N° "_t) + PlainText(second) + "  ";
+    const Text date =
+        PlainText(GiornoGara[first]) + "-" + PlainText(MeseGara[first]) + "-" + PlainText(AnnoGara[first]);
+    return Filled(Messages::kRacesOnOneDay, {date, PlainText(first), PlainText(second)});
 }
 
 i16 RaceOnDate(i16 day, i16 month, i16 year)

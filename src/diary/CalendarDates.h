@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/MessageBox.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
@@ -23,7 +24,7 @@ struct RaceDate {
 struct DateCorrection {
     enum class Field { None, Day, Year };
 
-    Text message;
+    MsgRequest message;
     Field field = Field::None;
     Text value = {};
 
@@ -39,7 +40,7 @@ std::vector<DateCorrection> CorrectDate(const RaceDate& date, i16 row, i16 curre
 std::vector<std::pair<i16, i16>> SameDates();
 
 /// What is said of such a pair.
-Text SameDatesMessage(i16 first, i16 second);
+MsgRequest SameDatesMessage(i16 first, i16 second);
 
 /// The first row of the calendar with a race on a date, 0 for none.
 i16 RaceOnDate(i16 day, i16 month, i16 year);

@@ -6,7 +6,7 @@
 #include "core/CMouse.h"
 #include "core/Conversions.h"
 #include "core/Files.h"
-#include "core/MessageBox.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarModel.h"
 #include "diary/Module1.h"
@@ -24,11 +24,8 @@ using namespace Module1;
 namespace
 {
 
-constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   ";
-constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
-
-/// Why a diary can't be kept under the path chosen, or nothing: its folder has to be one.
-Text RefusalOfFolder(const Text& diary, const Text& chosen)
+/// Shows why a diary can't be kept under the path chosen, when its folder would have the name of a file.
+bool RefusesFolder(const Text& diary, const Text& chosen)
 {
     Text folder;
     // A path in another folder is refused after the dialog.
@@ -36,10 +33,10 @@ Text RefusalOfFolder(const Text& diary, const Text& chosen)
         TrapWith([&] { folder += FolderOfDiary(chosen); }, [](const ErroreRunTime&) {});
     }
     if (folder.empty() || CanBeFolder(folder)) {
-        return {};
+        return false;
     }
-    return " LA CARTELLA DEL DIARIO AVREBBE IL NOME DI UN FILE CHE C'E' GIA' :  " +
-           Mid(folder, InStrRev(folder, "\\") + 1) + "   ";
+    MsgBox(Messages::kFolderIsAFile, Mid(folder, InStrRev(folder, "\\") + 1));
+    return true;
 }
 
 /// Points CartellaDiario somewhere else for as long as it lives.
@@ -69,7 +66,7 @@ public:
     void Choose()
     {
         page_.ChooseFile(
-            {title_, opens_, [diary = diary_](const Text& chosen) { return RefusalOfFolder(diary, chosen); }});
+            {title_, opens_, [diary = diary_](const Text& chosen) { return RefusesFolder(diary, chosen); }});
     }
 
     /// The name chosen. Raises error 32755 after the refusal's box when it is in another folder; the dialog then
@@ -79,7 +76,7 @@ public:
         Text& chosen = page_.ChosenName();
         if (CAPTIONPATH(diary_, chosen) != 0) {
             chosen = diary_;
-            MsgBox(opens_ ? kRefusedOpen : kRefusedSave, MsgButtons::OK, MsgIcon::Critical);
+            MsgBox(opens_ ? Messages::kOpensElsewhere : Messages::kSavesElsewhere);
             refused_ = true;
             throw ErroreRunTime(Errore::Annullato);
         }
@@ -119,8 +116,7 @@ void FileCommands::ChiediSalvataggio(i16& cancelled)
     if (FileModificato != 1) {
         return;
     }
-    switch (MsgBox("IL FILE NON E' STATO SALVATO, SALVARE IL FILE ?             ", MsgButtons::YesNoCancel,
-                   MsgIcon::Information)) {
+    switch (MsgBox(Messages::kSaveDiary)) {
     case MsgAnswer::Yes: mnuFileSave_Click(); break;
     case MsgAnswer::No: FileModificato = 0; break;
     default: cancelled = 1; break;

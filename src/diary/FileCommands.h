@@ -16,8 +16,8 @@ namespace zelvia
 struct FileChoice {
     TextView title;
     bool opens = false;
-    /// Why a path can't be chosen, as the text of a box, or nothing when it can.
-    std::function<Text(const Text& path)> refusal;
+    /// True for a path that can't be chosen, after the box that says why.
+    std::function<bool(const Text& path)> refuses;
 };
 
 /// What the file commands ask of the page that shows the diary.

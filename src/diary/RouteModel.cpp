@@ -3,6 +3,7 @@
 #include "diary/RouteModel.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 #include "diary/Module1.h"
@@ -74,9 +75,7 @@ void CaricaPercorsi()
                 VisitRoute(route, [&](auto& value) { file.Input(value); });
             }
         },
-        [](const ErroreRunTime& error) {
-            MsgBox(Text(kBareTitle) + error.Description() + " Liste Percorso", MsgButtons::OK);
-        });
+        [](const ErroreRunTime& error) { MsgBox(Messages::kRoutesNotRead, error.Description()); });
 }
 
 } // namespace zelvia::Module1

@@ -41,8 +41,6 @@ void CaricaPercorsi();
 namespace zelvia
 {
 
-inline constexpr TextView kTooManyRoutes = " DESCRIZIONE MAX PER 200 PERCORSI ";
-
 /// The length of a route.
 struct RouteLength {
     i32 km;

@@ -3,6 +3,7 @@
 #include "diary/SearchPeriod.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 
 namespace zelvia
 {
@@ -17,20 +18,18 @@ struct PeriodEnd {
     Box day;
     Box month;
     Box year;
-    TextView max30;
-    TextView max28;
-    TextView minDay;
-    TextView minMonth;
-    TextView minYear;
+    const Message& max30;
+    const Message& max28;
+    const Message& minDay;
+    const Message& minMonth;
+    const Message& minYear;
 };
 
 constexpr PeriodEnd kEnds[] = {
-    {GiornoInizio, MeseInizio, AnnoInizio, "DATA INIZIO  MAX 30 GIORNI                 ",
-     "DATA INIZIO  MAX 28 GIORNI                 ", "DATA INIZIO  MIN GIORNO 1                 ",
-     "DATA INIZIO  MIN MESE  1               ", "DATA INIZIO  ANNO 2007                 "},
-    {GiornoFine, MeseFine, AnnoFine, "DATA FINE  MAX 30 GIORNI                 ",
-     "DATA FINE  MAX 28 GIORNI                 ", "DATA FINE  MIN GIORNO 1                 ",
-     "DATA FINE  MIN MESE  1                ", "DATA FINE  ANNO 2007                 "},
+    {GiornoInizio, MeseInizio, AnnoInizio, Messages::kStartMax30, Messages::kStartMax28, Messages::kStartMinDay,
+     Messages::kStartMinMonth, Messages::kStartMinYear},
+    {GiornoFine, MeseFine, AnnoFine, Messages::kEndMax30, Messages::kEndMax28, Messages::kEndMinDay,
+     Messages::kEndMinMonth, Messages::kEndMinYear},
 };
 
 constexpr int kFirstYear = 2007;
@@ -38,9 +37,9 @@ constexpr int kFirstYear = 2007;
 void Check(const PeriodEnd& end, PeriodEntries& texts, std::vector<PeriodCorrection>& corrections)
 {
     const auto number = [&](Box box) { return Val(texts[box]); };
-    const auto correct = [&](TextView message, Box box, TextView value) {
+    const auto correct = [&](const Message& message, Box box, TextView value) {
         texts[box] = Text(value);
-        corrections.push_back({message, box, value});
+        corrections.push_back({&message, box, value});
     };
     const double month = number(end.month);
     if ((month == 4 || month == 6 || month == 9 || month == 11) && number(end.day) > 30) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/MessageBox.h"
 #include "core/Text.h"
 
 #include <array>
@@ -22,7 +23,7 @@ using PeriodEntries = std::array<Text, PeriodBox::kBoxes>;
 
 /// A correction made before a search, and its message.
 struct PeriodCorrection {
-    TextView message;
+    const Message* message;
     PeriodBox::Box box;
     TextView value;
 
@@ -33,8 +34,6 @@ struct PeriodCheck {
     std::vector<PeriodCorrection> corrections; ///< In the order in which they are reported.
     bool reversed = false;                     ///< The end is before the start: nothing is searched.
 };
-
-inline constexpr TextView kPeriodReversed = "DATA FINE MINORE DELLA DATA INIZIO                 ";
 
 /// Checks the dates of a search. A date counts as begun when any of its boxes holds 1 or more; 29 February is invalid
 /// in every year, and the earliest year is 2007. The order of the two dates is tested without their years, and only

@@ -3,28 +3,25 @@
 #include "diary/TimeAndPace.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 
 namespace zelvia
 {
 namespace
 {
 
-constexpr TextView kEndBeforeStart = "L'ORA FINE E' MINORE DELL'ORA INIZIO         ";
-constexpr TextView kEndBeforeStartBySeconds = "L'ORA FINE E' MINORE DELL'ORA INIZIO        ";
-constexpr TextView kEndEqualsStart = "L'ORA FINE E' UGUALE ALL'ORA INIZIO        ";
-
-TextView Warning(const ClockTime& start, const ClockTime& end)
+const Message* Warning(const ClockTime& start, const ClockTime& end)
 {
     if (end.hours != start.hours) {
-        return end.hours < start.hours ? kEndBeforeStart : TextView();
+        return end.hours < start.hours ? &Messages::kEndBeforeStart : nullptr;
     }
     if (end.minutes != start.minutes) {
-        return end.minutes < start.minutes ? kEndBeforeStart : TextView();
+        return end.minutes < start.minutes ? &Messages::kEndBeforeStart : nullptr;
     }
     if (end.seconds != start.seconds) {
-        return end.seconds < start.seconds ? kEndBeforeStartBySeconds : TextView();
+        return end.seconds < start.seconds ? &Messages::kEndSecondsBeforeStart : nullptr;
     }
-    return kEndEqualsStart;
+    return &Messages::kEndEqualsStart;
 }
 
 i32 SecondsOf(const ClockTime& time)
@@ -44,9 +41,9 @@ TimesCheck CheckTimes(bool distance, const ClockTime& start, const ClockTime& en
 {
     const bool haFine = end.hours >= 1 || end.minutes >= 1 || end.seconds >= 1;
     if (!haFine) {
-        return {Calculation::None, true, {}};
+        return {Calculation::None, true, nullptr};
     }
-    return {distance ? Calculation::TimeAndAverage : Calculation::TimeOnly, !distance, Text(Warning(start, end))};
+    return {distance ? Calculation::TimeAndAverage : Calculation::TimeOnly, !distance, Warning(start, end)};
 }
 
 ClockTime ElapsedTime(const ClockTime& start, const ClockTime& end)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/MessageBox.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
@@ -22,8 +23,8 @@ enum class Calculation { None = 0, TimeAndAverage = 1, TimeOnly = 2 };
 
 struct TimesCheck {
     Calculation calculation;
-    bool blanks;  ///< Time and average of the day must be blanked.
-    Text warning; ///< A warning to show, or empty.
+    bool blanks;            ///< Time and average of the day must be blanked.
+    const Message* warning; ///< A warning to show, or none.
 };
 
 /// Decides what can be computed. The end time counts as given when any part of it is 1 or more; the start time is

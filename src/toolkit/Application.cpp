@@ -32,8 +32,8 @@ namespace zelvia
 namespace
 {
 
-// The title of the boxes. It is not set as Qt's display name, which would be appended to the caption of every window.
-constexpr TextView kProgramName = "Zelvia";
+// Not Qt's display name, which would be appended to the caption of every window.
+constexpr QLatin1String kBoxTitle("Zelvia");
 
 QMessageBox::StandardButtons QtButtons(MsgButtons buttons)
 {
@@ -57,8 +57,7 @@ QMessageBox::Icon QtIcon(MsgIcon icon)
 MsgAnswer ShowMessageBox(const MsgRequest& request)
 {
     const BoxUp up;
-    QMessageBox box(QtIcon(request.icon), ToQString(request.title.empty() ? kProgramName : TextView(request.title)),
-                    QString(), QtButtons(request.buttons), up.Owner());
+    QMessageBox box(QtIcon(request.icon), kBoxTitle, QString(), QtButtons(request.buttons), up.Owner());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQString(request.text));
     switch (box.exec()) {

@@ -104,7 +104,7 @@ bool BoxGrid::LimitHolds(int column, int row) const
     if (limit.highest == 0 || Number(column, row) <= limit.highest) {
         return true;
     }
-    MsgBox(limit.message, MsgButtons::OK, MsgIcon::Exclamation);
+    MsgBox(*limit.message);
     return false;
 }
 

@@ -4,7 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/Files.h"
-#include "core/MessageBox.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
@@ -44,15 +44,6 @@ Text BackslashForm(const QString& native)
     return SystemPath(native.toStdString());
 }
 
-/// Shows a refusal, if there is one.
-bool Refused(const Text& refusal)
-{
-    if (!refusal.empty()) {
-        MsgBox(refusal, MsgButtons::OK, MsgIcon::Critical);
-    }
-    return !refusal.empty();
-}
-
 /// The dialog that a CommonDialog shows. It accepts a name only when a file of that name can be kept and found again;
 /// otherwise it reports why and stays open. A name without the filter's suffix gets it, whatever the current directory
 /// is; one that differs from a file's name only in case means that file.
@@ -72,8 +63,8 @@ public:
 private:
     bool Opens() const { return acceptMode() == AcceptOpen; }
     void TakeChoice();
-    Text NameRefusal(const QString& path) const;
-    Text PathRefusal(const Text& path) const;
+    const Message* NameRefusal(const QString& path) const;
+    bool RefusesPath(const Text& path) const;
     Text PathMeant(const QString& typed) const;
     bool MayReplace(const QString& path);
     void EnableOpen();
@@ -113,7 +104,8 @@ void FileChooser::TakeChoice()
         QFileDialog::accept();
         return;
     }
-    if (Refused(NameRefusal(typed))) {
+    if (const Message* refusal = NameRefusal(typed)) {
+        MsgBox(*refusal);
         return;
     }
     const Text path = PathMeant(typed);
@@ -128,35 +120,36 @@ void FileChooser::TakeChoice()
         return;
     }
     const Text chosen = PathWithin(path, settings_.InitDir);
-    if (!Refused(PathRefusal(chosen)) && MayReplace(native)) {
+    if (!RefusesPath(chosen) && MayReplace(native)) {
         chosen_ = chosen;
         QDialog::accept();
     }
 }
 
 /// Why no file can be kept under the name, or nothing.
-Text FileChooser::NameRefusal(const QString& path) const
+const Message* FileChooser::NameRefusal(const QString& path) const
 {
     // Quotes separate names in the dialog and end a path in a pointer file; backslashes separate folders.
     const QString name = QFileInfo(path).fileName();
     if (!IsInCharacterSet(path) || path.contains(QLatin1Char('\\')) || name.contains(QLatin1Char('"')) ||
         nameEdit_->text().contains(QLatin1Char('"'))) {
-        return " IL NOME CONTIENE CARATTERI NON AMMESSI   ";
+        return &Messages::kNameHasOddCharacters;
     }
     if (name.startsWith(QLatin1Char('.'))) {
-        return " IL NOME NON PUO' COMINCIARE CON UN PUNTO   ";
+        return &Messages::kNameIsHidden;
     }
     const int suffix = name.endsWith(suffix_, Qt::CaseInsensitive) ? 0 : static_cast<int>(suffix_.size());
-    return QFile::encodeName(name).size() + suffix > kLongestName ? Text(" IL NOME E' TROPPO LUNGO   ") : Text();
+    return QFile::encodeName(name).size() + suffix > kLongestName ? &Messages::kNameTooLong : nullptr;
 }
 
-/// Why no file can be kept there, or nothing.
-Text FileChooser::PathRefusal(const Text& path) const
+/// Shows why no file can be kept there, when it can't.
+bool FileChooser::RefusesPath(const Text& path) const
 {
     if (FindFolder(Left(path, InStrRev(path, "\\") - 1)).empty()) {
-        return " LA CARTELLA NON ESISTE   ";
+        MsgBox(Messages::kNoSuchFolder);
+        return true;
     }
-    return settings_.Refusal ? settings_.Refusal(path) : Text();
+    return settings_.Refuses && settings_.Refuses(path);
 }
 
 /// The path with its suffix, as the disk spells it. A file to be opened may have none.

@@ -27,9 +27,9 @@ struct CommonDialog {
     Text Filter; ///< Description and pattern, each followed by a bar.
     Text DialogTitle;
     Text FileName;
-    /// Why a path can't be chosen, as the text of a box, or nothing when it can. Asked while the dialog is up, which
-    /// stays after a refusal.
-    std::function<Text(const Text& path)> Refusal;
+    /// True for a path that can't be chosen, after the box that says why. Asked while the dialog is up, which then
+    /// stays.
+    std::function<bool(const Text& path)> Refuses;
 
     /// Shows the dialog and takes the chosen path into FileName; one in the folder of InitDir begins with that. Raises
     /// error 32755 on Cancel when CancelError is on.

@@ -71,7 +71,7 @@ void RunTimeErrorTest::ReportShowsTitleNumberAndDescription()
     QFETCH(QByteArray, title);
     QFETCH(int, number);
     MessageScript boxes;
-    boxes.Expect(TextOf(title) + std::to_string(number) + " " + DescriptionOf(number), MsgButtons::OK, MsgIcon::None);
+    boxes.Expect(TextOf(title) + std::to_string(number) + " " + DescriptionOf(number));
     ReportError(TextOf(title), ErroreRunTime(number));
     QVERIFY(boxes.AllShown());
 }
@@ -203,22 +203,23 @@ void RunTimeErrorTest::NestedTrapsReportOnce()
 void RunTimeErrorTest::MsgBoxHandsEverythingToTheHandler()
 {
     MessageScript boxes;
-    const TextView text = "RIPRISTINARE LE LISTE INIZIALI ?              ";
-    boxes.Expect(text, MsgButtons::OKCancel, MsgIcon::Information, MsgAnswer::Cancel);
-    QVERIFY(MsgBox(text, MsgButtons::OKCancel, MsgIcon::Information) == MsgAnswer::Cancel);
-    boxes.Expect("?", MsgButtons::YesNoCancel, MsgIcon::Exclamation, MsgAnswer::No);
-    QVERIFY(MsgBox("?", MsgButtons::YesNoCancel, MsgIcon::Exclamation) == MsgAnswer::No);
-    boxes.Expect("!", MsgButtons::OK, MsgIcon::Critical, MsgAnswer::OK, "Guida");
-    QVERIFY(MsgBox("!", MsgButtons::OK, MsgIcon::Critical, "Guida") == MsgAnswer::OK);
+    const Message asking{"kAsking", "{} ?   ", MsgIcon::Exclamation, MsgButtons::YesNoCancel};
+    boxes.Expect({"a {} b ?   ", MsgIcon::Exclamation, MsgButtons::YesNoCancel}, MsgAnswer::No);
+    QVERIFY(MsgBox(asking, "a {} b") == MsgAnswer::No);
+    const Message telling{"kTelling", "{}/{}: ", MsgIcon::Critical};
+    boxes.Expect({"1{}/: ", MsgIcon::Critical});
+    QVERIFY(MsgBox(telling, Text("1{}"), TextView()) == MsgAnswer::OK);
+    boxes.Expect({"!", MsgIcon::None, MsgButtons::OKCancel}, MsgAnswer::Cancel);
+    QVERIFY(ShowBox({"!", MsgIcon::None, MsgButtons::OKCancel}) == MsgAnswer::Cancel);
     QVERIFY(boxes.AllShown());
 }
 
 void RunTimeErrorTest::MsgBoxWithoutAHandlerAnswersCautiously()
 {
     const MsgBoxHandler before = SetMsgBoxHandler({});
-    const MsgAnswer ok = MsgBox("prova", MsgButtons::OK);
-    const MsgAnswer okCancel = MsgBox("prova", MsgButtons::OKCancel);
-    const MsgAnswer yesNo = MsgBox("prova", MsgButtons::YesNoCancel);
+    const MsgAnswer ok = ShowBox({"prova"});
+    const MsgAnswer okCancel = ShowBox({"prova", MsgIcon::None, MsgButtons::OKCancel});
+    const MsgAnswer yesNo = ShowBox({"prova", MsgIcon::None, MsgButtons::YesNoCancel});
     SetMsgBoxHandler(before);
     QVERIFY(ok == MsgAnswer::OK);
     QVERIFY(okCancel == MsgAnswer::Cancel);

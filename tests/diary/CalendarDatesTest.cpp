@@ -114,7 +114,7 @@ void CalendarDatesTest::Corrections()
     for (const DateCorrection& correction :
          CorrectDate({parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble()}, 7, 2026)) {
         const char* boxes[] = {"-", "G", "A"};
-        got += '[' + Bytes(correction.message) + '|' + boxes[static_cast<int>(correction.field)] +
+        got += '[' + Bytes(correction.message.text) + '|' + boxes[static_cast<int>(correction.field)] +
                Bytes(correction.value) + ']';
     }
     QCOMPARE(got, told);
@@ -124,7 +124,7 @@ void CalendarDatesTest::TheYearOfACorrectionIsThatShown()
 {
     const auto corrections = CorrectDate({1, 1, 0}, 100, 2099);
     QCOMPARE(corrections.size(), std::size_t{1});
-    QCOMPARE(Bytes(corrections[0].message), QByteArray(" MODIFICA AL N\xB0 100 :   ANNO 2099  "));
+    QCOMPARE(Bytes(corrections[0].message.text), QByteArray(" MODIFICA AL N\xB0 100 :   ANNO 2099  "));
     QCOMPARE(Bytes(corrections[0].value), QByteArray("2099"));
 }
 
@@ -167,7 +167,7 @@ void CalendarDatesTest::DoubleDates()
 void CalendarDatesTest::TheMessageOfADoubleDate()
 {
     PutDates("7=5/9/2026 21=5/9/2026");
-    QCOMPARE(Bytes(SameDatesMessage(7, 21)), QByteArray("5-9-2026   DATA PRESENTE AL  N\xB0 7  E AL N\xB0 21  "));
+    QCOMPARE(Bytes(SameDatesMessage(7, 21).text), QByteArray("5-9-2026   DATA PRESENTE AL  N\xB0 7  E AL N\xB0 21  "));
 }
 
 void CalendarDatesTest::RaceOfADay_data()

@@ -3,6 +3,7 @@
 // Open, New, Save and Save As on a page that only notes what is asked of it.
 #include "diary/FileCommands.h"
 
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "support/Bytes.h"
@@ -20,10 +21,6 @@ using namespace zelvia::test;
 
 namespace
 {
-
-constexpr TextView kQuestion = "IL FILE NON E' STATO SALVATO, SALVARE IL FILE ?             ";
-constexpr TextView kRefusedOpen = " NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE   ";
-constexpr TextView kRefusedSave = " IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA   ";
 
 /// Notes what the commands ask and answers their dialogs in turn, none for Cancel.
 class NotedPage : public DiaryPage
@@ -153,7 +150,7 @@ void FileCommandsTest::theQuestion()
     Module1::FileModificato = changed;
     MessageScript script;
     if (answer >= 0) {
-        script.Expect(kQuestion, MsgButtons::YesNoCancel, MsgIcon::Information, static_cast<MsgAnswer>(answer));
+        script.Expect(Messages::kSaveDiary, static_cast<MsgAnswer>(answer));
     }
     i16 annullato = 7;
     files_->ChiediSalvataggio(annullato);
@@ -210,7 +207,7 @@ void FileCommandsTest::openCancelled()
 void FileCommandsTest::openRefusedThenCancelled()
 {
     MessageScript script;
-    script.Expect(kRefusedOpen, MsgButtons::OK, MsgIcon::Critical);
+    script.Expect(Messages::kOpensElsewhere);
     const Session before = Module1::session;
     page_.choices = {folder_->Path("altrove/ZelviaFile/x.zlv"), std::nullopt};
     files_->mnuFileOpen_Click();
@@ -223,7 +220,7 @@ void FileCommandsTest::openNotSaved()
 {
     Module1::FileModificato = 1;
     MessageScript script;
-    script.Expect(kQuestion, MsgButtons::YesNoCancel, MsgIcon::Information, MsgAnswer::Cancel);
+    script.Expect(Messages::kSaveDiary, MsgAnswer::Cancel);
     files_->mnuFileOpen_Click();
     QCOMPARE(page_.asked, QStringList{QStringLiteral("AssegnaCampi")});
 }
@@ -266,7 +263,7 @@ void FileCommandsTest::saveAsksForAName()
 void FileCommandsTest::saveRefusedGoesToTheOpenDiary()
 {
     MessageScript script;
-    script.Expect(kRefusedSave, MsgButtons::OK, MsgIcon::Critical);
+    script.Expect(Messages::kSavesElsewhere);
     page_.chosen.clear();
     page_.choices = {folder_->Path("altrove/ZelviaFile/x.zlv")};
     files_->mnuFileSave_Click();

@@ -105,7 +105,7 @@ void FillRoute(int i)
 /// The report of the reader names no number, but the file.
 void ExpectRouteReport(MessageScript& boxes, int number)
 {
-    boxes.Expect("ERRORE : " + DescriptionOf(number) + " Liste Percorso", MsgButtons::OK, MsgIcon::None);
+    boxes.Expect("ERRORE : " + DescriptionOf(number) + " Liste Percorso");
 }
 
 } // namespace

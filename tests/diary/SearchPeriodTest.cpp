@@ -89,7 +89,7 @@ void SearchPeriodTest::Checks()
     const PeriodCheck check = CheckPeriod(fields);
     QByteArrayList told;
     for (const PeriodCorrection& repair : check.corrections) {
-        told << Bytes(repair.message);
+        told << Bytes(repair.message->text);
         texts[static_cast<qsizetype>(repair.box)] = Bytes(repair.value);
     }
     QCOMPARE(told, messages);

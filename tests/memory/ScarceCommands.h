@@ -42,7 +42,7 @@ private:
         if (request.buttons == MsgButtons::YesNoCancel) {
             return MsgAnswer::No;
         }
-        if (request.buttons == MsgButtons::OK && request.icon == MsgIcon::None && request.title.empty()) {
+        if (request.buttons == MsgButtons::OK && request.icon == MsgIcon::None) {
             reports_ << QByteArray::fromStdString(request.text);
         }
         return MsgAnswer::OK;

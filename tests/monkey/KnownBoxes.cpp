@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The boxes that the program has, and the reports of errors that an undamaged folder can bring about.
+// The messages and reports of errors that an undamaged folder can bring about.
 #include "monkey/KnownBoxes.h"
 
 #include "core/Files.h"
+#include "core/Messages.h"
 #include "diary/Module1.h"
 #include "monkey/Desk.h"
+#include "support/BoxScript.h"
+#include "support/MessagePattern.h"
 #include "toolkit/QtText.h"
 
 #include <QFileDialog>
@@ -19,66 +22,11 @@ namespace zelvia::monkey
 namespace
 {
 
-using Box = QMessageBox;
-
-struct KnownBox {
-    const char* pattern; ///< Of the whole text.
-    Box::Icon icon;
-    Box::StandardButtons buttons;
-};
-
-constexpr auto kYesNoCancel = Box::Yes | Box::No | Box::Cancel;
-constexpr auto kOkCancel = Box::Ok | Box::Cancel;
-
-const KnownBox kBoxes[] = {
-    {"AZZERARE I DATI DEL GIORNO \\? {14}", Box::Information, kOkCancel},
-    {"RIPRISTINARE LE LISTE INIZIALI \\? {14}", Box::Information, kOkCancel},
-    {"RIPRISTINARE LE LISTE PRECEDENTI \\? {14}", Box::Information, kOkCancel},
-    {"IL FILE NON E' STATO SALVATO, SALVARE IL FILE \\? {13}", Box::Information, kYesNoCancel},
-    {" IL FILE NON PUO' ESSERE SALVATO IN UN ALTRA CARTELLA {3}", Box::Critical, Box::Ok},
-    {" NON SI POSSONO APRIRE FILE DI ALTRE CARTELLE {3}", Box::Critical, Box::Ok},
-    {" DESCRIZIONE MAX PER 200 PERCORSI ", Box::Critical, Box::Ok},
-    // Splits, times and paces of the page.
-    {" INSERIRE: {2}KM {16}", Box::Warning, Box::Ok},
-    {" INSERIRE: {2}TEMPI {16}", Box::Warning, Box::Ok},
-    {" GIA' {2}NELLA {2}LISTA {16}", Box::Warning, Box::Ok},
-    {"L'ORA FINE E' MINORE DELL'ORA INIZIO {8,9}", Box::Warning, Box::Ok},
-    {"L'ORA FINE E' UGUALE ALL'ORA INIZIO {8}", Box::Warning, Box::Ok},
-    {"OLTRE 60 MINUTI {17}", Box::Warning, Box::Ok},
-    // Tables.
-    {" {2}FINE ALLENAMENTI {2}- {2}LA TABELLA : {2}.* - {2}VIENE DISATTIVATA {6}", Box::Information, Box::Ok},
-    {"SELEZIONARE UNA TABELLA {7}", Box::Warning, Box::Ok},
-    {" CANCELLARE LA TABELLA .* \\?", Box::Information, kYesNoCancel},
-    {" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA {3}", Box::Critical, Box::Ok},
-    {" INSERIRE ' DATA INIZIO ' ALLENAMENTO {5}", Box::Warning, Box::Ok},
-    {" DISATTIVARE LA TABELLA ATTUALMENTE ATTIVA, ED ATTIVARE QUESTA \\? {2}", Box::Information, kOkCancel},
-    {"GIORNO \\d{1,2} : IMMETTERE 2 VALORI PER CALCOLARNE IL 3° {7}", Box::Warning, Box::Ok},
-    {"GIORNO \\d{1,2}: OLTRE 60 MINUTI {17}", Box::Warning, Box::Ok},
-    // Limits of boxes.
-    {"MAX 31 GIORNI {17}", Box::Warning, Box::Ok},
-    {"MAX 12 MESI {19}", Box::Warning, Box::Ok},
-    {"MAX ANNO 2099 {17}", Box::Warning, Box::Ok},
-    {"MAX 24 ORE {16}", Box::Warning, Box::Ok},
-    {"MAX 59 (MINUTI|SECONDI) {16}", Box::Warning, Box::Ok},
-    {"MAX 60 MINUTI {17}", Box::Warning, Box::Ok},
-    {"MAX 9\\.999 {19}", Box::Warning, Box::Ok},
-    {"MAX 999\\.999 {19}", Box::Warning, Box::Ok},
-    {"DATA INIZIO {2}MAX (28|29|30) GIORNI {17}", Box::Warning, Box::Ok},
-    {"DATA FINE {2}MAX (28|30) GIORNI {17}", Box::Warning, Box::Ok},
-    {"DATA (INIZIO|FINE) {2}MIN GIORNO 1 {17}", Box::Warning, Box::Ok},
-    {"DATA INIZIO {2}MIN MESE {2}1 {15}", Box::Warning, Box::Ok},
-    {"DATA FINE {2}MIN MESE {2}1 {16}", Box::Warning, Box::Ok},
-    {"DATA INIZIO MIN ANNO 2008 {17}", Box::Warning, Box::Ok},
-    {"DATA (INIZIO|FINE) {2}ANNO 2007 {17}", Box::Warning, Box::Ok},
-    {"DATA FINE MINORE DELLA DATA INIZIO {17}", Box::Warning, Box::Ok},
-    // Races.
-    {" SALVO IL CALENDARIO GARE \\? {14}", Box::Information, kOkCancel},
-    {" IL CALENDARIO GARE NON E' STATO SALVATO, SALVARE \\? {11}", Box::Information, kYesNoCancel},
-    {" ERRORE AL N° \\d{1,3} :  MAX (28|29|30) GIORNI ", Box::Warning, Box::Ok},
-    {" MANCA AL N° \\d{1,3} : {3}(GIORNO|MESE) {3}", Box::Warning, Box::Ok},
-    {" MODIFICA AL N° \\d{1,3} : {3}ANNO \\d{4} {2}", Box::Warning, Box::Ok},
-    {"\\d+-\\d+-\\d+ {3}DATA PRESENTE AL {2}N° \\d{1,3} {2}E AL N° \\d{1,3} {2}", Box::Critical, Box::Ok},
-};
+/// Reports, those of the guide among them, have their reasons.
+bool IsDue(const Message& message)
+{
+    return message.icon != MsgIcon::None && &message != &Messages::kNoGuide;
+}
 
 bool FolderMissing(const Situation& /*situation*/)
 {
@@ -225,9 +173,8 @@ bool IsKnownReport(const QString& text, const Situation& situation)
         const std::string whole = report.title + std::to_string(report.number) + ' ' + DescriptionOf(report.number);
         return Matches(text, whole.c_str()) && report.due(situation);
     };
-    // The routes' reader reports no number.
-    const QString routes =
-        QStringLiteral("ERRORE : ") + ToQString(DescriptionOf(76)) + QStringLiteral(" Liste Percorso");
+    // The reader of the routes reports no number.
+    const QString routes = ToQString(Filled(Messages::kRoutesNotRead, {DescriptionOf(76)}).text);
     return std::any_of(std::begin(kReports), std::end(kReports), fits) || (text == routes && FolderMissing(situation));
 }
 
@@ -250,14 +197,16 @@ QString WrongWith(const QMessageBox& box, const Situation& situation)
     if (box.windowTitle() != QLatin1String("Zelvia") || box.textFormat() != Qt::PlainText) {
         return QStringLiteral("title or format: ") + described;
     }
-    for (const KnownBox& known : kBoxes) {
-        if (Matches(box.text(), known.pattern)) {
+    for (const Message* message : Messages::kAll) {
+        if (IsDue(*message) && test::PatternOf(*message).match(box.text()).hasMatch()) {
+            const test::ExpectedBox known = test::BoxOf(*message);
             return box.icon() == known.icon && box.standardButtons() == known.buttons
                        ? QString()
                        : QStringLiteral("icon or buttons: ") + described;
         }
     }
-    if (box.icon() == Box::NoIcon && box.standardButtons() == Box::Ok && IsKnownReport(box.text(), situation)) {
+    if (box.icon() == QMessageBox::NoIcon && box.standardButtons() == QMessageBox::Ok &&
+        IsKnownReport(box.text(), situation)) {
         return {};
     }
     return QStringLiteral("not known here: ") + described;

@@ -3,6 +3,7 @@
 #include "support/BoxScript.h"
 
 #include "support/ShownTexts.h"
+#include "toolkit/QtText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -89,10 +90,9 @@ void BoxScript::Meet(QWidget& window)
 {
     auto* box = qobject_cast<QMessageBox*>(&window);
     auto* dialog = qobject_cast<QFileDialog*>(&window);
-    const bool fits =
-        !steps_.empty() &&
-        (box != nullptr ? std::holds_alternative<ExpectedBox>(steps_.front().what)
-                        : dialog != nullptr && std::holds_alternative<ExpectedDialog>(steps_.front().what));
+    const bool fits = !steps_.empty() &&
+                      (box != nullptr ? std::holds_alternative<ExpectedBox>(steps_.front().what)
+                                      : dialog != nullptr && !std::holds_alternative<ExpectedBox>(steps_.front().what));
     if (!fits) {
         Note(QStringLiteral("not expected: ") + Described(window));
         window.close();
@@ -100,17 +100,27 @@ void BoxScript::Meet(QWidget& window)
     }
     const Step step = std::move(steps_.front());
     steps_.pop_front();
+    const auto* expectedBox = std::get_if<ExpectedBox>(&step.what);
+    if (expectedBox != nullptr) {
+        Check(*box, *expectedBox);
+    }
+    const QPointer<QWidget> open = &window;
     if (step.look) {
         step.look();
     }
-    if (box != nullptr) {
-        Answer(*box, std::get<ExpectedBox>(step.what));
+    if (open.isNull() || !window.isVisible()) {
+        return;
+    }
+    if (expectedBox != nullptr) {
+        Answer(*box, *expectedBox);
+    } else if (const auto* work = std::get_if<DialogWork>(&step.what)) {
+        Answer(*dialog, *work);
     } else {
         Answer(*dialog, std::get<ExpectedDialog>(step.what));
     }
 }
 
-void BoxScript::Answer(QMessageBox& box, const ExpectedBox& expected)
+void BoxScript::Check(const QMessageBox& box, const ExpectedBox& expected)
 {
     const auto compare = [&](bool same, const QString& what) {
         if (!same) {
@@ -123,12 +133,24 @@ void BoxScript::Answer(QMessageBox& box, const ExpectedBox& expected)
     compare(box.icon() == expected.icon, QStringLiteral("icon"));
     compare(box.standardButtons() == expected.buttons, QStringLiteral("buttons"));
     compare(box.windowTitle() == expected.title, QStringLiteral("title"));
-    QAbstractButton* button = box.button(expected.press);
-    compare(button != nullptr, QStringLiteral("missing button"));
-    if (button != nullptr) {
+    compare(box.standardButtons().testFlag(expected.press), QStringLiteral("missing button"));
+}
+
+void BoxScript::Answer(QMessageBox& box, const ExpectedBox& expected)
+{
+    if (QAbstractButton* button = box.button(expected.press)) {
         QTest::mouseClick(button, Qt::LeftButton);
     } else {
         box.close();
+    }
+}
+
+void BoxScript::Answer(QFileDialog& dialog, const DialogWork& work)
+{
+    const QPointer<QFileDialog> open = &dialog;
+    work(dialog);
+    if (!open.isNull() && dialog.isVisible()) {
+        dialog.reject();
     }
 }
 
@@ -180,10 +202,25 @@ QString BoxScript::Problems() const
     QStringList all = problems_;
     for (const Step& step : steps_) {
         const auto* box = std::get_if<ExpectedBox>(&step.what);
-        all << QStringLiteral("did not come: ") +
-                   Shown(box != nullptr ? box->text : std::get<ExpectedDialog>(step.what).title);
+        const auto* dialog = std::get_if<ExpectedDialog>(&step.what);
+        all << QStringLiteral("did not come: ") + Shown(box != nullptr      ? box->text
+                                                        : dialog != nullptr ? dialog->title
+                                                                            : QStringLiteral("a dialog"));
     }
     return all.join(QLatin1Char('\n'));
+}
+
+ExpectedBox BoxOf(const Message& message, QMessageBox::StandardButton press, std::initializer_list<TextView> parts)
+{
+    const QMap<MsgIcon, QMessageBox::Icon> icons = {{MsgIcon::None, QMessageBox::NoIcon},
+                                                    {MsgIcon::Critical, QMessageBox::Critical},
+                                                    {MsgIcon::Exclamation, QMessageBox::Warning},
+                                                    {MsgIcon::Information, QMessageBox::Information}};
+    const QMap<MsgButtons, QMessageBox::StandardButtons> buttons = {
+        {MsgButtons::OK, QMessageBox::Ok},
+        {MsgButtons::OKCancel, QMessageBox::Ok | QMessageBox::Cancel},
+        {MsgButtons::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel}};
+    return {ToQString(Filled(message, parts).text), icons[message.icon], buttons[message.buttons], press};
 }
 
 ExpectedBox Report(const QString& text)

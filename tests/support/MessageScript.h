@@ -12,12 +12,34 @@
 #include <deque>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace zelvia::test
 {
 
+/// Answers the message boxes of its lifetime with OK and keeps their texts.
+class MessageLog
+{
+public:
+    MessageLog()
+        : previous_(SetMsgBoxHandler([this](const MsgRequest& request) {
+              texts.push_back(request.text);
+              return MsgAnswer::OK;
+          }))
+    {
+    }
+    MessageLog(const MessageLog&) = delete;
+    MessageLog& operator=(const MessageLog&) = delete;
+    ~MessageLog() { SetMsgBoxHandler(std::move(previous_)); }
+
+    std::vector<Text> texts;
+
+private:
+    MsgBoxHandler previous_;
+};
+
 /// Answers the message boxes of its lifetime from a script. A box that is not the next of the script, in any letter of
-/// its text, its buttons, its icon or its title, fails the test; so does a box that was expected and never came.
+/// its text, its icon or its buttons, fails the test; so does a box that was expected and never came.
 class MessageScript
 {
 public:
@@ -32,11 +54,13 @@ public:
         }
     }
 
-    void Expect(TextView text, MsgButtons buttons = MsgButtons::OK, MsgIcon icon = MsgIcon::None,
-                MsgAnswer answer = MsgAnswer::OK, TextView title = {})
+    void Expect(MsgRequest request, MsgAnswer answer = MsgAnswer::OK)
     {
-        expected_.push_back({{Text(text), buttons, icon, Text(title)}, answer});
+        expected_.push_back({std::move(request), answer});
     }
+    /// A plain box, as errors are reported.
+    void Expect(TextView text) { Expect(MsgRequest{Text(text)}); }
+    void Expect(const Message& message, MsgAnswer answer = MsgAnswer::OK) { Expect(Filled(message, {}), answer); }
 
     /// The plain box of a trap: title, number, blank, description.
     void ExpectError(TextView title, int number)
@@ -66,17 +90,12 @@ private:
         }
         const Scripted next = std::move(expected_.front());
         expected_.pop_front();
-        const MsgRequest& wanted = next.request;
-        if (request.text != wanted.text || request.title != wanted.title) {
-            Fail("box \"" + request.title + "|" + request.text + "\" instead of \"" + wanted.title + "|" + wanted.text +
-                 "\"");
-            return giveUp;
+        if (request == next.request) {
+            return next.answer;
         }
-        if (request.buttons != wanted.buttons || request.icon != wanted.icon) {
-            Fail("wrong buttons or icon of the box: " + request.text);
-            return giveUp;
-        }
-        return next.answer;
+        Fail(request.text != next.request.text ? "box \"" + request.text + "\" instead of \"" + next.request.text + "\""
+                                               : "wrong buttons or icon of the box: " + request.text);
+        return giveUp;
     }
 
     MsgBoxHandler previous_;

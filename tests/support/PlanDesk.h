@@ -69,6 +69,3 @@ ExpectedBox EndOfTable(const QString& name);
 ExpectedBox DeleteQuestion(const QString& entry, QMessageBox::StandardButton press);
 
 } // namespace zelvia::test
-
-/// Goes on once all boxes of a script have come and been answered.
-#define TRY_SCRIPT(script) QTRY_VERIFY2((script).Problems().isEmpty(), qPrintable((script).Problems()))

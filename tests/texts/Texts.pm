@@ -23,7 +23,7 @@ sub entries {
     while (my $line = <$list>) {
         chomp $line;
         next if $line =~ /^(#|$)/;
-        if ($line !~ /^(box|error|dialog|window|sheet|caption) \| "(.+?)" \| (.+?) \| (\S.*)$/) {
+        if ($line !~ /^(error|dialog|window|sheet|caption) \| "(.+?)" \| (.+?) \| (\S.*)$/) {
             complain("line $. of the list can't be read: $line");
             next;
         }

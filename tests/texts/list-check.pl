@@ -28,18 +28,14 @@ for my $path (sort keys %source) {
     my $text = $source{$path};
     $text =~ s{^\s*(//|#include).*$}{}mg;
     $literal{$1} = 1 while $text =~ /$quoted/g;
-    # The tools beside the program have their own texts, and their own tests.
-    next if $path =~ m{^src/(copies|notice)/};
-    while ($text =~ /\bMsgBox\(((?:[^()"]|"(?:[^"\\]|\\.)*"|\((?:[^()"]|"(?:[^"\\]|\\.)*"|\([^()]*\))*\))*)\)/g) {
-        my $call = $1;
-        push @shown, ['box', $1, $path] while $call =~ /$quoted/g;
-    }
+    # The tools beside the program have their own texts, and their own tests; so have the messages.
+    next if $path =~ m{^src/(tools/|core/Messages\.h$)};
     while ($text =~ /$quoted/g) {
         my $found = $1;
         if ($found =~ /ERRORE : $/) {
             push @shown, ['error', $found, $path];
         } elsif ($found =~ /\p{Lu}{3}/ && $found =~ / / && $found !~ /\p{Ll}/ && $path !~ /Sheet/) {
-            push @shown, ['box', $found, $path];
+            push @shown, ['text in capitals', $found, $path];
         } elsif ($path =~ /Sheets?\.cpp$/ && $found =~ /\p{L}/ && !$mark{$found}) {
             push @shown, ['sheet', $found, $path];
         }
@@ -57,8 +53,8 @@ push @{ $listed{ $_->{kind} } }, $_->{text} for @entries;
 for my $text (@shown) {
     my ($kind, $found, $path) = @$text;
     next if $none{$found} || $found !~ /\p{L}/;
-    # Capitals distinguish a message from other texts, except for some headings.
-    my @kinds = $kind eq 'box' ? qw(box caption sheet) : ($kind);
+    # Capitals distinguish a message, whose place is another, from other texts except some headings.
+    my @kinds = $kind eq 'text in capitals' ? qw(caption sheet) : ($kind);
     my $stands = $kind eq 'error' ? $titles{$found} : grep { index($_, $found) >= 0 } map { @{ $listed{$_} } } @kinds;
     Texts::complain("$path: \"$found\" is no $kind of the list") unless $stands;
 }

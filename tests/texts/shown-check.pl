@@ -6,21 +6,26 @@ use utf8;
 use open qw(:std :encoding(UTF-8));
 use Texts;
 
-my ($list, $folder) = @ARGV;
+my ($list, $folder, $messages) = @ARGV;
 
-# What a line of the list matches of what was shown: kind, text and detail. What fills a placeholder is not a report.
+# What a line of the list matches of what was shown: kind, text and detail.
 sub pattern {
     my ($entry) = @_;
-    my $text = join '(?:(?!ERRORE : ).)+', map { quotemeta } split /\{[a-z]+\}/, $entry->{text}, -1;
-    return qr/^box\t"$text"\t\Q$1\E\t\Q$2\E$/ if $entry->{kind} eq 'box' && $entry->{detail} =~ /^(\S+), (.+)$/;
-    return qr/^box\t"$text\Q$entry->{detail}\E [^"]+"\t-\tOK$/ if $entry->{kind} eq 'error';
-    return qr/^dialog\t"$text"\t\Q$entry->{detail}\E\t-$/;
+    return qr/^box\t"\Q$entry->{text}$entry->{detail}\E [^"]+"\t-\tOK$/ if $entry->{kind} eq 'error';
+    return qr/^dialog\t"\Q$entry->{text}\E"\t\Q$entry->{detail}\E\t-$/;
+}
+
+# What a message matches: text, icon and buttons. What fills a place is not a report.
+sub pattern_of_message {
+    my ($text, $rest) = @_;
+    $text = join '(?:(?!ERRORE : ).)+', map { quotemeta } split /\{\}/, $text, -1;
+    return qr/^box\t$text\t\Q$rest\E$/;
 }
 
 my %shown;
 for my $path (glob "$folder/*") {
-    # Its boxes are made up.
-    next if $path =~ /core_RunTimeError$/;
+    # Their boxes are made up.
+    next if $path =~ /(core_RunTimeError|toolkit_\w+)$/;
     open my $file, '<', $path or die "$path: $!";
     while (my $line = <$file>) {
         chomp $line;
@@ -31,7 +36,17 @@ for my $path (glob "$folder/*") {
 Texts::complain("nothing was noted in $folder") unless %shown;
 
 my %known;
-for my $entry (grep { $_->{kind} =~ /^(box|error|dialog)$/ } Texts::entries($list)) {
+open my $rows, '-|', $messages or die "$messages: $!";
+while (my $row = <$rows>) {
+    chomp $row;
+    my ($name, $text, $rest) = split /\t/, $row, 3;
+    my $pattern = pattern_of_message($text, $rest);
+    my @came = grep { /$pattern/ } keys %shown;
+    $known{$_} = 1 for @came;
+    Texts::complain("no test showed $name: $text") unless @came;
+}
+close $rows or die "$messages: $!";
+for my $entry (grep { $_->{kind} =~ /^(error|dialog)$/ } Texts::entries($list)) {
     if ($entry->{kind} eq 'error') {
         # Any error may come under a title that is listed; the list names those that belong to it.
         my $any = qr/^box\t"\Q$entry->{text}\E\d+ [^"]+"\t-\tOK$/;

@@ -31,7 +31,7 @@ void ApplicationTest::QtSpeaksItalian()
             buttons << button->text().remove(QLatin1Char('&'));
         }
     });
-    MsgBox("PROVA", MsgButtons::YesNoCancel);
+    ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel});
     buttons.sort();
     QCOMPARE(buttons, QStringList({QStringLiteral("Annulla"), QStringLiteral("No"), QStringLiteral("S\u00EC")}));
     QCOMPARE(QFileDialog::tr("Look in:"), QStringLiteral("Cerca in:"));
@@ -61,7 +61,7 @@ void ApplicationTest::TheTextsOfTheUserArePlainEverywhere()
         const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
         plain = label != nullptr && label->textFormat() == Qt::PlainText;
     });
-    MsgBox(wild, MsgButtons::OK);
+    ShowBox({wild});
     QVERIFY(plain);
 }
 

@@ -3,6 +3,7 @@
 #include "toolkit/BoxGrid.h"
 
 #include "core/BoundedArray.h"
+#include "core/Messages.h"
 #include "support/BoxAnswer.h"
 #include "support/Bytes.h"
 #include "support/Hand.h"
@@ -22,15 +23,7 @@ BoundedArray<i16, 1, 2> minutes;
 BoundedArray<Text, 1, 2> names;
 
 constexpr std::array<GridColumn, 2> kColumns = {{
-    {"txtMinuti",
-     2,
-     true,
-     {59, "MAX 59 MINUTI                "},
-     CellFormat::TwoDigits,
-     200,
-     50,
-     "minuti",
-     CellOf<minutes>},
+    {"txtMinuti", 2, true, {59, &Messages::kMinutesLimit}, CellFormat::TwoDigits, 200, 50, "minuti", CellOf<minutes>},
     {"txtNome", 6, false, {}, CellFormat::Capitals, 260, 100, "nome", CellOf<names>},
 }};
 

@@ -3,6 +3,7 @@
 #include "toolkit/CommonDialog.h"
 
 #include "core/Files.h"
+#include "core/MessageBox.h"
 #include "core/RunTimeError.h"
 #include "support/BoxAnswer.h"
 #include "support/Hand.h"
@@ -437,9 +438,9 @@ void CommonDialogTest::ANameThatCannotBeKeptIsRefused()
 void CommonDialogTest::WhoAsksMayRefuse()
 {
     std::vector<Text> asked;
-    settings_.Refusal = [&](const Text& path) {
+    settings_.Refuses = [&](const Text& path) {
         asked.push_back(path);
-        return path.ends_with("zelvia.zlv") ? Text(" NO   ") : Text();
+        return path.ends_with("zelvia.zlv") && ShowBox({" NO   "}) == MsgAnswer::OK;
     };
     for (const bool throws : {false, true}) {
         asked.clear();
@@ -454,12 +455,12 @@ void CommonDialogTest::WhoAsksMayRefuse()
         QCOMPARE(answer.Texts(), QStringList{throws ? QStringLiteral("ERRORE : 57 ") : QStringLiteral(" NO   ")});
         QCOMPARE(settings_.FileName, settings_.InitDir + "\\altra.zlv");
         // An error of its own is reported, and the dialog stays.
-        settings_.Refusal = [&](const Text& path) {
+        settings_.Refuses = [&](const Text& path) {
             asked.push_back(path);
             if (path.ends_with("zelvia.zlv")) {
                 throw ErroreRunTime(57, "");
             }
-            return Text();
+            return false;
         };
     }
 }

@@ -114,7 +114,7 @@ void FieldTest::HidingItAfterABoxOfTheSameRoutine()
     // The window may not be the active one again when the routine goes on.
     const BoxAnswer answer;
     form_->txtUno->KeyPress = [this](int&) {
-        MsgBox("PROVA", MsgButtons::OK);
+        ShowBox({"PROVA"});
         form_->txtUno->SetVisible(false);
     };
     form_->Start(*form_->txtUno);
@@ -194,7 +194,7 @@ void FieldTest::ABoxOutOfLostFocusFindsTheFieldHidden()
         form_->Tell("-txtUno");
         form_->txtUno->SetVisible(false);
         form_->lstUno->SetVisible(false);
-        MsgBox("PROVA", MsgButtons::OK, MsgIcon::Exclamation);
+        ShowBox({"PROVA", MsgIcon::Exclamation});
         form_->Tell("end-txtUno");
     };
     form_->Start(*form_->txtUno);

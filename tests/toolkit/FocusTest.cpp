@@ -92,7 +92,7 @@ void FocusTest::AButtonThatStaysGreyHandsTheFocusBack()
     form_->cmdVai->Click = [&] {
         FocusController::Instance().Grey(*form_->cmdVai);
         if (box) {
-            MsgBox("PROVA", MsgButtons::OK);
+            ShowBox({"PROVA"});
         }
         FocusController::Instance().EndGrey(*form_->cmdVai, false);
     };

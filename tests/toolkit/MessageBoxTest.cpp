@@ -76,11 +76,11 @@ void MessageBoxTest::ItShowsWhatItIsGiven()
         picture = box.icon();
         title = box.windowTitle();
     });
-    MsgBox("SALVARE ?  ", buttons, icon, "Guida");
+    ShowBox({"SALVARE ?  ", icon, buttons});
     QCOMPARE(answer.Texts(), QStringList(QStringLiteral("SALVARE ?  ")));
     QTEST(shown, "shown");
     QTEST(picture, "picture");
-    QCOMPARE(title, QStringLiteral("Guida"));
+    QCOMPARE(title, QStringLiteral("Zelvia"));
 }
 
 void MessageBoxTest::TheAnswerIsTheButton_data()
@@ -97,7 +97,7 @@ void MessageBoxTest::TheAnswerIsTheButton()
     QFETCH(QMessageBox::StandardButton, button);
     QFETCH(MsgAnswer, answered);
     BoxAnswer answer(QMessageBox::NoButton, [&](QMessageBox& box) { hand::Click(*box.button(button)); });
-    QVERIFY(MsgBox("PROVA", MsgButtons::YesNoCancel) == answered);
+    QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel}) == answered);
 }
 
 void MessageBoxTest::EscapeIsCancel()
@@ -106,9 +106,9 @@ void MessageBoxTest::EscapeIsCancel()
         QTRY_VERIFY(box.isActiveWindow());
         hand::Key(Qt::Key_Escape);
     });
-    QVERIFY(MsgBox("PROVA", MsgButtons::OKCancel) == MsgAnswer::Cancel);
-    QVERIFY(MsgBox("PROVA", MsgButtons::YesNoCancel) == MsgAnswer::Cancel);
-    QVERIFY(MsgBox("PROVA", MsgButtons::OK) == MsgAnswer::OK);
+    QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::OKCancel}) == MsgAnswer::Cancel);
+    QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel}) == MsgAnswer::Cancel);
+    QVERIFY(ShowBox({"PROVA"}) == MsgAnswer::OK);
     QCOMPARE(answer.Texts().size(), 3);
 }
 
@@ -116,7 +116,7 @@ void MessageBoxTest::ItsTextIsPlain()
 {
     Qt::TextFormat format = Qt::AutoText;
     const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) { format = box.textFormat(); });
-    MsgBox("<b>A & B</b>", MsgButtons::OK);
+    ShowBox({"<b>A & B</b>"});
     QCOMPARE(format, Qt::PlainText);
     QCOMPARE(answer.Texts(), QStringList(QStringLiteral("<b>A & B</b>")));
 }
@@ -124,7 +124,7 @@ void MessageBoxTest::ItsTextIsPlain()
 void MessageBoxTest::ItsTextKeepsItsBlanks()
 {
     const BoxAnswer answer;
-    MsgBox("LOCALIT\xC0                 ", MsgButtons::OK);
+    ShowBox({"LOCALIT\xC0                 "});
     QCOMPARE(answer.Texts(), QStringList(QStringLiteral("LOCALIT\u00C0                 ")));
 }
 
@@ -145,7 +145,7 @@ void MessageBoxTest::NoFocusEventAndNoTickWhileItIsUp()
         up = false;
     });
     // The box is opened by no event's handler, and asked all the same.
-    MsgBox("PROVA", MsgButtons::OK);
+    ShowBox({"PROVA"});
     QVERIFY(!told);
     QCOMPARE(ticksUnderBox, 0);
     const int before = ticks;
@@ -156,7 +156,7 @@ void MessageBoxTest::NoFocusEventAndNoTickWhileItIsUp()
 void MessageBoxTest::ABoxIsNoLostFocus()
 {
     const BoxAnswer answer;
-    form_->txtUno->KeyPress = [](int&) { MsgBox("PROVA", MsgButtons::OK); };
+    form_->txtUno->KeyPress = [](int&) { ShowBox({"PROVA"}); };
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(answer.Texts(), QStringList(QStringLiteral("PROVA")));
     QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));

@@ -162,7 +162,7 @@ void UpDownTest::ABoxStopsTheRepeat()
     const BoxAnswer answer;
     up_->Change = [this] {
         if (up_->Value().value() == 2) {
-            MsgBox("PROVA", MsgButtons::OK);
+            ShowBox({"PROVA"});
         }
     };
     // Held through the box, which is gone before the next repeat is due.

@@ -60,7 +60,7 @@ void ValidateTest::init()
         if (form_->txtUno->Content() != "75") {
             return false;
         }
-        MsgBox(kText, MsgButtons::OK, MsgIcon::Exclamation);
+        ShowBox({Text(kText), MsgIcon::Exclamation});
         return true;
     };
     form_->Start(*form_->txtUno);

@@ -10,6 +10,6 @@ int main(int argc, char* argv[])
     if (argc != 2) {
         return 2;
     }
-    zelvia::MsgBox(zelvia::FromUtf8(argv[1]), zelvia::MsgButtons::OK, zelvia::MsgIcon::Exclamation);
+    zelvia::ShowBox({zelvia::FromUtf8(argv[1]), zelvia::MsgIcon::Exclamation});
     return 0;
 }

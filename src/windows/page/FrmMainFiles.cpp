@@ -27,7 +27,7 @@ void frmMain::ChooseFile(const FileChoice& choice)
     dlgCommonDialog.InitDir = ProgramFolder() + "\\" + Text(kDiaryFolder);
     dlgCommonDialog.Filter = choice.opens ? kOpenFilter : kSaveFilter;
     dlgCommonDialog.DialogTitle = choice.title;
-    dlgCommonDialog.Refusal = choice.refusal;
+    dlgCommonDialog.Refuses = choice.refuses;
     choice.opens ? dlgCommonDialog.ShowOpen() : dlgCommonDialog.ShowSave();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that restore the lists and blank the day.
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/RouteModel.h"
 #include "windows/page/FrmMain.h"
@@ -13,8 +14,7 @@ using namespace Module1;
 void frmMain::mnuListaIniziale_Click()
 {
     Trap("mnuListaIniziale - ERRORE : ", [this] {
-        if (MsgBox("RIPRISTINARE LE LISTE INIZIALI ?              ", MsgButtons::OKCancel, MsgIcon::Information) ==
-            MsgAnswer::OK) {
+        if (MsgBox(Messages::kFirstLists) == MsgAnswer::OK) {
             InizializzaListe();
             AzzeraPercorsi();
             FileModificato = 1;
@@ -25,8 +25,7 @@ void frmMain::mnuListaIniziale_Click()
 void frmMain::mnuListaPrecedente_Click()
 {
     Trap("mnuListaPrecedente - ERRORE : ", [this] {
-        if (MsgBox("RIPRISTINARE LE LISTE PRECEDENTI ?              ", MsgButtons::OKCancel, MsgIcon::Information) ==
-            MsgAnswer::OK) {
+        if (MsgBox(Messages::kSavedLists) == MsgAnswer::OK) {
             NomeFleListe();
             files_.CaricaListe();
             CaricaPercorsi();
@@ -38,8 +37,7 @@ void frmMain::mnuListaPrecedente_Click()
 void frmMain::mnuAzzeraGiorno_Click()
 {
     Trap("mnuAzzeraGiorno - ERRORE : ", [this] {
-        if (MsgBox("AZZERARE I DATI DEL GIORNO ?              ", MsgButtons::OKCancel, MsgIcon::Information) ==
-            MsgAnswer::OK) {
+        if (MsgBox(Messages::kBlankDay) == MsgAnswer::OK) {
             AzzeraRecordGiorno(GiornoCorrente);
             FileModificato = 1;
             AzzeraCampi();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The menus, the dispatcher of commands, help and the window about the program.
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
@@ -129,12 +130,11 @@ void frmMain::mnuHelpSearchForHelpOn_Click()
 void frmMain::ShowHelp(int comando, const QString& argomento)
 {
     if (FileGuida.empty()) {
-        MsgBox("Impossibile visualizzare il Sommario della Guida. Nessun file della Guida associato al progetto.",
-               MsgButtons::OK, MsgIcon::Information, FromQString(windowTitle()));
+        MsgBox(Messages::kNoGuide);
         return;
     }
     TrapWith([&] { guida_.WinHelp(FileGuida, comando, argomento); },
-             [](const ErroreRunTime& error) { MsgBox(error.Description(), MsgButtons::OK); });
+             [](const ErroreRunTime& error) { MsgBox(Messages::kGuideNotRead, error.Description()); });
 }
 
 void frmMain::mnuHelpAbout_Click()

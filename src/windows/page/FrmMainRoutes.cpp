@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The routes' descriptions as the page sees them.
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/RouteModel.h"
 #include "toolkit/QtText.h"
@@ -21,7 +22,7 @@ void frmMain::SalvaNomePercorso()
         }
         const i16 libero = LowestFreePlace();
         if (libero == 0) {
-            MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+            MsgBox(Messages::kTooManyRoutes);
             return;
         }
         NomiPercorso[libero] = nome;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Time taken and average per kilometre.
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/TimeAndPace.h"
 #include "windows/page/FrmMain.h"
@@ -44,8 +45,8 @@ i16 frmMain::ControlloTempiKm()
             lblOutTempoImpiegato->SetCaption("0:00:00");
             lblOutMediaKM->SetCaption("0:00");
         }
-        if (!esito.warning.empty()) {
-            MsgBox(esito.warning, MsgButtons::OK, MsgIcon::Exclamation);
+        if (esito.warning != nullptr) {
+            MsgBox(*esito.warning);
         }
     });
     return risultato;
@@ -79,7 +80,7 @@ void frmMain::MediaKm(i32 ore, i32 minuti, i32 secondi)
         if (const auto media = AverageText(lblImmisMetri->Caption(), {ore, minuti, secondi})) {
             lblOutMediaKM->SetCaption(*media);
         } else {
-            MsgBox("OLTRE 60 MINUTI                 ", MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kPaceTooSlow);
         }
     });
 }

@@ -3,7 +3,7 @@
 #include "windows/page/Slips.h"
 
 #include "core/Conversions.h"
-#include "core/MessageBox.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarDates.h"
 #include "diary/CalendarModel.h"
@@ -66,9 +66,7 @@ void Slips::AssegnaTabella()
 /// Switches the used-up table off.
 void Slips::EndTable()
 {
-    MsgBox("  FINE ALLENAMENTI  -  LA TABELLA :  " + NomeSenzaCartella(NomeTabellaAttiva) +
-               " -  VIENE DISATTIVATA      ",
-           MsgButtons::OK, MsgIcon::Information);
+    MsgBox(Messages::kPlanEnds, NomeSenzaCartella(NomeTabellaAttiva));
     NomeTabellaAttiva.clear();
     page_.lblTabNomeFile->SetCaption("");
     AzzeraDatiTabella();

@@ -3,6 +3,7 @@
 #include "windows/page/Splits.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "toolkit/Menu.h"
 #include "windows/page/FrmMain.h"
@@ -64,16 +65,16 @@ void Splits::cmdListaKM_Click()
 {
     Trap("cmdListaKm - ERRORE : ", [this] {
         if (page_.upTempoKM->Value() == 0) {
-            MsgBox(" INSERIRE:  KM                ", MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kSplitWithoutKm);
             return;
         }
         if (page_.upTempoOre->Value() + page_.upTempoMinuti->Value() + page_.upTempoSecondi->Value() == 0) {
-            MsgBox(" INSERIRE:  TEMPI                ", MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kSplitWithoutTime);
             return;
         }
         const Text parziale = page_.lblImmisTempoKM->Caption() + "      " + page_.lblImmisTempoMinuti->Caption();
         if (Holds(page_.lstListaKM->Items(), parziale)) {
-            MsgBox(" GIA'  NELLA  LISTA                ", MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kSplitInList);
             return;
         }
         page_.lstListaKM->AddItem(parziale);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The table editor's commands: its buttons and the pop-up of its rows.
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/TableModel.h"
@@ -45,7 +46,7 @@ bool SalvaTabellaConNome(CommonDialog& dialog)
                 return;
             }
             dialog.FileName = NomeSenzaCartella(dialog.FileName);
-            MsgBox(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   ", MsgButtons::OK, MsgIcon::Critical);
+            MsgBox(Messages::kTableSavesElsewhere);
             again = true;
             throw ErroreRunTime(Errore::Annullato);
         },
@@ -146,12 +147,11 @@ void frmAllenamento::cmdAttiva_Click()
 {
     Trap("cmdAttiva - ERRORE : ", [this] {
         if (ContaCampiData() < 3) {
-            MsgBox(" INSERIRE ' DATA INIZIO ' ALLENAMENTO     ", MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kPlanWithoutStart);
             return;
         }
         const CalendarDate before = std::exchange(TabDataInizio, DateOfBoxes());
-        if (!NomeTabellaAttiva.empty() && MsgBox(" DISATTIVARE LA TABELLA ATTUALMENTE ATTIVA, ED ATTIVARE QUESTA ?  ",
-                                                 MsgButtons::OKCancel, MsgIcon::Information) == MsgAnswer::Cancel) {
+        if (!NomeTabellaAttiva.empty() && MsgBox(Messages::kReplaceActiveTable) == MsgAnswer::Cancel) {
             TabDataInizio = before;
             return;
         }
@@ -249,8 +249,7 @@ void frmAllenamento::CalculateRow(i16 row)
         CalcolaDistanza(row);
     }
     if (OnlyOneGroup(Groups(row.value()))) {
-        MsgBox("GIORNO " + PlainText(row) + Text(" : IMMETTERE 2 VALORI PER CALCOLARNE IL 3°       "_t), MsgButtons::OK,
-               MsgIcon::Exclamation);
+        MsgBox(Messages::kRowNeedsTwoValues, PlainText(row));
     }
 }
 
@@ -259,8 +258,7 @@ void frmAllenamento::CalcolaMediaKm(i16 row)
     Trap("CalcolaMediaKm - ERRORE : ", [&] {
         const auto average = AverageFrom(Groups(row.value()));
         if (!average) {
-            MsgBox("GIORNO " + PlainText(row) + ": OLTRE 60 MINUTI                 ", MsgButtons::OK,
-                   MsgIcon::Exclamation);
+            MsgBox(Messages::kRowTooSlow, PlainText(row));
             return;
         }
         Box(MediaMinuti, row.value())->SetContent(PlainText(average->minutes));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The table editor's data: its boxes and the columns in memory.
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/TableModel.h"
 #include "windows/plan/FrmAllenamento.h"
@@ -129,34 +130,34 @@ i16 frmAllenamento::ContaCampiData()
 void frmAllenamento::ControlloData()
 {
     Trap("ControlloData - ERRORE : ", [this] {
-        const auto correct = [this](std::size_t index, TextView message, TextView value) {
-            MsgBox(message, MsgButtons::OK, MsgIcon::Exclamation);
+        const auto correct = [this](std::size_t index, const Message& message, TextView value) {
+            MsgBox(message);
             dateBoxes[index]->SetContent(value);
         };
         for (const int shortMonth : {4, 6, 9, 11}) {
             if (DateNumber(1) == shortMonth && DateNumber(0) > 30) {
-                correct(0, "DATA INIZIO  MAX 30 GIORNI                 ", "30");
+                correct(0, Messages::kStartMax30, "30");
             }
         }
         const bool leap = DateNumber(2) % 4 == 0;
         if (leap && DateNumber(1) == 2 && DateNumber(0) > 29) {
-            correct(0, "DATA INIZIO  MAX 29 GIORNI                 ", "29");
+            correct(0, Messages::kStartMax29, "29");
         }
         if (!leap && DateNumber(1) == 2 && DateNumber(0) > 28) {
-            correct(0, "DATA INIZIO  MAX 28 GIORNI                 ", "28");
+            correct(0, Messages::kStartMax28, "28");
         }
         if (DateNumber(0) < 1 && DateNumber(1) < 1 && DateNumber(2) < 1) {
             return;
         }
         if (DateNumber(0) < 1) {
-            correct(0, "DATA INIZIO  MIN GIORNO 1                 ", "1");
+            correct(0, Messages::kStartMinDay, "1");
         }
         if (DateNumber(1) < 1) {
-            correct(1, "DATA INIZIO  MIN MESE  1               ", "1");
+            correct(1, Messages::kStartMinMonth, "1");
         }
         constexpr int firstYear = 2008;
         if (DateNumber(2) < firstYear) {
-            correct(2, "DATA INIZIO MIN ANNO 2008                 ", "2008");
+            correct(2, Messages::kPlanMinYear, "2008");
         }
     });
 }

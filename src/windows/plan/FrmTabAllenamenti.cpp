@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/Files.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/Workspace.h"
@@ -20,8 +21,6 @@ using namespace Module1;
 
 namespace
 {
-
-constexpr TextView kChooseTable = "SELEZIONARE UNA TABELLA       ";
 
 Text PathOf(const Text& entry)
 {
@@ -113,7 +112,7 @@ void frmTabAllenamenti::cmdOK_Click()
         NomeTabellaAperta.clear();
         const Text entry = Selected();
         if (entry.empty()) {
-            MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kChooseTable);
             return;
         }
         NomeTabellaAperta = PathOf(entry);
@@ -134,9 +133,8 @@ void frmTabAllenamenti::cmdCancellaTab_Click()
         const Text entry = Selected();
         const Text path = PathOf(entry);
         if (entry.empty()) {
-            MsgBox(kChooseTable, MsgButtons::OK, MsgIcon::Exclamation);
-        } else if (MsgBox(" CANCELLARE LA TABELLA " + entry + " ?", MsgButtons::YesNoCancel, MsgIcon::Information) ==
-                   MsgAnswer::Yes) {
+            MsgBox(Messages::kChooseTable);
+        } else if (MsgBox(Messages::kDeleteTable, entry) == MsgAnswer::Yes) {
             DeleteFile(path);
             RefreshList();
         }

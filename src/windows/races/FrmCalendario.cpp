@@ -4,6 +4,7 @@
 #include "windows/races/FrmCalendario.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarDates.h"
 #include "diary/CalendarModel.h"
@@ -76,7 +77,7 @@ void frmCalendario::ContrData()
             const RaceDate read = {Number(RaceColumn::Giorno, row), Number(RaceColumn::Mese, row),
                                    Number(RaceColumn::Anno, row)};
             for (const DateCorrection& correction : CorrectDate(read, RaceOf(row), DataCorrente.Year())) {
-                MsgBox(correction.message, MsgButtons::OK, MsgIcon::Exclamation);
+                ShowBox(correction.message);
                 if (correction.field != DateCorrection::Field::None) {
                     const bool day = correction.field == DateCorrection::Field::Day;
                     Box(day ? RaceColumn::Giorno : RaceColumn::Anno, row)->SetContent(correction.value);
@@ -108,7 +109,7 @@ void frmCalendario::ControllaDateGare(i16& result)
 {
     result = 0;
     for (const auto& [first, second] : SameDates()) {
-        MsgBox(SameDatesMessage(first, second), MsgButtons::OK, MsgIcon::Critical);
+        ShowBox(SameDatesMessage(first, second));
         result = 1;
     }
 }
@@ -133,8 +134,7 @@ void frmCalendario::upPaginaGare_Change()
 
 void frmCalendario::cmdSalva_Click()
 {
-    if (MsgBox(" SALVO IL CALENDARIO GARE ?              ", MsgButtons::OKCancel, MsgIcon::Information) !=
-        MsgAnswer::OK) {
+    if (MsgBox(Messages::kSaveRaces) != MsgAnswer::OK) {
         return;
     }
     AssegnaPaginaGare();
@@ -175,8 +175,7 @@ bool frmCalendario::QueryUnload()
         if (CalendarioModificato != 1) {
             return;
         }
-        const MsgAnswer answer = MsgBox(" IL CALENDARIO GARE NON E' STATO SALVATO, SALVARE ?           ",
-                                        MsgButtons::YesNoCancel, MsgIcon::Information);
+        const MsgAnswer answer = MsgBox(Messages::kRacesNotSaved);
         cancelled = answer == MsgAnswer::Cancel;
         if (answer != MsgAnswer::Yes) {
             return;

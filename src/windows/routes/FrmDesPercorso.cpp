@@ -3,6 +3,7 @@
 #include "windows/routes/FrmDesPercorso.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
@@ -80,7 +81,7 @@ std::optional<i16> PlaceOfCurrentRoute()
 {
     const auto place = RoutePlace(PercorsoCorrente);
     if (!place) {
-        MsgBox(kTooManyRoutes, MsgButtons::OK, MsgIcon::Critical);
+        MsgBox(Messages::kTooManyRoutes);
     }
     return place;
 }

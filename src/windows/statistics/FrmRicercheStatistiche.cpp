@@ -4,6 +4,7 @@
 #include "windows/statistics/FrmRicercheStatistiche.h"
 
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
 #include "toolkit/Printer.h"
@@ -112,11 +113,11 @@ void frmRicercheStatistiche::ControlloData(i16& error)
     Trap("Controllo Data - ERRORE : ", [&] {
         const PeriodCheck check = CheckPeriod(PeriodTexts());
         for (const PeriodCorrection& correction : check.corrections) {
-            MsgBox(correction.message, MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(*correction.message);
             periodBoxes[correction.box]->SetContent(correction.value);
         }
         if (check.reversed) {
-            MsgBox(kPeriodReversed, MsgButtons::OK, MsgIcon::Exclamation);
+            MsgBox(Messages::kPeriodReversed);
             error = 1;
         }
     });

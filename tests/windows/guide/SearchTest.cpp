@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The search finds every entry of the menus in the topic that explains it, and every message.
 #include "support/DayPage.h"
+#include "support/MessagePattern.h"
 #include "support/WindowTest.h"
 #include "windows/guide/HelpFile.h"
 #include "windows/guide/SearchPane.h"
@@ -20,23 +21,16 @@ namespace
 
 constexpr int kPatience = 20000;
 
-/// The texts that every message box is made of, between what changes in it: from the list of all texts.
-QStringList Messages()
+/// The texts that every message box is made of, between what changes in it.
+QStringList MessageTexts()
 {
-    QFile file(QStringLiteral(ZELVIA_SOURCE_DIR "/tests/texts/list.txt"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        qFatal("cannot read the list of texts");
-    }
-    static const QRegularExpression box(QStringLiteral("^box \\| \"(.+)\" \\| [a-z-]+, "),
-                                        QRegularExpression::MultilineOption);
-    static const QRegularExpression changing(QStringLiteral("\\{[a-z]+\\}"));
     static const QRegularExpression letter(QStringLiteral("\\p{L}"));
-    QStringList messages;
-    for (const QRegularExpressionMatch& match : box.globalMatch(QString::fromUtf8(file.readAll()))) {
-        messages << match.captured(1).split(changing).filter(letter);
+    QStringList texts;
+    for (const Message* message : Messages::kAll) {
+        texts << ToQString(message->text).split(QStringLiteral("{}")).filter(letter);
     }
-    messages.removeDuplicates();
-    return messages;
+    texts.removeDuplicates();
+    return texts;
 }
 
 /// The messages as the page quotes them, blanks and all.
@@ -67,11 +61,14 @@ private Q_SLOTS:
     void messages_data();
     void messages();
     void messagesInOrder();
+    void onlyMessagesAreQuoted();
     void pane();
 
 private:
     /// The names of the pages that hold what was searched.
     QStringList Pages(const QString& text) const;
+    /// The page of the messages down to the errors with a number.
+    QByteArray BeforeErrors() const;
 
     std::unique_ptr<HelpFile> file_;
 };
@@ -167,7 +164,7 @@ void SearchTest::captions()
 void SearchTest::messages_data()
 {
     QTest::addColumn<QString>("text");
-    for (const QString& text : Messages()) {
+    for (const QString& text : MessageTexts()) {
         QTest::newRow(qPrintable(text)) << text;
     }
 }
@@ -177,25 +174,39 @@ void SearchTest::messages()
     QFETCH(QString, text);
     const QStringList pages = Pages(text);
     QVERIFY2(pages.contains(QStringLiteral("messaggi.html")), qPrintable(pages.join(QLatin1Char(' '))));
-    const QStringList quoted =
-        Quoted(file_->Data(HelpFile::FirstPage().resolved(QUrl(QStringLiteral("messaggi.html")))));
-    QVERIFY2(!quoted.filter(text).isEmpty(), "not quoted letter for letter");
+    QVERIFY2(!Quoted(BeforeErrors()).filter(text).isEmpty(), "not quoted letter for letter");
+}
+
+QByteArray SearchTest::BeforeErrors() const
+{
+    const QByteArray page = file_->Data(HelpFile::FirstPage().resolved(QUrl(QStringLiteral("messaggi.html"))));
+    return page.left(page.indexOf("name=\"errori\""));
 }
 
 void SearchTest::messagesInOrder()
 {
     static const QRegularExpression notLetters(QStringLiteral("[^A-Z0-9]+"));
     static const QRegularExpression changing(QStringLiteral("<i>[^<]*</i>"));
-    QByteArray page = file_->Data(HelpFile::FirstPage().resolved(QUrl(QStringLiteral("messaggi.html"))));
-    page.truncate(page.indexOf("name=\"errori\""));
     QStringList order;
-    for (const QString& text : Quoted(QString::fromUtf8(page).remove(changing).toUtf8())) {
+    for (const QString& text : Quoted(QString::fromUtf8(BeforeErrors()).remove(changing).toUtf8())) {
         order << text.toUpper().replace(notLetters, QStringLiteral(" ")).trimmed();
     }
     QVERIFY(order.size() > 50);
     QStringList sorted = order;
     std::sort(sorted.begin(), sorted.end());
     QCOMPARE(order, sorted);
+}
+
+void SearchTest::onlyMessagesAreQuoted()
+{
+    for (const QString& text : Quoted(BeforeErrors())) {
+        QVERIFY2(std::any_of(std::begin(Messages::kAll), std::end(Messages::kAll),
+                             [&](const Message* message) {
+                                 return message != &Messages::kGuideNotRead &&
+                                        PatternOf(*message).match(text).hasMatch();
+                             }),
+                 qPrintable(text));
+    }
 }
 
 // What is typed before the index is ready is answered when it is.
