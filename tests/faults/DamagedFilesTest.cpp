@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/MessageBox.h"
 #include "diary/Module1.h"
 #include "faults/FaultyDisk.h"
 #include "faults/SavedFiles.h"
@@ -131,27 +130,6 @@ void PutByte(const std::string& path, std::size_t at, char byte)
     file.put(byte);
 }
 
-/// The boxes that come up in its lifetime.
-class Boxes
-{
-public:
-    Boxes()
-        : previous_(SetMsgBoxHandler([this](const MsgRequest& request) {
-              texts.push_back(request.text);
-              return MsgAnswer::OK;
-          }))
-    {
-    }
-    ~Boxes() { SetMsgBoxHandler(std::move(previous_)); }
-    Boxes(const Boxes&) = delete;
-    Boxes& operator=(const Boxes&) = delete;
-
-    std::vector<Text> texts;
-
-private:
-    MsgBoxHandler previous_;
-};
-
 } // namespace
 
 void DamagedFilesTest::init()
@@ -232,7 +210,7 @@ void DamagedFilesTest::EveryByteGarbled()
         }
         PutByte(folder_.Native(file.name), at, garbage);
         file.forget();
-        const Boxes boxes;
+        const MessageLog boxes;
         file.read();
         const std::string where = "byte " + std::to_string(at);
         QVERIFY2(boxes.texts.empty() || (boxes.texts.size() == 1 && IsDamage(file, boxes.texts.front())),

@@ -3,7 +3,6 @@
 #include "monkey/FileWatch.h"
 
 #include "core/Files.h"
-#include "core/MessageBox.h"
 #include "diary/CalendarModel.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
@@ -12,6 +11,8 @@
 #include "diary/Workspace.h"
 #include "support/Bytes.h"
 #include "support/Days.h"
+#include "support/MessageScript.h"
+#include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
 
 #include <QDirIterator>
@@ -124,27 +125,6 @@ private:
     decltype(Copy(ReadMemory())) kept_;
 };
 
-/// Collects the reports of the readers.
-class Reports
-{
-public:
-    Reports()
-        : previous_(SetMsgBoxHandler([this](const MsgRequest& request) {
-              texts += request.text + "; ";
-              return MsgAnswer::OK;
-          }))
-    {
-    }
-    ~Reports() { SetMsgBoxHandler(std::move(previous_)); }
-    Reports(const Reports&) = delete;
-    Reports& operator=(const Reports&) = delete;
-
-    Text texts;
-
-private:
-    MsgBoxHandler previous_;
-};
-
 enum class Kind { Diary, List, Routes, Calendar, Table, Pointer, Other };
 
 Kind KindOf(const QString& file)
@@ -254,7 +234,7 @@ QString FileWatch::ReadBack(const QStringList& files) const
 
 QString FileWatch::ReadBack(const QString& file) const
 {
-    const Reports reports;
+    const test::MessageLog reports;
     const Text path = folder_.System(file);
     const Text copy = path + ".copy";
     CartellaDiario = path.substr(0, path.rfind('\\'));
@@ -293,7 +273,7 @@ QString FileWatch::ReadBack(const QString& file) const
     case Kind::Other: return {};
     }
     if (!reports.texts.empty()) {
-        return file + QLatin1String(" can't be read: ") + QString::fromUtf8(ToUtf8(reports.texts).c_str());
+        return file + QLatin1String(" can't be read: ") + ToQString(reports.texts.front());
     }
     const QByteArray difference = test::Difference(after, before);
     return difference.isEmpty() ? QString()

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/MessageBox.h"
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/WindowTest.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/SampleForm.h"
@@ -11,6 +11,7 @@
 #include <QLabel>
 
 using namespace zelvia;
+using namespace zelvia::test;
 
 class ApplicationTest : public QObject
 {
@@ -26,12 +27,16 @@ private Q_SLOTS:
 void ApplicationTest::QtSpeaksItalian()
 {
     QStringList buttons;
-    const BoxAnswer answer(QMessageBox::Cancel, [&](QMessageBox& box) {
-        for (const QAbstractButton* button : box.buttons()) {
+    BoxScript script;
+    script.Expect({QStringLiteral("PROVA"), QMessageBox::NoIcon,
+                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel});
+    script.Meanwhile([&] {
+        for (const QAbstractButton* button : QApplication::activeModalWidget()->findChildren<QAbstractButton*>()) {
             buttons << button->text().remove(QLatin1Char('&'));
         }
     });
     ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel});
+    VERIFY_SCRIPT(script);
     buttons.sort();
     QCOMPARE(buttons, QStringList({QStringLiteral("Annulla"), QStringLiteral("No"), QStringLiteral("S\u00EC")}));
     QCOMPARE(QFileDialog::tr("Look in:"), QStringLiteral("Cerca in:"));
@@ -57,11 +62,14 @@ void ApplicationTest::TheTextsOfTheUserArePlainEverywhere()
     QCOMPARE(form.txtUno->Content(), wild);
     QCOMPARE(form.lstUno->List(form.lstUno->ListCount() - 1), wild);
     bool plain = false;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) {
-        const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("<b>A & B</b>")));
+    script.Meanwhile([&] {
+        const auto* label = QApplication::activeModalWidget()->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
         plain = label != nullptr && label->textFormat() == Qt::PlainText;
     });
     ShowBox({wild});
+    VERIFY_SCRIPT(script);
     QVERIFY(plain);
 }
 

@@ -3,9 +3,8 @@
 #include "toolkit/CommonDialog.h"
 
 #include "core/Files.h"
-#include "core/MessageBox.h"
 #include "core/RunTimeError.h"
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/SampleForm.h"
@@ -21,6 +20,19 @@
 #include <QTimer>
 
 using namespace zelvia;
+using namespace zelvia::test;
+
+namespace
+{
+
+/// The question before a file is replaced.
+ExpectedBox Question(const QString& name, QMessageBox::StandardButton press)
+{
+    return {QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(name), QMessageBox::Warning,
+            QMessageBox::Yes | QMessageBox::No, press, QStringLiteral("Apri")};
+}
+
+} // namespace
 
 class CommonDialogTest : public QObject
 {
@@ -53,16 +65,15 @@ private Q_SLOTS:
     void AHandlerTakesItsPlace();
 
 private:
-    using Look = std::function<void(QFileDialog&)>;
-
-    /// Runs `look` once the next file dialog is up; the dialog is cancelled after it, unless it is gone.
-    void WhenOpen(const Look& look);
+    /// Has `work` done in the next file dialog.
+    void WhenOpen(DialogWork work);
     void MakeFile(const QString& name) const;
     static void Enter(QFileDialog& dialog, const QString& name);
     static int ErrorOf(const std::function<void()>& action);
 
     std::unique_ptr<SampleForm> form_;
     std::unique_ptr<QTemporaryDir> folder_;
+    std::unique_ptr<BoxScript> script_;
     CommonDialog settings_;
     int opened_ = 0;
 };
@@ -72,6 +83,7 @@ void CommonDialogTest::init()
     form_ = std::make_unique<SampleForm>();
     form_->Open();
     form_->Start(*form_->txtUno);
+    script_ = std::make_unique<BoxScript>();
     folder_ = std::make_unique<QTemporaryDir>();
     QVERIFY(folder_->isValid());
     settings_ = {};
@@ -85,25 +97,15 @@ void CommonDialogTest::cleanup()
 {
     SetFileDialogHandler({});
     form_.reset();
+    VERIFY_SCRIPT(*script_);
 }
 
-void CommonDialogTest::WhenOpen(const Look& look)
+void CommonDialogTest::WhenOpen(DialogWork work)
 {
-    auto* poll = new QTimer(this);
-    connect(poll, &QTimer::timeout, this, [this, poll, look] {
-        const QPointer<QFileDialog> dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (dialog.isNull() || !dialog->isVisible()) {
-            return;
-        }
-        poll->deleteLater();
-        poll->stop();
+    script_->Expect([this, work = std::move(work)](QFileDialog& dialog) {
         ++opened_;
-        look(*dialog);
-        if (!dialog.isNull() && dialog->isVisible()) {
-            dialog->reject();
-        }
+        work(dialog);
     });
-    poll->start(10);
 }
 
 void CommonDialogTest::MakeFile(const QString& name) const
@@ -282,15 +284,15 @@ void CommonDialogTest::OpenFindsANameWithoutSuffix()
 void CommonDialogTest::OpenTellsOfAMissingFile()
 {
     settings_.Flags = DialogFlags::FileMustExist;
-    const BoxAnswer answer;
-    WhenOpen([](QFileDialog& dialog) {
+    WhenOpen([this](QFileDialog& dialog) {
+        script_->Expect({QFileDialog::tr("%1\nFile not found.\nPlease verify the correct file name was given.")
+                             .arg(QStringLiteral("manca")),
+                         QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok, QStringLiteral("Apri")});
         Enter(dialog, QStringLiteral("manca"));
         QVERIFY(dialog.isVisible());
         QVERIFY(!dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->isEnabled());
     });
     settings_.ShowOpen();
-    QCOMPARE(answer.Texts().size(), 1);
-    QVERIFY2(answer.Texts().constFirst().contains(QStringLiteral("manca")), qPrintable(answer.Texts().constFirst()));
     QCOMPARE(settings_.FileName, Text());
 }
 
@@ -298,21 +300,18 @@ void CommonDialogTest::AnExistingFileIsAskedForInItalian()
 {
     MakeFile(QStringLiteral("prova.zlv"));
     settings_.Flags = DialogFlags::OverwritePrompt;
-    {
-        const BoxAnswer answer(QMessageBox::No);
-        WhenOpen([&](QFileDialog& dialog) {
-            Enter(dialog, QStringLiteral("prova"));
-            QTRY_COMPARE(answer.Texts().size(), 1);
-            QVERIFY(dialog.isVisible());
-        });
-        settings_.ShowSave();
-        QCOMPARE(settings_.FileName, Text());
-        const QString asked = answer.Texts().value(0);
-        QVERIFY2(asked.contains(QStringLiteral("prova.zlv")) && asked.contains(QStringLiteral("sostitu")),
-                 qPrintable(asked));
-    }
-    const BoxAnswer answer(QMessageBox::Yes);
+    const ExpectedBox no = Question(QStringLiteral("prova.zlv"), QMessageBox::No);
+    QVERIFY2(no.text.contains(QStringLiteral("sostitu")), qPrintable(no.text));
+    WhenOpen([&](QFileDialog& dialog) {
+        script_->Expect(no);
+        Enter(dialog, QStringLiteral("prova"));
+        TRY_SCRIPT(*script_);
+        QVERIFY(dialog.isVisible());
+    });
+    settings_.ShowSave();
+    QCOMPARE(settings_.FileName, Text());
     WhenOpen([](QFileDialog& dialog) { Enter(dialog, QStringLiteral("prova")); });
+    script_->Expect(Question(QStringLiteral("prova.zlv"), QMessageBox::Yes));
     settings_.ShowSave();
     QCOMPARE(settings_.FileName, settings_.InitDir + "\\prova.zlv");
 
@@ -320,7 +319,6 @@ void CommonDialogTest::AnExistingFileIsAskedForInItalian()
     settings_.Flags = 0;
     WhenOpen([](QFileDialog& dialog) { Enter(dialog, QStringLiteral("prova")); });
     settings_.ShowSave();
-    QCOMPARE(answer.Texts().size(), 1);
 }
 
 void CommonDialogTest::AFileInOtherLettersIsAskedFor()
@@ -328,29 +326,19 @@ void CommonDialogTest::AFileInOtherLettersIsAskedFor()
     MakeFile(QStringLiteral("maria.zlv"));
     settings_.Flags = DialogFlags::OverwritePrompt;
     for (const QMessageBox::StandardButton press : {QMessageBox::No, QMessageBox::Yes}) {
-        QMessageBox::Icon icon = QMessageBox::NoIcon;
-        QString title;
-        QMessageBox::StandardButtons buttons;
-        const BoxAnswer answer(press, [&](QMessageBox& box) {
-            icon = box.icon();
-            title = box.windowTitle();
-            buttons = box.standardButtons();
-            QCOMPARE(box.textFormat(), Qt::PlainText);
-            QVERIFY(box.defaultButton() == box.button(QMessageBox::No));
-        });
         QString kept;
         WhenOpen([&](QFileDialog& dialog) {
             Enter(dialog, QStringLiteral("Maria"));
             kept = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
         });
+        script_->Expect(Question(QStringLiteral("maria.zlv"), press));
+        script_->Meanwhile([] {
+            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+            QVERIFY(box->defaultButton() == box->button(QMessageBox::No));
+        });
         settings_.ShowSave();
-        QCOMPARE(
-            answer.Texts(),
-            QStringList{
-                QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(QStringLiteral("maria.zlv"))});
-        QCOMPARE(icon, QMessageBox::Warning);
-        QCOMPARE(title, QStringLiteral("Apri"));
-        QCOMPARE(buttons, QMessageBox::Yes | QMessageBox::No);
+        VERIFY_SCRIPT(*script_);
         QCOMPARE(kept, QStringLiteral("Maria"));
         QCOMPARE(settings_.FileName, press == QMessageBox::Yes ? settings_.InitDir + "\\maria.zlv" : Text());
     }
@@ -361,10 +349,8 @@ void CommonDialogTest::TwoFilesInOtherLettersAreLeftAlone()
     MakeFile(QStringLiteral("maria.zlv"));
     MakeFile(QStringLiteral("MARIA.zlv"));
     settings_.Flags = DialogFlags::OverwritePrompt;
-    const BoxAnswer answer;
     WhenOpen([&](QFileDialog& dialog) { Enter(dialog, QStringLiteral("Maria")); });
     settings_.ShowSave();
-    QCOMPARE(answer.Texts(), QStringList());
     QCOMPARE(settings_.FileName, settings_.InitDir + "\\Maria.zlv");
 }
 
@@ -416,52 +402,46 @@ void CommonDialogTest::ANameThatCannotBeKeptIsRefused()
     QFETCH(QString, refusal);
     settings_.FileName = "\\altrove\\prova.zlv";
     settings_.CancelError = true;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
-    const QWidget* under = nullptr;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) {
-        icon = box.icon();
-        under = box.parentWidget();
-    });
     WhenOpen([&](QFileDialog& dialog) {
         Enter(dialog, typed);
-        QCOMPARE(answer.Texts(), QStringList{refusal});
-        QVERIFY(under == &dialog);
+        TRY_SCRIPT(*script_);
         QVERIFY(dialog.isVisible());
         QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), typed);
     });
+    script_->Expect({refusal, QMessageBox::Critical});
+    script_->Meanwhile(
+        [] { QVERIFY(qobject_cast<QFileDialog*>(QApplication::activeModalWidget()->parentWidget()) != nullptr); });
     QCOMPARE(ErrorOf([this] { settings_.ShowSave(); }), 32755);
-    QCOMPARE(answer.Texts(), QStringList{refusal});
-    QCOMPARE(icon, QMessageBox::Critical);
     QCOMPARE(settings_.FileName, Text("\\altrove\\prova.zlv"));
 }
 
 void CommonDialogTest::WhoAsksMayRefuse()
 {
     std::vector<Text> asked;
+    bool throws = false;
     settings_.Refuses = [&](const Text& path) {
         asked.push_back(path);
-        return path.ends_with("zelvia.zlv") && ShowBox({" NO   "}) == MsgAnswer::OK;
+        if (throws && path.ends_with("zelvia.zlv")) {
+            throw ErroreRunTime(57, "");
+        }
+        return path.ends_with("zelvia.zlv");
     };
-    for (const bool throws : {false, true}) {
+    // An error of its own is reported, and the dialog stays.
+    for (const bool fails : {false, true}) {
         asked.clear();
-        const BoxAnswer answer;
+        throws = fails;
         WhenOpen([&](QFileDialog& dialog) {
             Enter(dialog, QStringLiteral("zelvia"));
             QVERIFY(dialog.isVisible());
             Enter(dialog, QStringLiteral("altra"));
         });
+        if (fails) {
+            script_->Expect(Report(QStringLiteral("ERRORE : 57 ")));
+        }
         settings_.ShowSave();
         QVERIFY(asked == (std::vector<Text>{settings_.InitDir + "\\zelvia.zlv", settings_.InitDir + "\\altra.zlv"}));
-        QCOMPARE(answer.Texts(), QStringList{throws ? QStringLiteral("ERRORE : 57 ") : QStringLiteral(" NO   ")});
+        VERIFY_SCRIPT(*script_);
         QCOMPARE(settings_.FileName, settings_.InitDir + "\\altra.zlv");
-        // An error of its own is reported, and the dialog stays.
-        settings_.Refuses = [&](const Text& path) {
-            asked.push_back(path);
-            if (path.ends_with("zelvia.zlv")) {
-                throw ErroreRunTime(57, "");
-            }
-            return false;
-        };
     }
 }
 

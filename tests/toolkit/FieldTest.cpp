@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Visibility changed by the handlers of a focus change, and fields made of a box and its list.
 #include "core/MessageBox.h"
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/OtherProgram.h"
 #include "support/WindowTest.h"
 #include "toolkit/SampleForm.h"
 
 using namespace zelvia;
+using namespace zelvia::test;
 
 class FieldTest : public QObject
 {
@@ -112,7 +113,8 @@ void FieldTest::HidingItWhileAnotherProgramIsInFront()
 void FieldTest::HidingItAfterABoxOfTheSameRoutine()
 {
     // The window may not be the active one again when the routine goes on.
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("PROVA")));
     form_->txtUno->KeyPress = [this](int&) {
         ShowBox({"PROVA"});
         form_->txtUno->SetVisible(false);
@@ -121,6 +123,7 @@ void FieldTest::HidingItAfterABoxOfTheSameRoutine()
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +pctFondo"));
     QTRY_COMPARE(form_->Focused(), QByteArray("pctFondo"));
+    VERIFY_SCRIPT(script);
 }
 
 void FieldTest::HidingAnotherControlMovesNothing()
@@ -200,7 +203,9 @@ void FieldTest::ABoxOutOfLostFocusFindsTheFieldHidden()
     form_->Start(*form_->txtUno);
     bool hidden = false;
     bool quiet = false;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox&) {
+    BoxScript script;
+    script.Expect(Warning(QStringLiteral("PROVA")));
+    script.Meanwhile([&] {
         hidden = !form_->txtUno->isVisible() && !form_->lstUno->isVisible();
         quiet = StaysFalse([this] { return form_->told != "-txtUno"; });
     });
@@ -211,7 +216,7 @@ void FieldTest::ABoxOutOfLostFocusFindsTheFieldHidden()
     QCOMPARE(form_->lstUno->ListIndex(), 2);
     QTRY_COMPARE(form_->Focused(), QByteArray("lstUno"));
     QVERIFY(form_->lstUno->isVisible());
-    QCOMPARE(answer.Texts(), QStringList(QStringLiteral("PROVA")));
+    VERIFY_SCRIPT(script);
 }
 
 void FieldTest::TheListStaysWhenItLosesTheFocus()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What no routine's trap takes ends at the application, which reports it once and goes on.
 #include "core/RunTimeError.h"
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/Application.h"
@@ -20,6 +20,7 @@
 #endif
 
 using namespace zelvia;
+using namespace zelvia::test;
 
 namespace
 {
@@ -138,30 +139,33 @@ private Q_SLOTS:
 /// Were it reported from within the paint, or at each one, the program could not be used any more.
 void LastCatchTest::APaint()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower window(QEvent::Paint);
     window.Show();
     window.repaint();
-    QCOMPARE(answer.Texts(), QStringList());
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    QVERIFY(!script.Problems().isEmpty());
+    TRY_SCRIPT(script);
     // Each further paint fails, and nothing is said of it.
     for (int i = 0; i < 3; ++i) {
         const int before = window.met;
         window.update();
         QTRY_VERIFY(window.met > before);
     }
-    QVERIFY(StaysFalse([&] { return answer.Texts().size() > 1; }));
+    QVERIFY(StaysFalse([&] { return !script.Problems().isEmpty(); }));
     // Once it has worked the next failure is a new one.
     window.throws = false;
     window.repaint();
     window.throws = true;
+    script.Expect(Report(kReport));
     window.repaint();
-    QTRY_COMPARE(answer.Texts(), QStringList({kReport, kReport}));
+    TRY_SCRIPT(script);
 }
 
 void LastCatchTest::APaintOfTwoWindows()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower one(QEvent::Paint);
     Thrower two(QEvent::Paint);
     one.Show();
@@ -170,81 +174,89 @@ void LastCatchTest::APaintOfTwoWindows()
     one.throws = true;
     one.update();
     two.update();
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
     QVERIFY(StaysFalse([&] {
         one.update();
         two.update();
-        return answer.Texts().size() > 1;
+        return !script.Problems().isEmpty();
     }));
 }
 
 void LastCatchTest::AResize()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower window(QEvent::Resize);
     window.Show();
     window.resize(300, 200);
-    QCOMPARE(answer.Texts(), QStringList());
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    QVERIFY(!script.Problems().isEmpty());
+    TRY_SCRIPT(script);
     window.resize(310, 210);
     QTRY_COMPARE(window.size(), QSize(310, 210));
-    QVERIFY(StaysFalse([&] { return answer.Texts().size() > 1; }));
+    QVERIFY(StaysFalse([&] { return !script.Problems().isEmpty(); }));
 }
 
 /// What the user does is answered each time.
 void LastCatchTest::AKey()
 {
     const QtLeaks leaks;
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower window(QEvent::KeyPress);
     window.Show();
     hand::Key(Qt::Key_A);
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
     QTRY_VERIFY(window.isActiveWindow());
+    script.Expect(Report(kReport));
     hand::Key(Qt::Key_B);
-    QTRY_COMPARE(answer.Texts(), QStringList({kReport, kReport}));
+    TRY_SCRIPT(script);
     QCOMPARE(window.met, 2);
 }
 
 void LastCatchTest::APress()
 {
     const QtLeaks leaks;
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower window(QEvent::MouseButtonPress);
     window.Show();
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
     QTRY_VERIFY(window.isActiveWindow());
+    script.Expect(Report(kReport));
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
-    QTRY_COMPARE(answer.Texts(), QStringList({kReport, kReport}));
+    TRY_SCRIPT(script);
 }
 
 void LastCatchTest::ATimer()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     Thrower window(QEvent::Timer);
     window.throws = true;
     window.startTimer(5);
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
     const int before = window.met;
     QTRY_VERIFY(window.met > before + 3);
-    QCOMPARE(answer.Texts(), QStringList(kReport));
+    VERIFY_SCRIPT(script);
     window.throws = false;
     const int failed = window.met;
     QTRY_VERIFY(window.met > failed);
+    script.Expect(Report(kReport));
     window.throws = true;
-    QTRY_COMPARE(answer.Texts(), QStringList({kReport, kReport}));
+    TRY_SCRIPT(script);
 }
 
 void LastCatchTest::AQueuedCall()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     bool went = false;
     QMetaObject::invokeMethod(
         qApp, [] { throw ErroreRunTime(Errore::TipoNonCorrispondente); }, Qt::QueuedConnection);
     QMetaObject::invokeMethod(
         qApp, [&] { went = true; }, Qt::QueuedConnection);
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
     QVERIFY(went);
 }
 
@@ -261,7 +273,8 @@ void LastCatchTest::WhatIsNoRunTimeError()
 {
     QFETCH(int, kind);
     QFETCH(QString, report);
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(report));
     QMetaObject::invokeMethod(
         qApp,
         [kind] {
@@ -272,32 +285,35 @@ void LastCatchTest::WhatIsNoRunTimeError()
             }
         },
         Qt::QueuedConnection);
-    QTRY_COMPARE(answer.Texts(), QStringList(report));
+    TRY_SCRIPT(script);
 }
 
 /// One that begins at the same address fails anew.
 void LastCatchTest::AWindowThatIsGone()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kReport));
     auto window = std::make_unique<Thrower>(QEvent::Timer);
     window->throws = true;
     window->startTimer(5);
-    QTRY_COMPARE(answer.Texts(), QStringList(kReport));
+    TRY_SCRIPT(script);
+    script.Expect(Report(kReport));
     std::destroy_at(window.get());
     std::construct_at(window.get(), QEvent::Timer);
     window->throws = true;
     window->startTimer(5);
-    QTRY_COMPARE(answer.Texts(), QStringList({kReport, kReport}));
+    TRY_SCRIPT(script);
 }
 
 void LastCatchTest::TheCopyOfAHandler()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("ERRORE : 7 Memoria esaurita")));
     bool fails = false;
     const std::function<void()> handler = Uncopiable(&fails);
     fails = true;
     Fire(handler);
-    QCOMPARE(answer.Texts(), QStringList(QStringLiteral("ERRORE : 7 Memoria esaurita")));
+    VERIFY_SCRIPT(script);
 }
 
 /// The box of a report may fail as well; then that is reported.

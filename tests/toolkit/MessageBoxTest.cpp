@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/MessageBox.h"
 
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/Events.h"
@@ -12,6 +12,20 @@
 #include <QAbstractButton>
 
 using namespace zelvia;
+using namespace zelvia::test;
+
+namespace
+{
+
+const QString kText = QStringLiteral("PROVA");
+constexpr auto kYesNoCancel = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+
+QMessageBox* OpenBox()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+} // namespace
 
 class MessageBoxTest : public QObject
 {
@@ -68,19 +82,13 @@ void MessageBoxTest::ItShowsWhatItIsGiven()
 {
     QFETCH(MsgButtons, buttons);
     QFETCH(MsgIcon, icon);
-    QMessageBox::StandardButtons shown;
-    QMessageBox::Icon picture = QMessageBox::Question;
-    QString title;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) {
-        shown = box.standardButtons();
-        picture = box.icon();
-        title = box.windowTitle();
-    });
+    QFETCH(QMessageBox::StandardButtons, shown);
+    QFETCH(QMessageBox::Icon, picture);
+    const auto press = shown.testFlag(QMessageBox::Ok) ? QMessageBox::Ok : QMessageBox::No;
+    BoxScript script;
+    script.Expect({QStringLiteral("SALVARE ?  "), picture, shown, press});
     ShowBox({"SALVARE ?  ", icon, buttons});
-    QCOMPARE(answer.Texts(), QStringList(QStringLiteral("SALVARE ?  ")));
-    QTEST(shown, "shown");
-    QTEST(picture, "picture");
-    QCOMPARE(title, QStringLiteral("Zelvia"));
+    VERIFY_SCRIPT(script);
 }
 
 void MessageBoxTest::TheAnswerIsTheButton_data()
@@ -96,36 +104,45 @@ void MessageBoxTest::TheAnswerIsTheButton()
 {
     QFETCH(QMessageBox::StandardButton, button);
     QFETCH(MsgAnswer, answered);
-    BoxAnswer answer(QMessageBox::NoButton, [&](QMessageBox& box) { hand::Click(*box.button(button)); });
+    BoxScript script;
+    script.Expect({kText, QMessageBox::NoIcon, kYesNoCancel, button});
+    script.Meanwhile([button] { hand::Click(*OpenBox()->button(button)); });
     QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel}) == answered);
+    VERIFY_SCRIPT(script);
 }
 
 void MessageBoxTest::EscapeIsCancel()
 {
-    const BoxAnswer answer(QMessageBox::NoButton, [](QMessageBox& box) {
-        QTRY_VERIFY(box.isActiveWindow());
-        hand::Key(Qt::Key_Escape);
-    });
+    BoxScript script;
+    for (const QMessageBox::StandardButtons buttons :
+         {QMessageBox::Ok | QMessageBox::Cancel, kYesNoCancel, QMessageBox::StandardButtons(QMessageBox::Ok)}) {
+        script.Expect({kText, QMessageBox::NoIcon, buttons,
+                       buttons.testFlag(QMessageBox::Cancel) ? QMessageBox::Cancel : QMessageBox::Ok});
+        script.Meanwhile([] { hand::Key(Qt::Key_Escape); });
+    }
     QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::OKCancel}) == MsgAnswer::Cancel);
     QVERIFY(ShowBox({"PROVA", MsgIcon::None, MsgButtons::YesNoCancel}) == MsgAnswer::Cancel);
     QVERIFY(ShowBox({"PROVA"}) == MsgAnswer::OK);
-    QCOMPARE(answer.Texts().size(), 3);
+    VERIFY_SCRIPT(script);
 }
 
 void MessageBoxTest::ItsTextIsPlain()
 {
     Qt::TextFormat format = Qt::AutoText;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox& box) { format = box.textFormat(); });
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("<b>A & B</b>")));
+    script.Meanwhile([&] { format = OpenBox()->textFormat(); });
     ShowBox({"<b>A & B</b>"});
     QCOMPARE(format, Qt::PlainText);
-    QCOMPARE(answer.Texts(), QStringList(QStringLiteral("<b>A & B</b>")));
+    VERIFY_SCRIPT(script);
 }
 
 void MessageBoxTest::ItsTextKeepsItsBlanks()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("LOCALIT\u00C0                 ")));
     ShowBox({"LOCALIT\xC0                 "});
-    QCOMPARE(answer.Texts(), QStringList(QStringLiteral("LOCALIT\u00C0                 ")));
+    VERIFY_SCRIPT(script);
 }
 
 void MessageBoxTest::NoFocusEventAndNoTickWhileItIsUp()
@@ -138,7 +155,9 @@ void MessageBoxTest::NoFocusEventAndNoTickWhileItIsUp()
     QTRY_VERIFY(ticks > 0);
 
     bool told = false;
-    const BoxAnswer answer(QMessageBox::Ok, [&](QMessageBox&) {
+    BoxScript script;
+    script.Expect(Report(kText));
+    script.Meanwhile([&] {
         up = true;
         form_->pctFondo->SetFocus();
         told = !StaysFalse([this] { return !form_->told.isEmpty(); }, 200);
@@ -155,22 +174,22 @@ void MessageBoxTest::NoFocusEventAndNoTickWhileItIsUp()
 
 void MessageBoxTest::ABoxIsNoLostFocus()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(kText));
     form_->txtUno->KeyPress = [](int&) { ShowBox({"PROVA"}); };
     hand::Key(Qt::Key_Return);
-    QTRY_COMPARE(answer.Texts(), QStringList(QStringLiteral("PROVA")));
+    TRY_SCRIPT(script);
     QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));
     QVERIFY(StaysFalse([this] { return !form_->told.isEmpty(); }));
 }
 
 void MessageBoxTest::AnErrorOfAHandlerIsReportedUnderTheBareTitle()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("ERRORE : 7 Memoria esaurita")));
     form_->cmdVai->Click = [] { throw std::bad_alloc(); };
     hand::Click(*form_->cmdVai);
-    QTRY_COMPARE(answer.Texts().size(), 1);
-    QVERIFY2(answer.Texts().constFirst().startsWith(QStringLiteral("ERRORE : 7 ")),
-             qPrintable(answer.Texts().constFirst()));
+    TRY_SCRIPT(script);
     // And the program goes on once the box is gone.
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     hand::Click(*form_->lblVai);

@@ -3,12 +3,13 @@
 #include "toolkit/UpDown.h"
 
 #include "core/MessageBox.h"
-#include "support/BoxAnswer.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/SampleForm.h"
 
 using namespace zelvia;
+using namespace zelvia::test;
 
 namespace
 {
@@ -159,7 +160,8 @@ void UpDownTest::LeavingTheArrowStopsTheRepeat()
 
 void UpDownTest::ABoxStopsTheRepeat()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Report(QStringLiteral("PROVA")));
     up_->Change = [this] {
         if (up_->Value().value() == 2) {
             ShowBox({"PROVA"});
@@ -167,7 +169,7 @@ void UpDownTest::ABoxStopsTheRepeat()
     };
     // Held through the box, which is gone before the next repeat is due.
     hand::Press(*up_, kUpper);
-    QTRY_COMPARE(answer.Texts(), QStringList(QStringLiteral("PROVA")));
+    TRY_SCRIPT(script);
     QVERIFY(StaysFalse([&] { return up_->Value().value() != 2; }, 600));
     hand::Release(*up_, kUpper);
     hand::Click(*up_, kUpper);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A box that refuses to give the focus away.
-#include "core/MessageBox.h"
-#include "support/BoxAnswer.h"
+#include "core/Messages.h"
+#include "support/BoxScript.h"
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/SampleForm.h"
@@ -10,14 +10,7 @@
 #include <QMenuBar>
 
 using namespace zelvia;
-
-namespace
-{
-
-constexpr TextView kText = "MAX 59 MINUTI                ";
-const QString kMessage = QStringLiteral("MAX 59 MINUTI                ");
-
-} // namespace
+using namespace zelvia::test;
 
 class ValidateTest : public QObject
 {
@@ -43,7 +36,7 @@ private Q_SLOTS:
     void IsNotAskedForKeysThatMoveNothing();
 
 private:
-    void VerifyRefused(const BoxAnswer& answer);
+    void VerifyRefused(const BoxScript& script);
 
     std::unique_ptr<SampleForm> form_;
     int asked_ = 0;
@@ -60,18 +53,18 @@ void ValidateTest::init()
         if (form_->txtUno->Content() != "75") {
             return false;
         }
-        ShowBox({Text(kText), MsgIcon::Exclamation});
+        MsgBox(Messages::kMinutesLimit);
         return true;
     };
     form_->Start(*form_->txtUno);
 }
 
 /// One message, and nothing but that: no focus moved, nothing fired.
-void ValidateTest::VerifyRefused(const BoxAnswer& answer)
+void ValidateTest::VerifyRefused(const BoxScript& script)
 {
-    QTRY_COMPARE(answer.Texts(), QStringList(kMessage));
+    TRY_SCRIPT(script);
     QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));
-    QVERIFY(StaysFalse([&] { return !form_->told.isEmpty() || answer.Texts().size() > 1 || asked_ > 1; }));
+    QVERIFY(StaysFalse([&] { return !form_->told.isEmpty() || !script.Problems().isEmpty() || asked_ > 1; }));
 }
 
 void ValidateTest::RefusesTab_data()
@@ -84,52 +77,57 @@ void ValidateTest::RefusesTab_data()
 void ValidateTest::RefusesTab()
 {
     QFETCH(Qt::KeyboardModifiers, modifiers);
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Messages::kMinutesLimit);
     hand::Key(Qt::Key_Tab, modifiers);
-    VerifyRefused(answer);
+    VerifyRefused(script);
 }
 
 void ValidateTest::RefusesAClickOnAnotherBox()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Messages::kMinutesLimit);
     bool clicked = false;
     form_->txtDue->Click = [&] { clicked = true; };
     hand::Click(*form_->txtDue);
-    VerifyRefused(answer);
+    VerifyRefused(script);
     QVERIFY(!clicked);
 }
 
 void ValidateTest::RefusesAClickOnAListWithoutSelecting()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Messages::kMinutesLimit);
     hand::Click(*form_->lstUno, RowCentre(*form_->lstUno, 1));
-    VerifyRefused(answer);
+    VerifyRefused(script);
     QCOMPARE(form_->lstUno->ListIndex(), -1);
 }
 
 void ValidateTest::RefusesAClickOnAButtonWhichDoesNotFire()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Messages::kMinutesLimit);
     hand::Click(*form_->cmdVai);
-    VerifyRefused(answer);
+    VerifyRefused(script);
     QVERIFY(!form_->cmdVai->isDown());
 }
 
 void ValidateTest::RefusesTheProgramsSetFocus()
 {
-    const BoxAnswer answer;
+    BoxScript script;
+    script.Expect(Messages::kMinutesLimit);
     form_->txtUno->KeyPress = [this](int& keyAscii) {
         if (keyAscii == 13) {
             form_->txtDue->SetFocus();
         }
     };
     hand::Key(Qt::Key_Return);
-    VerifyRefused(answer);
+    VerifyRefused(script);
 }
 
 void ValidateTest::LetsGoOnceItIsContent()
 {
-    const BoxAnswer answer;
+    BoxScript script;
     form_->txtUno->SetContent("59");
     hand::Key(Qt::Key_Tab);
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +txtDue"));
@@ -139,7 +137,7 @@ void ValidateTest::LetsGoOnceItIsContent()
     hand::Click(*form_->cmdVai);
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +cmdVai cmdVai"));
     QCOMPARE(asked_, 2);
-    QCOMPARE(answer.Texts(), QStringList());
+    VERIFY_SCRIPT(script);
 }
 
 void ValidateTest::IsAskedOnceForSeveralMovesOfAHandler()
@@ -165,28 +163,30 @@ void ValidateTest::IsNotAskedForWhatTakesNoFocus_data()
 void ValidateTest::IsNotAskedForWhatTakesNoFocus()
 {
     QFETCH(QString, control);
-    const BoxAnswer answer;
+    BoxScript script;
     form_->cmdVai->setEnabled(false);
     auto* widget = form_->findChild<QWidget*>(control);
     QVERIFY(widget != nullptr);
     hand::Click(*widget, {5, 5});
     QVERIFY(StaysFalse([&] { return asked_ > 0; }));
     QCOMPARE(form_->Focused(), QByteArray("txtUno"));
+    VERIFY_SCRIPT(script);
 }
 
 void ValidateTest::IsNotAskedForAMenu()
 {
-    const BoxAnswer answer;
+    BoxScript script;
     hand::Click(*form_->bar, form_->bar->actionGeometry(form_->mnuFile->menuAction()).center());
     QTRY_VERIFY(form_->mnuFile->isVisible());
     hand::Click(*form_->mnuFile, form_->mnuFile->actionGeometry(form_->mnuFile->actions().at(1)).center());
     QTRY_COMPARE(form_->told, QByteArray("-txtUno +pctFondo mnuAltro"));
     QCOMPARE(asked_, 0);
+    VERIFY_SCRIPT(script);
 }
 
 void ValidateTest::IsNotAskedForTheCloseBox()
 {
-    const BoxAnswer answer;
+    BoxScript script;
     auto* closing = form_.release();
     const QPointer<SampleForm> watched = closing;
     if (hand::OnX11()) {
@@ -197,11 +197,12 @@ void ValidateTest::IsNotAskedForTheCloseBox()
     }
     QTRY_VERIFY(watched.isNull());
     QCOMPARE(asked_, 0);
+    VERIFY_SCRIPT(script);
 }
 
 void ValidateTest::IsNotAskedForAnotherWindow()
 {
-    const BoxAnswer answer;
+    BoxScript script;
     SampleForm second;
     second.show();
     second.activateWindow();
@@ -210,17 +211,19 @@ void ValidateTest::IsNotAskedForAnotherWindow()
     QTRY_COMPARE(second.Focused(), QByteArray("txtDue"));
     QTRY_COMPARE(form_->told, QByteArray("-txtUno"));
     QCOMPARE(asked_, 0);
+    VERIFY_SCRIPT(script);
 }
 
 void ValidateTest::IsNotAskedForKeysThatMoveNothing()
 {
-    const BoxAnswer answer;
+    BoxScript script;
     hand::Type(QStringLiteral("1"));
     hand::Key(Qt::Key_Left);
     hand::Key(Qt::Key_Tab, Qt::ControlModifier);
     hand::Key(Qt::Key_Escape);
     QVERIFY(StaysFalse([&] { return asked_ > 0; }));
     QCOMPARE(form_->Focused(), QByteArray("txtUno"));
+    VERIFY_SCRIPT(script);
 }
 
 ZELVIA_WINDOW_TEST(ValidateTest)
