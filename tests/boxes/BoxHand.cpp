@@ -124,7 +124,7 @@ void LeaveByTab(DayPage& page, TextBox& box, const Outcome& outcome, const Expec
     if (outcome.refused) {
         page.script.Expect(refusal);
         hand::Key(Qt::Key_Tab);
-        QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+        TRY_SCRIPT(page.script);
         EntryPage::AwaitFront(*box.window());
         QTRY_VERIFY2(hasFocus(), qPrintable(box.objectName()));
         QCOMPARE(box.text(), outcome.Shown());

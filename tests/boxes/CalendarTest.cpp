@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad input to the boxes of the race calendar.
 #include "boxes/BoxHand.h"
+#include "core/Messages.h"
 #include "support/Bytes.h"
 #include "support/CalendarDesk.h"
 #include "support/WindowTest.h"
@@ -82,12 +83,12 @@ public:
         const RaceColumn other = OtherThan(row_->box);
         Fill(Box(other, kFreeRow), {"", Entry::Typed, QStringLiteral("altra")});
         file_.SetLine(kFreeRow, LineOf(other), "\"altra\"");
-        script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+        script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
         for (const QString& message : messages) {
             script.Expect(Warning(message));
         }
         hand::Click(*Window()->cmdSalva);
-        QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+        TRY_SCRIPT(script);
         CompareFile(File(), file_.Bytes());
         AwaitFront(*Window());
         // The closing checks the dates once more; what was put right stays so.

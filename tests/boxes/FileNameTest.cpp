@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bad names in the file dialogs.
 #include "boxes/BoxHand.h"
-#include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/WindowTest.h"
 
@@ -102,7 +101,7 @@ void FileNameTest::saveAs()
     const QStringList before = page.folder.Files();
     Choose(page.script, page.SaveDialog(kPreset, typed), refusal);
     page.Menu("mnuFile", Qt::Key_V);
-    QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+    TRY_SCRIPT(page.script);
     QStringList after = before;
     if (!file.isEmpty()) {
         after << QStringLiteral("ZelviaFile/") + file + QStringLiteral(".zlv");
@@ -168,7 +167,7 @@ void FileNameTest::megabytes()
     page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("copia")));
     page.script.Meanwhile([&] { held = Pasted(QString(many, u'm')).size(); });
     page.Menu("mnuFile", Qt::Key_V);
-    QTRY_VERIFY2(page.script.Problems().isEmpty(), qPrintable(page.script.Problems()));
+    TRY_SCRIPT(page.script);
     QVERIFY(held > 0 && held <= most);
     QVERIFY(page.folder.Exists(QStringLiteral("ZelviaFile/copia.zlv")));
 }

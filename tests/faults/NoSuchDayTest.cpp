@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the routines report that meet a day beyond the 366 of the diary.
 #include "support/EntryPage.h"
-#include "support/FileBoxes.h"
 #include "support/PlanDesk.h"
 #include "support/SearchDesk.h"
 #include "support/StatisticsDesk.h"

@@ -5,7 +5,6 @@
 #include "diary/RouteModel.h"
 #include "faults/CommandFailures.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every command with files, each of its calls going wrong in turn until none is left.
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "diary/RouteModel.h"
 #include "faults/CommandFailures.h"
 #include "support/CalendarDesk.h"
-#include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/WindowTest.h"
 #include "windows/races/FrmCalendario.h"
@@ -114,7 +114,7 @@ void GiveOpen(TableDesk& desk, const std::function<void()>& report)
 void GiveSaveBeforeOpen(TableDesk& desk, const std::function<void()>& report)
 {
     Module1::FileModificato = 1;
-    desk.script.Expect(SaveQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kSaveDiary, QMessageBox::Yes);
     report();
     desk.script.Expect(desk.OpenDialog(Path("prova.zlv")));
     desk.Menu("mnuFile", Qt::Key_A);
@@ -154,7 +154,7 @@ void BeginWithRaces(TableDesk& desk)
 
 void GiveSaveOfRaces(TableDesk& desk, const std::function<void()>& report)
 {
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     report();
     hand::Click(*Races()->cmdSalva);
 }
@@ -437,7 +437,7 @@ void SweepTest::Run(const Command& command, const Kind& kind, std::size_t nth)
                 ExpectReports(desk.script, command, kind, struck, static_cast<std::size_t>(same));
             }
         });
-        QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+        TRY_SCRIPT(desk.script);
         QTRY_COMPARE(disk.Struck(), nth > 0);
         if (nth == 0) {
             calls_ = disk.Calls();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/CalendarDesk.h"
 
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "support/Bytes.h"
 
@@ -98,9 +99,9 @@ void CalendarDesk::PreviousPage() const
 
 void CalendarDesk::Save(QMessageBox::StandardButton press)
 {
-    script.Expect(CalendarSaveQuestion(press));
+    script.Expect(Messages::kSaveRaces, press);
     hand::Click(*Window()->cmdSalva);
-    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+    TRY_SCRIPT(script);
 }
 
 void CalendarDesk::Leave() const
@@ -114,28 +115,16 @@ void CalendarDesk::Leave() const
 void CalendarDesk::TryToLeave() const
 {
     hand::Click(*Window()->cmdEsci);
-    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+    TRY_SCRIPT(script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QVERIFY(Window() != nullptr);
 }
 
 void CalendarDesk::LeaveAnswering(QMessageBox::StandardButton press)
 {
-    script.Expect(CalendarCloseQuestion(press));
+    script.Expect(Messages::kRacesNotSaved, press);
     Leave();
-    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
-}
-
-ExpectedBox CalendarSaveQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral(" SALVO IL CALENDARIO GARE ?              "), QMessageBox::Information,
-            QMessageBox::Ok | QMessageBox::Cancel, press};
-}
-
-ExpectedBox CalendarCloseQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral(" IL CALENDARIO GARE NON E' STATO SALVATO, SALVARE ?           "), QMessageBox::Information,
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, press};
+    TRY_SCRIPT(script);
 }
 
 ExpectedBox Stop(const QString& text)

@@ -51,8 +51,6 @@ public:
     void WriteFile(const QByteArray& bytes) const { folder.Write(QStringLiteral("prova/CalendarioGare"), bytes); }
 };
 
-ExpectedBox CalendarSaveQuestion(QMessageBox::StandardButton press);
-ExpectedBox CalendarCloseQuestion(QMessageBox::StandardButton press);
 ExpectedBox Stop(const QString& text);
 
 /// The fifteen columns of a row of the calendar in memory but for its number, as CalendarBytes takes them.

@@ -180,4 +180,42 @@ ExpectedBox DayPage::OverwriteQuestion(const QString& title, const QString& name
     return {question, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No, press, title};
 }
 
+ExpectedBox BareReport(const QString& error)
+{
+    return Report(QStringLiteral("ERRORE : ") + error);
+}
+
+void ExpectListsNotSaved(BoxScript& script, const QString& error)
+{
+    for (const QString& list : ListNames()) {
+        script.Expect(Report(QStringLiteral("SalvaLista%1 - ERRORE : ").arg(list) + error));
+    }
+}
+
+void ExpectListsNotLoaded(BoxScript& script, const QString& error)
+{
+    for (const QString& list : ListNames()) {
+        // The reader of the temperatures is spelt with a letter less.
+        const QString name = list == QLatin1String("Temperatura") ? QStringLiteral("Teperatura") : list;
+        script.Expect(Report(QStringLiteral("CaricaLista%1 - ERRORE : ").arg(name) + error));
+    }
+}
+
+ExpectedBox RoutesNotLoaded(const QString& description)
+{
+    return Report(QStringLiteral("ERRORE : %1 Liste Percorso").arg(description));
+}
+
+void ExpectNoFolder(BoxScript& script)
+{
+    for (int i = 0; i < 3; ++i) {
+        script.Expect(BareReport(kNoFolder));
+    }
+    ExpectListsNotSaved(script, kNoFolder);
+    ExpectListsNotLoaded(script, kNoFolder);
+    script.Expect(BareReport(kNoFolder));
+    script.Expect(RoutesNotLoaded(QStringLiteral("Cartella non trovata")));
+    script.Expect(BareReport(kNoFolder));
+}
+
 } // namespace zelvia::test

@@ -73,4 +73,19 @@ private:
     QPointer<frmMain> page_;
 };
 
+/// Error numbers with their descriptions, as they stand in a report.
+inline const QString kNotFound = QStringLiteral("53 File non trovato");
+inline const QString kDenied = QStringLiteral("75 Errore di accesso al file o alla cartella");
+inline const QString kNoFolder = QStringLiteral("76 Cartella non trovata");
+
+/// The bare report of a shared routine.
+ExpectedBox BareReport(const QString& error);
+/// The reports of the seven lists.
+void ExpectListsNotSaved(BoxScript& script, const QString& error);
+void ExpectListsNotLoaded(BoxScript& script, const QString& error);
+/// The route reader's own form.
+ExpectedBox RoutesNotLoaded(const QString& description);
+/// The reports of a start that knows no folder of the diary: nothing can be written, and nothing read.
+void ExpectNoFolder(BoxScript& script);
+
 } // namespace zelvia::test

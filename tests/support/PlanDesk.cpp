@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/PlanDesk.h"
 
+#include "core/Messages.h"
 #include "diary/TableModel.h"
 #include "support/Bytes.h"
 
@@ -98,15 +99,12 @@ void PlanDesk::ActivateByHand(const char* table) const
 
 ExpectedBox EndOfTable(const QString& name)
 {
-    return {QStringLiteral("  FINE ALLENAMENTI  -  LA TABELLA :  ") + name +
-                QStringLiteral(" -  VIENE DISATTIVATA      "),
-            QMessageBox::Information};
+    return BoxOf(Messages::kPlanEnds, QMessageBox::Ok, {FromQString(name)});
 }
 
 ExpectedBox DeleteQuestion(const QString& entry, QMessageBox::StandardButton press)
 {
-    return {QStringLiteral(" CANCELLARE LA TABELLA ") + entry + QStringLiteral(" ?"), QMessageBox::Information,
-            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, press};
+    return BoxOf(Messages::kDeleteTable, press, {FromQString(entry)});
 }
 
 } // namespace zelvia::test

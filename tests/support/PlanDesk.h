@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/DayPage.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/TableBytes.h"
 #include "support/TableDesk.h"
 

@@ -147,4 +147,19 @@ QByteArray SampleFile(const QString& path)
     return file.readAll();
 }
 
+QStringList FullSet()
+{
+    return {QStringLiteral("CalendarioGare"),  QStringLiteral("Fondo.lsx"),    QStringLiteral("ListePercorso"),
+            QStringLiteral("Lunghezza.lsx"),   QStringLiteral("Modo.lsx"),     QStringLiteral("Percorso.lsx"),
+            QStringLiteral("Temperatura.lsx"), QStringLiteral("TempoAtm.lsx"), QStringLiteral("Tipo.lsx"),
+            QStringLiteral("nometab")};
+}
+
+QStringList ListNames()
+{
+    return {QStringLiteral("Percorso"),   QStringLiteral("Lunghezza"), QStringLiteral("Modo"),
+            QStringLiteral("Fondo"),      QStringLiteral("Tipo"),      QStringLiteral("TempoAtm"),
+            QStringLiteral("Temperatura")};
+}
+
 } // namespace zelvia::test

@@ -40,6 +40,12 @@ private:
     QTemporaryDir folder_;
 };
 
+/// The files of a diary's folder as a first use lays them down, sorted.
+QStringList FullSet();
+
+/// The seven lists that have a file, in the order in which they are written and read.
+QStringList ListNames();
+
 /// The bytes of a file of the sample diary as it lies in the sources.
 QByteArray SampleFile(const QString& path);
 

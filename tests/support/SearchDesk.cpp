@@ -34,7 +34,7 @@ void SearchDesk::AwaitFront(QWidget& window)
 
 void SearchDesk::AwaitBoxes() const
 {
-    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+    TRY_SCRIPT(script);
     EntryPage::AwaitFront(*Search());
 }
 

@@ -84,7 +84,7 @@ void TableDesk::ToFront(QWidget& window)
 
 void TableDesk::AwaitBoxes() const
 {
-    QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+    TRY_SCRIPT(script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QTRY_VERIFY(Editor()->isActiveWindow());
     ToFront(*Editor());

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The pop-up of the lists, and the commands that put the lists back.
+#include "core/Messages.h"
 #include "diary/RouteModel.h"
 #include "support/EntryPage.h"
 #include "support/WindowTest.h"
@@ -35,18 +36,6 @@ void OpenAndSelect(const EntryPage& page, int number, int row)
 QStringList Words(const char* text)
 {
     return QString::fromUtf8(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-}
-
-ExpectedBox InitialQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral("RIPRISTINARE LE LISTE INIZIALI ?              "), QMessageBox::Information,
-            QMessageBox::Ok | QMessageBox::Cancel, press};
-}
-
-ExpectedBox PreviousQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral("RIPRISTINARE LE LISTE PRECEDENTI ?              "), QMessageBox::Information,
-            QMessageBox::Ok | QMessageBox::Cancel, press};
 }
 
 } // namespace
@@ -196,7 +185,7 @@ void ListMenuTest::theInitialLists()
 {
     EntryPage page;
     page.Start();
-    page.script.Expect(InitialQuestion(QMessageBox::Ok));
+    page.script.Expect(Messages::kFirstLists, QMessageBox::Ok);
     page.Menu("mnuOpzioni", Qt::Key_I);
     const QStringList lists[] = {
         {},
@@ -234,7 +223,7 @@ void ListMenuTest::theInitialListsRefused()
 {
     EntryPage page;
     page.Start();
-    page.script.Expect(InitialQuestion(QMessageBox::Cancel));
+    page.script.Expect(Messages::kFirstLists, QMessageBox::Cancel);
     page.Menu("mnuOpzioni", Qt::Key_I);
     VERIFY_SCRIPT(page.script);
     QCOMPARE(page.ListOf(1), EntryPage::Entries(1));
@@ -253,7 +242,7 @@ void ListMenuTest::thePreviousLists()
     }
     Module1::NomiPercorso[1] = "Altra";
     page->NomeBaseFile = "altro";
-    page.script.Expect(PreviousQuestion(QMessageBox::Ok));
+    page.script.Expect(Messages::kSavedLists, QMessageBox::Ok);
     page.Menu("mnuOpzioni", Qt::Key_L);
     VERIFY_SCRIPT(page.script);
     for (const int number : {1, 2, 3, 4, 5, 7, 8}) {
@@ -271,7 +260,7 @@ void ListMenuTest::thePreviousListsRefused()
     EntryPage page;
     page.Start();
     page.AddEntry(SelectionList::Percorso, "Altra");
-    page.script.Expect(PreviousQuestion(QMessageBox::Cancel));
+    page.script.Expect(Messages::kSavedLists, QMessageBox::Cancel);
     page.Menu("mnuOpzioni", Qt::Key_L);
     VERIFY_SCRIPT(page.script);
     QCOMPARE(page.ListOf(1), EntryPage::Entries(1) << QStringLiteral("Altra"));
@@ -286,7 +275,7 @@ void ListMenuTest::thePreviousListsWithMissingFiles()
         page.folder.Remove(QStringLiteral("prova/") + QLatin1String(file));
     }
     page.folder.Write(QStringLiteral("prova/Tipo.lsx"), "\"x\"\r\n\"x\"\r\n");
-    page.script.Expect(PreviousQuestion(QMessageBox::Ok));
+    page.script.Expect(Messages::kSavedLists, QMessageBox::Ok);
     page.script.Expect(Report(QStringLiteral("CaricaListaModo - ERRORE : 53 File non trovato")));
     page.script.Expect(Report(QStringLiteral("CaricaListaTeperatura - ERRORE : 53 File non trovato")));
     page.script.Expect(Report(QStringLiteral("ERRORE : File non trovato Liste Percorso")));

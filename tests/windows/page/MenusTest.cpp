@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The menus, the dispatcher of commands, help, the window about the program, the end.
 #include "support/DayPage.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 #include <QMenu>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // New, and what the saves after it do.
+#include "core/Messages.h"
 #include "diary/RouteModel.h"
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -153,7 +153,7 @@ void NewTest::refusalAtSaveGoesBackToTheDiary()
     page->upKM->SetValue(17);
     page.folder.MakeFolder(QStringLiteral("altrove"));
     page.script.Expect(page.SaveDialog({}, page.folder.Native(QStringLiteral("altrove/copia"))));
-    page.script.Expect(SaveRefusal());
+    page.script.Expect(Messages::kSavesElsewhere);
     page.Menu("mnuFile", Qt::Key_S);
     VERIFY_SCRIPT(page.script);
     QVERIFY(page.folder.Files(QStringLiteral("altrove")).isEmpty());
@@ -193,7 +193,7 @@ void NewTest::aRefusalSpoilsEveryLaterNew()
     } else {
         page.folder.MakeFolder(QStringLiteral("altrove"));
         page.script.Expect(page.NewDialog(page.folder.Native(QStringLiteral("altrove/nuova"))));
-        page.script.Expect(SaveRefusal());
+        page.script.Expect(Messages::kSavesElsewhere);
     }
     page.script.Expect(page.NewDialog(QStringLiteral("nuova")));
     page.Menu("mnuFile", Qt::Key_N);
@@ -235,7 +235,7 @@ void NewTest::theQuestionBefore()
     DayPage page(CalendarDate(2026, 3, 1));
     page.Start();
     page->upKM->SetValue(41);
-    page.script.Expect(SaveQuestion(QMessageBox::StandardButton(answer)));
+    page.script.Expect(Messages::kSaveDiary, QMessageBox::StandardButton(answer));
     if (answer != QMessageBox::Cancel) {
         page.script.Expect(page.NewDialog(QStringLiteral("nuova")));
     }
@@ -315,7 +315,7 @@ void NewTest::aNameOfAFile()
     page.Start();
     const QStringList files = page.folder.Files();
     page.script.Expect(page.NewDialog(name));
-    page.script.Expect(FolderNameRefusal(folder));
+    page.script.Expect(BoxOf(Messages::kFolderIsAFile, QMessageBox::Ok, {FromQString(folder)}));
     ExpectedDialog again = page.NewDialog(QStringLiteral("nuova"));
     again.preset = name;
     page.script.Expect(again);

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The three commands that blank the day or restore the lists.
+#include "core/Messages.h"
 #include "diary/RouteModel.h"
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -12,25 +12,9 @@ namespace zelvia::test
 namespace
 {
 
-ExpectedBox Question(const char* text, bool goesOn)
+ExpectedBox Question(const Message& message, bool goesOn)
 {
-    return {QLatin1String(text), QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel,
-            goesOn ? QMessageBox::Ok : QMessageBox::Cancel};
-}
-
-ExpectedBox BlankQuestion(bool goesOn)
-{
-    return Question("AZZERARE I DATI DEL GIORNO ?              ", goesOn);
-}
-
-ExpectedBox InitialQuestion(bool goesOn)
-{
-    return Question("RIPRISTINARE LE LISTE INIZIALI ?              ", goesOn);
-}
-
-ExpectedBox PreviousQuestion(bool goesOn)
-{
-    return Question("RIPRISTINARE LE LISTE PRECEDENTI ?              ", goesOn);
+    return BoxOf(message, goesOn ? QMessageBox::Ok : QMessageBox::Cancel);
 }
 
 /// Adds an entry to each list.
@@ -76,7 +60,7 @@ void OptionsTest::blankTheDay()
     const QString km = page.Caption("lblNumKMPercorsi");
     const QString runs = page.Caption("lblNumGiorniCorseAnno");
     DayPage::Day().Note[1] = "nascosta";
-    page.script.Expect(BlankQuestion(true));
+    page.script.Expect(Question(Messages::kBlankDay, true));
     page.Menu("mnuOpzioni", Qt::Key_Z);
     VERIFY_SCRIPT(page.script);
     RecordGiorno blank;
@@ -109,7 +93,7 @@ void OptionsTest::blankTheDayCancelled()
     page.Start();
     const RecordGiorno before = DayPage::Day();
     page->upKM->SetValue(17);
-    page.script.Expect(BlankQuestion(false));
+    page.script.Expect(Question(Messages::kBlankDay, false));
     page.Menu("mnuOpzioni", Qt::Key_Z);
     VERIFY_SCRIPT(page.script);
     QVERIFY(DayPage::Day() == before);
@@ -123,7 +107,7 @@ void OptionsTest::initialLists()
     page.Start();
     AddEntries(page);
     QCOMPARE(Module1::NomiPercorso[1], Text("Lungofiume"));
-    page.script.Expect(InitialQuestion(true));
+    page.script.Expect(Question(Messages::kFirstLists, true));
     page.Menu("mnuOpzioni", Qt::Key_I);
     VERIFY_SCRIPT(page.script);
     QVERIFY(Counts(page.Page()) == kInitialCounts);
@@ -147,7 +131,7 @@ void OptionsTest::previousLists()
     AddEntries(page);
     Module1::NomiPercorso[1] = "un altro";
     page->NomeBaseFile = "dimenticato";
-    page.script.Expect(PreviousQuestion(true));
+    page.script.Expect(Question(Messages::kSavedLists, true));
     page.Menu("mnuOpzioni", Qt::Key_L);
     VERIFY_SCRIPT(page.script);
     // The seasons have no file and keep what was added.
@@ -169,7 +153,7 @@ void OptionsTest::previousListsMissing()
         page.folder.Remove(QStringLiteral("prova/%1.lsx").arg(list));
     }
     page.folder.Remove(QStringLiteral("prova/ListePercorso"));
-    page.script.Expect(PreviousQuestion(true));
+    page.script.Expect(Question(Messages::kSavedLists, true));
     ExpectListsNotLoaded(page.script, kNotFound);
     page.script.Expect(RoutesNotLoaded(QStringLiteral("File non trovato")));
     page.Menu("mnuOpzioni", Qt::Key_L);
@@ -193,7 +177,8 @@ void OptionsTest::listsCancelled()
     AddEntries(page);
     const std::vector<int> before = Counts(page.Page());
     Module1::NomiPercorso[1] = "un altro";
-    page.script.Expect(entry == Qt::Key_I ? InitialQuestion(false) : PreviousQuestion(false));
+    page.script.Expect(entry == Qt::Key_I ? Question(Messages::kFirstLists, false)
+                                          : Question(Messages::kSavedLists, false));
     page.Menu("mnuOpzioni", Qt::Key(entry));
     VERIFY_SCRIPT(page.script);
     QVERIFY(Counts(page.Page()) == before);

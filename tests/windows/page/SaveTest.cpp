@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Save and Save As.
 #include "core/CMouse.h"
+#include "core/Messages.h"
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -288,7 +288,7 @@ void SaveTest::saveAsANameOfAFile()
     DayPage page(CalendarDate(2026, 3, 1));
     page.Start();
     page.script.Expect(page.SaveDialog(kPreset, QStringLiteral("nomeload")));
-    page.script.Expect(FolderNameRefusal(QStringLiteral("nomeload")));
+    page.script.Expect(BoxOf(Messages::kFolderIsAFile, QMessageBox::Ok, {"nomeload"}));
     page.script.Expect(page.SaveDialog(QStringLiteral("nomeload"), QStringLiteral("copia")));
     page.Menu("mnuFile", Qt::Key_V);
     VERIFY_SCRIPT(page.script);
@@ -311,7 +311,7 @@ void SaveTest::saveAsOtherFolder()
     page.folder.MakeFolder(QStringLiteral("altrove"));
     Module1::FileModificato = 1;
     page.script.Expect(page.SaveDialog(kPreset, page.folder.Native(QStringLiteral("altrove/copia.zlv"))));
-    page.script.Expect(SaveRefusal());
+    page.script.Expect(Messages::kSavesElsewhere);
     page.script.Expect(page.SaveDialog(kPreset, cancels ? QString() : QStringLiteral("copia")));
     page.Menu("mnuFile", Qt::Key_V);
     VERIFY_SCRIPT(page.script);

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the start finds in the program's folder, and what it lays down there.
 #include "core/Files.h"
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "diary/RouteModel.h"
 #include "support/DayPage.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 #include <QProcess>
@@ -292,9 +292,9 @@ void StartTest::pointerMissing()
     DayPage page;
     page.folder.Remove(QStringLiteral("nomeload"));
     page.script.Expect(page.NewDialog(QStringLiteral("mio")));
-    page.script.Expect(SaveRefusal());
+    page.script.Expect(Messages::kSavesElsewhere);
     page.script.Expect(page.NewDialog(QStringLiteral("altro")));
-    page.script.Expect(SaveRefusal());
+    page.script.Expect(Messages::kSavesElsewhere);
     page.script.Expect(page.NewDialog());
     page.script.Expect(Report(QStringLiteral("**ERRORE : 76 Cartella non trovata")));
     ExpectNoFolder(page.script);

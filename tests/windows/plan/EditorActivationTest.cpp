@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Switching a table of the editor on and off.
 #include "core/Conversions.h"
+#include "core/Messages.h"
 #include "diary/Module1.h"
 #include "diary/TableModel.h"
 #include "support/Bytes.h"
-#include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
 #include "support/WindowTest.h"
@@ -25,12 +25,6 @@ const CalendarDate kBeforehand(2026, 3, 1);
 ExpectedBox DateNeeded()
 {
     return Warning(QStringLiteral(" INSERIRE ' DATA INIZIO ' ALLENAMENTO     "));
-}
-
-ExpectedBox ReplaceQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral(" DISATTIVARE LA TABELLA ATTUALMENTE ATTIVA, ED ATTIVARE QUESTA ?  "),
-            QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel, press};
 }
 
 QByteArray StartInMemory()
@@ -219,7 +213,7 @@ void EditorActivationTest::replacesTheActiveTable()
     Accept(desk);
     TypeLastOfYear(QStringLiteral("8"));
 
-    desk.script.Expect(ReplaceQuestion(static_cast<QMessageBox::StandardButton>(answer)));
+    desk.script.Expect(Messages::kReplaceActiveTable, static_cast<QMessageBox::StandardButton>(answer));
     desk.script.Meanwhile([&] { QCOMPARE(desk.Nometab(), desk.Pointer(kOther)); });
     Activate(desk);
     QCOMPARE(desk.StartDate(), QByteArray("2|3|2028"));
@@ -269,7 +263,7 @@ void EditorActivationTest::anUnsavedTableIsSavedFirst()
     TypeLastOfYear(QStringLiteral("7"));
     const QByteArray date = desk.DateBack();
     if (another) {
-        desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+        desk.script.Expect(Messages::kReplaceActiveTable, QMessageBox::Ok);
     }
     desk.script.Expect(desk.SaveTableDialog(QString(), saves ? QStringLiteral("nuova") : QString()));
     Activate(desk);
@@ -329,7 +323,7 @@ void EditorActivationTest::aTableThatIsNotWrittenIsNotActive()
         desk.folder.Dangle(QStringLiteral("prova/nuova.tab"));
     }
     if (another) {
-        desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+        desk.script.Expect(Messages::kReplaceActiveTable, QMessageBox::Ok);
     }
     desk.script.Expect(desk.SaveTableDialog(QString(), QStringLiteral("nuova")));
     if (full) {
@@ -348,7 +342,7 @@ void EditorActivationTest::aTableThatIsNotWrittenIsNotActive()
     QCOMPARE(desk.Editor()->NomeFileForm, Text());
     // There is still no file of its own, so the next try asks again.
     if (another) {
-        desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+        desk.script.Expect(Messages::kReplaceActiveTable, QMessageBox::Ok);
     }
     desk.script.Expect(desk.SaveTableDialog(file, QStringLiteral("buona")));
     Activate(desk);
@@ -388,8 +382,7 @@ void EditorActivationTest::theFolderRuleHoldsForAnUnsavedTable()
     desk.WriteStart("5", "4", "2026");
     Accept(desk);
     desk.script.Expect(desk.SaveTableDialog(QString(), desk.folder.Native(QStringLiteral("altrove/nuova.tab"))));
-    desk.script.Expect(ExpectedBox{QStringLiteral(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   "),
-                                   QMessageBox::Critical});
+    desk.script.Expect(Messages::kTableSavesElsewhere);
     desk.script.Expect(desk.SaveTableDialog(QStringLiteral("nuova"), QStringLiteral("nuova")));
     Activate(desk);
     VerifyActive(desk, "nuova.tab", QStringLiteral("nuova"));

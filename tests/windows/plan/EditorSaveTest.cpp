@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // "Salva" of the table editor: its dialog, the rule of the folder, and the file.
+#include "core/Messages.h"
 #include "diary/Module1.h"
-#include "support/FileBoxes.h"
 #include "support/TableDesk.h"
 #include "support/TableLines.h"
 #include "support/WindowTest.h"
@@ -24,11 +24,6 @@ const QString kOpenedCaption = QStringLiteral("Tabella allenamento : Base 10 km 
 QByteArray Sample()
 {
     return SampleFile(QStringLiteral("prova/Base 10 km.tab"));
-}
-
-ExpectedBox FolderRefusal()
-{
-    return {QStringLiteral(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   "), QMessageBox::Critical};
 }
 
 /// Presses "Salva" and waits for all that is to come of it.
@@ -279,10 +274,10 @@ void EditorSaveTest::otherFolders()
     const QStringList files = desk.folder.Files();
     const QString wrong = desk.folder.Native(folder) + QStringLiteral("/Copia.tab");
     desk.script.Expect(desk.SaveTableDialog(kPreset, wrong));
-    desk.script.Expect(FolderRefusal());
+    desk.script.Expect(Messages::kTableSavesElsewhere);
     // As often as it takes, with the bare name and the right folder.
     desk.script.Expect(desk.SaveTableDialog(QStringLiteral("Copia"), wrong));
-    desk.script.Expect(FolderRefusal());
+    desk.script.Expect(Messages::kTableSavesElsewhere);
     desk.script.Expect(desk.SaveTableDialog(QStringLiteral("Copia"), cancels ? QString() : QStringLiteral("Copia")));
     Save(desk);
     QVERIFY(Module1::FlagTabellaSalvata == (cancels ? 1 : 0));
@@ -304,7 +299,7 @@ void EditorSaveTest::theBareNameStaysAfterARefusal()
     desk.folder.MakeFolder(QStringLiteral("altrove"));
     desk.StartWith(kTable);
     desk.script.Expect(desk.SaveTableDialog(kPreset, desk.folder.Native(QStringLiteral("altrove/Mia.tab"))));
-    desk.script.Expect(FolderRefusal());
+    desk.script.Expect(Messages::kTableSavesElsewhere);
     desk.script.Expect(desk.SaveTableDialog(QStringLiteral("Mia")));
     Save(desk);
     desk.script.Expect(desk.SaveTableDialog(QStringLiteral("Mia")));

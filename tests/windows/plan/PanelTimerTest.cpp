@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the page takes up from the editor: the active table, its pointer, and the table read again.
+#include "core/Messages.h"
 #include "diary/TableModel.h"
 #include "support/PlanDesk.h"
 #include "support/WindowTest.h"
@@ -22,12 +23,6 @@ QByteArray Panel(const char* name, int km)
 void PutTable(const PlanDesk& desk, const char* name, int km)
 {
     desk.PutTable(QString::fromLatin1(name), TableBytes(kStart).SetRow(1, QByteArray::number(km)));
-}
-
-ExpectedBox ReplaceQuestion(QMessageBox::StandardButton press)
-{
-    return {QStringLiteral(" DISATTIVARE LA TABELLA ATTUALMENTE ATTIVA, ED ATTIVARE QUESTA ?  "),
-            QMessageBox::Information, QMessageBox::Ok | QMessageBox::Cancel, press};
 }
 
 } // namespace
@@ -216,12 +211,12 @@ void PanelTimerTest::thePointerFollowsTheActiveTable()
 
     desk.OpenTable("Beta.tab");
     hand::Click(*desk.Editor()->cmdOK);
-    desk.script.Expect(ReplaceQuestion(QMessageBox::Cancel));
+    desk.script.Expect(Messages::kReplaceActiveTable, QMessageBox::Cancel);
     hand::Click(*desk.Editor()->cmdAttiva);
     TRY_SCRIPT(desk.script);
     QCOMPARE(desk.Pointer(), desk.PointerTo(accented));
     QCOMPARE(desk.Caption("lblTabNomeFile"), QString::fromLatin1("Et\xE0"));
-    desk.script.Expect(ReplaceQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kReplaceActiveTable, QMessageBox::Ok);
     hand::Click(*desk.Editor()->cmdAttiva);
     TRY_SCRIPT(desk.script);
     QTRY_COMPARE(desk.Pointer(), desk.PointerTo("Beta.tab"));

@@ -12,11 +12,6 @@ namespace
 const QString kTitle = QStringLiteral("Salva Tabella con nome");
 const QDate kNoStart(2007, 1, 1);
 
-ExpectedBox FolderRefusal()
-{
-    return {QStringLiteral(" LA TABELLA NON PUO' ESSERE SALVATA IN UN ALTRA CARTELLA   "), QMessageBox::Critical};
-}
-
 /// A new table of which only the last row is filled.
 void WriteLastRow(PlanDesk& desk)
 {
@@ -151,7 +146,7 @@ void TableSaveTest::anotherFolder()
     WriteLastRow(desk);
     const QString name = folder + QStringLiteral("/Piano 2.tab");
     desk.script.Expect(desk.SaveTableDialog(QString(), desk.folder.Native(name)));
-    desk.script.Expect(FolderRefusal());
+    desk.script.Expect(Messages::kTableSavesElsewhere);
     // The bare name is kept, the folder is not.
     desk.script.Expect(
         desk.SaveTableDialog(QStringLiteral("Piano 2"), cancels ? QString() : QStringLiteral("Piano 2")));
@@ -198,3 +193,4 @@ void TableSaveTest::theFolderInOtherLetters()
 
 ZELVIA_WINDOW_TEST(zelvia::test::TableSaveTest)
 #include "TableSaveTest.moc"
+#include "core/Messages.h"

@@ -64,7 +64,7 @@ void BoxesTest::limitsHoldTheFocus()
         } else {
             hand::Click(way == 2 ? static_cast<QWidget&>(desk.Box(RaceColumn::Gara, 9)) : *desk.Window()->cmdSalva);
         }
-        QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+        TRY_SCRIPT(desk.script);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
         QTRY_VERIFY(desk.Window()->isActiveWindow());
         QTRY_COMPARE(CalendarDesk::Focused(), desk.Box(box, 4).objectName().toLatin1());

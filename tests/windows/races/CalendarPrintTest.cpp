@@ -126,7 +126,7 @@ void CalendarPrintTest::theFocusComesBack()
         desk.script.Expect(Report(QLatin1String(kPrinterReport)));
     }
     hand::Click(*desk.Window()->cmdStampa);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_COMPARE(EntryPage::Focused(), focus);
 }
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The close of the calendar's window, with its question and its refusals.
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -34,7 +34,7 @@ namespace
 void PressCloseBox(const CalendarDesk& desk)
 {
     desk.Window()->close();
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
 }
 
@@ -76,12 +76,12 @@ void ClosingTest::theQuestion()
     desk.StartOpen();
     desk.WriteRow(1, "8|2|2026|Corrida");
     const QPointer<frmCalendario> window = desk.Window();
-    desk.script.Expect(CalendarCloseQuestion(static_cast<QMessageBox::StandardButton>(answer)));
+    desk.script.Expect(Messages::kRacesNotSaved, static_cast<QMessageBox::StandardButton>(answer));
     if (closeBox) {
         PressCloseBox(desk);
     } else {
         hand::Click(*window->cmdEsci);
-        QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+        TRY_SCRIPT(desk.script);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     }
     const QByteArray kept = CalendarBytes().SetRow(1, "8|2|2026|Corrida").Bytes();
@@ -116,7 +116,7 @@ void ClosingTest::theCloseBoxDoesNot()
     desk.StartOpen();
     desk.Write(RaceColumn::Minuti, 1, QStringLiteral("75"));
     const QPointer<frmCalendario> window = desk.Window();
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Yes);
     PressCloseBox(desk);
     QTRY_VERIFY(window.isNull());
     QCOMPARE(desk.File(), CalendarBytes().SetRow(1, "||||||||||75").Bytes());
@@ -128,7 +128,7 @@ void ClosingTest::doubleDatesKeepTheWindow()
     desk.StartOpen();
     desk.WriteRow(1, "8|2|2026|Corrida");
     desk.WriteRow(2, "8|2|2026|Notturna");
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Yes);
     desk.script.Expect(Stop(QStringLiteral("8-2-2026   DATA PRESENTE AL  N° 1  E AL N° 2  ")));
     desk.TryToLeave();
     QCOMPARE(desk.File(), CalendarBytes().Bytes());
@@ -166,7 +166,7 @@ void ClosingTest::anUnwritableFile()
     desk.StartOpen();
     desk.WriteRow(1, "21|5|2026|Corrida");
     desk.folder.Block(QStringLiteral("prova/CalendarioGare"));
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Yes);
     desk.script.Expect(BareReport(kDenied));
     desk.Leave();
     VERIFY_SCRIPT(desk.script);
@@ -187,9 +187,9 @@ void ClosingTest::theEndOfTheProgram()
     desk.StartOpen();
     desk.WriteRow(1, "8|2|2026|Corrida");
     const QPointer<frmCalendario> window = desk.Window();
-    desk.script.Expect(CalendarCloseQuestion(static_cast<QMessageBox::StandardButton>(answer)));
+    desk.script.Expect(Messages::kRacesNotSaved, static_cast<QMessageBox::StandardButton>(answer));
     desk.Menu("mnuFile", Qt::Key_E);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(desk.Gone());
     if (answer == QMessageBox::Cancel) {
         // The calendar stays alone, and still works.

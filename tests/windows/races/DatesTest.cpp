@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the calendar's window makes of the dates: when a page is turned, at a save, at the close.
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
 #include "support/WindowTest.h"
@@ -78,7 +79,7 @@ void DatesTest::datesAreCorrected()
         QCOMPARE(desk.Row(3), date.join('|') + "|||||||||||");
         VERIFY_SCRIPT(desk.script);
         if (*way == 's') {
-            desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+            desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
         }
         for (const QByteArray& what : told.split(';')) {
             if (what.startsWith("MAX")) {
@@ -94,13 +95,13 @@ void DatesTest::datesAreCorrected()
         case 's': hand::Click(*desk.Window()->cmdSalva); break;
         default:
             if (typed != "//") {
-                desk.script.Expect(CalendarCloseQuestion(QMessageBox::Cancel));
+                desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Cancel);
                 desk.TryToLeave();
             } else {
                 desk.Leave();
             }
         }
-        QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+        TRY_SCRIPT(desk.script);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
         QTRY_COMPARE(RaceInMemory(3), kept + "|||0|0|0|0|0|0|0||0");
         if (*way == 's') {
@@ -164,10 +165,10 @@ void DatesTest::twoRacesOnOneDate()
                 Stop(QStringLiteral("5-9-2026   DATA PRESENTE AL  N° %1  ").arg(QString::fromUtf8(rows))));
         }
     };
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     expectThem();
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(desk.File(), file.Bytes());
     // What could not be saved stays in memory.

@@ -4,7 +4,6 @@
 #include "diary/CalendarModel.h"
 #include "support/Bytes.h"
 #include "support/CalendarDesk.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The calendar's window while another diary is opened or begun.
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
 #include "support/DiaryBytes.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -47,7 +47,7 @@ public:
         Page().activateWindow();
         AwaitFront(Page());
         Menu("mnuFile", opens ? Qt::Key_A : Qt::Key_N);
-        QTRY_VERIFY2(script.Problems().isEmpty(), qPrintable(script.Problems()));
+        TRY_SCRIPT(script);
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     }
 
@@ -156,7 +156,7 @@ void OtherDiaryTest::theQuestionFirst()
     TwoDiaries desk;
     desk.StartOpen();
     desk.WriteRow(2, "10|2|2026|Lungofiume");
-    desk.script.Expect(CalendarCloseQuestion(static_cast<QMessageBox::StandardButton>(answer)));
+    desk.script.Expect(Messages::kRacesNotSaved, static_cast<QMessageBox::StandardButton>(answer));
     if (answer != QMessageBox::Cancel) {
         desk.script.Expect(desk.Dialog(opens, opens ? kSecond : QStringLiteral("nuova")));
     }
@@ -199,7 +199,7 @@ void OtherDiaryTest::theDialogIsCancelled()
     desk.NextPage();
     QTRY_COMPARE(desk.FirstNumber(), QByteArray("21"));
     desk.WriteRow(2, "10|2|2026|Lungofiume");
-    desk.script.Expect(CalendarCloseQuestion(saved ? QMessageBox::Yes : QMessageBox::No));
+    desk.script.Expect(Messages::kRacesNotSaved, saved ? QMessageBox::Yes : QMessageBox::No);
     desk.script.Expect(desk.Dialog(opens, QString()));
     desk.Take(opens);
     // The calendar is the one it was, on the page it was on.
@@ -220,7 +220,7 @@ void OtherDiaryTest::doubleDatesEndTheCommand()
     TwoDiaries desk;
     desk.StartOpen();
     desk.WriteRow(2, "8|2|2026|Lungofiume");
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Yes);
     desk.script.Expect(Stop(QStringLiteral("8-2-2026   DATA PRESENTE AL  N° 1  E AL N° 2  ")));
     desk.Take(true);
     QCOMPARE(desk.Caption("lblNomeFile"), QStringLiteral("prova"));
@@ -235,9 +235,9 @@ void OtherDiaryTest::refusalDoesNotAskAgain()
     desk.folder.Write(QStringLiteral("altrove/x.zlv"), DiaryBytes::Blank(2026).Bytes());
     desk.StartOpen();
     desk.WriteRow(2, "10|2|2026|Lungofiume");
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::No));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::No);
     desk.script.Expect(desk.OpenDialog(kPreset, desk.folder.Native(QStringLiteral("altrove/x.zlv"))));
-    desk.script.Expect(OpenRefusal());
+    desk.script.Expect(Messages::kOpensElsewhere);
     desk.script.Expect(desk.OpenDialog(kPreset, kSecond));
     desk.Take(true);
     QCOMPARE(desk.Row(1), QByteArray("1|3|2026|Stracitta|Ponte|||||||||"));
@@ -250,8 +250,8 @@ void OtherDiaryTest::itsQuestionComesBeforeTheDiarys()
     desk.StartOpen();
     desk.WriteRow(2, "10|2|2026|Lungofiume");
     desk->upKM->SetValue(17);
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::No));
-    desk.script.Expect(SaveQuestion(QMessageBox::Yes));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::No);
+    desk.script.Expect(Messages::kSaveDiary, QMessageBox::Yes);
     desk.script.Expect(desk.OpenDialog(kPreset, kSecond));
     desk.Take(true);
     // Not saved by the calendar, its changes are in memory; saving the diary writes them.

@@ -24,7 +24,7 @@ void PlanRaces(CalendarDesk& desk)
     desk.Write(RaceColumn::Giorno, 1, QStringLiteral("35"));
     desk.script.Expect(Warning(QStringLiteral("MAX 31 GIORNI                 ")));
     hand::Key(Qt::Key_Return);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     desk.Write(RaceColumn::Giorno, 1, QStringLiteral("31"));
     hand::Key(Qt::Key_Return);
     for (const char* value : {"4", "2026", "GIRO DELLE MURA", "CITTA ALTA", "10"}) {
@@ -49,20 +49,20 @@ void RaceYearTest::fromThePlanToTheResult()
     VERIFY_SCRIPT(desk.script);
 
     // A date without its month is reported and saved unchanged, a date that occurs twice is not saved.
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     desk.script.Expect(Warning(QStringLiteral(" MANCA AL N° 21 :   MESE   ")));
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     CalendarBytes file;
     file.SetRow(1, "30|4|2026|Giro Delle Mura|Citta Alta|10").SetRow(2, "24|5|2026|Notturna|Lido|9|500");
     file.SetRow(21, "24|0|2026|Doppia|Ponte|21|97");
     QTRY_COMPARE(desk.File(), file.Bytes());
     desk.Write(RaceColumn::Mese, 1, QStringLiteral("5"));
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     desk.script.Expect(Stop(QStringLiteral("24-5-2026   DATA PRESENTE AL  N° 2  E AL N° 21  ")));
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(desk.File(), file.Bytes());
     desk.Write(RaceColumn::Mese, 1, QStringLiteral("6"));
@@ -93,7 +93,7 @@ void RaceYearTest::fromThePlanToTheResult()
         }
         hand::Key(Qt::Key_Return);
     }
-    desk.script.Expect(CalendarCloseQuestion(QMessageBox::Cancel));
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Cancel);
     desk.TryToLeave();
     QCOMPARE(desk.File(), file.Bytes());
     QCOMPARE(desk.Row(2), QByteArray("24|5|2026|Notturna|Lido|9|500|1.234|217||44|05|MM45|27"));
@@ -114,3 +114,4 @@ void RaceYearTest::fromThePlanToTheResult()
 
 ZELVIA_WINDOW_TEST(zelvia::test::RaceYearTest)
 #include "RaceYearTest.moc"
+#include "core/Messages.h"

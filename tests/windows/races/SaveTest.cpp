@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // "Salva" of the calendar's window, and the calendar that the page's own commands write.
 #include "support/CalendarDesk.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 #include <QFile>
@@ -92,10 +91,10 @@ void SaveTest::aFileThatCannotBeWritten()
         desk.folder.Remove(path);
         QVERIFY(QFile::link(target, desk.folder.Native(path)));
     }
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     desk.script.Expect(BareReport(report));
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(RaceInMemory(1), QByteArray("0|0|0|Corrida||0|0|0|0|0|0|0||0"));
     // The writing reports for itself: to the window the calendar is saved.
@@ -109,11 +108,11 @@ void SaveTest::errorsEndTheSave()
     CalendarDesk desk;
     desk.StartOpen();
     desk.Box(RaceColumn::Anno, 1).SetContent("9999999999");
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     desk.script.Expect(Report(QStringLiteral("ContrData - ERRORE : ") + overflow));
     desk.script.Expect(BareReport(overflow));
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     QCOMPARE(desk.File(), CalendarBytes().Bytes());
 }
@@ -150,3 +149,4 @@ void SaveTest::afterNewAHundredBlankRows()
 
 ZELVIA_WINDOW_TEST(zelvia::test::SaveTest)
 #include "SaveTest.moc"
+#include "core/Messages.h"

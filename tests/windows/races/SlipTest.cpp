@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race of the day as a slip on the page.
+#include "core/Messages.h"
 #include "diary/CalendarModel.h"
 #include "support/CalendarDesk.h"
-#include "support/FileBoxes.h"
 #include "support/WindowTest.h"
 
 namespace zelvia::test
@@ -144,10 +144,10 @@ void SlipTest::theLowerOfTwoRows()
     desk.StartOpen();
     desk.WriteRow(9, "21|5|2026|Notturna");
     desk.WriteRow(4, "21|5|2026|Corrida");
-    desk.script.Expect(CalendarSaveQuestion(QMessageBox::Ok));
+    desk.script.Expect(Messages::kSaveRaces, QMessageBox::Ok);
     desk.script.Expect(Stop(QStringLiteral("21-5-2026   DATA PRESENTE AL  N° 4  E AL N° 9  ")));
     hand::Click(*desk.Window()->cmdSalva);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     desk.GoTo(141);
     QCOMPARE(Panel(desk), QByteArray("race"));

@@ -133,7 +133,7 @@ void SearchPrintTest::aChartThatFails()
     Clipboard().setText(QStringLiteral("quello di prima"));
     desk.script.Expect(Report(QLatin1String(kPrinterReport)));
     hand::Click(*desk.Charts()->cmdStampa);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QVERIFY(!desk.Charts()->cmdStampa->isEnabled());
     // The printer is asked for before the clipboard is touched.
     QCOMPARE(Clipboard().text(), QStringLiteral("quello di prima"));
@@ -217,7 +217,7 @@ void SearchPrintTest::theFocusComesBackToTheChart()
         desk.script.Expect(Report(QLatin1String(kPrinterReport)));
     }
     hand::Click(*desk.Charts()->cmdStampa);
-    QTRY_VERIFY2(desk.script.Problems().isEmpty(), qPrintable(desk.script.Problems()));
+    TRY_SCRIPT(desk.script);
     QTRY_COMPARE(SearchDesk::Focused(), focus);
 }
 
