@@ -4,10 +4,12 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
-#include "diary/CategoryTexts.h"
 #include "diary/Module1.h"
 
 #include <algorithm>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 
 namespace zelvia
 {
@@ -28,58 +30,42 @@ namespace
 
 using R = RecordGiorno;
 
-template <Text R::*field>
-bool Filled(const R& day)
+template <std::size_t I>
+constexpr const auto& kField = std::get<I>(kFields);
+
+using Statistics = std::array<Statistic, kCountedFields>;
+
+/// Adds the statistic of a field that has one.
+template <std::size_t I>
+void Append(Statistics& rows, std::size_t& count)
 {
-    return !(day.*field).empty();
+    if constexpr (requires { kField<I>.statistic; }) {
+        const FieldStatistic& given = kField<I>.statistic;
+        if (given.name.empty()) {
+            return;
+        }
+        using Value = std::remove_cvref_t<decltype(R().*kField<I>.member)>;
+        Statistic& row = rows[count++];
+        row = {kField<I>.label, given.name, given.criterion, given.counted, given.text};
+        if (row.counts == nullptr) {
+            row.counts = [](const R& day) { return day.*kField<I>.member != Value(); };
+        }
+        if constexpr (std::is_same_v<Value, Text>) {
+            row.text = [](const R& day) { return day.*kField<I>.member; };
+        } else if (row.text == nullptr) {
+            row.number = [](const R& day) { return i32(day.*kField<I>.member); };
+        }
+    }
 }
 
-template <Text R::*field>
-Text TextOf(const R& day)
+const Statistics kStatistiche = []<std::size_t... I>(std::index_sequence<I...>)
 {
-    return day.*field;
+    Statistics rows{};
+    std::size_t count = 0;
+    (Append<I>(rows, count), ...);
+    return rows;
 }
-
-template <auto field>
-bool NotZero(const R& day)
-{
-    return day.*field != 0;
-}
-
-template <auto field>
-i32 NumberOf(const R& day)
-{
-    return day.*field;
-}
-
-bool HasDistance(const R& day)
-{
-    return day.Km != 0 || day.Metri != 0;
-}
-
-template <Text R::*field>
-constexpr Statistic TextStatistic(TextView title, TextView error, TextView listError)
-{
-    return {title, error, listError, Filled<field>, TextOf<field>};
-}
-
-/// In the order of the categories.
-constexpr Statistic kStatistiche[] = {
-    TextStatistic<&R::Percorso>("Percorso", "StatisPercorso - ERRORE : ", "Lista Percorso - ERRORE : "),
-    TextStatistic<&R::Lunghezza>("Lunghezza", "StatisLunghezza - ERRORE : ", "Lista Lunghezza - ERRORE : "),
-    {"Km", "StatisKm - ERRORE : ", "Lista Km - ERRORE : ", HasDistance, KmText},
-    TextStatistic<&R::Modo>("Andatura", "SatisAndatura - ERRORE : ", "Lista Andatura - ERRORE : "),
-    TextStatistic<&R::Fondo>("Terreno", "StatisFondo - ERRORE : ", "Lista Fondo - ERRORE : "),
-    TextStatistic<&R::Tipo>("Tipo", "StatisTipo - ERRORE : ", "Lista Tipo - ERRORE : "),
-    TextStatistic<&R::Stagione>("Stagione", "StatisStagione - ERRORE : ", "Lista Stagione - ERRORE : "),
-    TextStatistic<&R::TempoAtm>("Meteo", "StatisMeteo - ERRORE : ", "Lista Meteo - ERRORE : "),
-    TextStatistic<&R::Temperatura>("Temperatura", "StatisTemperatura - ERRORE : ", "Lista Temperatura - ERRORE : "),
-    {"Corridori", "StatisCorridori - ERRORE : ", "Lista Corridori - ERRORE : ", HasDistance, nullptr,
-     NumberOf<&R::Corridori>},
-    {"Peso", "StatisPeso - ERRORE : ", "Lista Peso - ERRORE : ", NotZero<&R::Peso>, nullptr, NumberOf<&R::Peso>},
-    {"Ripetizioni", "StatisRipetizioni - ERRORE : ", "Lista Ripetizioni - ERRORE : ", NotZero<&R::Ripetizioni>,
-     RepetitionsText},
-};
+(std::make_index_sequence<std::tuple_size_v<decltype(kFields)>>());
 
 bool SameValue(const Text& slot, const Text& value)
 {
@@ -231,7 +217,9 @@ Text StatisticLine(TextView name, i16 count)
 
 void RunStatistic(const Statistic& statistic, StatisticView& view)
 {
-    Trap(statistic.error, [&] {
+    // One of them is misspelt.
+    const TextView routine = statistic.name == "Andatura" ? "Satis" : "Statis";
+    Trap(Text(routine) + Text(statistic.name) + " - ERRORE : ", [&] {
         TitoloStatistica = Text(statistic.title);
         CountValues(statistic);
         if (statistic.number != nullptr) {

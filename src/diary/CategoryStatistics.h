@@ -5,14 +5,17 @@
 #include "core/BoundedArray.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "diary/Fields.h"
 #include "diary/RecordGiorno.h"
+#include "diary/SearchCriteria.h"
 
 #include <array>
+#include <cstddef>
 
 namespace zelvia
 {
 
-/// The fields of a day whose values can be counted, in the order of their menu.
+/// The fields of a day whose values can be counted, in the order of the table of fields.
 enum class Categoria {
     Percorso,
     Lunghezza,
@@ -28,16 +31,19 @@ enum class Categoria {
     Ripetizioni
 };
 
-inline constexpr std::array<Categoria, 12> kAllCategories = {
-    Categoria::Percorso,    Categoria::Lunghezza, Categoria::Km,       Categoria::Andatura,
-    Categoria::Fondo,       Categoria::Tipo,      Categoria::Stagione, Categoria::Meteo,
-    Categoria::Temperatura, Categoria::Corridori, Categoria::Peso,     Categoria::Ripetizioni};
+inline constexpr auto kAllCategories = [] {
+    std::array<Categoria, kCountedFields> all{};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = static_cast<Categoria>(i);
+    }
+    return all;
+}();
 
 /// What is specific to one category's statistic.
 struct Statistic {
-    TextView title;                                   ///< The word that names the category.
-    TextView error;                                   ///< Title of the statistic's error report.
-    TextView listError;                               ///< The same for the list of the search.
+    TextView title; ///< The word that names the category.
+    TextView name;  ///< As its routines, its menu entry and its button have it.
+    Criterion criterion;
     bool (*counts)(const RecordGiorno& day);          ///< Whether the day counts.
     Text (*text)(const RecordGiorno& day);            ///< Its value, null where that is a number.
     i32 (*number)(const RecordGiorno& day) = nullptr; ///< Its value, null where that is a text.

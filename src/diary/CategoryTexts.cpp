@@ -32,6 +32,11 @@ i16 NumberBetween(TextView text, TextView first, TextView second)
 
 } // namespace
 
+bool HasDistance(const RecordGiorno& day)
+{
+    return day.Km != 0 || day.Metri != 0;
+}
+
 Text KmText(const RecordGiorno& day)
 {
     return InTwoColumns(day.Km) + "," + PlainText(day.Metri);

@@ -9,6 +9,9 @@
 namespace zelvia
 {
 
+/// Whether a distance was entered.
+bool HasDistance(const RecordGiorno& giorno);
+
 /// A day's distance as a value of its statistic: " 7,500", "12,0". The blank in front of one digit keeps the comma in
 /// its column; the metres are not padded.
 Text KmText(const RecordGiorno& day);

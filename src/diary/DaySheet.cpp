@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/DaySheet.h"
 
-#include <cstddef>
-#include <initializer_list>
 #include <span>
 
 namespace zelvia
@@ -14,13 +12,9 @@ namespace
 constexpr int kLineStep = 2;
 constexpr int kFirstLine = 4;
 constexpr int kLeftLabels = 4;
-constexpr int kLeftValues = 16;
 constexpr int kRightLabels = 48;
 constexpr int kRightValues = 62;
 
-constexpr std::array<TextView, 16> kFieldLabels = {
-    "Percorso ", "Lunghezza", "Km",       "Andatura ", "Terreno",     "Tipo",      "Ora Inizio", "Ora Fine",
-    "Tempo",     "Media",     "Stagione", "Meteo",     "Temperatura", "Corridori", "Peso",       "Ripetizioni"};
 constexpr std::array<TextView, 6> kTableLabels = {"Km", "Tempo", "Media Km", "Andatura", "Terreno", "Ripetizioni"};
 constexpr std::array<TextView, 8> kRaceLabels = {"GARA :  ",  "Località "_t, "Partecipanti", "Tempo Impiegato",
                                                  "Lunghezza", "Risultato",   "Categoria",    "Risultato"};
@@ -36,17 +30,23 @@ void PrintColumn(Sheet& sheet, int x, int firstLine, const auto& texts)
     }
 }
 
-void PrintRepetitions(Sheet& sheet, const DaySheetTexts& giorno)
+void PrintFields(Sheet& sheet, const DaySheetTexts& giorno)
 {
-    constexpr int y = 34;
-    const SheetCell cells[] = {{16, y, giorno.ripetizioniVolte},
-                               {18, y, "x"},
-                               {20, y, giorno.ripetizioniDistanza},
-                               {25, y, "@"},
-                               {27, y, giorno.ripetizioniQuante}};
-    for (const SheetCell& cell : cells) {
-        sheet.Print(cell.x, cell.y, cell.text);
-    }
+    constexpr int markBefore = 2;
+    ForEachPrinted([&](const auto& field) {
+        if (!field.place.caption.empty()) {
+            sheet.Print(kLeftLabels, field.place.line, field.place.caption);
+        }
+    });
+    sheet.SetFontItalic(true);
+    const auto* value = giorno.campi.begin();
+    ForEachPrinted([&](const auto& field) {
+        const SheetPlace& place = field.place;
+        if (!place.mark.empty()) {
+            sheet.Print(place.column - markBefore, place.line, place.mark);
+        }
+        sheet.Print(place.column, place.line, *value++);
+    });
 }
 
 void PrintTable(Sheet& sheet, const DaySheetTexts& giorno)
@@ -90,10 +90,7 @@ Sheet DaySheet(const DaySheetTexts& giorno)
     sheet.Print(40, 2, giorno.data);
 
     sheet.SetFontSize(textSize);
-    PrintColumn(sheet, kLeftLabels, kFirstLine, kFieldLabels);
-    sheet.SetFontItalic(true);
-    PrintColumn(sheet, kLeftValues, kFirstLine, giorno.campi);
-    PrintRepetitions(sheet, giorno);
+    PrintFields(sheet, giorno);
 
     sheet.SetFontItalic(false);
     giorno.conGara ? PrintRace(sheet, giorno) : PrintTable(sheet, giorno);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Sheet.h"
+#include "diary/Fields.h"
 
 #include <array>
 
@@ -12,11 +13,7 @@ namespace zelvia
 /// What the page shows of a day: the texts of its labels.
 struct DaySheetTexts {
     CalendarDate data;
-    /// From the route down to the weight.
-    std::array<Text, 15> campi;
-    Text ripetizioniVolte;
-    Text ripetizioniDistanza;
-    Text ripetizioniQuante;
+    std::array<Text, kPrintedFields> campi; ///< In the order of the table of fields.
     /// True when the page shows the race of the day instead of the active table.
     bool conGara = false;
     Text nomeTabella;

@@ -3,6 +3,7 @@
 #include "diary/RunSearch.h"
 
 #include "core/Conversions.h"
+#include "diary/CategoryStatistics.h"
 #include "diary/CategoryTexts.h"
 
 #include <algorithm>
@@ -27,15 +28,22 @@ std::optional<CalendarDate> DateOf(i16 day, i16 month, i16 year)
     return DateValue(PlainText(day) + "/" + PlainText(month) + "/" + PlainText(year));
 }
 
-bool Fulfils(const RecordGiorno& day, const SearchCriteria& criteria, const CategoryCriterion& criterion)
+bool Fulfils(const RecordGiorno& day, const Statistic& statistic, const Text& sought)
 {
-    const Statistic& statistic = StatisticOf(criterion.category);
-    if (criterion.text != nullptr) {
-        const Text& sought = criteria.*criterion.text;
-        return sought.empty() || SameText(sought, statistic.text(day));
-    }
-    const i16 sought = criteria.*criterion.number;
+    return sought.empty() || SameText(sought, statistic.text(day));
+}
+
+bool Fulfils(const RecordGiorno& day, const Statistic& statistic, i16 sought)
+{
     return sought == 0 || i32(sought) == statistic.number(day);
+}
+
+bool FulfilsAll(const RecordGiorno& day, const SearchCriteria& criteria)
+{
+    return std::all_of(kAllCategories.begin(), kAllCategories.end(), [&](Categoria category) {
+        const Statistic& statistic = StatisticOf(category);
+        return std::visit([&](auto sought) { return Fulfils(day, statistic, criteria.*sought); }, statistic.criterion);
+    });
 }
 
 bool IsSought(const RecordGiorno& day, const SearchCriteria& criteria, const Period& period)
@@ -44,9 +52,7 @@ bool IsSought(const RecordGiorno& day, const SearchCriteria& criteria, const Per
         return false;
     }
     // A day with no distance is not a run.
-    return std::all_of(kCriteria.begin(), kCriteria.end(),
-                       [&](const CategoryCriterion& criterion) { return Fulfils(day, criteria, criterion); }) &&
-           day.Km + day.Metri > 0;
+    return FulfilsAll(day, criteria) && day.Km + day.Metri > 0;
 }
 
 /// Overwrites the columns of a line from `column` on, counted from 1; the line keeps its length.

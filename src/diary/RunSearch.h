@@ -6,60 +6,15 @@
 #include "core/Numbers.h"
 #include "core/RunTimeError.h"
 #include "core/Text.h"
-#include "diary/CategoryStatistics.h"
 #include "diary/RecordGiorno.h"
+#include "diary/SearchCriteria.h"
 #include "diary/SearchTotals.h"
 
-#include <array>
+#include <cstddef>
 #include <vector>
 
 namespace zelvia
 {
-
-/// The conditions that a run must meet. A date whose day is 0, an empty text and a number of 0 set no condition.
-struct SearchCriteria {
-    i16 GiornoInizio;
-    i16 MeseInizio;
-    i16 AnnoInizio;
-    i16 GiornoFine;
-    i16 MeseFine;
-    i16 AnnoFine;
-    Text CercaPercorso;
-    Text CercaLunghezza;
-    Text CercaKm; ///< As the statistic of distances writes it.
-    Text CercaAndatura;
-    Text CercaFondo;
-    Text CercaTipo;
-    Text CercaStagione;
-    Text CercaMeteo;
-    Text CercaTemperatura;
-    i16 CercaCorridori;
-    i16 CercaPeso;
-    Text CercaRipetizioni; ///< As the statistic of repetitions writes them.
-};
-
-/// The condition on one category: a text or a number.
-struct CategoryCriterion {
-    Categoria category;
-    Text SearchCriteria::*text;
-    i16 SearchCriteria::*number = nullptr;
-};
-
-/// All twelve, in the order of their buttons.
-inline constexpr std::array<CategoryCriterion, 12> kCriteria = {{
-    {Categoria::Percorso, &SearchCriteria::CercaPercorso},
-    {Categoria::Lunghezza, &SearchCriteria::CercaLunghezza},
-    {Categoria::Km, &SearchCriteria::CercaKm},
-    {Categoria::Andatura, &SearchCriteria::CercaAndatura},
-    {Categoria::Fondo, &SearchCriteria::CercaFondo},
-    {Categoria::Tipo, &SearchCriteria::CercaTipo},
-    {Categoria::Stagione, &SearchCriteria::CercaStagione},
-    {Categoria::Meteo, &SearchCriteria::CercaMeteo},
-    {Categoria::Temperatura, &SearchCriteria::CercaTemperatura},
-    {Categoria::Corridori, nullptr, &SearchCriteria::CercaCorridori},
-    {Categoria::Peso, nullptr, &SearchCriteria::CercaPeso},
-    {Categoria::Ripetizioni, &SearchCriteria::CercaRipetizioni},
-}};
 
 /// An error of a search, under the title of the routine that it belongs to.
 struct SearchError {

@@ -39,17 +39,20 @@ void PrintPeriod(Sheet& sheet, const SearchSheetTexts& search)
     date(33, search.end);
 }
 
-void PrintConditions(Sheet& sheet, const std::array<Text, 12>& criteria)
+/// In two columns.
+void PrintConditions(Sheet& sheet, const SearchSheetTexts& search)
 {
-    constexpr std::array<TextView, 12> labels = {"Percorso",    "Lunghezza", "Km",       "Andatura",
-                                                 "Terreno",     "Tipo",      "Stagione", "Meteo",
-                                                 "Temperatura", "Corridori", "Peso",     "Ripetizioni"};
-    constexpr std::size_t half = 6;
+    constexpr std::size_t half = (kAllCategories.size() + 1) / 2;
     constexpr int firstLine = 6;
+    const auto print = [&](std::size_t i, int x, int valueX, int y) {
+        PrintPair(sheet, x, valueX, y, StatisticOf(kAllCategories[i]).title, search.criteria[i]);
+    };
     for (std::size_t i = 0; i < half; ++i) {
         const int y = firstLine + 2 * static_cast<int>(i);
-        PrintPair(sheet, 2, 15, y, labels[i], criteria[i]);
-        PrintPair(sheet, 45, 60, y, labels[i + half], criteria[i + half]);
+        print(i, 2, 15, y);
+        if (i + half < kAllCategories.size()) {
+            print(i + half, 45, 60, y);
+        }
     }
 }
 
@@ -148,7 +151,7 @@ Sheet SearchSheet(const SearchSheetTexts& search)
     sheet.Print(32, 1, "   Ricerche Statistiche ");
     sheet.SetFontSize(kSheetTextSize);
     PrintPeriod(sheet, search);
-    PrintConditions(sheet, search.criteria);
+    PrintConditions(sheet, search);
     PrintTotals(sheet, PrintRuns(sheet, search.lines), search.totals);
     return sheet;
 }

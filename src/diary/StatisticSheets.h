@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Sheet.h"
+#include "diary/CategoryStatistics.h"
 
 #include <array>
 #include <cstddef>
@@ -30,8 +31,7 @@ struct SearchSheetTexts {
     CalendarDate date;
     std::array<Text, 3> start; ///< Day, month and year as typed.
     std::array<Text, 3> end;
-    /// Route, length, distance, pace, terrain, kind, season, weather, temperature, runners, weight, repetitions.
-    std::array<Text, 12> criteria;
+    std::array<Text, kAllCategories.size()> criteria;
     std::vector<Text> lines; ///< The lines of the runs found.
     /// Runs, kilometres, times, average.
     std::array<Text, 4> totals;

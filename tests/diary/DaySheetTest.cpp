@@ -18,11 +18,9 @@ DaySheetTexts ADay()
 {
     DaySheetTexts giorno;
     giorno.data = CalendarDate(2026, 3, 1);
-    giorno.campi = {"Lungofiume", "Medio", "12,500",    "Lento",  "Asfalto", "Allenamento", "18:00:00", "19:02:05",
-                    "1:02:05",    "4:58",  "Primavera", "Sereno", "Mite",    "2",           "68"};
-    giorno.ripetizioniVolte = "8";
-    giorno.ripetizioniDistanza = "400";
-    giorno.ripetizioniQuante = "1:30";
+    giorno.campi = {"Lungofiume", "Medio",    "12,500",  "Lento", "Asfalto",   "Allenamento",
+                    "18:00:00",   "19:02:05", "1:02:05", "4:58",  "Primavera", "Sereno",
+                    "Mite",       "2",        "68",      "8",     "400",       "1:30"};
     giorno.nomeTabella = "Base 10 km";
     giorno.tabella = {"10,0", "0:50:0", "5:0", "Medio", "Strada", "0 x 0  @  0:0"};
     giorno.gara = {"Mezza del lago", "Como", "1.234", "1:31:07", "21,97", "87", "S50", "9"};

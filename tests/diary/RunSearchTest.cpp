@@ -213,12 +213,9 @@ void RunSearchTest::EachConditionAlone()
     Giorni[3].RipetizioniTempi = 2;
 
     SearchCriteria conditions;
-    const CategoryCriterion& condition = kCriteria[static_cast<std::size_t>(row)];
-    if (condition.text != nullptr) {
-        conditions.*condition.text = TextOf(wanted);
-    } else {
-        conditions.*condition.number = wanted.toInt();
-    }
+    std::visit(Overloaded{[&](Text SearchCriteria::*text) { conditions.*text = TextOf(wanted); },
+                          [&](i16 SearchCriteria::*number) { conditions.*number = wanted.toInt(); }},
+               StatisticOf(static_cast<Categoria>(row)).criterion);
     QCOMPARE(Dates(Find(4, conditions)), QByteArrayList{"02/01"});
 }
 

@@ -394,7 +394,7 @@ void Actions::Search(QWidget& window)
             desk_.Settle();
         }
     } else if (way < 3) {
-        const auto category = static_cast<Categoria>(dice_.Below(static_cast<int>(kCriteria.size())));
+        const auto category = static_cast<Categoria>(dice_.Below(static_cast<int>(kAllCategories.size())));
         PressIf(*search->ControlsFor(category).cmd);
         desk_.Settle();
         if (!search.isNull() && search->lstStatistiche->isVisible()) {

@@ -34,14 +34,12 @@ DaySheetTexts TextsOf(PageControls& page)
     const auto campo = [&](SelectionList lista) { return page.Campo(lista).lblImmis; };
     DaySheetTexts testi;
     testi.data = DataCorrente;
-    testi.campi = Captions({campo(SelectionList::Percorso), campo(SelectionList::Lunghezza), page.lblImmisMetri,
-                            campo(SelectionList::Modo), campo(SelectionList::Fondo), campo(SelectionList::Tipo),
-                            page.lblImmisOraInizio, page.lblImmisOraFine, page.lblOutTempoImpiegato, page.lblOutMediaKM,
-                            campo(SelectionList::Stagione), campo(SelectionList::TempoAtm),
-                            campo(SelectionList::Temperatura), page.lblImmisCorridori, page.lblImmisPeso});
-    testi.ripetizioniVolte = page.lblRipetizioniVolte->Caption();
-    testi.ripetizioniDistanza = page.lblRipetizioniDistanza->Caption();
-    testi.ripetizioniQuante = page.lblRipetizioniQuante->Caption();
+    testi.campi =
+        Captions({campo(SelectionList::Percorso), campo(SelectionList::Lunghezza), page.lblImmisMetri,
+                  campo(SelectionList::Modo), campo(SelectionList::Fondo), campo(SelectionList::Tipo), page.lblImmisOraInizio,
+                  page.lblImmisOraFine, page.lblOutTempoImpiegato, page.lblOutMediaKM, campo(SelectionList::Stagione),
+                  campo(SelectionList::TempoAtm), campo(SelectionList::Temperatura), page.lblImmisCorridori,
+                  page.lblImmisPeso, page.lblRipetizioniVolte, page.lblRipetizioniDistanza, page.lblRipetizioniQuante});
     testi.conGara = page.pctCalGara->Visible();
     testi.nomeTabella = page.lblTabNomeFile->Caption();
     testi.tabella = Captions({page.lblKmTab, page.lblTempoTab, page.lblMediaTab, page.lblAndaturaTab, page.lblFondoTab,

@@ -40,13 +40,11 @@ void frmRicercheStatistiche::AssegnaVariabili()
     for (std::size_t i = 0; i < texts.size(); ++i) {
         criteria.*dates[i] = Parsed<i16>(texts[i]);
     }
-    for (const CategoryCriterion& criterion : kCriteria) {
-        const Text caption = ControlsFor(criterion.category).lbl->Caption();
-        if (criterion.text != nullptr) {
-            criteria.*criterion.text = caption;
-        } else {
-            criteria.*criterion.number = Parsed<i16>(caption);
-        }
+    for (const Categoria category : kAllCategories) {
+        const Text caption = ControlsFor(category).lbl->Caption();
+        std::visit(Overloaded{[&](Text SearchCriteria::*text) { criteria.*text = caption; },
+                              [&](i16 SearchCriteria::*number) { criteria.*number = Parsed<i16>(caption); }},
+                   StatisticOf(category).criterion);
     }
 }
 
@@ -68,7 +66,7 @@ void frmRicercheStatistiche::cmdCategoria_Click(Categoria category)
 void frmRicercheStatistiche::Lista(Categoria category)
 {
     const Statistic& statistic = StatisticOf(category);
-    Trap(statistic.listError, [&] {
+    Trap("Lista " + Text(statistic.name) + " - ERRORE : ", [&] {
         CategoriaLista = Text(statistic.title);
         CountValues(statistic);
         for (int i = 1; i <= kMaxCategories; ++i) {
@@ -85,9 +83,9 @@ void frmRicercheStatistiche::Lista(Categoria category)
 
 void frmRicercheStatistiche::lstStatistiche_DblClick()
 {
-    for (const CategoryCriterion& criterion : kCriteria) {
-        if (SameText(StatisticOf(criterion.category).title, CategoriaLista)) {
-            ControlsFor(criterion.category).lbl->SetCaption(lstStatistiche->List(lstStatistiche->ListIndex()));
+    for (const Categoria category : kAllCategories) {
+        if (SameText(StatisticOf(category).title, CategoriaLista)) {
+            ControlsFor(category).lbl->SetCaption(lstStatistiche->List(lstStatistiche->ListIndex()));
         }
     }
 }
@@ -179,9 +177,8 @@ SearchSheetTexts frmRicercheStatistiche::SheetTexts() const
     const PeriodEntries period = PeriodTexts();
     std::copy_n(period.begin(), texts.start.size(), texts.start.begin());
     std::copy_n(period.begin() + PeriodBox::GiornoFine, texts.end.size(), texts.end.begin());
-    std::transform(
-        kCriteria.begin(), kCriteria.end(), texts.criteria.begin(),
-        [this](const CategoryCriterion& criterion) { return ControlsFor(criterion.category).lbl->Caption(); });
+    std::transform(controls_.begin(), controls_.end(), texts.criteria.begin(),
+                   [](const CriterionControls& controls) { return controls.lbl->Caption(); });
     for (int i = 0; i < lstMedie->ListCount(); ++i) {
         texts.lines.push_back(lstMedie->List(i));
     }

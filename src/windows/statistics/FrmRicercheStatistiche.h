@@ -121,7 +121,7 @@ private:
 
     PaceChartOpener openChart_;
     BoxGrid period_;
-    std::array<CriterionControls, kCriteria.size()> controls_;
+    std::array<CriterionControls, kAllCategories.size()> controls_;
     std::vector<Control*> totals_;     ///< The totals and their heads.
     std::array<Picture*, 3> shapes_{}; ///< shp6 .. shp8, the empty form in the place of the totals.
 };

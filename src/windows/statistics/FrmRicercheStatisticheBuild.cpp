@@ -41,10 +41,6 @@ constexpr int kPeriodTop = kTop + kListHeight + 20;
 constexpr int kCommandTop = 568;
 constexpr int kCommandHeight = 36;
 
-/// The names of the twelve, behind "cmd" and "lbl", in the order of the categories.
-constexpr const char* kNames[] = {"Percorso", "Lunghezza", "Km",          "Andatura",  "Fondo", "Tipo",
-                                  "Stagione", "Meteo",     "Temperatura", "Corridori", "Peso",  "Ripetizioni"};
-
 constexpr int kFrameHeight = 32;
 constexpr int kFrameWidth = 152;
 constexpr int kStartLeft = kValueLeft + 36;
@@ -139,11 +135,10 @@ ListBox* frmRicercheStatistiche::MakeList(const char* name, const QRect& place, 
 void frmRicercheStatistiche::BuildConditions()
 {
     int top = kTop;
-    for (std::size_t i = 0; i < kCriteria.size(); ++i, top += kRowStep) {
-        const Categoria category = kCriteria[i].category;
+    for (const Categoria category : kAllCategories) {
         const TextView word = StatisticOf(category).title;
-        const QByteArray name(kNames[i]);
-        CriterionControls& controls = controls_[i];
+        const QByteArray name = ToQString(StatisticOf(category).name).toLatin1();
+        CriterionControls& controls = controls_[static_cast<std::size_t>(category)];
         controls.cmd = MakeButton(this, ("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight},
                                   [this, category] { cmdCategoria_Click(category); });
         controls.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
@@ -151,6 +146,7 @@ void frmRicercheStatistiche::BuildConditions()
         controls.lbl->setIndent(6);
         controls.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
         controls.lbl->SetVisible(false);
+        top += kRowStep;
     }
     lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 18);
     SetForeColour(*lblTitoliSta, Ink::Accent);
