@@ -251,7 +251,7 @@ void PageTest::lists()
     const ListRow& row = kLists[number - 1];
     EntryPage page;
     page.Start();
-    const ControlliLista& field = page.Field(number);
+    const ListControls& field = page.Field(number);
     QStringList entries = EntryPage::Entries(number);
     int slot = kFirstSlot;
     for (const BadInput& input : TextInputs()) {
@@ -313,7 +313,7 @@ void PageTest::notes()
     QFETCH(int, line);
     EntryPage page;
     page.Start();
-    const ControlliNota& note = page->note[line];
+    const NoteControls& note = page->note[line];
     int slot = kFirstSlot;
     for (const BadInput& input : TextInputs()) {
         page.Open(*note.lbl);
@@ -348,7 +348,7 @@ void PageTest::doubleQuotesInANote()
     const QString typed = QStringLiteral("dice \"ciao\" a tutti");
     EntryPage page;
     page.Start();
-    const ControlliNota& note = page->note[line];
+    const NoteControls& note = page->note[line];
     page.Open(*note.lbl);
     QTRY_COMPARE(EntryPage::Focused(), note.txt->objectName().toLatin1());
     hand::Type(typed);

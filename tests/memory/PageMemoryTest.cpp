@@ -92,7 +92,7 @@ void PageMemoryTest::lists()
 {
     QFETCH(int, number);
     const QByteArray name = kFields[number - 1];
-    const ControlliLista& field = Page().Field(number);
+    const ListControls& field = Page().Field(number);
     const bool bareKeys = name == "Temperatura";
     VerifyReports(
         {{"lblImmis" + name, "Immis" + name}, [&] { CloseField(number); }, [&] { hand::Click(*field.lblImmis); }});
@@ -125,7 +125,7 @@ void PageMemoryTest::notes()
 {
     QFETCH(int, line);
     const QByteArray name = "Note" + QByteArray::number(line);
-    const ControlliNota& note = Page()->note[line];
+    const NoteControls& note = Page()->note[line];
     const auto close = [&] {
         AtRest();
         note.txt->SetVisible(false);
@@ -178,7 +178,7 @@ void PageMemoryTest::groups()
 void PageMemoryTest::OpenRoutes() const
 {
     CloseField(1);
-    const ControlliLista& field = Page().Field(1);
+    const ListControls& field = Page().Field(1);
     Page().SetEntries(SelectionList::Percorso, {FromQString(kLong)});
     hand::Click(*field.lblImmis);
     Settle();

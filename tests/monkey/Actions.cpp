@@ -169,7 +169,7 @@ void Actions::EnterField(QWidget& window)
         return;
     }
     const QPointer<frmMain> watched = page;
-    ControlliLista& field = page->campi[number];
+    ListControls& field = page->campi[number];
     hand_.Click(*field.lblImmis);
     desk_.Settle();
     if (watched.isNull() || !field.txt->isVisible()) {

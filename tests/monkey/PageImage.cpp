@@ -223,7 +223,7 @@ QString PageFault(const frmMain& page)
         return QStringLiteral("the date is out of range: ") + date.toString();
     }
     for (int line = kFirstNote; line <= kLastNote; ++line) {
-        const ControlliNota& note = page.note[line];
+        const NoteControls& note = page.note[line];
         if (!note.txt->isVisible() && note.lbl->text() != note.txt->text()) {
             return Differs(note.lbl->objectName(), note.lbl->text(), note.txt->text());
         }

@@ -98,7 +98,7 @@ void EntryPage::Open(Label& label, Way way) const
 
 bool EntryPage::IsOpen(int number) const
 {
-    const ControlliLista& field = Field(number);
+    const ListControls& field = Field(number);
     return field.txt->isVisible() && field.lst->isVisible();
 }
 

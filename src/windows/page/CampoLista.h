@@ -12,7 +12,7 @@ namespace zelvia
 {
 
 class frmMain;
-struct ControlliLista;
+struct ListControls;
 
 /// A text field of the page with its selection list: opening, typing, choosing and closing.
 class CampoLista
@@ -49,7 +49,7 @@ private:
     void Connect();
 
     SelectionList lista_;
-    ControlliLista& controls_;
+    ListControls& controls_;
     Text nome_;
 };
 

@@ -3,7 +3,9 @@
 #include "windows/page/DayOnPage.h"
 
 #include "core/Conversions.h"
-#include "diary/Fields.h"
+#include "diary/Module1.h"
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -24,37 +26,48 @@ auto ForEachNote(Work work)
 {
     return [work]<int First, int Last>(const NotesField<First, Last>& /*field*/) {
         if constexpr (std::is_same_v<NotesField<First, Last>, PageNotes>) {
-            for (int riga = First; riga <= Last; ++riga) {
-                work(riga);
+            for (int line = First; line <= Last; ++line) {
+                work(line);
             }
         }
     };
 }
 
-Label* PageControls::*LabelOf(const TimeField& field)
-{
-    return field.member == &RecordGiorno::MediaKm ? &PageControls::lblOutMediaKM : &PageControls::lblOutTempoImpiegato;
-}
-
 } // namespace
 
-void DayOnPage::ShowText(SelectionList lista, TextView valore)
+Label& DayOnPage::LabelOf(const ListField& field) const
 {
-    page_.Campo(lista).lblImmis->SetCaption(valore);
-    page_.Campo(lista).txt->SetContent(valore);
+    return *page_.Campo(field.lista).lblImmis;
 }
 
-void DayOnPage::ShowNote(int riga, TextView valore)
+template <typename T>
+Label& DayOnPage::LabelOf(const NumberField<T>& field) const
 {
-    const Text line = Left(valore, kNoteLength);
-    page_.note[riga].lbl->SetCaption(line);
-    page_.note[riga].txt->SetContent(line);
+    return *page_.ControlsOf(field.member).label;
+}
+
+Label& DayOnPage::LabelOf(const TimeField& field) const
+{
+    return field.member == &RecordGiorno::MediaKm ? *page_.lblOutMediaKM : *page_.lblOutTempoImpiegato;
+}
+
+void DayOnPage::ShowText(SelectionList lista, TextView value)
+{
+    page_.Campo(lista).lblImmis->SetCaption(value);
+    page_.Campo(lista).txt->SetContent(value);
+}
+
+void DayOnPage::ShowNote(int line, TextView value)
+{
+    const Text text = Left(value, kNoteLength);
+    page_.note[line].lbl->SetCaption(text);
+    page_.note[line].txt->SetContent(text);
 }
 
 void DayOnPage::ShowTime(const TimeField& field, const RecordGiorno& giorno)
 {
-    const Text& valore = giorno.*field.member;
-    (page_.*LabelOf(field))->SetCaption(valore.empty() ? field.none : TextView(valore));
+    const Text& value = giorno.*field.member;
+    LabelOf(field).SetCaption(value.empty() ? field.none : TextView(value));
 }
 
 void DayOnPage::BlankSplits()
@@ -68,24 +81,25 @@ void DayOnPage::BlankSplits()
 i32 DayOnPage::NumberOf(NumberMember member) const
 {
     const i32 metro = member == NumberMember(&RecordGiorno::Metri) ? page_.upMetro->Value() : i32(0);
-    return metro + page_.SpinOf(member).Value();
+    return metro + page_.ControlsOf(member).spin->Value();
 }
 
 void DayOnPage::Show(const RecordGiorno& giorno)
 {
-    ForEachOnPage(
-        [&](const ListField& field) { ShowText(field.lista, giorno.*field.member); },
-        [&]<typename T>(const NumberField<T>& field) { page_.SpinOf(field.member).SetValue(giorno.*field.member); },
-        [&](const TimeField& field) { ShowTime(field, giorno); },
-        [&](const SplitsField& /*field*/) {
-            BlankSplits();
-            for (const Text& parziale : giorno.ListaKm) {
-                if (!parziale.empty()) {
-                    page_.lstListaKM->AddItem(parziale);
-                }
-            }
-        },
-        ForEachNote([&](int riga) { ShowNote(riga, giorno.Note[riga]); }));
+    ForEachOnPage([&](const ListField& field) { ShowText(field.lista, giorno.*field.member); },
+                  [&]<typename T>(const NumberField<T>& field) {
+                      page_.ControlsOf(field.member).spin->SetValue(giorno.*field.member);
+                  },
+                  [&](const TimeField& field) { ShowTime(field, giorno); },
+                  [&](const SplitsField& /*field*/) {
+                      BlankSplits();
+                      for (const Text& parziale : giorno.ListaKm) {
+                          if (!parziale.empty()) {
+                              page_.lstListaKM->AddItem(parziale);
+                          }
+                      }
+                  },
+                  ForEachNote([&](int line) { ShowNote(line, giorno.Note[line]); }));
 }
 
 void DayOnPage::BlankTexts(const RecordGiorno& giorno)
@@ -96,9 +110,9 @@ void DayOnPage::BlankTexts(const RecordGiorno& giorno)
                 ShowText(field.lista, {});
             }
         },
-        ForEachNote([&](int riga) {
-            if (!giorno.Note[riga].empty()) {
-                ShowNote(riga, {});
+        ForEachNote([&](int line) {
+            if (!giorno.Note[line].empty()) {
+                ShowNote(line, {});
             }
         }));
 }
@@ -109,34 +123,35 @@ void DayOnPage::Blank(const RecordGiorno& giorno)
     BlankTexts(giorno);
     page_.upMetro->SetValue(0);
     ForEachOnPage(
-        [&]<typename T>(const NumberField<T>& field) { page_.SpinOf(field.member).SetValue(blank.*field.member); },
+        [&]<typename T>(const NumberField<T>& field) {
+            page_.ControlsOf(field.member).spin->SetValue(blank.*field.member);
+        },
         [&](const TimeField& field) { ShowTime(field, giorno); }, [&](const SplitsField& /*field*/) { BlankSplits(); });
 }
 
 void DayOnPage::Commit(RecordGiorno& giorno) const
 {
-    ForEachOnPage([&](const ListField& field) { giorno.*field.member = page_.Campo(field.lista).lblImmis->Caption(); },
+    ForEachOnPage([&](const ListField& field) { giorno.*field.member = LabelOf(field).Caption(); },
                   [&]<typename T>(const NumberField<T>& field) { giorno.*field.member = T(NumberOf(field.member)); },
-                  [&](const TimeField& field) { giorno.*field.member = (page_.*LabelOf(field))->Caption(); },
+                  [&](const TimeField& field) { giorno.*field.member = LabelOf(field).Caption(); },
                   [&](const SplitsField& /*field*/) {
                       giorno.ListaKm.Clear();
                       for (int i = 0; i < page_.lstListaKM->ListCount(); ++i) {
                           giorno.ListaKm[i] = page_.lstListaKM->List(i);
                       }
                   },
-                  ForEachNote([&](int riga) { giorno.Note[riga] = page_.note[riga].txt->Content(); }));
+                  ForEachNote([&](int line) { giorno.Note[line] = page_.note[line].txt->Content(); }));
 }
 
 bool DayOnPage::Differs(const RecordGiorno& giorno) const
 {
     bool differs = false;
     const auto compare = [&](const Text& stored, const Text& shown) { differs = differs || !SameText(stored, shown); };
-    ForEachOnPage(
-        [&](const ListField& field) { compare(giorno.*field.member, page_.Campo(field.lista).lblImmis->Caption()); },
-        [&]<typename T>(const NumberField<T>& field) {
-            differs = differs || NumberOf(field.member) != giorno.*field.member;
-        },
-        ForEachNote([&](int riga) { compare(giorno.Note[riga], page_.note[riga].txt->Content()); }));
+    ForEachOnPage([&](const ListField& field) { compare(giorno.*field.member, LabelOf(field).Caption()); },
+                  [&]<typename T>(const NumberField<T>& field) {
+                      differs = differs || NumberOf(field.member) != giorno.*field.member;
+                  },
+                  ForEachNote([&](int line) { compare(giorno.Note[line], page_.note[line].txt->Content()); }));
     return differs;
 }
 
@@ -147,6 +162,25 @@ bool DayOnPage::SplitsDiffer(const RecordGiorno& giorno) const
         differ = !SameText(giorno.ListaKm[i], page_.lstListaKM->List(i)) || differ;
     }
     return differ;
+}
+
+DaySheetTexts DayOnPage::SheetTexts() const
+{
+    const auto shown = [](const Label* label) { return label->Caption(); };
+    const auto value = [](const PageControls::SlipLine& line) { return line.label->Caption(); };
+    DaySheetTexts texts;
+    texts.data = Module1::DataCorrente;
+    auto* text = texts.campi.begin();
+    ForEachPrinted([&](const auto& field) { *text++ = LabelOf(field).Caption(); });
+    texts.conGara = page_.pctCalGara->Visible();
+    texts.nomeTabella = page_.lblTabNomeFile->Caption();
+    std::transform(page_.tableSlip.begin() + 1, page_.tableSlip.end(), texts.tabella.begin(), value);
+    std::transform(page_.raceSlip.begin(), page_.raceSlip.end(), texts.gara.begin(), value);
+    std::transform(page_.note.begin(), page_.note.end(), texts.note.begin(),
+                   [&](const NoteControls& note) { return shown(note.lbl); });
+    texts.contatori = {shown(page_.lblNumGiornoAnno), shown(page_.lblNumGiorniCorseAnno), shown(page_.lblNumKMPercorsi),
+                       shown(page_.lblNumGare)};
+    return texts;
 }
 
 } // namespace zelvia

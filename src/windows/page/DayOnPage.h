@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "diary/DaySheet.h"
 #include "diary/Fields.h"
 #include "windows/page/PageControls.h"
 
@@ -15,7 +16,7 @@ class DayOnPage
 public:
     explicit DayOnPage(PageControls& page) : page_(page) {}
 
-    void ShowText(SelectionList lista, TextView valore);
+    void ShowText(SelectionList lista, TextView value);
     /// Puts the day into the controls.
     void Show(const RecordGiorno& giorno);
     /// Empties the controls, of the texts those that the day fills. Time and average stay those of the day.
@@ -27,9 +28,15 @@ public:
     /// Only the lines that the list has are compared: one that merely became shorter is unchanged. Raises error 9 for
     /// more lines than a day holds.
     bool SplitsDiffer(const RecordGiorno& giorno) const;
+    /// What the labels show, whether or not it has been committed.
+    DaySheetTexts SheetTexts() const;
 
 private:
-    void ShowNote(int riga, TextView valore);
+    Label& LabelOf(const ListField& field) const;
+    template <typename T>
+    Label& LabelOf(const NumberField<T>& field) const;
+    Label& LabelOf(const TimeField& field) const;
+    void ShowNote(int line, TextView value);
     void ShowTime(const TimeField& field, const RecordGiorno& giorno);
     void BlankTexts(const RecordGiorno& giorno);
     void BlankSplits();

@@ -78,7 +78,7 @@ void frmMain::ShowRouteEntries(bool visible)
 
 bool frmMain::NewRouteTyped()
 {
-    const ControlliLista& campo = Campo(SelectionList::Percorso);
+    const ListControls& campo = Campo(SelectionList::Percorso);
     const Text testo = Trim(campo.txt->Content());
     return CampoNonVuoto(testo) && !Holds(EntriesOf(SelectionList::Percorso), testo);
 }
@@ -107,7 +107,7 @@ void frmMain::mnuCancella_Click()
 
 void frmMain::RemoveSelected(SelectionList lista)
 {
-    ControlliLista& campo = Campo(lista);
+    ListControls& campo = Campo(lista);
     const int selected = campo.lst->ListIndex();
     if (selected < 0) {
         return;

@@ -10,36 +10,8 @@
 
 #include <QKeyEvent>
 
-#include <array>
-
 namespace zelvia
 {
-
-namespace
-{
-
-/// The captions that get the hand while a field is open, in their order.
-std::array<Label*, 15> HandLabels(PageControls& page)
-{
-    const auto lista = [&page](SelectionList which) { return page.Campo(which).lbl; };
-    return {lista(SelectionList::Percorso),
-            lista(SelectionList::Lunghezza),
-            page.lblKm,
-            lista(SelectionList::Modo),
-            lista(SelectionList::Fondo),
-            lista(SelectionList::Tipo),
-            page.lblOraInizio,
-            page.lblOraFine,
-            lista(SelectionList::Stagione),
-            lista(SelectionList::TempoAtm),
-            lista(SelectionList::Temperatura),
-            page.lblCorridori,
-            page.lblPeso,
-            page.lblTempoKm,
-            page.lblRipetizioni};
-}
-
-} // namespace
 
 void frmMain::ConnectControls()
 {
@@ -79,7 +51,7 @@ void frmMain::CursoreMano()
 {
     Trap("CursoreMano - ERRORE : ", [this] {
         const QCursor hand = LoadCursor(InstalledFile("mano.cur"));
-        for (Label* label : HandLabels(*this)) {
+        for (Label* label : captions) {
             label->setCursor(hand);
         }
     });
@@ -88,7 +60,7 @@ void frmMain::CursoreMano()
 void frmMain::CursoreNormale()
 {
     Trap("CursoreNormale - ERRORE : ", [this] {
-        for (Label* label : HandLabels(*this)) {
+        for (Label* label : captions) {
             label->unsetCursor();
         }
     });

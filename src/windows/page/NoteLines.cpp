@@ -90,7 +90,7 @@ void NoteLines::mnuNote_Click()
             return;
         }
         const bool show = page_.NoteAperte == 0;
-        for (const ControlliNota& nota : page_.note) {
+        for (const NoteControls& nota : page_.note) {
             nota.txt->SetVisible(show);
         }
         page_.NoteAperte = show ? 1 : 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Numbers.h"
+#include "windows/page/SpinGroup.h"
 
 #include <memory>
 #include <vector>
@@ -11,8 +12,7 @@ namespace zelvia
 {
 
 class frmMain;
-class SpinGroup;
-struct NumberRow;
+struct GroupRow;
 
 /// The fields of the page that are entered with spin controls: what each label shows of its spins, which spins a click
 /// on it opens, and what follows when they close.
@@ -20,7 +20,6 @@ class NumberFields
 {
 public:
     explicit NumberFields(frmMain& page);
-    ~NumberFields();
     NumberFields(const NumberFields&) = delete;
     NumberFields& operator=(const NumberFields&) = delete;
 
@@ -28,8 +27,7 @@ public:
     SpinGroup& Splits() const { return *groups_.back(); }
 
 private:
-    void AddGroup(const NumberRow& row);
-    void AddSplits();
+    void Wire(SpinGroup& group, const GroupRow& row);
     void ConnectDistance();
     void ShowDistance(i32 metri);
     /// Works out what the times and the distance give.

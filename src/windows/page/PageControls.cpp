@@ -6,11 +6,12 @@
 #include "toolkit/Fonts.h"
 #include "toolkit/QtText.h"
 #include "windows/page/PageArt.h"
-#include "windows/page/PageLayout.h"
+#include "windows/page/PageFields.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <span>
 
 namespace zelvia
 {
@@ -21,180 +22,78 @@ using namespace PageLayout;
 
 enum class Style { Caption, Value, Date, Counter, FileName, SlipValue, SlipHeading, Note };
 
-struct LabelRow {
-    Label* PageControls::*member;
-    const char* name;
+/// A picture and the value beside it or, on a slip, behind it.
+struct PairRow {
+    Picture* PageControls::*picture;
+    const char* pictureName;
     TextView caption;
-    QRect place;
-    Style style;
-    TextView spoken = {}; ///< What the label holds, for a screen reader.
-    bool visible = true;
+    Label* PageControls::*label;
+    const char* labelName;
+    TextView spoken;
+    TextView text = {};
+    void (*drawing)(QPainter&, const QRectF&) = nullptr; ///< Null for a picture that shows its caption.
 };
-
-struct SpinRow {
-    UpDown* PageControls::*member;
-    const char* name;
-    NumberMember field;
-    QRect place;
-    TextView tip;
-    int start = 0;
-    NumberRange range = {}; ///< Where it is not the field's.
-};
-
-struct PictureRow {
-    Picture* PageControls::*member;
-    const char* name;
-    TextView caption;
-    QRect place;
-    void (*drawing)(QPainter&, const QRectF&) = nullptr; ///< Null for one that shows its caption.
-    bool heading = false;
-    bool visible = true;
-};
-
-struct ListRow {
-    SelectionList lista;
-    TextView caption;
-    Row row;
-};
-
-constexpr QRect SlipCaption(int row, int step)
-{
-    return {kSlipCaptionLeft, SlipRow(row, step), kSlipCaptionWidth, kRowHeight};
-}
-constexpr QRect SlipValue(int row, int step)
-{
-    return {kSlipValueLeft, SlipRow(row, step), kSlipValueWidth, kRowHeight};
-}
 
 using P = PageControls;
-using R = RecordGiorno;
 
-const LabelRow kHead[] = {
-    {&P::lblData, "lblData", "", kDate, Style::Date, "Data"},
+const PairRow kCounters[] = {
+    {&P::pctGiornoAnno,
+     "pctGiornoAnno",
+     "Giorno dell'anno",
+     &P::lblNumGiornoAnno,
+     "lblNumGiornoAnno",
+     "Giorno dell'anno",
+     {},
+     DrawCalendarLeaf},
+    {&P::pctAllenamenti,
+     "pctAllenamenti",
+     "Allenamenti",
+     &P::lblNumGiorniCorseAnno,
+     "lblNumGiorniCorseAnno",
+     "Allenamenti dell'anno",
+     {},
+     DrawShoe},
+    {&P::pctKmpercorsi,
+     "pctKmpercorsi",
+     "Km percorsi",
+     &P::lblNumKMPercorsi,
+     "lblNumKMPercorsi",
+     "Chilometri percorsi nell'anno",
+     {},
+     DrawMilestone},
+    {&P::pctGare, "pctGare", "Gare", &P::lblNumGare, "lblNumGare", "Gare dell'anno", {}, DrawCup},
 };
 
-const LabelRow kNumbers[] = {
-    {&P::lblKm, "lblKm", "Km", Caption(Km), Style::Caption},
-    {&P::lblImmisMetri, "lblImmisMetri", "0,0", Value(Km), Style::Value, "Distanza, chilometri e metri"},
-    {&P::lblOraInizio, "lblOraInizio", "Ora Inizio", Caption(OraInizio), Style::Caption},
-    {&P::lblImmisOraInizio, "lblImmisOraInizio", "0:00:00", Value(OraInizio), Style::Value, "Ora di inizio"},
-    {&P::lblOraFine, "lblOraFine", "Ora Fine", Caption(OraFine), Style::Caption},
-    {&P::lblImmisOraFine, "lblImmisOraFine", "0:00:00", Value(OraFine), Style::Value, "Ora di fine"},
-    {&P::lblOutTempoImpiegato, "lblOutTempoImpiegato", "0:00:00", Value(Tempo), Style::Value, "Tempo impiegato"},
-    {&P::lblOutMediaKM, "lblOutMediaKM", "0:00", Value(Media), Style::Value, "Media al chilometro"},
-    {&P::lblCorridori, "lblCorridori", "Corridori", Caption(Corridori), Style::Caption},
-    {&P::lblImmisCorridori, "lblImmisCorridori", "1", Value(Corridori), Style::Value, "Numero di corridori"},
-    {&P::lblPeso, "lblPeso", "Peso", Caption(Peso), Style::Caption},
-    {&P::lblImmisPeso, "lblImmisPeso", "0", Value(Peso), Style::Value, "Peso in chilogrammi"},
-    {&P::lblRipetizioni, "lblRipetizioni", "Ripetizioni", Caption(Ripetizioni), Style::Caption},
-    {&P::lblRipetizioniVolte, "lblRipetizioniVolte", "0", kVolte, Style::Value, "Ripetizioni, quante volte"},
-    {&P::lblRipetizioniDistanza, "lblRipetizioniDistanza", "00", kDistanza, Style::Value,
-     "Ripetizioni, metri di ognuna"},
-    {&P::lblRipetizioniQuante, "lblRipetizioniQuante", "0:00", kQuante, Style::Value, "Ripetizioni, tempo di ognuna"},
-    {&P::lblTempoKm, "lblTempoKm", "Tempi Km", Caption(Parziali), Style::Caption},
-    {&P::lblImmisTempoKM, "lblImmisTempoKM", "0", kTempoKM, Style::Value, "Tempo parziale, chilometro"},
-    {&P::lblImmisTempoMinuti, "lblImmisTempoMinuti", "00:00:00", kTempoMinuti, Style::Value, "Tempo parziale"},
+// The first line of a slip is its heading.
+const PairRow kPlan[] = {
+    {&P::pctTabAllenamenti, "pctTabAllenamenti", "ALLENAMENTO :  ", &P::lblTabNomeFile, "lblTabNomeFile",
+     "Tabella attiva", "Nessuna tabella attiva"},
+    {&P::pctTabKm, "pctTabKm", "Km", &P::lblKmTab, "lblKmTab", "Tabella, chilometri", "0,0"},
+    {&P::pctTabTempo, "pctTabTempo", "Tempo", &P::lblTempoTab, "lblTempoTab", "Tabella, tempo", "0:0:0"},
+    {&P::pctTabMedia, "pctTabMedia", "Media Km", &P::lblMediaTab, "lblMediaTab", "Tabella, media al chilometro", "0:0"},
+    {&P::pctTabAndatura, "pctTabAndatura", "Andatura", &P::lblAndaturaTab, "lblAndaturaTab", "Tabella, andatura"},
+    {&P::pctTabTerreno, "pctTabTerreno", "Terreno", &P::lblFondoTab, "lblFondoTab", "Tabella, terreno"},
+    {&P::pctTabRipetizioni, "pctTabRipetizioni", "Ripetizioni", &P::lblRipetizioniTab, "lblRipetizioniTab",
+     "Tabella, ripetizioni", "0 x 0  @  0:0"},
 };
 
-const LabelRow kFoot[] = {
-    {&P::lblNomeFile, "lblNomeFile", "", kFileName, Style::FileName, "Nome del diario"},
-    {&P::lblNumGiornoAnno, "lblNumGiornoAnno", "", CounterValue(0), Style::Counter, "Giorno dell'anno"},
-    {&P::lblNumGiorniCorseAnno, "lblNumGiorniCorseAnno", "", CounterValue(1), Style::Counter, "Allenamenti dell'anno"},
-    {&P::lblNumKMPercorsi, "lblNumKMPercorsi", "", CounterValue(2), Style::Counter, "Chilometri percorsi nell'anno"},
-    {&P::lblNumGare, "lblNumGare", "", CounterValue(3), Style::Counter, "Gare dell'anno"},
-};
-
-const LabelRow kPlan[] = {
-    {&P::lblTabNomeFile, "lblTabNomeFile", "Nessuna tabella attiva", SlipValue(0, kPlanStep), Style::SlipHeading,
-     "Tabella attiva"},
-    {&P::lblKmTab, "lblKmTab", "0,0", SlipValue(1, kPlanStep), Style::SlipValue, "Tabella, chilometri"},
-    {&P::lblTempoTab, "lblTempoTab", "0:0:0", SlipValue(2, kPlanStep), Style::SlipValue, "Tabella, tempo"},
-    {&P::lblMediaTab, "lblMediaTab", "0:0", SlipValue(3, kPlanStep), Style::SlipValue, "Tabella, media al chilometro"},
-    {&P::lblAndaturaTab, "lblAndaturaTab", "", SlipValue(4, kPlanStep), Style::SlipValue, "Tabella, andatura"},
-    {&P::lblFondoTab, "lblFondoTab", "", SlipValue(5, kPlanStep), Style::SlipValue, "Tabella, terreno"},
-    {&P::lblRipetizioniTab, "lblRipetizioniTab", "0 x 0  @  0:0", SlipValue(6, kPlanStep), Style::SlipValue,
-     "Tabella, ripetizioni"},
-    {&P::lblTimerTab, "lblTimerTab", "0", QRect(0, 0, 1, 1), Style::SlipValue, "", false},
-};
-
-const LabelRow kRace[] = {
-    {&P::lblGara, "lblGara", "", SlipValue(0, kRaceStep), Style::SlipHeading, "Gara", false},
-    {&P::lblLocalita, "lblLocalita", "", SlipValue(1, kRaceStep), Style::SlipValue, "Gara, località"_t, false},
-    {&P::lblPartecipanti, "lblPartecipanti", "", SlipValue(2, kRaceStep), Style::SlipValue, "Gara, partecipanti",
-     false},
-    {&P::lblTempoImpiegato, "lblTempoImpiegato", "", SlipValue(3, kRaceStep), Style::SlipValue, "Gara, tempo impiegato",
-     false},
-    {&P::lblLunghezzaGara, "lblLunghezzaGara", "", SlipValue(4, kRaceStep), Style::SlipValue, "Gara, lunghezza", false},
-    {&P::lblRisultato, "lblRisultato", "", SlipValue(5, kRaceStep), Style::SlipValue, "Gara, risultato", false},
-    {&P::lblCategoria, "lblCategoria", "", SlipValue(6, kRaceStep), Style::SlipValue, "Gara, categoria", false},
-    {&P::lblRisultatoCat, "lblRisultatoCat", "", SlipValue(7, kRaceStep), Style::SlipValue,
-     "Gara, risultato di categoria", false},
-};
-
-const SpinRow kDateSpins[] = {
-    {&P::upGiorno, "upGiorno", {}, QRect(500, 40, 24, 32), "giorno", 0, {0, 31}},
-    {&P::upMese, "upMese", {}, QRect(542, 40, 24, 32), "mese", 0, {0, 12}},
-};
-
-const SpinRow kSpins[] = {
-    {&P::upKM, "upKM", &R::Km, Spin(Km, 0), "chilometri"},
-    {&P::upMetri, "upMetri", &R::Metri, Spin(Km, 1), "metri, a decine", 0, {0, 990, 10}},
-    {&P::upMetro, "upMetro", {}, Spin(Km, 2), "metri", 0, {0, 9}},
-    {&P::upOraInizio, "upOraInizio", &R::OraInizio, Spin(OraInizio, 0), "ore"},
-    {&P::upMinutiInizio, "upMinutiInizio", &R::MinutiInizio, Spin(OraInizio, 1), "minuti"},
-    {&P::upSecondiInizio, "upSecondiInizio", &R::SecondiInizio, Spin(OraInizio, 2), "secondi"},
-    {&P::upOraFine, "upOraFine", &R::OraFine, Spin(OraFine, 0), "ore"},
-    {&P::upMinutiFine, "upMinutiFine", &R::MinutiFine, Spin(OraFine, 1), "minuti"},
-    {&P::upSecondiFine, "upSecondiFine", &R::SecondiFine, Spin(OraFine, 2), "secondi"},
-    {&P::upCorridori, "upCorridori", &R::Corridori, Spin(Corridori, 0), "corridori", 1},
-    {&P::upPeso, "upPeso", &R::Peso, Spin(Peso, 0), "chilogrammi", 30},
-    {&P::upRipetizioni, "upRipetizioni", &R::Ripetizioni, Spin(Ripetizioni, 0), "volte"},
-    {&P::upRipetizioniDistanza, "upRipetizioniDistanza", &R::RipetizioniDistanza, Spin(Ripetizioni, 1), "metri"},
-    {&P::upRipetizioniQuante, "upRipetizioniQuante", &R::RipetizioniQuante, Spin(Ripetizioni, 2), "minuti"},
-    {&P::upRipetizioniTempi, "upRipetizioniTempi", &R::RipetizioniTempi, Spin(Ripetizioni, 3), "secondi"},
-    {&P::upTempoKM, "upTempoKM", {}, Spin(Parziali, 0), "chilometro", 0, {0, 100}},
-    {&P::upTempoOre, "upTempoOre", {}, Spin(Parziali, 1), "ore", 0, {0, 24}},
-    {&P::upTempoMinuti, "upTempoMinuti", {}, Spin(Parziali, 2), "minuti", 0, {0, 59}},
-    {&P::upTempoSecondi, "upTempoSecondi", {}, Spin(Parziali, 3), "secondi", 0, {0, 59}},
-};
-
-const PictureRow kPictures[] = {
-    {&P::pctGiornoAnno, "pctGiornoAnno", "Giorno dell'anno", CounterPicture(0), DrawCalendarLeaf},
-    {&P::pctAllenamenti, "pctAllenamenti", "Allenamenti", CounterPicture(1), DrawShoe},
-    {&P::pctKmpercorsi, "pctKmpercorsi", "Km percorsi", CounterPicture(2), DrawMilestone},
-    {&P::pctGare, "pctGare", "Gare", CounterPicture(3), DrawCup},
-    {&P::pctTabAllenamenti, "pctTabAllenamenti", "ALLENAMENTO :  ", SlipCaption(0, kPlanStep), nullptr, true},
-    {&P::pctTabKm, "pctTabKm", "Km", SlipCaption(1, kPlanStep)},
-    {&P::pctTabTempo, "pctTabTempo", "Tempo", SlipCaption(2, kPlanStep)},
-    {&P::pctTabMedia, "pctTabMedia", "Media Km", SlipCaption(3, kPlanStep)},
-    {&P::pctTabAndatura, "pctTabAndatura", "Andatura", SlipCaption(4, kPlanStep)},
-    {&P::pctTabTerreno, "pctTabTerreno", "Terreno", SlipCaption(5, kPlanStep)},
-    {&P::pctTabRipetizioni, "pctTabRipetizioni", "Ripetizioni", SlipCaption(6, kPlanStep)},
-    {&P::pctCalGara, "pctCalGara", "GARA :  ", SlipCaption(0, kRaceStep), nullptr, true, false},
-    {&P::pctCalLocalita, "pctCalLocalita", "Località "_t, SlipCaption(1, kRaceStep), nullptr, false, false},
-    {&P::pctCalPartecipanti, "pctCalPartecipanti", "Partecipanti", SlipCaption(2, kRaceStep), nullptr, false, false},
-    {&P::pctCalTempoImpiegato, "pctCalTempoImpiegato", "Tempo Impiegato", SlipCaption(3, kRaceStep), nullptr, false,
-     false},
-    {&P::pctCalLunghezza, "pctCalLunghezza", "Lunghezza", SlipCaption(4, kRaceStep), nullptr, false, false},
-    {&P::pctCalRisultato, "pctCalRisultato", "Risultato", SlipCaption(5, kRaceStep), nullptr, false, false},
-    {&P::pctCalCategoria, "pctCalCategoria", "Categoria", SlipCaption(6, kRaceStep), nullptr, false, false},
-    {&P::pctCalRisCategoria, "pctCalRisCategoria", "Risultato", SlipCaption(7, kRaceStep), nullptr, false, false},
+const PairRow kRace[] = {
+    {&P::pctCalGara, "pctCalGara", "GARA :  ", &P::lblGara, "lblGara", "Gara"},
+    {&P::pctCalLocalita, "pctCalLocalita", "Località "_t, &P::lblLocalita, "lblLocalita", "Gara, località"_t},
+    {&P::pctCalPartecipanti, "pctCalPartecipanti", "Partecipanti", &P::lblPartecipanti, "lblPartecipanti",
+     "Gara, partecipanti"},
+    {&P::pctCalTempoImpiegato, "pctCalTempoImpiegato", "Tempo Impiegato", &P::lblTempoImpiegato, "lblTempoImpiegato",
+     "Gara, tempo impiegato"},
+    {&P::pctCalLunghezza, "pctCalLunghezza", "Lunghezza", &P::lblLunghezzaGara, "lblLunghezzaGara", "Gara, lunghezza"},
+    {&P::pctCalRisultato, "pctCalRisultato", "Risultato", &P::lblRisultato, "lblRisultato", "Gara, risultato"},
+    {&P::pctCalCategoria, "pctCalCategoria", "Categoria", &P::lblCategoria, "lblCategoria", "Gara, categoria"},
+    {&P::pctCalRisCategoria, "pctCalRisCategoria", "Risultato", &P::lblRisultatoCat, "lblRisultatoCat",
+     "Gara, risultato di categoria"},
 };
 
 // The longest text that can be typed into the boxes of the lists and the notes.
 constexpr int kListTextLimit = 22;
 constexpr int kNoteLimit = 32;
-
-const ListRow kLists[] = {
-    {SelectionList::Percorso, "Percorso ", Percorso},
-    {SelectionList::Lunghezza, "Lunghezza", Lunghezza},
-    {SelectionList::Modo, "Andatura ", Andatura},
-    {SelectionList::Fondo, "Terreno", Terreno},
-    {SelectionList::Tipo, "Tipo", Tipo},
-    {SelectionList::Stagione, "Stagione", Stagione},
-    {SelectionList::TempoAtm, "Meteo", Meteo},
-    {SelectionList::Temperatura, "Temperatura", Temperatura},
-};
 
 void ApplyStyle(Label& label, Style style)
 {
@@ -239,54 +138,63 @@ Label* MakeLabel(QWidget* page, const QString& name, TextView caption, const QRe
     return label;
 }
 
-template <std::size_t N>
-void MakeLabels(PageControls& controls, QWidget* page, const LabelRow (&rows)[N])
+/// Shown before it can have the focus, a label keeps painting its text itself; otherwise Qt lays it out in a document.
+void PaintItself(Label& label)
 {
-    for (const LabelRow& row : rows) {
-        Label* label = MakeLabel(page, QLatin1String(row.name), row.caption, row.place, row.style, row.spoken);
-        label->SetVisible(row.visible);
-        controls.*row.member = label;
+    label.SetVisible(true);
+}
+
+UpDown* MakeSpin(QWidget* page, TextView name, const QRect& place, TextView tip, const NumberRange& range, int start)
+{
+    auto* spin = new UpDown(page, QLatin1String("up") + ToQString(name));
+    spin->setGeometry(place);
+    spin->SetRange(range.minimum, range.maximum, range.step);
+    spin->SetValue(start);
+    spin->setToolTip(ToQString(tip));
+    spin->setAccessibleName(ToQString(tip));
+    spin->SetVisible(false);
+    return spin;
+}
+
+Picture* MakePicture(QWidget* page, const PairRow& row, const QRect& place, bool heading)
+{
+    auto* picture =
+        new Picture(page, QLatin1String(row.pictureName),
+                    row.drawing != nullptr ? Picture::Drawing(row.drawing) : CaptionDrawing(row.caption, heading));
+    picture->setGeometry(place);
+    picture->setAccessibleName(ToQString(row.caption));
+    return picture;
+}
+
+void MakeCounters(PageControls& controls, QWidget* page)
+{
+    int index = 0;
+    for (const PairRow& row : kCounters) {
+        controls.*row.picture = MakePicture(page, row, CounterPicture(index), false);
+        (controls.*row.picture)->setToolTip(ToQString(row.caption));
+        controls.*row.label =
+            MakeLabel(page, QLatin1String(row.labelName), {}, CounterValue(index), Style::Counter, row.spoken);
+        ++index;
     }
 }
 
-NumberRange RangeOf(const SpinRow& row)
+std::vector<PageControls::SlipLine> MakeSlip(PageControls& controls, QWidget* page, std::span<const PairRow> rows,
+                                             int step, bool visible)
 {
-    const auto ofField = [](auto member) { return zelvia::RangeOf(member); };
-    const auto none = [](std::monostate) { return NumberRange(); };
-    return row.range.maximum > 0 ? row.range : std::visit(Overloaded{none, ofField}, row.field);
-}
-
-template <std::size_t N>
-void MakeSpins(PageControls& controls, QWidget* page, const SpinRow (&rows)[N])
-{
-    for (const SpinRow& row : rows) {
-        auto* spin = new UpDown(page, QLatin1String(row.name));
-        spin->setGeometry(row.place);
-        const NumberRange range = RangeOf(row);
-        spin->SetRange(range.minimum, range.maximum, range.step);
-        spin->SetValue(row.start);
-        spin->setToolTip(ToQString(row.tip));
-        spin->setAccessibleName(ToQString(row.tip));
-        spin->SetVisible(false);
-        controls.*row.member = spin;
-        controls.numeri.push_back({row.field, spin});
+    std::vector<PageControls::SlipLine> lines;
+    for (const PairRow& row : rows) {
+        const int top = SlipRow(static_cast<int>(lines.size()), step);
+        const bool heading = lines.empty();
+        const QRect place(kSlipCaptionLeft, top, kSlipCaptionWidth, kRowHeight);
+        controls.*row.picture = MakePicture(page, row, place, heading);
+        controls.*row.label =
+            MakeLabel(page, QLatin1String(row.labelName), row.text, {kSlipValueLeft, top, kSlipValueWidth, kRowHeight},
+                      heading ? Style::SlipHeading : Style::SlipValue, row.spoken);
+        lines.push_back({controls.*row.picture, controls.*row.label});
+        lines.back().picture->SetVisible(visible);
+        lines.back().label->SetVisible(visible);
     }
-}
-
-void MakePictures(PageControls& controls, QWidget* page)
-{
-    for (const PictureRow& row : kPictures) {
-        auto* picture = new Picture(page, QLatin1String(row.name),
-                                    row.drawing != nullptr ? Picture::Drawing(row.drawing)
-                                                           : CaptionDrawing(row.caption, row.heading));
-        picture->setGeometry(row.place);
-        picture->setAccessibleName(ToQString(row.caption));
-        if (row.drawing != nullptr) {
-            picture->setToolTip(ToQString(row.caption));
-        }
-        picture->SetVisible(row.visible);
-        controls.*row.member = picture;
-    }
+    return lines;
 }
 
 /// The rules that frame the date and its arrows.
@@ -318,32 +226,65 @@ void DressInput(QWidget& input, const QRect& place)
 
 void MakeList(PageControls& controls, QWidget* page, const ListRow& row)
 {
-    ControlliLista& campo = controls.Campo(row.lista);
+    ListControls& field = controls.Campo(row.lista);
     const QString name = ToQString(ListName(row.lista));
-    campo.lbl = MakeLabel(page, QLatin1String("lbl") + name, row.caption, Caption(row.row), Style::Caption, {});
-    campo.lblImmis = MakeLabel(page, QLatin1String("lblImmis") + name, {}, Value(row.row), Style::Value, row.caption);
-    campo.txt = new TextBox(page, QLatin1String("txt") + name, kListTextLimit);
-    DressInput(*campo.txt, Value(row.row));
-    campo.lst = new ListBox(page, QLatin1String("lst") + name);
-    DressInput(*campo.lst, List(row.row));
-    for (QWidget* input : {static_cast<QWidget*>(campo.txt), static_cast<QWidget*>(campo.lst)}) {
+    field.lbl = MakeLabel(page, QLatin1String("lbl") + name, row.caption, Caption(row.row), Style::Caption, {});
+    field.lblImmis = MakeLabel(page, QLatin1String("lblImmis") + name, {}, Value(row.row), Style::Value, row.caption);
+    field.txt = new TextBox(page, QLatin1String("txt") + name, kListTextLimit);
+    DressInput(*field.txt, Value(row.row));
+    field.lst = new ListBox(page, QLatin1String("lst") + name);
+    DressInput(*field.lst, List(row.row));
+    for (QWidget* input : {static_cast<QWidget*>(field.txt), static_cast<QWidget*>(field.lst)}) {
         input->setAccessibleName(ToQString(row.caption));
     }
-    campo.txt->SetVisible(false);
-    campo.lst->SetVisible(false);
+    field.txt->SetVisible(false);
+    field.lst->SetVisible(false);
+    controls.captions.push_back(field.lbl);
+}
+
+void MakeNumberLabels(PageControls& controls, QWidget* page, const NumberRow& row)
+{
+    if (row.label != nullptr) {
+        controls.*row.label = MakeLabel(page, QLatin1String("lbl") + ToQString(row.name), row.caption, Caption(row.row),
+                                        Style::Caption, {});
+        controls.captions.push_back(controls.*row.label);
+    }
+    for (const GroupRow& group : row.groups) {
+        for (const ValueRow& value : group.values) {
+            controls.*value.label =
+                MakeLabel(page, QLatin1String("lbl") + ToQString(value.name), value.text,
+                          value.place.isNull() ? Value(row.row) : value.place, Style::Value, value.spoken);
+            PaintItself(*(controls.*value.label));
+        }
+    }
+}
+
+void MakeNumberSpins(PageControls& controls, QWidget* page, const NumberRow& row)
+{
+    const auto rangeOf =
+        Overloaded{[](std::monostate) { return NumberRange(); }, [](auto member) { return RangeOf(member); }};
+    int index = 0;
+    for (const GroupRow& group : row.groups) {
+        for (const SpinRow& spin : group.spins) {
+            controls.*spin.member =
+                MakeSpin(page, spin.name, Spin(row.row, index++), spin.tip,
+                         spin.range.maximum > 0 ? spin.range : std::visit(rangeOf, spin.number), spin.start);
+            controls.numbers.push_back({spin.number, controls.*spin.member, controls.*group.values.front().label});
+        }
+    }
 }
 
 void MakeNotes(PageControls& controls, QWidget* page)
 {
     for (int line = 3; line <= 10; ++line) {
-        ControlliNota& nota = controls.note[line];
+        NoteControls& note = controls.note[line];
         const QString spoken = QStringLiteral("Nota, riga %1").arg(line - 2);
-        nota.lbl = MakeLabel(page, Numbered("lblNote", line), {}, Note(line), Style::Note, FromQString(spoken));
-        nota.txt = new TextBox(page, Numbered("txtNote", line), kNoteLimit);
-        DressInput(*nota.txt, Note(line));
-        nota.txt->setAccessibleName(spoken);
-        nota.txt->SetEntry(BoxEntry::CaretAtEnd);
-        nota.txt->SetVisible(false);
+        note.lbl = MakeLabel(page, Numbered("lblNote", line), {}, Note(line), Style::Note, FromQString(spoken));
+        note.txt = new TextBox(page, Numbered("txtNote", line), kNoteLimit);
+        DressInput(*note.txt, Note(line));
+        note.txt->setAccessibleName(spoken);
+        note.txt->SetEntry(BoxEntry::CaretAtEnd);
+        note.txt->SetVisible(false);
     }
 }
 
@@ -384,29 +325,37 @@ void MakeOrderedList(PageControls& controls, QWidget* page)
 
 } // namespace
 
-UpDown& PageControls::SpinOf(NumberMember member) const
+const PageControls::NumberControls& PageControls::ControlsOf(NumberMember member) const
 {
-    return *std::find_if(numeri.begin(), numeri.end(), [&](const NumberSpin& row) {
-                return row.member == member;
-            })->spin;
+    return *std::find_if(numbers.begin(), numbers.end(),
+                         [&](const NumberControls& number) { return number.member == member; });
 }
 
 void BuildPage(PageControls& controls, QWidget* page)
 {
     MakeDateFrame(page);
-    MakeLabels(controls, page, kHead);
-    MakeSpins(controls, page, kDateSpins);
-    for (const ListRow& row : kLists) {
+    controls.lblData = MakeLabel(page, QStringLiteral("lblData"), {}, kDate, Style::Date, "Data");
+    PaintItself(*controls.lblData);
+    controls.upGiorno = MakeSpin(page, "Giorno", {500, 40, 24, 32}, "giorno", {0, 31}, 0);
+    controls.upMese = MakeSpin(page, "Mese", {542, 40, 24, 32}, "mese", {0, 12}, 0);
+    for (const ListRow& row : ListRows()) {
         MakeList(controls, page, row);
     }
-    MakeLabels(controls, page, kNumbers);
+    for (const NumberRow& row : NumberRows()) {
+        MakeNumberLabels(controls, page, row);
+    }
     MakeSplits(controls, page);
-    MakeSpins(controls, page, kSpins);
+    for (const NumberRow& row : NumberRows()) {
+        MakeNumberSpins(controls, page, row);
+    }
     MakeNotes(controls, page);
-    MakeLabels(controls, page, kPlan);
-    MakeLabels(controls, page, kRace);
-    MakePictures(controls, page);
-    MakeLabels(controls, page, kFoot);
+    controls.tableSlip = MakeSlip(controls, page, kPlan, kPlanStep, true);
+    controls.raceSlip = MakeSlip(controls, page, kRace, kRaceStep, false);
+    controls.lblTimerTab = MakeLabel(page, QStringLiteral("lblTimerTab"), "0", {0, 0, 1, 1}, Style::SlipValue, {});
+    controls.lblTimerTab->SetVisible(false);
+    MakeCounters(controls, page);
+    controls.lblNomeFile =
+        MakeLabel(page, QStringLiteral("lblNomeFile"), {}, kFileName, Style::FileName, "Nome del diario");
     MakeOrderedList(controls, page);
 }
 

@@ -20,7 +20,7 @@ namespace zelvia
 {
 
 /// The controls of a text field that takes its value from a selection list.
-struct ControlliLista {
+struct ListControls {
     Label* lbl = nullptr;      ///< The caption.
     Label* lblImmis = nullptr; ///< The value on the page.
     TextBox* txt = nullptr;    ///< Lies over the value, hidden at rest.
@@ -28,7 +28,7 @@ struct ControlliLista {
 };
 
 /// The controls of a line of notes.
-struct ControlliNota {
+struct NoteControls {
     Label* lbl = nullptr;
     TextBox* txt = nullptr;
 };
@@ -39,114 +39,67 @@ using NumberMember = std::variant<std::monostate, i16 RecordGiorno::*, i32 Recor
 /// Every control of the day page under its name. What stands where is in PageLayout.
 struct PageControls {
     // Date and file.
-    Label* lblData = nullptr;
-    UpDown* upGiorno = nullptr;
-    UpDown* upMese = nullptr;
-    Label* lblNomeFile = nullptr;
+    Label *lblData{}, *lblNomeFile{};
+    UpDown *upGiorno{}, *upMese{};
 
     // Counters of the year.
-    Label* lblNumGiornoAnno = nullptr;
-    Label* lblNumGiorniCorseAnno = nullptr;
-    Label* lblNumKMPercorsi = nullptr;
-    Label* lblNumGare = nullptr;
-    Picture* pctGiornoAnno = nullptr;
-    Picture* pctAllenamenti = nullptr;
-    Picture* pctKmpercorsi = nullptr;
-    Picture* pctGare = nullptr;
+    Label *lblNumGiornoAnno{}, *lblNumGiorniCorseAnno{}, *lblNumKMPercorsi{}, *lblNumGare{};
+    Picture *pctGiornoAnno{}, *pctAllenamenti{}, *pctKmpercorsi{}, *pctGare{};
 
     // Text fields, in the order of their lists' numbers.
-    BoundedArray<ControlliLista, 1, 8> campi;
-    ControlliLista& Campo(SelectionList lista) { return campi[static_cast<int>(lista)]; }
+    BoundedArray<ListControls, 1, 8> campi;
+    ListControls& Campo(SelectionList lista) { return campi[static_cast<int>(lista)]; }
 
     // Numeric fields.
-    struct NumberSpin {
+    Label *lblKm{}, *lblImmisMetri{};
+    UpDown *upKM{}, *upMetri{}, *upMetro{};
+    Label *lblOraInizio{}, *lblImmisOraInizio{};
+    UpDown *upOraInizio{}, *upMinutiInizio{}, *upSecondiInizio{};
+    Label *lblOraFine{}, *lblImmisOraFine{};
+    UpDown *upOraFine{}, *upMinutiFine{}, *upSecondiFine{};
+    Label *lblOutTempoImpiegato{}, *lblOutMediaKM{};
+    Label *lblCorridori{}, *lblImmisCorridori{};
+    UpDown* upCorridori{};
+    Label *lblPeso{}, *lblImmisPeso{};
+    UpDown* upPeso{};
+    Label *lblRipetizioni{}, *lblRipetizioniVolte{}, *lblRipetizioniDistanza{}, *lblRipetizioniQuante{};
+    UpDown *upRipetizioni{}, *upRipetizioniDistanza{}, *upRipetizioniQuante{}, *upRipetizioniTempi{};
+
+    /// The spin control and the value label of each number.
+    struct NumberControls {
         NumberMember member;
         UpDown* spin;
+        Label* label;
     };
-    std::vector<NumberSpin> numeri;
-    /// The spin control that shows a number of the day. Each has one.
-    UpDown& SpinOf(NumberMember member) const;
-    Label* lblKm = nullptr;
-    Label* lblImmisMetri = nullptr;
-    UpDown* upKM = nullptr;
-    UpDown* upMetri = nullptr;
-    UpDown* upMetro = nullptr;
-    Label* lblOraInizio = nullptr;
-    Label* lblImmisOraInizio = nullptr;
-    UpDown* upOraInizio = nullptr;
-    UpDown* upMinutiInizio = nullptr;
-    UpDown* upSecondiInizio = nullptr;
-    Label* lblOraFine = nullptr;
-    Label* lblImmisOraFine = nullptr;
-    UpDown* upOraFine = nullptr;
-    UpDown* upMinutiFine = nullptr;
-    UpDown* upSecondiFine = nullptr;
-    Label* lblOutTempoImpiegato = nullptr;
-    Label* lblOutMediaKM = nullptr;
-    Label* lblCorridori = nullptr;
-    Label* lblImmisCorridori = nullptr;
-    UpDown* upCorridori = nullptr;
-    Label* lblPeso = nullptr;
-    Label* lblImmisPeso = nullptr;
-    UpDown* upPeso = nullptr;
-    Label* lblRipetizioni = nullptr;
-    Label* lblRipetizioniVolte = nullptr;
-    Label* lblRipetizioniDistanza = nullptr;
-    Label* lblRipetizioniQuante = nullptr;
-    UpDown* upRipetizioni = nullptr;
-    UpDown* upRipetizioniDistanza = nullptr;
-    UpDown* upRipetizioniQuante = nullptr;
-    UpDown* upRipetizioniTempi = nullptr;
+    std::vector<NumberControls> numbers;
+    const NumberControls& ControlsOf(NumberMember member) const;
+    /// The captions of the fields.
+    std::vector<Label*> captions;
 
     // Kilometre splits and the sorted list of times.
-    Label* lblTempoKm = nullptr;
-    Label* lblImmisTempoKM = nullptr;
-    Label* lblImmisTempoMinuti = nullptr;
-    UpDown* upTempoKM = nullptr;
-    UpDown* upTempoOre = nullptr;
-    UpDown* upTempoMinuti = nullptr;
-    UpDown* upTempoSecondi = nullptr;
-    ListBox* lstListaKM = nullptr;
-    Button* cmdListaKM = nullptr;
-    ListBox* lstListaOrdinata = nullptr;
+    Label *lblTempoKm{}, *lblImmisTempoKM{}, *lblImmisTempoMinuti{};
+    UpDown *upTempoKM{}, *upTempoOre{}, *upTempoMinuti{}, *upTempoSecondi{};
+    ListBox *lstListaKM{}, *lstListaOrdinata{};
+    Button* cmdListaKM{};
     std::array<Button*, 4> cmdLO{};
 
-    BoundedArray<ControlliNota, 3, 10> note;
+    BoundedArray<NoteControls, 3, 10> note;
 
-    // The active table.
-    Picture* pctTabAllenamenti = nullptr;
-    Picture* pctTabKm = nullptr;
-    Picture* pctTabTempo = nullptr;
-    Picture* pctTabMedia = nullptr;
-    Picture* pctTabAndatura = nullptr;
-    Picture* pctTabTerreno = nullptr;
-    Picture* pctTabRipetizioni = nullptr;
-    Label* lblTabNomeFile = nullptr;
-    Label* lblKmTab = nullptr;
-    Label* lblTempoTab = nullptr;
-    Label* lblMediaTab = nullptr;
-    Label* lblAndaturaTab = nullptr;
-    Label* lblFondoTab = nullptr;
-    Label* lblRipetizioniTab = nullptr;
-    Label* lblTimerTab = nullptr;
-
-    // The race of the day.
-    Picture* pctCalGara = nullptr;
-    Picture* pctCalLocalita = nullptr;
-    Picture* pctCalLunghezza = nullptr;
-    Picture* pctCalPartecipanti = nullptr;
-    Picture* pctCalTempoImpiegato = nullptr;
-    Picture* pctCalRisultato = nullptr;
-    Picture* pctCalCategoria = nullptr;
-    Picture* pctCalRisCategoria = nullptr;
-    Label* lblGara = nullptr;
-    Label* lblLocalita = nullptr;
-    Label* lblPartecipanti = nullptr;
-    Label* lblTempoImpiegato = nullptr;
-    Label* lblLunghezzaGara = nullptr;
-    Label* lblRisultato = nullptr;
-    Label* lblCategoria = nullptr;
-    Label* lblRisultatoCat = nullptr;
+    // The slip of the active table, and that of the race of the day.
+    Picture *pctTabAllenamenti{}, *pctTabKm{}, *pctTabTempo{}, *pctTabMedia{}, *pctTabAndatura{}, *pctTabTerreno{};
+    Picture* pctTabRipetizioni{};
+    Label *lblTabNomeFile{}, *lblKmTab{}, *lblTempoTab{}, *lblMediaTab{}, *lblAndaturaTab{}, *lblFondoTab{};
+    Label *lblRipetizioniTab{}, *lblTimerTab{};
+    Picture *pctCalGara{}, *pctCalLocalita{}, *pctCalLunghezza{}, *pctCalPartecipanti{}, *pctCalTempoImpiegato{};
+    Picture *pctCalRisultato{}, *pctCalCategoria{}, *pctCalRisCategoria{};
+    Label *lblGara{}, *lblLocalita{}, *lblPartecipanti{}, *lblTempoImpiegato{}, *lblLunghezzaGara{};
+    Label *lblRisultato{}, *lblCategoria{}, *lblRisultatoCat{};
+    /// The lines of a slip from the top down: a printed caption and a value.
+    struct SlipLine {
+        Picture* picture;
+        Label* label;
+    };
+    std::vector<SlipLine> tableSlip, raceSlip;
 };
 
 /// Creates every control of the page on `page`, in its place, with its caption and limits, visible or hidden as at

@@ -86,15 +86,11 @@ void Slips::ShowTableRow(i16 riga)
                                         digits(row.repetitionMinutes) + ":" + digits(row.repetitionSeconds));
 }
 
-void Slips::ShowTablePanel(bool visible)
+void Slips::Show(const std::vector<PageControls::SlipLine>& slip, bool visible)
 {
-    for (Picture* picture : {page_.pctTabAllenamenti, page_.pctTabKm, page_.pctTabTempo, page_.pctTabMedia,
-                             page_.pctTabAndatura, page_.pctTabTerreno, page_.pctTabRipetizioni}) {
-        picture->SetVisible(visible);
-    }
-    for (Label* label : {page_.lblTabNomeFile, page_.lblKmTab, page_.lblTempoTab, page_.lblMediaTab,
-                         page_.lblAndaturaTab, page_.lblFondoTab, page_.lblRipetizioniTab}) {
-        label->SetVisible(visible);
+    for (const PageControls::SlipLine& line : slip) {
+        line.picture->SetVisible(visible);
+        line.label->SetVisible(visible);
     }
     raised_();
 }
@@ -125,20 +121,6 @@ void Slips::GiornodellaGara(i16& indice)
         page_.lblRisultatoCat->SetCaption(testi.risultatoCat);
         page_.lblLunghezzaGara->SetCaption(testi.lunghezza);
     });
-}
-
-void Slips::ShowRacePanel(bool visible)
-{
-    for (Picture* picture :
-         {page_.pctCalGara, page_.pctCalLocalita, page_.pctCalLunghezza, page_.pctCalPartecipanti,
-          page_.pctCalTempoImpiegato, page_.pctCalRisultato, page_.pctCalCategoria, page_.pctCalRisCategoria}) {
-        picture->SetVisible(visible);
-    }
-    for (Label* label : {page_.lblGara, page_.lblLocalita, page_.lblPartecipanti, page_.lblTempoImpiegato,
-                         page_.lblLunghezzaGara, page_.lblRisultato, page_.lblCategoria, page_.lblRisultatoCat}) {
-        label->SetVisible(visible);
-    }
-    raised_();
 }
 
 } // namespace zelvia

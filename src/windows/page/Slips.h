@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace zelvia
 {
@@ -24,14 +25,15 @@ public:
     void ShowTableName();
     /// Reads the active table and shows the row of the day.
     void ShowActiveTable();
-    void ShowTablePanel(bool visible);
-    void ShowRacePanel(bool visible);
+    void ShowTablePanel(bool visible) { Show(page_.tableSlip, visible); }
+    void ShowRacePanel(bool visible) { Show(page_.raceSlip, visible); }
     /// Shows the race of the day shown, if the calendar has one.
     void AssegnaGara();
     /// Shows the race at row `indice` of the calendar.
     void GiornodellaGara(i16& indice);
 
 private:
+    void Show(const std::vector<PageControls::SlipLine>& slip, bool visible);
     void ShowTableRow(i16 riga);
     void EndTable();
 

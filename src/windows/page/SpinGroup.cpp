@@ -5,50 +5,56 @@
 #include "core/RunTimeError.h"
 #include "toolkit/SpinKeys.h"
 #include "windows/page/FrmMain.h"
-
-#include <algorithm>
+#include "windows/page/PageFields.h"
 
 namespace zelvia
 {
 
-SpinGroup::SpinGroup(frmMain& page, Parts parts) : page_(page), parts_(std::move(parts))
+SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group) : page_(page)
 {
-    for (const Value& value : parts_.values) {
-        value.label->OnClick([this, &value] {
-            Trap(value.title + " - ERRORE : ", [&] {
-                if (value.probe->Visible()) {
-                    page_.FocusSink().SetFocus();
-                } else {
-                    page_.FollowInTabOrder(*value.label);
-                    Open(value.opening);
-                }
-            });
-        });
+    for (const SpinRow& spin : group.spins) {
+        spins_.push_back(page_.*spin.member);
+        controls_.push_back(page_.*spin.member);
     }
-    parts_.caption->OnClick(
-        [this] { Trap(parts_.captionTitle + " - ERRORE : ", [this] { page_.FocusSink().SetFocus(); }); },
-        KeyReach::MouseOnly);
-    parts_.focus->LostFocus = [this] { Close(); };
-    ConnectKeys();
+    const UpDown& first = *spins_[group.focus];
+    focus_ = spins_[group.focus];
+    if (group.then == Then::Splits) {
+        controls_.insert(controls_.end(), {page_.lstListaKM, page_.cmdListaKM});
+        focus_ = page_.cmdListaKM;
+    }
+    for (const ValueRow& value : group.values) {
+        Connect(value);
+    }
+    (page_.*row.label)
+        ->OnClick(
+            [this, title = "lbl" + Text(row.name)] {
+                Trap(title + " - ERRORE : ", [this] { page_.FocusSink().SetFocus(); });
+            },
+            KeyReach::MouseOnly);
+    focus_->LostFocus = [this] { Close(); };
+    new SpinKeys(focus_->Widget(), spins_, first, [this] { page_.FocusSink().SetFocus(); });
 }
 
-void SpinGroup::ConnectKeys()
+void SpinGroup::Connect(const ValueRow& value)
 {
-    std::vector<UpDown*> spins;
-    for (Control* control : parts_.controls) {
-        if (auto* spin = dynamic_cast<UpDown*>(control)) {
-            spins.push_back(spin);
-        }
-    }
-    std::sort(spins.begin(), spins.end(), [](const UpDown* a, const UpDown* b) { return a->x() < b->x(); });
-    const auto* first = dynamic_cast<UpDown*>(parts_.focus);
-    new SpinKeys(parts_.focus->Widget(), spins, first != nullptr ? *first : *spins.front(),
-                 [this] { page_.FocusSink().SetFocus(); });
+    const Text click = "lbl" + Text(value.click.empty() ? value.name : value.click);
+    const Text opening(value.opening.empty() ? value.name : value.opening);
+    Label& label = *(page_.*value.label);
+    label.OnClick([this, &label, &probe = *spins_[value.probe], click, opening] {
+        Trap(click + " - ERRORE : ", [&] {
+            if (probe.Visible()) {
+                page_.FocusSink().SetFocus();
+            } else {
+                page_.FollowInTabOrder(label);
+                Open(opening);
+            }
+        });
+    });
 }
 
 void SpinGroup::Show(bool visible)
 {
-    for (Control* control : parts_.controls) {
+    for (Control* control : controls_) {
         control->SetVisible(visible);
     }
 }
@@ -58,14 +64,14 @@ void SpinGroup::Open(const Text& opening)
     Trap(opening + " - ERRORE : ", [this] {
         Show(true);
         try {
-            page_.EnterField(*parts_.focus);
+            page_.EnterField(*focus_);
         } catch (...) {
             // Without the focus nothing would ever close it.
             Show(false);
             throw;
         }
-        if (parts_.opened) {
-            parts_.opened();
+        if (Opened) {
+            Opened();
         }
     });
 }
@@ -73,8 +79,8 @@ void SpinGroup::Open(const Text& opening)
 void SpinGroup::Close()
 {
     Show(false);
-    if (parts_.closed) {
-        parts_.closed();
+    if (Closed) {
+        Closed();
     }
     page_.CursoreNormale();
 }

@@ -70,7 +70,7 @@ void ListsTest::theControlsOfAField()
     QFETCH(int, number);
     EntryPage page;
     page.Start();
-    const ControlliLista& field = page.Field(number);
+    const ListControls& field = page.Field(number);
     QCOMPARE(field.lbl->objectName().toLatin1(), Named("lbl", number));
     QCOMPARE(field.lblImmis->objectName().toLatin1(), Named("lblImmis", number));
     QCOMPARE(field.txt->objectName().toLatin1(), Named("txt", number));

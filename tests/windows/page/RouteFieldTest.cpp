@@ -268,7 +268,7 @@ void RouteFieldTest::closesInOrder()
     QStringList seen;
     page.script.Expect({QStringLiteral(" DESCRIZIONE MAX PER 200 PERCORSI "), QMessageBox::Critical});
     page.script.Meanwhile([&] {
-        const ControlliLista& field = page.Field(kRoute);
+        const ListControls& field = page.Field(kRoute);
         seen << (field.txt->isVisible() || field.lst->isVisible() ? QStringLiteral("open") : QStringLiteral("hidden"))
              << QString::number(page->ListaAperta.value()) << page.ListOf(kRoute).constLast() << field.lblImmis->text()
              << ToQString(Module1::PercorsoCorrente) << QString::number(page.Hands());

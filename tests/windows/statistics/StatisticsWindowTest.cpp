@@ -172,7 +172,7 @@ void StatisticsWindowTest::anOpenFieldIsClosedFirst()
     constexpr int kind = 5;
     StatisticsDesk desk;
     desk.Start();
-    ControlliLista& field = desk->campi[kind];
+    ListControls& field = desk->campi[kind];
     hand::Click(*field.lblImmis);
     QTRY_VERIFY(field.txt->hasFocus());
     hand::Type(QStringLiteral("gara"));
