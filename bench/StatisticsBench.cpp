@@ -40,7 +40,7 @@ void Measure(frmMain& page, const std::string& platform)
     page.show();
     onPage.Wait();
     while (Module1::GiornoCorrente < 365) {
-        page.upGiorno_UpClick();
+        page.upGiorno->UpClick();
     }
     FillEveryDay();
 

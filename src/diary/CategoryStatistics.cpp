@@ -46,7 +46,7 @@ void Append(Statistics& rows, std::size_t& count)
         }
         using Value = std::remove_cvref_t<decltype(R().*kField<I>.member)>;
         Statistic& row = rows[count++];
-        row = {kField<I>.label, given.name, given.criterion, given.counted, given.text};
+        row = {kField<I>.label, given.name, given.entry, given.criterion, given.counted, given.text};
         if (row.counts == nullptr) {
             row.counts = [](const R& day) { return day.*kField<I>.member != Value(); };
         }

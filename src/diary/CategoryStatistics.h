@@ -43,6 +43,7 @@ inline constexpr auto kAllCategories = [] {
 struct Statistic {
     TextView title; ///< The word that names the category.
     TextView name;  ///< As its routines, its menu entry and its button have it.
+    TextView entry; ///< The caption of the menu entry.
     Criterion criterion;
     bool (*counts)(const RecordGiorno& day);          ///< Whether the day counts.
     Text (*text)(const RecordGiorno& day);            ///< Its value, null where that is a number.

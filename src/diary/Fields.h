@@ -31,7 +31,8 @@ struct SheetPlace {
 
 /// How the values of a field are counted and looked for. One without a name is not.
 struct FieldStatistic {
-    TextView name = {}; ///< As its routines, its menu entry and its button have it.
+    TextView name = {};  ///< As its routines, its menu entry and its button have it.
+    TextView entry = {}; ///< The caption of that menu entry.
     Criterion criterion = {};
     bool (*counted)(const RecordGiorno& giorno) = nullptr; ///< Null: what is neither empty nor 0 counts.
     Text (*text)(const RecordGiorno& giorno) = nullptr;    ///< Null for a value that is counted as it is.
@@ -112,13 +113,17 @@ inline constexpr auto kFields = [] {
     using N32 = NumberField<i32>;
     return std::tuple(
         SlotField{{{}, &R::NumGiorno}}, DateField{{"Data", &R::Data}},
-        ListField{{"Percorso", &R::Percorso}, L::Percorso, {4, "Percorso "}, {"Percorso", &C::CercaPercorso}},
-        ListField{{"Lunghezza", &R::Lunghezza}, L::Lunghezza, {6, "Lunghezza"}, {"Lunghezza", &C::CercaLunghezza}},
-        N16{{"Km", &R::Km}, {0, 500}, {8, "Km"}, {"Km", &C::CercaKm, HasDistance, KmText}},
+        ListField{
+            {"Percorso", &R::Percorso}, L::Percorso, {4, "Percorso "}, {"Percorso", "Perc&orso", &C::CercaPercorso}},
+        ListField{{"Lunghezza", &R::Lunghezza},
+                  L::Lunghezza,
+                  {6, "Lunghezza"},
+                  {"Lunghezza", "&Lunghezza", &C::CercaLunghezza}},
+        N16{{"Km", &R::Km}, {0, 500}, {8, "Km"}, {"Km", "&Km", &C::CercaKm, HasDistance, KmText}},
         N16{{"Metri", &R::Metri}, {0, 999}},
-        ListField{{"Andatura", &R::Modo}, L::Modo, {10, "Andatura "}, {"Andatura", &C::CercaAndatura}},
-        ListField{{"Terreno", &R::Fondo}, L::Fondo, {12, "Terreno"}, {"Fondo", &C::CercaFondo}},
-        ListField{{"Tipo", &R::Tipo}, L::Tipo, {14, "Tipo"}, {"Tipo", &C::CercaTipo}},
+        ListField{{"Andatura", &R::Modo}, L::Modo, {10, "Andatura "}, {"Andatura", "&Andatura", &C::CercaAndatura}},
+        ListField{{"Terreno", &R::Fondo}, L::Fondo, {12, "Terreno"}, {"Fondo", "Terre&no", &C::CercaFondo}},
+        ListField{{"Tipo", &R::Tipo}, L::Tipo, {14, "Tipo"}, {"Tipo", "&Tipo", &C::CercaTipo}},
         N16{{"Ora Inizio, ore", &R::OraInizio}, {0, 24}, {16, "Ora Inizio"}},
         N16{{"Ora Inizio, minuti", &R::MinutiInizio}, {0, 59}},
         N16{{"Ora Inizio, secondi", &R::SecondiInizio}, {0, 59}},
@@ -126,21 +131,22 @@ inline constexpr auto kFields = [] {
         N16{{"Ora Fine, minuti", &R::MinutiFine}, {0, 59}}, N16{{"Ora Fine, secondi", &R::SecondiFine}, {0, 59}},
         TimeField{{"Tempo", &R::TempoImpiegato}, "0:00:00", {20, "Tempo"}},
         TimeField{{"Media", &R::MediaKm}, "0:00", {22, "Media"}}, SplitsField{"Tempi Km"},
-        ListField{{"Stagione", &R::Stagione}, L::Stagione, {24, "Stagione"}, {"Stagione", &C::CercaStagione}},
-        ListField{{"Meteo", &R::TempoAtm}, L::TempoAtm, {26, "Meteo"}, {"Meteo", &C::CercaMeteo}},
+        ListField{
+            {"Stagione", &R::Stagione}, L::Stagione, {24, "Stagione"}, {"Stagione", "Sta&gione", &C::CercaStagione}},
+        ListField{{"Meteo", &R::TempoAtm}, L::TempoAtm, {26, "Meteo"}, {"Meteo", "&Meteo", &C::CercaMeteo}},
         ListField{{"Temperatura", &R::Temperatura},
                   L::Temperatura,
                   {28, "Temperatura"},
-                  {"Temperatura", &C::CercaTemperatura}},
+                  {"Temperatura", "T&emperatura", &C::CercaTemperatura}},
         N32{{"Corridori", &R::Corridori},
             {1, 100000},
             {30, "Corridori"},
-            {"Corridori", &C::CercaCorridori, HasDistance}},
-        N16{{"Peso", &R::Peso}, {0, 150}, {32, "Peso"}, {"Peso", &C::CercaPeso}},
+            {"Corridori", "&Corridori", &C::CercaCorridori, HasDistance}},
+        N16{{"Peso", &R::Peso}, {0, 150}, {32, "Peso"}, {"Peso", "Pe&so", &C::CercaPeso}},
         N16{{"Ripetizioni", &R::Ripetizioni},
             {0, 99},
             {34, "Ripetizioni"},
-            {"Ripetizioni", &C::CercaRipetizioni, nullptr, RepetitionsText}},
+            {"Ripetizioni", "&Ripetizioni", &C::CercaRipetizioni, nullptr, RepetitionsText}},
         N16{{"Ripetizioni, metri", &R::RipetizioniDistanza}, {0, 10000, 100}, {34, {}, 20, "x"}},
         N16{{"Ripetizioni, minuti", &R::RipetizioniQuante}, {0, 60}, {34, {}, 27, "@"}},
         N16{{"Ripetizioni, secondi", &R::RipetizioniTempi}, {0, 59}}, HiddenNotes{"Note fuori pagina"},

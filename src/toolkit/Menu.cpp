@@ -16,7 +16,7 @@ void FillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, MenuKind kind)
 {
     for (const MenuEntry& entry : entries) {
         QAction* action = entry.caption.empty() ? menu.addSeparator() : menu.addAction(ToQString(entry.caption));
-        action->setObjectName(QLatin1String(entry.name));
+        action->setObjectName(ToQString(entry.name));
         action->setShortcut(entry.shortcut);
         QObject::connect(action, &QAction::triggered, &menu, [click = entry.click, before = entry.before, kind] {
             if (kind == MenuKind::Bar) {

@@ -19,7 +19,7 @@ namespace zelvia
 
 /// An entry of a menu; one without a caption is a separator.
 struct MenuEntry {
-    const char* name;
+    Text name;
     TextView caption;
     std::function<void()> click;
     QKeySequence shortcut = {};

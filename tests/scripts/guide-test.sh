@@ -38,9 +38,12 @@ expect "pictures without words" "$(grep -n '<img' *.html | grep -v 'alt="[^"]' |
 # Every window and every entry of a menu is a topic under its name.
 topics=$(grep -oE ' id="[^"]+"' guida.qhp | sed 's/ id="//; s/"$//' | sort)
 expect "topics named twice" "$(uniq -d <<<"$topics")" ""
-names=$(cd "$source_folder/src" &&
-  { grep -rhoE '\{"mnu[A-Za-z]+", "' . | grep -oE 'mnu[A-Za-z]+'; grep -rhoE 'Form\(QStringLiteral\("frm[A-Za-z0-9]+"' . |
-    grep -oE 'frm[A-Za-z0-9]+'; } | sort -u)
+names=$(cd "$source_folder/src" && {
+  grep -oE '\{"mnu[A-Za-z]+", "[^"]*", &M::' windows/page/FrmMainMenus.cpp | grep -oE 'mnu[A-Za-z]+'
+  # The statistics are entries by the rows of the fields.
+  grep -oE '\{"[A-Za-z]+", "[^"]*", &C::' diary/Fields.h | grep -oE '^\{"[A-Za-z]+' | sed 's/^{"/mnu/'
+  grep -rhoE 'Form\(QStringLiteral\("frm[A-Za-z0-9]+"' . | grep -oE 'frm[A-Za-z0-9]+'
+} | sort -u)
 expect "windows and menu entries were found" "$(($(wc -l <<<"$names") > 35))" 1
 expect "windows and menu entries without a topic" "$(comm -13 <(sort -u <<<"$topics") <(echo "$names"))" ""
 

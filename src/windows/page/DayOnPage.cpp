@@ -93,9 +93,9 @@ void DayOnPage::Show(const RecordGiorno& giorno)
                   [&](const TimeField& field) { ShowTime(field, giorno); },
                   [&](const SplitsField& /*field*/) {
                       BlankSplits();
-                      for (const Text& parziale : giorno.ListaKm) {
-                          if (!parziale.empty()) {
-                              page_.lstListaKM->AddItem(parziale);
+                      for (const Text& split : giorno.ListaKm) {
+                          if (!split.empty()) {
+                              page_.lstListaKM->AddItem(split);
                           }
                       }
                   },

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A day between its record and the controls.
+// The day shown: its date, its record and the controls, its sheet.
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Printer.h"
 #include "windows/page/DayOnPage.h"
 #include "windows/page/FrmMain.h"
+
+#include <QAction>
 
 namespace zelvia
 {
@@ -34,14 +37,14 @@ void frmMain::AssegnaCampi()
     });
 }
 
-void frmMain::ControllaSave(i16& esito)
+void frmMain::ControllaSave(i16& result)
 {
     Trap("ControllaSave - ERRORE : ", [&] {
         const DayOnPage day(*this);
         const RecordGiorno& giorno = Giorni[GiornoCorrente];
-        esito = day.Differs(giorno) ? 1 : 0;
+        result = day.Differs(giorno) ? 1 : 0;
         if (day.SplitsDiffer(giorno)) {
-            esito = 1;
+            result = 1;
         }
     });
 }
@@ -75,6 +78,50 @@ void frmMain::DatiAnno()
         lblNumGiorniCorseAnno->SetCaption(PlainText(GiorniCorseAnno));
         lblNumGare->SetCaption(PlainText(GareAnno));
     });
+}
+
+void frmMain::Data()
+{
+    Trap("Data - ERRORE : ", [this] {
+        lblData->SetCaption(Format(DataCorrente, "   dddd  d  mmmm  yyyy"));
+        GiornoMese = DataCorrente.Day();
+        MeseCorrente = DataCorrente.Month();
+        AnnoCorrente = DataCorrente.Year();
+        GiornoCorrente = DataCorrente.DayOfYear();
+        lblNumGiornoAnno->SetCaption(PlainText(GiornoCorrente));
+        AzzeraDatiTabella();
+        NascondiRiquadriGara();
+        if (!NomeTabellaAttiva.empty()) {
+            AssegnaTabella();
+        }
+        AssegnaGara();
+    });
+}
+
+void frmMain::tmrFocus_Timer()
+{
+    Trap("tmrFocus - ERRORE : ", [this] {
+        if (Val(lblTimerTab->Caption()) != 1) {
+            return;
+        }
+        lblTimerTab->SetCaption("0");
+        AzzeraDatiTabella();
+        if (!NomeTabellaAttiva.empty()) {
+            ShowActiveTable();
+        }
+        // The plan comes back on the next day without a race.
+        if (lblGara->Visible()) {
+            TabAllenamentiNonVisibili();
+        }
+    });
+}
+
+void frmMain::mnuFilePrint_Click()
+{
+    auto* entry = findChild<QAction*>(QStringLiteral("mnuFilePrint"));
+    entry->setEnabled(false);
+    Trap(kPrintErrors, [this] { PrintSheet(DaySheet(DayOnPage(*this).SheetTexts())); });
+    entry->setEnabled(true);
 }
 
 } // namespace zelvia

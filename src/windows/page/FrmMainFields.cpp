@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What follows the user's hand on the page: the date's arrows, Escape, the pointers.
+// What the fields of the page share.
 #include "core/RunTimeError.h"
 #include "diary/ProgramFiles.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
-#include "toolkit/SpinKeys.h"
+#include "toolkit/Keys.h"
 #include "windows/page/FrmMain.h"
 
 #include <QKeyEvent>
@@ -13,28 +13,47 @@
 namespace zelvia
 {
 
-void frmMain::ConnectControls()
+void frmMain::ConnectFields()
 {
-    lblData->OnClick([this] { lblData_Click(); });
-    new SpinKeys(*upGiorno, {upGiorno, upMese}, *upGiorno, [this] {
-        lstListaOrdinata_LostFocus();
-        FocusSink().SetFocus();
-    });
-    for (UpDown* spin : {upGiorno, upMese}) {
-        spin->BeforeStep = [this] { return LeaveFieldForDate(); };
+    auto route = std::make_unique<RouteField>(*this);
+    route_ = route.get();
+    for (const SelectionList lista : kAllLists) {
+        std::unique_ptr<SelectionField>& field = fields_[static_cast<int>(lista)];
+        if (lista == SelectionList::Percorso) {
+            field = std::move(route);
+        } else {
+            field = std::make_unique<SelectionField>(*this, lista);
+        }
     }
-    upGiorno->DownClick = [this] { upGiorno_DownClick(); };
-    upGiorno->UpClick = [this] { upGiorno_UpClick(); };
-    upMese->DownClick = [this] { upMese_DownClick(); };
-    upMese->UpClick = [this] { upMese_UpClick(); };
+    numbers_.emplace(*this);
+    splits_.emplace(*this, numbers_->Splits());
+    notes_.emplace(*this);
+    dates_.emplace(*this);
     tmrFocus->Tick = [this] { tmrFocus_Timer(); };
     lstListaOrdinata->LostFocus = [this] { lstListaOrdinata_LostFocus(); };
     lstListaOrdinata->KeyPress = [this](int keyAscii) {
-        constexpr int escape = 27;
-        if (keyAscii == escape) {
+        if (keyAscii == kEscape) {
             lstListaOrdinata_LostFocus();
         }
     };
+}
+
+void frmMain::FollowInTabOrder(QWidget& field)
+{
+    QWidget& sink = FocusSink().Widget();
+    // Qt leaves alone what Tab does not stop at.
+    sink.setFocusPolicy(Qt::TabFocus);
+    QWidget::setTabOrder(&field, &sink);
+    sink.setFocusPolicy(Qt::NoFocus);
+}
+
+void frmMain::EnterField(Control& control)
+{
+    control.GotFocus = [this, &control] {
+        control.GotFocus = {};
+        CursoreMano();
+    };
+    control.SetFocus();
 }
 
 /// A key that no control of the page had a use for.
@@ -64,6 +83,12 @@ void frmMain::CursoreNormale()
             label->unsetCursor();
         }
     });
+}
+
+void frmMain::SetDistance(i32 km, i32 metri)
+{
+    upKM->SetValue(km);
+    upMetri->SetValue(metri);
 }
 
 } // namespace zelvia

@@ -7,11 +7,9 @@
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
-#include "windows/page/CampoLista.h"
 #include "windows/page/FrmMain.h"
 #include "windows/page/PageArt.h"
 
-#include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
 
@@ -36,7 +34,7 @@ void BringToFront(QWidget* window)
 
 frmMain::frmMain()
     : Form(QStringLiteral("frmMain")), tmrFocus(new Timer(this, QStringLiteral("tmrFocus"), kTickMilliseconds)),
-      mnuCancelladallaLista(new QMenu(this)), tables_(*this)
+      mnuCancelladallaLista(new ListMenu(*this)), tables_(*this)
 {
     setWindowTitle(QStringLiteral("Zelvia"));
     auto* bar = new QMenuBar(this);
@@ -49,11 +47,7 @@ frmMain::frmMain()
     layout->addWidget(page);
     BuildPage(*this, page);
     BuildMenus(*bar);
-    ConnectControls();
-    ConnectLists();
-    numbers_.emplace(*this);
-    splits_.emplace(*this, numbers_->Splits());
-    notes_.emplace(*this);
+    ConnectFields();
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().ShowAgain = [this] {
         BringToFront(this);
@@ -82,16 +76,11 @@ bool frmMain::FormLoad()
     return true;
 }
 
-void frmMain::mnuFileExit_Click()
-{
-    Unload();
-}
-
 void frmMain::OnUnload()
 {
     tables_.UnloadEditor();
     tables_.UnloadList();
-    desPercorso_.Unload();
+    route_->UnloadDescription();
     calendario_.Unload();
     statistiche_.Unload();
     grafici_.Unload();

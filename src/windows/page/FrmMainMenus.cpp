@@ -7,102 +7,115 @@
 #include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
 
-#include <QMenu>
 #include <QMenuBar>
+
+#include <span>
 
 namespace zelvia
 {
 
+namespace
+{
+
+/// A command of the menus and the key of its button, if it has one. One without a caption is a separator.
+struct Command {
+    const char* name;
+    TextView caption = {};
+    void (frmMain::*run)() = nullptr;
+    TextView key = {};
+    Qt::Key shortcut = {};
+};
+
+using M = frmMain;
+
+constexpr Command kFile[] = {
+    {"mnuFileOpen", "&Apri", &M::mnuFileOpen_Click, "Open"},
+    {"mnuFileBar0"},
+    {"mnuFileNuovo", "&Nuovo", &M::mnuFileNuovo_Click, "Nuovo"},
+    {"mnuFileBar2"},
+    {"mnuFileSave", "&Salva", &M::mnuFileSave_Click, "Save"},
+    {"mnuFileSaveAs", "Sal&va con nome", &M::mnuFileSaveAs_Click},
+    {"mnuFileBar3"},
+    {"mnuFilePrint", "S&tampa", &M::mnuFilePrint_Click, "Print"},
+    {"mnuFileBar4"},
+    {"mnuFileExit", "&Esci", &M::mnuFileExit_Click},
+};
+constexpr Command kOptions[] = {
+    {"mnuNote", "&Note", &M::mnuNote_Click, "Note"},
+    {"mnuAzzeraGiorno", "Az&zera Giorno", &M::mnuAzzeraGiorno_Click, "AzzeraGiorno"},
+    {"mnuListaPrecedente", "Ripristina &Lista Precedente", &M::mnuListaPrecedente_Click, "ListaPrecedente"},
+    {"mnuListaIniziale", "Ripristina Lista &Iniziale", &M::mnuListaIniziale_Click, "ListaIniziale"},
+};
+constexpr Command kTables[] = {
+    {"mnuAllenamenti", "&Allenamenti", &M::mnuAllenamenti_Click, "Allenamenti"},
+    {"mnuGare", "&Gare", &M::mnuGare_Click, "Gare"},
+};
+// The statistics follow.
+constexpr Command kStatistics[] = {
+    {"mnuMedie", "&Medie", &M::mnuMedie_Click, "Medie"},
+    {"mnuStatBar"},
+};
+constexpr Command kHelp[] = {
+    {"mnuHelpContents", "&Sommario", &M::mnuHelpContents_Click, "Help", Qt::Key_F1},
+    {"mnuHelpSearchForHelpOn", "&Cerca argomento", &M::mnuHelpSearchForHelpOn_Click},
+    {"mnuHelpBar0"},
+    {"mnuHelpAbout", "&Informazioni su", &M::mnuHelpAbout_Click},
+};
+
+constexpr struct {
+    const char* name;
+    TextView caption;
+    std::span<const Command> commands;
+} kMenus[] = {{"mnuFile", "&File", kFile},
+              {"mnuOpzioni", "&Opzioni", kOptions},
+              {"mnuTabelle", "&Tabelle", kTables},
+              {"mnuStatistiche", "&Statistiche", kStatistics},
+              {"mnuHelp", "&?", kHelp}};
+
+std::vector<MenuEntry> Entries(frmMain& page, std::span<const Command> commands)
+{
+    std::vector<MenuEntry> entries;
+    for (const Command& command : commands) {
+        entries.push_back({command.name, command.caption, {}});
+        if (command.run != nullptr) {
+            entries.back().click = [&page, run = command.run] { (page.*run)(); };
+        }
+        if (command.shortcut != Qt::Key()) {
+            entries.back().shortcut = QKeySequence(command.shortcut);
+        }
+    }
+    return entries;
+}
+
+} // namespace
+
 void frmMain::BuildMenus(QMenuBar& bar)
 {
-    AddMenu(bar, "mnuFile", "&File",
-            {{"mnuFileOpen", "&Apri", [this] { mnuFileOpen_Click(); }},
-             {"mnuFileBar0", {}, {}},
-             {"mnuFileNuovo", "&Nuovo", [this] { mnuFileNuovo_Click(); }},
-             {"mnuFileBar2", {}, {}},
-             {"mnuFileSave", "&Salva", [this] { mnuFileSave_Click(); }},
-             {"mnuFileSaveAs", "Sal&va con nome", [this] { mnuFileSaveAs_Click(); }},
-             {"mnuFileBar3", {}, {}},
-             {"mnuFilePrint", "S&tampa", [this] { mnuFilePrint_Click(); }},
-             {"mnuFileBar4", {}, {}},
-             {"mnuFileExit", "&Esci", [this] { mnuFileExit_Click(); }}});
-    AddMenu(bar, "mnuOpzioni", "&Opzioni",
-            {{"mnuNote", "&Note", [this] { mnuNote_Click(); }},
-             {"mnuAzzeraGiorno", "Az&zera Giorno", [this] { mnuAzzeraGiorno_Click(); }},
-             {"mnuListaPrecedente", "Ripristina &Lista Precedente", [this] { mnuListaPrecedente_Click(); }},
-             {"mnuListaIniziale", "Ripristina Lista &Iniziale", [this] { mnuListaIniziale_Click(); }}});
-    AddMenu(bar, "mnuTabelle", "&Tabelle",
-            {{"mnuAllenamenti", "&Allenamenti", [this] { mnuAllenamenti_Click(); }},
-             {"mnuGare", "&Gare", [this] { mnuGare_Click(); }}});
-    AddMenu(bar, "mnuStatistiche", "&Statistiche",
-            {{"mnuMedie", "&Medie", [this] { mnuMedie_Click(); }},
-             {"mnuStatBar", {}, {}},
-             {"mnuPercorso", "Perc&orso", [this] { mnuPercorso_Click(); }},
-             {"mnuLunghezza", "&Lunghezza", [this] { mnuLunghezza_Click(); }},
-             {"mnuKm", "&Km", [this] { mnuKm_Click(); }},
-             {"mnuAndatura", "&Andatura", [this] { mnuAndatura_Click(); }},
-             {"mnuFondo", "Terre&no", [this] { mnuFondo_Click(); }},
-             {"mnuTipo", "&Tipo", [this] { mnuTipo_Click(); }},
-             {"mnuStagione", "Sta&gione", [this] { mnuStagione_Click(); }},
-             {"mnuMeteo", "&Meteo", [this] { mnuMeteo_Click(); }},
-             {"mnuTemperatura", "T&emperatura", [this] { mnuTemperatura_Click(); }},
-             {"mnuCorridori", "&Corridori", [this] { mnuCorridori_Click(); }},
-             {"mnuPeso", "Pe&so", [this] { mnuPeso_Click(); }},
-             {"mnuRipetizioni", "&Ripetizioni", [this] { mnuRipetizioni_Click(); }}});
-    AddMenu(bar, "mnuHelp", "&?",
-            {{"mnuHelpContents", "&Sommario", [this] { mnuHelpContents_Click(); }, QKeySequence(Qt::Key_F1)},
-             {"mnuHelpSearchForHelpOn", "&Cerca argomento", [this] { mnuHelpSearchForHelpOn_Click(); }},
-             {"mnuHelpBar0", {}, {}},
-             {"mnuHelpAbout", "&Informazioni su", [this] { mnuHelpAbout_Click(); }}});
-
-    mnuCancelladallaLista->setObjectName(QStringLiteral("mnuCancelladallaLista"));
-    mnuCancelladallaLista->setTitle(QStringLiteral("&Cancella dalla Lista"));
-    const auto leaveNewRoute = [this] {
-        if (NewRouteTyped()) {
-            LeaveRouteBox();
+    for (const auto& menu : kMenus) {
+        std::vector<MenuEntry> entries = Entries(*this, menu.commands);
+        if (menu.commands.data() == kStatistics) {
+            for (const Categoria categoria : kAllCategories) {
+                const Statistic& statistic = StatisticOf(categoria);
+                entries.push_back(
+                    {"mnu" + Text(statistic.name), statistic.entry, [this, categoria] { ShowStatistic(categoria); }});
+            }
         }
-    };
-    // The description takes the focus in any case, and the route's box must not close behind it.
-    const auto leaveRoute = [this] { LeaveRouteBox(); };
-    FillMenu(*mnuCancelladallaLista,
-             {{"mnuCancella", "&Cancella", [this] { mnuCancella_Click(); }},
-              {"mnuListaWOrdinata", "&Tempi", [this] { mnuListaWOrdinata_Click(); }, {}, leaveNewRoute},
-              {"mnuDescrizionePercorso", "&Descrizione", [this] { mnuDescrizionePercorso_Click(); }, {}, leaveRoute}},
-             MenuKind::PopUp);
+        AddMenu(bar, menu.name, menu.caption, entries);
+    }
 }
 
 void frmMain::DispatchCommand(TextView key)
 {
-    // The commands that are carried out by a window of their own join the table with it.
-    static constexpr std::pair<TextView, void (frmMain::*)()> handlers[] = {
-        {"Open", &frmMain::mnuFileOpen_Click},
-        {"Nuovo", &frmMain::mnuFileNuovo_Click},
-        {"Save", &frmMain::mnuFileSave_Click},
-        {"Print", &frmMain::mnuFilePrint_Click},
-        {"Help", &frmMain::mnuHelpContents_Click},
-        {"Note", &frmMain::mnuNote_Click},
-        {"Allenamenti", &frmMain::mnuAllenamenti_Click},
-        {"Gare", &frmMain::mnuGare_Click},
-        {"Medie", &frmMain::mnuMedie_Click},
-        {"AzzeraGiorno", &frmMain::mnuAzzeraGiorno_Click},
-        {"ListaPrecedente", &frmMain::mnuListaPrecedente_Click},
-        {"ListaIniziale", &frmMain::mnuListaIniziale_Click},
-        {"Percorso", &frmMain::mnuPercorso_Click},
-        {"Lunghezza", &frmMain::mnuLunghezza_Click},
-        {"Km", &frmMain::mnuKm_Click},
-        {"Andatura", &frmMain::mnuAndatura_Click},
-        {"Terreno", &frmMain::mnuFondo_Click},
-        {"Tipo", &frmMain::mnuTipo_Click},
-        {"Stagione", &frmMain::mnuStagione_Click},
-        {"Meteo", &frmMain::mnuMeteo_Click},
-        {"Temperatura", &frmMain::mnuTemperatura_Click},
-        {"Corridori", &frmMain::mnuCorridori_Click},
-        {"Peso", &frmMain::mnuPeso_Click},
-        {"Ripetizioni", &frmMain::mnuRipetizioni_Click},
-    };
-    for (const auto& [name, handler] : handlers) {
-        if (name == key) {
-            (this->*handler)();
+    for (const auto& menu : kMenus) {
+        for (const Command& command : menu.commands) {
+            if (!command.key.empty() && command.key == key) {
+                (this->*command.run)();
+            }
+        }
+    }
+    for (const Categoria categoria : kAllCategories) {
+        if (StatisticOf(categoria).title == key) {
+            ShowStatistic(categoria);
         }
     }
 }
@@ -117,23 +130,13 @@ void frmMain::mnuGare_Click()
     Trap("mnuGare - ERRORE : ", [this] { calendario_.Load().ShowInFront(); });
 }
 
-void frmMain::mnuHelpContents_Click()
-{
-    ShowHelp(HelpCommand::Contents);
-}
-
-void frmMain::mnuHelpSearchForHelpOn_Click()
-{
-    ShowHelp(HelpCommand::Search);
-}
-
-void frmMain::ShowHelp(int comando, const QString& argomento)
+void frmMain::ShowHelp(int command, const QString& topic)
 {
     if (FileGuida.empty()) {
         MsgBox(Messages::kNoGuide);
         return;
     }
-    TrapWith([&] { guida_.WinHelp(FileGuida, comando, argomento); },
+    TrapWith([&] { guida_.WinHelp(FileGuida, command, topic); },
              [](const ErroreRunTime& error) { MsgBox(Messages::kGuideNotRead, error.Description()); });
 }
 

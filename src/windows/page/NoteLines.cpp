@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Keys.h"
 #include "windows/page/FrmMain.h"
 
 namespace zelvia
@@ -11,74 +12,71 @@ namespace zelvia
 namespace
 {
 
-constexpr int kBackspace = 8;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
 constexpr int kFirstNote = 3;
 constexpr int kLastNote = 10;
 
-Text NoteName(TextView control, int riga)
+Text NoteName(TextView control, int line)
 {
-    return Text(control) + "Note" + PlainText(i32(riga)) + " - ERRORE : ";
+    return Text(control) + "Note" + PlainText(i32(line)) + " - ERRORE : ";
 }
 
 } // namespace
 
 NoteLines::NoteLines(frmMain& page) : page_(page)
 {
-    for (int riga = kFirstNote; riga <= kLastNote; ++riga) {
-        page_.note[riga].lbl->OnClick([this, riga] { lblNote_Click(riga); });
-        page_.note[riga].txt->LostFocus = [this, riga] {
-            Trap(NoteName("txt", riga), [&] {
-                page_.note[riga].txt->SetVisible(false);
-                page_.note[riga].lbl->SetCaption(page_.note[riga].txt->Content());
+    for (int line = kFirstNote; line <= kLastNote; ++line) {
+        page_.note[line].lbl->OnClick([this, line] { lblNote_Click(line); });
+        page_.note[line].txt->LostFocus = [this, line] {
+            Trap(NoteName("txt", line), [&] {
+                page_.note[line].txt->SetVisible(false);
+                page_.note[line].lbl->SetCaption(page_.note[line].txt->Content());
             });
         };
-        page_.note[riga].txt->Click = [this, riga] { txtNote_Click(riga); };
-        page_.note[riga].txt->KeyPress = [this, riga](int& keyAscii) { txtNote_KeyPress(riga, keyAscii); };
+        page_.note[line].txt->Click = [this, line] { txtNote_Click(line); };
+        page_.note[line].txt->KeyPress = [this, line](int& keyAscii) { txtNote_KeyPress(line, keyAscii); };
     }
 }
 
-void NoteLines::lblNote_Click(int riga)
+void NoteLines::lblNote_Click(int line)
 {
-    Trap(NoteName("lbl", riga), [&] {
-        page_.note[riga].txt->SetContent(page_.note[riga].lbl->Caption());
-        page_.FollowInTabOrder(*page_.note[riga].txt);
-        page_.note[riga].txt->SetVisible(true);
-        page_.note[riga].txt->SetFocus();
+    Trap(NoteName("lbl", line), [&] {
+        page_.note[line].txt->SetContent(page_.note[line].lbl->Caption());
+        page_.FollowInTabOrder(*page_.note[line].txt);
+        page_.note[line].txt->SetVisible(true);
+        page_.note[line].txt->SetFocus();
         page_.LunghezzaNota = 0;
     });
 }
 
-void NoteLines::txtNote_Click(int riga)
+void NoteLines::txtNote_Click(int line)
 {
-    Trap(NoteName("txt", riga), [this] {
+    Trap(NoteName("txt", line), [this] {
         page_.NoteAperte = 1;
         mnuNote_Click();
     });
 }
 
-void NoteLines::txtNote_KeyPress(int riga, int keyAscii)
+void NoteLines::txtNote_KeyPress(int line, int keyAscii)
 {
     // The handler of the seventh line goes by the name of its label.
     constexpr int misnamed = 7;
-    Trap(NoteName(riga == misnamed ? "lbl" : "txt", riga), [&] {
+    Trap(NoteName(line == misnamed ? "lbl" : "txt", line), [&] {
         if (keyAscii == kBackspace) {
             return;
         }
-        TextBox& txt = *page_.note[riga].txt;
+        TextBox& txt = *page_.note[line].txt;
         page_.LunghezzaNota = static_cast<int>(Len(txt.Content()));
         if (page_.LunghezzaNota == txt.Limit() - 1) {
             txt.SetVisible(false);
-            if (riga < kLastNote) {
-                page_.note[riga + 1].txt->SetVisible(true);
-                page_.note[riga + 1].txt->SetFocus();
+            if (line < kLastNote) {
+                page_.note[line + 1].txt->SetVisible(true);
+                page_.note[line + 1].txt->SetFocus();
             }
         }
-        if (keyAscii == kEscape || (keyAscii == kEnter && riga == kLastNote)) {
-            txtNote_Click(riga);
+        if (keyAscii == kEscape || (keyAscii == kEnter && line == kLastNote)) {
+            txtNote_Click(line);
         } else if (keyAscii == kEnter) {
-            lblNote_Click(riga + 1);
+            lblNote_Click(line + 1);
         }
     });
 }
@@ -90,8 +88,8 @@ void NoteLines::mnuNote_Click()
             return;
         }
         const bool show = page_.NoteAperte == 0;
-        for (const NoteControls& nota : page_.note) {
-            nota.txt->SetVisible(show);
+        for (const NoteControls& note : page_.note) {
+            note.txt->SetVisible(show);
         }
         page_.NoteAperte = show ? 1 : 0;
     });

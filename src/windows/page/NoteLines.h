@@ -13,9 +13,9 @@ class NoteLines
 public:
     explicit NoteLines(frmMain& page);
 
-    void lblNote_Click(int riga);
-    void txtNote_Click(int riga);
-    void txtNote_KeyPress(int riga, int keyAscii);
+    void lblNote_Click(int line);
+    void txtNote_Click(int line);
+    void txtNote_KeyPress(int line, int keyAscii);
     /// Opens all lines, or closes them.
     void mnuNote_Click();
 

@@ -17,12 +17,12 @@ namespace
 class PageTimesBox : public TimesBox
 {
 public:
-    explicit PageTimesBox(ListBox& casella) : casella_(casella) {}
-    void AddLine(TextView riga) override { casella_.AddItem(riga); }
-    void Select(int indice) override { casella_.SetListIndex(indice); }
+    explicit PageTimesBox(ListBox& box) : box_(box) {}
+    void AddLine(TextView line) override { box_.AddItem(line); }
+    void Select(int index) override { box_.SetListIndex(index); }
 
 private:
-    ListBox& casella_;
+    ListBox& box_;
 };
 
 } // namespace
@@ -38,48 +38,48 @@ void OrderedTimes::Begin()
     times_->CreaLista();
 }
 
-void OrderedTimes::AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun)
+void OrderedTimes::AddRun(i16 giorno, const Text& time, const Text& pace, CalendarDate date)
 {
-    AddRunTo(*times_, giorno, tempoRun, media, dataRun);
+    AddRunTo(*times_, giorno, time, pace, date);
 }
 
-void OrderedTimes::AddRunsOf(const Text& percorso, i16 ultimo)
+void OrderedTimes::AddRunsOf(const Text& route, i16 last)
 {
-    for (i16 i = 1; i <= ultimo; i += 1) {
+    for (i16 i = 1; i <= last; i += 1) {
         const RecordGiorno& giorno = Giorni[i];
-        if (giorno.Percorso == percorso) {
+        if (giorno.Percorso == route) {
             AddRun(giorno.NumGiorno, giorno.TempoImpiegato, giorno.MediaKm, giorno.Data);
         }
     }
 }
 
-void OrderedTimes::Fill(bool posizione)
+void OrderedTimes::Fill(bool place)
 {
-    PageTimesBox casella(*page_.lstListaOrdinata);
+    PageTimesBox box(*page_.lstListaOrdinata);
     times_->Ordina();
-    times_->NuovaListalst(&casella);
+    times_->NuovaListalst(&box);
     times_->RiempiListalst();
-    if (posizione) {
+    if (place) {
         times_->Posizione();
     }
     times_->NuovaListalst(nullptr);
 }
 
-void OrderedTimes::ListavOrdinata(const Text& percorso)
+void OrderedTimes::ListavOrdinata(const Text& route)
 {
     Trap("ListavOrdinata - ERRORE : ", [&] {
         Begin();
-        AddRunsOf(percorso, GiornoCorrente - 1);
+        AddRunsOf(route, GiornoCorrente - 1);
         AddRun(GiornoCorrente, page_.lblOutTempoImpiegato->Caption(), page_.lblOutMediaKM->Caption(), DataCorrente);
         Fill(true);
     });
 }
 
-void OrderedTimes::ListavOrdinataDue(const Text& percorso)
+void OrderedTimes::ListavOrdinataDue(const Text& route)
 {
     Trap("ListavOrdinataDue - ERRORE : ", [&] {
         Begin();
-        AddRunsOf(percorso, GiornoCorrente);
+        AddRunsOf(route, GiornoCorrente);
         Fill(false);
     });
 }

@@ -17,18 +17,18 @@ public:
     explicit OrderedTimes(PageControls& page) : page_(page) {}
 
     /// Opens the list, the day on show as one of its lines.
-    void ListavOrdinata(const Text& percorso);
+    void ListavOrdinata(const Text& route);
     /// The same from the stored days only.
-    void ListavOrdinataDue(const Text& percorso);
+    void ListavOrdinataDue(const Text& route);
     void Close();
     /// Puts it over what was shown last, as long as it is open.
     void Raise();
 
 private:
     void Begin();
-    void AddRun(i16 giorno, const Text& tempoRun, const Text& media, CalendarDate dataRun);
-    void AddRunsOf(const Text& percorso, i16 ultimo);
-    void Fill(bool posizione);
+    void AddRun(i16 giorno, const Text& time, const Text& pace, CalendarDate date);
+    void AddRunsOf(const Text& route, i16 last);
+    void Fill(bool place);
 
     PageControls& page_;
     std::optional<ListaOrdinata> times_; ///< Alive while it is open.

@@ -54,11 +54,11 @@ void Slips::ShowActiveTable()
 void Slips::AssegnaTabella()
 {
     Trap("AssegnaTabella - ERRORE : ", [this] {
-        const WalkResult esito = WalkTable();
-        if (esito.state == WalkResult::State::Finished) {
+        const WalkResult walk = WalkTable();
+        if (walk.state == WalkResult::State::Finished) {
             EndTable();
-        } else if (esito.state == WalkResult::State::UnderWay) {
-            ShowTableRow(esito.row);
+        } else if (walk.state == WalkResult::State::UnderWay) {
+            ShowTableRow(walk.row);
         }
     });
 }
@@ -73,9 +73,9 @@ void Slips::EndTable()
     SalvaNomeTabella();
 }
 
-void Slips::ShowTableRow(i16 riga)
+void Slips::ShowTableRow(i16 line)
 {
-    const PlanRow row = PlanRowAt(riga);
+    const PlanRow row = PlanRowAt(line);
     const auto digits = [](i16 number) { return PlainText(number); };
     page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metres));
     page_.lblTempoTab->SetCaption(digits(row.hours) + ":" + digits(row.minutes) + ":" + digits(row.seconds));
@@ -99,9 +99,9 @@ void Slips::AssegnaGara()
 {
     Trap("AssegnaGara - ERRORE : ", [this] {
         ShowRacePanel(false);
-        i16 riga = RaceOnDate(session.GiornoMese, session.MeseCorrente, session.AnnoCorrente);
-        if (riga > 0) {
-            GiornodellaGara(riga);
+        i16 place = RaceOnDate(session.GiornoMese, session.MeseCorrente, session.AnnoCorrente);
+        if (place > 0) {
+            GiornodellaGara(place);
         }
     });
 }
@@ -111,15 +111,15 @@ void Slips::GiornodellaGara(i16& indice)
     Trap("GiornodellaGara - ERRORE : ", [&] {
         ShowTablePanel(false);
         ShowRacePanel(true);
-        const RaceTexts testi = RaceTextsOf(indice);
-        page_.lblGara->SetCaption(testi.gara);
-        page_.lblLocalita->SetCaption(testi.localita);
-        page_.lblPartecipanti->SetCaption(testi.partecipanti);
-        page_.lblTempoImpiegato->SetCaption(testi.tempo);
-        page_.lblRisultato->SetCaption(testi.risultato);
-        page_.lblCategoria->SetCaption(testi.categoria);
-        page_.lblRisultatoCat->SetCaption(testi.risultatoCat);
-        page_.lblLunghezzaGara->SetCaption(testi.lunghezza);
+        const RaceTexts texts = RaceTextsOf(indice);
+        page_.lblGara->SetCaption(texts.gara);
+        page_.lblLocalita->SetCaption(texts.localita);
+        page_.lblPartecipanti->SetCaption(texts.partecipanti);
+        page_.lblTempoImpiegato->SetCaption(texts.tempo);
+        page_.lblRisultato->SetCaption(texts.risultato);
+        page_.lblCategoria->SetCaption(texts.categoria);
+        page_.lblRisultatoCat->SetCaption(texts.risultatoCat);
+        page_.lblLunghezzaGara->SetCaption(texts.lunghezza);
     });
 }
 

@@ -34,7 +34,7 @@ public:
 
 private:
     void Show(const std::vector<PageControls::SlipLine>& slip, bool visible);
-    void ShowTableRow(i16 riga);
+    void ShowTableRow(i16 line);
     void EndTable();
 
     PageControls& page_;

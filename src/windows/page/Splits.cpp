@@ -5,11 +5,8 @@
 #include "core/Conversions.h"
 #include "core/Messages.h"
 #include "core/RunTimeError.h"
-#include "toolkit/Menu.h"
 #include "windows/page/FrmMain.h"
 #include "windows/page/SpinGroup.h"
-
-#include <QMenu>
 
 namespace zelvia
 {
@@ -37,12 +34,7 @@ Splits::Splits(frmMain& page, SpinGroup& group) : page_(page), group_(group)
         });
     };
     page_.lstListaKM->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
-        Trap("lstListaKm - ERRORE : ", [&] {
-            page_.ShowRouteEntries(false);
-            if (button == Qt::RightButton) {
-                OpenPopUp(*page_.mnuCancelladallaLista, position);
-            }
-        });
+        Trap("lstListaKm - ERRORE : ", [&] { page_.mnuCancelladallaLista->OnListMouseUp(button, position, false); });
     };
     page_.upTempoKM->Change = [this] {
         Trap("upTempo - ERRORE : ", [this] { page_.lblImmisTempoKM->SetCaption(TwoDigits(*page_.upTempoKM)); });
@@ -72,12 +64,12 @@ void Splits::cmdListaKM_Click()
             MsgBox(Messages::kSplitWithoutTime);
             return;
         }
-        const Text parziale = page_.lblImmisTempoKM->Caption() + "      " + page_.lblImmisTempoMinuti->Caption();
-        if (Holds(page_.lstListaKM->Items(), parziale)) {
+        const Text split = page_.lblImmisTempoKM->Caption() + "      " + page_.lblImmisTempoMinuti->Caption();
+        if (Holds(page_.lstListaKM->Items(), split)) {
             MsgBox(Messages::kSplitInList);
             return;
         }
-        page_.lstListaKM->AddItem(parziale);
+        page_.lstListaKM->AddItem(split);
     });
 }
 

@@ -107,7 +107,7 @@ void ListMenuTest::aReleaseOverTheRoutesHidesTheirEntries()
 {
     EntryPage page;
     page.Start();
-    page->ShowRouteEntries(true);
+    page->mnuCancelladallaLista->ShowRouteEntries(true);
     OpenAndSelect(page, 1, 0);
     for (const char* entry : {"mnuListaWOrdinata", "mnuDescrizionePercorso"}) {
         QTRY_VERIFY(!page->findChild<QAction*>(QLatin1String(entry))->isVisible());

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Zelvia authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/page/DateArrows.h"
+
+#include "core/RunTimeError.h"
+#include "toolkit/FocusController.h"
+#include "toolkit/QtText.h"
+#include "toolkit/SpinKeys.h"
+#include "windows/page/FrmMain.h"
+
+namespace zelvia
+{
+
+using namespace Module1;
+
+DateArrows::DateArrows(frmMain& page) : page_(page)
+{
+    page_.lblData->OnClick([this] { lblData_Click(); });
+    new SpinKeys(*page_.upGiorno, {page_.upGiorno, page_.upMese}, *page_.upGiorno, [this] {
+        page_.lstListaOrdinata_LostFocus();
+        page_.FocusSink().SetFocus();
+    });
+    for (UpDown* spin : {page_.upGiorno, page_.upMese}) {
+        const TextView interval = spin == page_.upGiorno ? "d" : "m";
+        spin->BeforeStep = [this] { return LeaveField(); };
+        spin->DownClick = [this, spin, interval] { Move(*spin, interval, -1); };
+        spin->UpClick = [this, spin, interval] { Move(*spin, interval, 1); };
+    }
+}
+
+bool DateArrows::LeaveField()
+{
+    FocusController& focus = FocusController::Instance();
+    const Control* current = focus.Current();
+    const bool arrows = current == page_.upGiorno || current == page_.upMese;
+    if (current != nullptr && !arrows && current->Widget().window() == &page_) {
+        focus.LeaveField();
+    }
+    return !page_.Route().Described();
+}
+
+void DateArrows::Move(const UpDown& spin, TextView interval, int step)
+{
+    Trap(FromQString(spin.objectName()) + " - ERRORE : ", [&] {
+        page_.lstListaOrdinata_LostFocus();
+        page_.AssegnaCampi();
+        page_.AzzeraCampi();
+
+        // The edge of the year is tested on the date before the step; a step over the edge of the whole range is undone
+        // there a second time.
+        const bool byDays = interval == "d";
+        const bool edgeOfYear = step < 0 ? page_.MeseCorrente == 1 && (!byDays || page_.GiornoMese == 1)
+                                         : page_.MeseCorrente == 12 && (!byDays || page_.GiornoMese == 31);
+
+        DataCorrente = DateAdd(interval, step, DataCorrente);
+        if (step < 0 ? DataCorrente < page_.DataMinima : DataCorrente > page_.DataMassima) {
+            DataCorrente = DateAdd(interval, -step, DataCorrente);
+        }
+        if (edgeOfYear) {
+            DataCorrente = DateAdd(interval, -step, DataCorrente);
+        }
+        page_.Data();
+        page_.VisualizzaGiorno();
+        page_.DatiAnno();
+    });
+}
+
+void DateArrows::lblData_Click()
+{
+    Trap("lblData - ERRORE : ", [this] {
+        page_.FollowInTabOrder(*page_.lblData);
+        page_.upGiorno->SetVisible(true);
+        page_.upMese->SetVisible(true);
+        page_.upGiorno->SetFocus();
+    });
+}
+
+} // namespace zelvia
