@@ -8,7 +8,6 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace zelvia
 {
@@ -18,18 +17,13 @@ namespace
 using namespace PageLayout;
 
 // Everything large is filled in upright rectangles, and only corners are smoothed: the painter deals the lines of a
-// large smoothed, shaded or translucent area to threads, which costs the first paint more than the lines themselves.
+// large smoothed, shaded or translucent area to threads. The whole sheet takes 0.8 ms this way and 2.0 ms in plain
+// rounded rectangles, whose straight edges would also be blurred on a screen of 1.5 times the size.
 
 /// The most lines of a translucent area that are filled without threads.
 constexpr int kLines = 60;
 
 constexpr int kCorner = 12; ///< What lies further than this from a corner of a sheet or its shadow has straight edges.
-
-QColor Mixed(const QColor& from, const QColor& to, double part)
-{
-    const auto mix = [part](int first, int last) { return qRound(first + (last - first) * part); };
-    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
-}
 
 /// A sheet of paper with rounded corners.
 void FillSheet(QPainter& painter, const QRect& sheet, int radius, const QColor& paper)
@@ -56,13 +50,14 @@ void DrawFrame(QPainter& painter, const QRect& frame, int radius, const QColor& 
     painter.setPen(QPen(ink, 1));
     painter.setBrush(Qt::NoBrush);
     const qreal size = 2.0 * radius;
-    const qreal right = frame.right() + 0.5 - size;
-    const qreal bottom = frame.bottom() + 0.5 - size;
-    constexpr int quarter = 90 * 16;
-    painter.drawArc(QRectF(frame.left() + 0.5, frame.top() + 0.5, size, size), quarter, quarter);
-    painter.drawArc(QRectF(right, frame.top() + 0.5, size, size), 0, quarter);
-    painter.drawArc(QRectF(frame.left() + 0.5, bottom, size, size), 2 * quarter, quarter);
-    painter.drawArc(QRectF(right, bottom, size, size), 3 * quarter, quarter);
+    const QRectF inner = QRectF(frame).adjusted(0.5, 0.5, -0.5 - size, -0.5 - size);
+    const QPointF corners[] = {inner.topRight(), inner.topLeft(), inner.bottomLeft(), inner.bottomRight()};
+    int from = 0;
+    for (const QPointF& corner : corners) {
+        constexpr int quarter = 90 * 16;
+        painter.drawArc(QRectF(corner, QSizeF(size, size)), from, quarter);
+        from += quarter;
+    }
 }
 
 /// The soft shadow of a sheet in layers that lie over each other, given from the widest on. What the sheet hides is
@@ -71,50 +66,34 @@ void DrawShadow(QPainter& painter, const QRect& sheet, const QList<QRect>& layer
 {
     const QRect& widest = layers.first();
     const QRect straight = sheet.adjusted(kCorner, kCorner, -kCorner, -kCorner);
-    const int cornersLeft = widest.left();
-    const int cornersRight = straight.right() + 1;
-    const int leftWidth = straight.left() - cornersLeft;
-    const int rightWidth = widest.right() + 1 - cornersRight;
-    const std::pair<int, int> rows[] = {{widest.top(), straight.top() - widest.top()},
-                                        {straight.bottom() + 1, widest.bottom() - straight.bottom()}};
+    const QRegion corners = QRegion(widest) - QRect(straight.left(), widest.top(), straight.width(), widest.height()) -
+                            QRect(widest.left(), straight.top(), widest.width(), straight.height());
     painter.setPen(Qt::NoPen);
     painter.setBrush(shade);
-    for (const auto& [top, height] : rows) {
-        for (const QRect& corner :
-             {QRect(cornersLeft, top, leftWidth, height), QRect(cornersRight, top, rightWidth, height)}) {
-            painter.setClipRect(corner);
-            for (const QRect& layer : layers) {
-                painter.drawRoundedRect(layer, radius, radius);
-            }
+    for (const QRect& corner : corners) {
+        painter.setClipRect(corner);
+        for (const QRect& layer : layers) {
+            painter.drawRoundedRect(layer, radius, radius);
         }
     }
     painter.setClipping(false);
     for (const QRect& layer : layers) {
-        painter.fillRect(straight.left(), layer.top(), straight.width(), qMax(0, sheet.top() - layer.top()), shade);
-        painter.fillRect(straight.left(), sheet.bottom() + 1, straight.width(), layer.bottom() - sheet.bottom(), shade);
-        for (int top = straight.top(); top <= straight.bottom(); top += kLines) {
-            const int height = qMin(kLines, straight.bottom() + 1 - top);
-            painter.fillRect(layer.left(), top, sheet.left() - layer.left(), height, shade);
-            painter.fillRect(sheet.right() + 1, top, layer.right() - sheet.right(), height, shade);
+        for (const QRect& side : QRegion(layer) - sheet - corners) {
+            for (int top = side.top(); top <= side.bottom(); top += kLines) {
+                painter.fillRect(side.left(), top, side.width(), qMin(kLines, side.bottom() + 1 - top), shade);
+            }
         }
     }
 }
 
-/// The wood darkens from the top on; where the diary hides it, it is left out.
+/// The wood darkens from the top on.
 void DrawDesk(QPainter& painter)
 {
     constexpr int band = 24;
-    const QRect hidden = kLeftPage.united(kRightPage).adjusted(kCorner, kCorner, -kCorner, -kCorner);
     const QColor light = Ink::Desk.lighter(116);
     const QColor dark = Ink::Desk.darker(116);
     for (int top = 0; top < kDesk.height(); top += band) {
-        const QColor wood = Mixed(light, dark, (top + band / 2.0) / kDesk.height());
-        if (top >= hidden.top() && top + band - 1 <= hidden.bottom()) {
-            painter.fillRect(0, top, hidden.left(), band, wood);
-            painter.fillRect(hidden.right() + 1, top, kDesk.right() - hidden.right(), band, wood);
-        } else {
-            painter.fillRect(0, top, kDesk.width(), band, wood);
-        }
+        painter.fillRect(0, top, kDesk.width(), band, Mixed(light, dark, (top + band / 2.0) / kDesk.height()));
     }
 }
 
@@ -246,20 +225,13 @@ void DrawSheet(QPainter& painter)
     DrawFoot(painter);
 }
 
-void PrintedLine(QPainter& painter)
-{
-    painter.setPen(QPen(Ink::Print, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-}
-
-/// Maps drawings of a 40 by 40 field on `area`.
-void ScaleTo(QPainter& painter, const QRectF& area)
-{
-    painter.translate(area.topLeft());
-    painter.scale(area.width() / 40, area.height() / 40);
-}
-
 } // namespace
+
+QColor Mixed(const QColor& from, const QColor& to, double part)
+{
+    const auto mix = [part](int first, int last) { return qRound(first + (last - first) * part); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
 
 // The face that is there as a rule comes first: a search through the others costs time at the start.
 constexpr TextView kPrintFace = "Liberation Serif";
@@ -271,18 +243,17 @@ QFont PrintFont(int pixels, bool bold)
     return font;
 }
 
-QFont DateFont()
-{
-    constexpr int pixels = 24;
-    QFont font = PageFont("Times New Roman", pixels);
-    font.setBold(true);
-    return font;
-}
-
 QFont PenFont(int pixels)
 {
     QFont font = PageFont(kPrintFace, pixels);
     font.setItalic(true);
+    return font;
+}
+
+QFont DateFont()
+{
+    QFont font = PageFont("Times New Roman", 24);
+    font.setBold(true);
     return font;
 }
 
@@ -293,83 +264,6 @@ Picture::Drawing CaptionDrawing(TextView caption, bool heading)
         painter.setPen(heading ? Ink::Accent : Ink::Print);
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, caption);
     };
-}
-
-void DrawCalendarLeaf(QPainter& painter, const QRectF& area)
-{
-    ScaleTo(painter, area);
-    PrintedLine(painter);
-    painter.drawRoundedRect(QRectF(6, 8, 28, 27), 3, 3);
-    painter.setBrush(Ink::Accent);
-    painter.drawRoundedRect(QRectF(6, 8, 28, 8), 3, 3);
-    painter.drawLine(QPointF(13, 5), QPointF(13, 11));
-    painter.drawLine(QPointF(27, 5), QPointF(27, 11));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Ink::Print);
-    for (int row = 0; row < 2; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            painter.drawEllipse(QPointF(13 + column * 7, 22 + row * 7), 1.6, 1.6);
-        }
-    }
-}
-
-void DrawShoe(QPainter& painter, const QRectF& area)
-{
-    ScaleTo(painter, area);
-    PrintedLine(painter);
-    QPainterPath shoe;
-    shoe.moveTo(4, 29);
-    shoe.lineTo(4, 17);
-    shoe.cubicTo(8, 20, 12, 18, 14, 12);
-    shoe.cubicTo(19, 20, 25, 21, 31, 23);
-    shoe.cubicTo(35, 24, 37, 26, 37, 29);
-    shoe.closeSubpath();
-    painter.setBrush(QColor(255, 255, 255, 120));
-    painter.drawPath(shoe);
-    painter.setBrush(Ink::Accent);
-    painter.drawRoundedRect(QRectF(4, 29, 33, 4), 2, 2);
-    for (int lace = 0; lace < 3; ++lace) {
-        painter.drawLine(QPointF(17.5 + lace * 4, 17 + lace * 2), QPointF(14.5 + lace * 4, 21 + lace * 1.6));
-    }
-}
-
-void DrawMilestone(QPainter& painter, const QRectF& area)
-{
-    ScaleTo(painter, area);
-    PrintedLine(painter);
-    QPainterPath stone;
-    stone.moveTo(10, 35);
-    stone.lineTo(10, 16);
-    stone.cubicTo(10, 3, 30, 3, 30, 16);
-    stone.lineTo(30, 35);
-    stone.closeSubpath();
-    painter.setBrush(Mixed(Ink::Paper, Qt::white, 120 / 255.0));
-    painter.drawPath(stone);
-    painter.drawLine(QPointF(5, 35), QPointF(35, 35));
-    // The headings' font, made smaller by the painter: a size of its own would be one more font to load.
-    painter.translate(20, 20);
-    painter.scale(0.7, 0.7);
-    painter.setFont(PrintFont(16, true));
-    painter.setPen(Ink::Accent);
-    painter.drawText(QRectF(-15, -12, 30, 24), Qt::AlignCenter, QStringLiteral("km"));
-}
-
-void DrawCup(QPainter& painter, const QRectF& area)
-{
-    ScaleTo(painter, area);
-    PrintedLine(painter);
-    painter.drawArc(QRectF(5, 9, 12, 12), 90 * 16, 180 * 16);
-    painter.drawArc(QRectF(23, 9, 12, 12), -90 * 16, 180 * 16);
-    QPainterPath cup;
-    cup.moveTo(11, 6);
-    cup.lineTo(29, 6);
-    cup.cubicTo(29, 18, 26, 23, 20, 24);
-    cup.cubicTo(14, 23, 11, 18, 11, 6);
-    painter.setBrush(QColor(222, 178, 70));
-    painter.drawPath(cup);
-    painter.drawLine(QPointF(20, 24), QPointF(20, 31));
-    painter.setBrush(Ink::Accent);
-    painter.drawRoundedRect(QRectF(12, 31, 16, 4), 1.5, 1.5);
 }
 
 PaperSheet::PaperSheet(QWidget* parent) : QWidget(parent)

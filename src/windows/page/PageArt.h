@@ -6,6 +6,7 @@
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
 
+#include <QColor>
 #include <QFont>
 #include <QPixmap>
 #include <QWidget>
@@ -22,6 +23,9 @@ QFont DateFont();
 
 /// A caption in print, for the pictures that carry one.
 Picture::Drawing CaptionDrawing(TextView caption, bool heading = false);
+
+/// A colour between two; `part` 0 is the first, 1 the last.
+QColor Mixed(const QColor& from, const QColor& to, double part);
 
 // The pictograms of the counters.
 void DrawCalendarLeaf(QPainter& painter, const QRectF& area);
