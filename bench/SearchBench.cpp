@@ -84,7 +84,7 @@ void Measure(frmMain& page, const std::string& platform)
         page.upGiorno->UpClick();
     }
     page.mnuMedie_Click();
-    page.mnuPercorso_Click();
+    page.DispatchCommand("Percorso");
     // After the last commit of the day on show.
     FillEveryDay();
     page.StatisPercorso();

@@ -12,11 +12,11 @@
 #include "windows/page/GivenNames.h"
 #include "windows/page/ListMenu.h"
 #include "windows/page/NoteLines.h"
-#include "windows/page/NumberFields.h"
 #include "windows/page/OrderedTimes.h"
 #include "windows/page/PageControls.h"
 #include "windows/page/RouteField.h"
 #include "windows/page/Slips.h"
+#include "windows/page/SpinGroup.h"
 #include "windows/page/Splits.h"
 #include "windows/page/TimeTaken.h"
 #include "windows/plan/TableWindows.h"
@@ -34,8 +34,7 @@ class QMenuBar;
 namespace zelvia
 {
 
-/// The program's main window: a page of a printed diary that shows one day. It starts the run, moves the date, carries
-/// a day between its record and the controls, and owns the file commands; it ends the run when it closes.
+/// The program's main window: a page of a printed diary that shows one day. The run ends when it closes.
 class frmMain : public Form,
                 public PageControls,
                 public NamedState,
@@ -82,7 +81,7 @@ public:
     void MostraRiquadriGara() { slips_.ShowRacePanel(true); }
     void NascondiRiquadriGara() { slips_.ShowRacePanel(false); }
     void AssegnaGara() override { slips_.AssegnaGara(); }
-    void GiornodellaGara(i16& indice) { slips_.GiornodellaGara(indice); }
+    void GiornodellaGara(i16& place) { slips_.GiornodellaGara(place); }
 
     // Files.
     void CaricaNomeFile() { files_.CaricaNomeFile(); }
@@ -103,8 +102,7 @@ public:
     i16 AggiungiLista(TextBox& txt, SelectionList lista) { return Field(lista).AggiungiLista(txt); }
     /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
     void FollowInTabOrder(QWidget& field);
-    /// Gives the focus to the control of a field that opens. The hand comes with it, behind the closing of another
-    /// field.
+    /// Gives the focus to the control of a field that opens. The hand comes with it, once another field has closed.
     void EnterField(Control& control);
     void mnuCancella_Click() { mnuCancelladallaLista->mnuCancella_Click(); }
     void mnuListaWOrdinata_Click() { route_->mnuListaWOrdinata_Click(); }
@@ -113,6 +111,7 @@ public:
     i16 NumeroPercorso() { return route_->NumeroPercorso(); }
     RouteField& Route() { return *route_; }
     SelectionField& Field(SelectionList lista) { return *fields_[static_cast<int>(lista)]; }
+
     // What other windows ask for.
     void SetActiveTableName(TextView nome) override { lblTabNomeFile->SetCaption(nome); }
     void RequestTableReading() override { lblTimerTab->SetCaption("1"); }
@@ -120,7 +119,6 @@ public:
     /// The window of the statistics, created when there is none.
     frmStatistiche1& StatisticsWindow();
 
-    // Times, splits and notes.
     i16 ControlloTempiKm() { return time_.ControlloTempiKm(); }
     void TempoImpiegato() { time_.TempoImpiegato(); }
     void tempo() { time_.tempo(); }
@@ -177,11 +175,12 @@ private:
     void CaricaLista(SelectionList lista) override { files_.CaricaLista(lista); }
     void Immis(SelectionList lista) override { Field(lista).Open(); }
     void Statis(Categoria categoria) override;
-    void ShowStatistic(Categoria categoria) override;
+    /// The command of a statistic: commits the day, counts and shows.
+    void ShowStatistic(Categoria categoria);
 
     BoundedArray<std::unique_ptr<SelectionField>, 1, 8> fields_;
     RouteField* route_ = nullptr; ///< One of them.
-    std::optional<NumberFields> numbers_;
+    std::vector<std::unique_ptr<SpinGroup>> numbers_;
     std::optional<Splits> splits_;
     std::optional<NoteLines> notes_;
     std::optional<DateArrows> dates_;

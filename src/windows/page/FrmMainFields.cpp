@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the fields of the page share.
+// What the fields of the page share, the commands that restore the lists and blank the day, the statistics.
 #include "core/RunTimeError.h"
 #include "diary/ProgramFiles.h"
+#include "diary/RouteModel.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/Keys.h"
@@ -13,20 +14,97 @@
 namespace zelvia
 {
 
+using namespace Module1;
+
+namespace
+{
+
+bool Agreed(const Message& question)
+{
+    return MsgBox(question) == MsgAnswer::OK;
+}
+
+} // namespace
+
+void frmMain::mnuListaIniziale_Click()
+{
+    Trap("mnuListaIniziale - ERRORE : ", [this] {
+        if (Agreed(Messages::kFirstLists)) {
+            InizializzaListe();
+            AzzeraPercorsi();
+            FileModificato = 1;
+        }
+    });
+}
+
+void frmMain::mnuListaPrecedente_Click()
+{
+    Trap("mnuListaPrecedente - ERRORE : ", [this] {
+        if (Agreed(Messages::kSavedLists)) {
+            NomeFleListe();
+            files_.CaricaListe();
+            CaricaPercorsi();
+            FileModificato = 1;
+        }
+    });
+}
+
+void frmMain::mnuAzzeraGiorno_Click()
+{
+    Trap("mnuAzzeraGiorno - ERRORE : ", [this] {
+        if (Agreed(Messages::kBlankDay)) {
+            AzzeraRecordGiorno(GiornoCorrente);
+            FileModificato = 1;
+            AzzeraCampi();
+            VisualizzaGiorno();
+        }
+    });
+}
+
+frmStatistiche1& frmMain::StatisticsWindow()
+{
+    return statistiche_.Load([this](const Text& titolo) { MostraGrafico(grafici_, titolo); });
+}
+
+void frmMain::Statis(zelvia::Categoria categoria)
+{
+    RunStatistic(StatisticOf(categoria), StatisticsWindow());
+}
+
+void frmMain::ShowStatistic(zelvia::Categoria categoria)
+{
+    AssegnaCampi();
+    Statis(categoria);
+    StatisticsWindow().ShowInFront();
+}
+
+void frmMain::mnuMedie_Click()
+{
+    AssegnaCampi();
+    ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); }).ShowInFront();
+}
+
 void frmMain::ConnectFields()
 {
-    auto route = std::make_unique<RouteField>(*this);
-    route_ = route.get();
     for (const SelectionList lista : kAllLists) {
-        std::unique_ptr<SelectionField>& field = fields_[static_cast<int>(lista)];
-        if (lista == SelectionList::Percorso) {
-            field = std::move(route);
-        } else {
-            field = std::make_unique<SelectionField>(*this, lista);
+        if (lista != SelectionList::Percorso) {
+            fields_[static_cast<int>(lista)] = std::make_unique<SelectionField>(*this, lista);
         }
     }
-    numbers_.emplace(*this);
-    splits_.emplace(*this, numbers_->Splits());
+    auto route = std::make_unique<RouteField>(*this);
+    route_ = route.get();
+    fields_[static_cast<int>(SelectionList::Percorso)] = std::move(route);
+    for (const NumberRow& row : NumberRows()) {
+        for (const GroupRow& group : row.groups) {
+            if (group.spins.empty()) {
+                continue;
+            }
+            numbers_.push_back(std::make_unique<SpinGroup>(*this, row, group));
+            if (group.then == Then::Splits) {
+                splits_.emplace(*this, *numbers_.back());
+            }
+        }
+    }
     notes_.emplace(*this);
     dates_.emplace(*this);
     tmrFocus->Tick = [this] { tmrFocus_Timer(); };

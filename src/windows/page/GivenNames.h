@@ -72,19 +72,6 @@ public:
     void StatisKm() { Statis(Categoria::Km); }
     void StatisRipetizioni() { Statis(Categoria::Ripetizioni); }
 
-    void mnuPercorso_Click() { ShowStatistic(Categoria::Percorso); }
-    void mnuLunghezza_Click() { ShowStatistic(Categoria::Lunghezza); }
-    void mnuAndatura_Click() { ShowStatistic(Categoria::Andatura); }
-    void mnuFondo_Click() { ShowStatistic(Categoria::Fondo); }
-    void mnuTipo_Click() { ShowStatistic(Categoria::Tipo); }
-    void mnuStagione_Click() { ShowStatistic(Categoria::Stagione); }
-    void mnuMeteo_Click() { ShowStatistic(Categoria::Meteo); }
-    void mnuTemperatura_Click() { ShowStatistic(Categoria::Temperatura); }
-    void mnuCorridori_Click() { ShowStatistic(Categoria::Corridori); }
-    void mnuPeso_Click() { ShowStatistic(Categoria::Peso); }
-    void mnuKm_Click() { ShowStatistic(Categoria::Km); }
-    void mnuRipetizioni_Click() { ShowStatistic(Categoria::Ripetizioni); }
-
 protected:
     virtual void SalvaLista(SelectionList lista) = 0;
     virtual void CaricaLista(SelectionList lista) = 0;
@@ -92,8 +79,6 @@ protected:
     virtual void Immis(SelectionList lista) = 0;
     /// Counts the category up to the day shown, from the records, into the window of the statistics.
     virtual void Statis(Categoria categoria) = 0;
-    /// The command of a statistic: commits the day, counts and shows.
-    virtual void ShowStatistic(Categoria categoria) = 0;
 };
 
 } // namespace zelvia

@@ -38,9 +38,9 @@ void OrderedTimes::Begin()
     times_->CreaLista();
 }
 
-void OrderedTimes::AddRun(i16 giorno, const Text& time, const Text& pace, CalendarDate date)
+void OrderedTimes::AddRun(i16 day, const Text& time, const Text& pace, CalendarDate date)
 {
-    AddRunTo(*times_, giorno, time, pace, date);
+    AddRunTo(*times_, day, time, pace, date);
 }
 
 void OrderedTimes::AddRunsOf(const Text& route, i16 last)

@@ -26,7 +26,7 @@ public:
 
 private:
     void Begin();
-    void AddRun(i16 giorno, const Text& time, const Text& pace, CalendarDate date);
+    void AddRun(i16 day, const Text& time, const Text& pace, CalendarDate date);
     void AddRunsOf(const Text& route, i16 last);
     void Fill(bool place);
 

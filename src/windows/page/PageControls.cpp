@@ -37,31 +37,13 @@ struct PairRow {
 using P = PageControls;
 
 const PairRow kCounters[] = {
-    {&P::pctGiornoAnno,
-     "pctGiornoAnno",
-     "Giorno dell'anno",
-     &P::lblNumGiornoAnno,
-     "lblNumGiornoAnno",
-     "Giorno dell'anno",
-     {},
-     DrawCalendarLeaf},
-    {&P::pctAllenamenti,
-     "pctAllenamenti",
-     "Allenamenti",
-     &P::lblNumGiorniCorseAnno,
-     "lblNumGiorniCorseAnno",
-     "Allenamenti dell'anno",
-     {},
-     DrawShoe},
-    {&P::pctKmpercorsi,
-     "pctKmpercorsi",
-     "Km percorsi",
-     &P::lblNumKMPercorsi,
-     "lblNumKMPercorsi",
-     "Chilometri percorsi nell'anno",
-     {},
-     DrawMilestone},
-    {&P::pctGare, "pctGare", "Gare", &P::lblNumGare, "lblNumGare", "Gare dell'anno", {}, DrawCup},
+    {&P::pctGiornoAnno, "pctGiornoAnno", "Giorno dell'anno", &P::lblNumGiornoAnno, "lblNumGiornoAnno",
+     "Giorno dell'anno", "", DrawCalendarLeaf},
+    {&P::pctAllenamenti, "pctAllenamenti", "Allenamenti", &P::lblNumGiorniCorseAnno, "lblNumGiorniCorseAnno",
+     "Allenamenti dell'anno", "", DrawShoe},
+    {&P::pctKmpercorsi, "pctKmpercorsi", "Km percorsi", &P::lblNumKMPercorsi, "lblNumKMPercorsi",
+     "Chilometri percorsi nell'anno", "", DrawMilestone},
+    {&P::pctGare, "pctGare", "Gare", &P::lblNumGare, "lblNumGare", "Gare dell'anno", "", DrawCup},
 };
 
 // The first line of a slip is its heading.

@@ -21,11 +21,32 @@ inline constexpr int kValueWidth = 232;
 inline constexpr int kRowsTop = 94;
 inline constexpr int kRowStep = 29;
 inline constexpr int kRowHeight = 26;
-inline constexpr int kRows = 17;
 inline constexpr int kRowRight = 576;
 inline constexpr int kSpinLeft = 412;
 inline constexpr int kSpinStep = 24;
 inline constexpr int kListHeight = 152;
+
+/// Rows of the left page.
+enum Row {
+    Percorso,
+    Lunghezza,
+    Km,
+    Andatura,
+    Terreno,
+    Tipo,
+    OraInizio,
+    OraFine,
+    Tempo,
+    Media,
+    Stagione,
+    Meteo,
+    Temperatura,
+    Corridori,
+    Peso,
+    Ripetizioni,
+    Parziali,
+    kRows ///< How many there are.
+};
 
 constexpr int RowTop(int row)
 {
@@ -51,27 +72,6 @@ constexpr QRect List(int row)
     const int top = below + kListHeight <= kLeftPage.bottom() - 8 ? below : RowTop(row) - kListHeight - 1;
     return {kValueLeft, top, kValueWidth, kListHeight};
 }
-
-/// Rows of the left page.
-enum Row {
-    Percorso,
-    Lunghezza,
-    Km,
-    Andatura,
-    Terreno,
-    Tipo,
-    OraInizio,
-    OraFine,
-    Tempo,
-    Media,
-    Stagione,
-    Meteo,
-    Temperatura,
-    Corridori,
-    Peso,
-    Ripetizioni,
-    Parziali
-};
 
 // The three values of the repetitions and the two of the splits share a row.
 inline constexpr QRect kVolte{168, RowTop(Ripetizioni), 34, kRowHeight};

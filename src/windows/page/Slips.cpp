@@ -25,23 +25,21 @@ void Slips::ShowTableName()
 void Slips::AzzeraDatiTabella()
 {
     ShowTablePanel(true);
-    page_.lblKmTab->SetCaption("0,0");
-    page_.lblTempoTab->SetCaption("0:0:0");
-    page_.lblMediaTab->SetCaption("0:0");
-    page_.lblAndaturaTab->SetCaption("");
-    page_.lblFondoTab->SetCaption("");
-    page_.lblRipetizioniTab->SetCaption("0 x 0  @  0:0");
+    ShowTable({"0,0", "0:0:0", "0:0", "", "", "0 x 0  @  0:0"});
 }
 
 void Slips::NessunaTabella()
 {
     page_.lblTabNomeFile->SetCaption("Nessuna tabella attiva");
-    page_.lblKmTab->SetCaption("0");
-    page_.lblTempoTab->SetCaption("0:00");
-    page_.lblMediaTab->SetCaption("0:00");
-    page_.lblAndaturaTab->SetCaption("");
-    page_.lblFondoTab->SetCaption("");
-    page_.lblRipetizioniTab->SetCaption("0 x 000     @ 0.00 ");
+    ShowTable({"0", "0:00", "0:00", "", "", "0 x 000     @ 0.00 "});
+}
+
+/// The values of the slip below its heading.
+void Slips::ShowTable(const std::array<Text, 6>& values)
+{
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        page_.tableSlip[i + 1].label->SetCaption(values[i]);
+    }
 }
 
 void Slips::ShowActiveTable()
@@ -77,13 +75,11 @@ void Slips::ShowTableRow(i16 line)
 {
     const PlanRow row = PlanRowAt(line);
     const auto digits = [](i16 number) { return PlainText(number); };
-    page_.lblKmTab->SetCaption(digits(row.km) + "," + digits(row.metres));
-    page_.lblTempoTab->SetCaption(digits(row.hours) + ":" + digits(row.minutes) + ":" + digits(row.seconds));
-    page_.lblMediaTab->SetCaption(digits(row.averageMinutes) + ":" + digits(row.averageSeconds));
-    page_.lblAndaturaTab->SetCaption(row.paceClass);
-    page_.lblFondoTab->SetCaption(row.terrain);
-    page_.lblRipetizioniTab->SetCaption(digits(row.repetitions) + " x " + digits(row.repetitionMetres) + "  @  " +
-                                        digits(row.repetitionMinutes) + ":" + digits(row.repetitionSeconds));
+    ShowTable({digits(row.km) + "," + digits(row.metres),
+               digits(row.hours) + ":" + digits(row.minutes) + ":" + digits(row.seconds),
+               digits(row.averageMinutes) + ":" + digits(row.averageSeconds), row.paceClass, row.terrain,
+               digits(row.repetitions) + " x " + digits(row.repetitionMetres) + "  @  " +
+                   digits(row.repetitionMinutes) + ":" + digits(row.repetitionSeconds)});
 }
 
 void Slips::Show(const std::vector<PageControls::SlipLine>& slip, bool visible)
@@ -106,12 +102,12 @@ void Slips::AssegnaGara()
     });
 }
 
-void Slips::GiornodellaGara(i16& indice)
+void Slips::GiornodellaGara(i16& place)
 {
     Trap("GiornodellaGara - ERRORE : ", [&] {
         ShowTablePanel(false);
         ShowRacePanel(true);
-        const RaceTexts texts = RaceTextsOf(indice);
+        const RaceTexts texts = RaceTextsOf(place);
         page_.lblGara->SetCaption(texts.gara);
         page_.lblLocalita->SetCaption(texts.localita);
         page_.lblPartecipanti->SetCaption(texts.partecipanti);

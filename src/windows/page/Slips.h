@@ -4,6 +4,7 @@
 
 #include "windows/page/PageControls.h"
 
+#include <array>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -29,11 +30,12 @@ public:
     void ShowRacePanel(bool visible) { Show(page_.raceSlip, visible); }
     /// Shows the race of the day shown, if the calendar has one.
     void AssegnaGara();
-    /// Shows the race at row `indice` of the calendar.
-    void GiornodellaGara(i16& indice);
+    /// Shows the race at row `place` of the calendar.
+    void GiornodellaGara(i16& place);
 
 private:
     void Show(const std::vector<PageControls::SlipLine>& slip, bool visible);
+    void ShowTable(const std::array<Text, 6>& values);
     void ShowTableRow(i16 line);
     void EndTable();
 

@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/page/SpinGroup.h"
 
+#include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "toolkit/SpinKeys.h"
 #include "windows/page/FrmMain.h"
-#include "windows/page/PageFields.h"
 
 namespace zelvia
 {
 
-SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group) : page_(page)
+SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
+    : page_(page), then_(group.then), value_(*(page.*group.values.front().label))
 {
     for (const SpinRow& spin : group.spins) {
         spins_.push_back(page_.*spin.member);
@@ -18,12 +19,12 @@ SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
     }
     const UpDown& first = *spins_[group.focus];
     focus_ = spins_[group.focus];
-    if (group.then == Then::Splits) {
+    if (then_ == Then::Splits) {
         controls_.insert(controls_.end(), {page_.lstListaKM, page_.cmdListaKM});
         focus_ = page_.cmdListaKM;
     }
     for (const ValueRow& value : group.values) {
-        Connect(value);
+        ConnectClick(value);
     }
     (page_.*row.label)
         ->OnClick(
@@ -33,9 +34,10 @@ SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
             KeyReach::MouseOnly);
     focus_->LostFocus = [this] { Close(); };
     new SpinKeys(focus_->Widget(), spins_, first, [this] { page_.FocusSink().SetFocus(); });
+    then_ == Then::Distance ? ConnectDistance() : ConnectSpins();
 }
 
-void SpinGroup::Connect(const ValueRow& value)
+void SpinGroup::ConnectClick(const ValueRow& value)
 {
     const Text click = "lbl" + Text(value.click.empty() ? value.name : value.click);
     const Text opening(value.opening.empty() ? value.name : value.opening);
@@ -50,6 +52,36 @@ void SpinGroup::Connect(const ValueRow& value)
             }
         });
     });
+}
+
+/// The label shows the first as plain digits, the others with two, a colon between them.
+void SpinGroup::ConnectSpins()
+{
+    for (UpDown* spin : spins_) {
+        spin->Change = [this] {
+            Text text = PlainText(spins_.front()->Value());
+            for (std::size_t i = 1; i < spins_.size(); ++i) {
+                text += ":" + Format(spins_[i]->Value(), "00");
+            }
+            value_.SetCaption(text);
+        };
+    }
+}
+
+/// The metres are entered with two spins: a step of the tens sets the single ones back.
+void SpinGroup::ConnectDistance()
+{
+    page_.upKM->Change = [this] { ShowDistance(page_.upMetri->Value()); };
+    page_.upMetri->Change = [this] {
+        page_.upMetro->SetValue(0);
+        ShowDistance(page_.upMetri->Value());
+    };
+    page_.upMetro->Change = [this] { ShowDistance(page_.upMetri->Value() + page_.upMetro->Value()); };
+}
+
+void SpinGroup::ShowDistance(i32 metres)
+{
+    value_.SetCaption(PlainText(page_.upKM->Value()) + "," + Format(metres, "000"));
 }
 
 void SpinGroup::Show(bool visible)
@@ -70,8 +102,8 @@ void SpinGroup::Open(const Text& opening)
             Show(false);
             throw;
         }
-        if (Opened) {
-            Opened();
+        if (then_ == Then::LastWeight) {
+            page_.upPeso->SetValue(page_.UltimoPeso);
         }
     });
 }
@@ -79,8 +111,13 @@ void SpinGroup::Open(const Text& opening)
 void SpinGroup::Close()
 {
     Show(false);
-    if (Closed) {
-        Closed();
+    if (then_ == Then::Distance || then_ == Then::Times) {
+        const i16 result = page_.ControlloTempiKm();
+        if (result == 1) {
+            page_.TempoImpiegato();
+        } else if (result == 2 && then_ == Then::Times) {
+            page_.tempo();
+        }
     }
     page_.CursoreNormale();
 }

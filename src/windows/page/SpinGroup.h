@@ -3,22 +3,17 @@
 #pragma once
 
 #include "core/Text.h"
+#include "windows/page/PageFields.h"
 
-#include <functional>
 #include <vector>
 
 namespace zelvia
 {
 
-class Control;
 class frmMain;
-class UpDown;
-struct GroupRow;
-struct NumberRow;
-struct ValueRow;
 
-/// The spins of a numeric field, which the click on a value shows, and which go again when the control that holds the
-/// focus loses it.
+/// The spins of a numeric field: what its label shows of them, how a click on the label shows them, and what follows
+/// when the control that holds the focus loses it and they go again.
 class SpinGroup
 {
 public:
@@ -28,15 +23,17 @@ public:
 
     void Show(bool visible);
 
-    std::function<void()> Opened; ///< What else opening does, once the focus is given.
-    std::function<void()> Closed; ///< What closing does, once the controls are hidden.
-
 private:
-    void Connect(const ValueRow& value);
+    void ConnectClick(const ValueRow& value);
+    void ConnectSpins();
+    void ConnectDistance();
+    void ShowDistance(i32 metres);
     void Open(const Text& opening);
     void Close();
 
     frmMain& page_;
+    Then then_;
+    Label& value_;
     std::vector<UpDown*> spins_;     ///< From left to right.
     std::vector<Control*> controls_; ///< In the order in which they appear.
     Control* focus_;                 ///< The one that takes the focus.
