@@ -30,7 +30,7 @@ struct DiaryDifference {
     int daysAfter = 0;
 };
 
-/// Compares two diary files, given whole, line by line: 136 lines a day. So a damaged diary, which the program would
+/// Compares two diary files, given whole, line by line. So a damaged diary, which the program would
 /// not read, can be compared all the same; a day that it lacks counts as blank, and so does a missing diary, given as
 /// the empty text. A day that was looked at and left without an entry does not differ from one that never was.
 DiaryDifference CompareDiaries(TextView before, TextView after);

@@ -103,8 +103,8 @@ struct NotesField {
 using HiddenNotes = NotesField<1, 2>;
 using PageNotes = NotesField<3, 10>;
 
-/// The fields of a day, in the order of the diary file: 136 lines. Of a field of several numbers the first one is
-/// counted for all of them.
+/// The fields of a day, in the order of the diary file. Of a field of several numbers the first one is counted for
+/// all of them.
 inline constexpr auto kFields = [] {
     using R = RecordGiorno;
     using C = SearchCriteria;
@@ -160,7 +160,7 @@ constexpr void ForEachField(Visitor&& visit)
     std::apply([&](const auto&... field) { (visit(field), ...); }, kFields);
 }
 
-/// Hands the 136 values of a day to `visit`, in the order of the diary file.
+/// Hands the values of a day to `visit`, in the order of the diary file.
 template <typename Giorno, typename Visitor>
 void VisitDiaryValues(Giorno& giorno, Visitor&& visit)
 {
