@@ -76,14 +76,14 @@ RaceTexts RaceTextsOf(i16 row)
 {
     constexpr TextView thousands = "###,###";
     RaceTexts texts;
-    texts.gara = Gara[row];
-    texts.localita = Localita[row];
-    texts.partecipanti = Format(Partecipanti[row], thousands);
-    texts.tempo = TimeText({OreGara[row], MinutiGara[row], SecondiGara[row]});
-    texts.risultato = Format(Risultato[row], thousands);
-    texts.categoria = Categoria[row];
-    texts.risultatoCat = Format(RisultatoCat[row], thousands);
-    texts.lunghezza = Format(KmGara[row], KmGara[row] > 0 ? "##" : "0") + "," + Format(MetriGara[row], "##0");
+    texts.name = Gara[row];
+    texts.place = Localita[row];
+    texts.runners = Format(Partecipanti[row], thousands);
+    texts.time = TimeText({OreGara[row], MinutiGara[row], SecondiGara[row]});
+    texts.placing = Format(Risultato[row], thousands);
+    texts.category = Categoria[row];
+    texts.categoryPlacing = Format(RisultatoCat[row], thousands);
+    texts.length = Format(KmGara[row], KmGara[row] > 0 ? "##" : "0") + "," + Format(MetriGara[row], "##0");
     return texts;
 }
 

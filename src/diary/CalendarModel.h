@@ -41,14 +41,14 @@ void ScriviCalendario();
 
 /// What the day page shows of a race.
 struct RaceTexts {
-    Text gara;
-    Text localita;
-    Text partecipanti;
-    Text tempo;
-    Text risultato;
-    Text categoria;
-    Text risultatoCat;
-    Text lunghezza;
+    Text name;
+    Text place;
+    Text runners;
+    Text time;
+    Text placing;
+    Text category;
+    Text categoryPlacing;
+    Text length;
 };
 
 /// The texts of a row of the calendar, 1..100; any other raises error 9.

@@ -10,7 +10,7 @@ namespace zelvia
 {
 
 /// Whether a distance was entered.
-bool HasDistance(const RecordGiorno& giorno);
+bool HasDistance(const RecordGiorno& day);
 
 /// A day's distance as a value of its statistic: " 7,500", "12,0". The blank in front of one digit keeps the comma in
 /// its column; the metres are not padded.

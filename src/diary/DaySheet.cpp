@@ -30,7 +30,7 @@ void PrintColumn(Sheet& sheet, int x, int firstLine, const auto& texts)
     }
 }
 
-void PrintFields(Sheet& sheet, const DaySheetTexts& giorno)
+void PrintFields(Sheet& sheet, const DaySheetTexts& day)
 {
     constexpr int markBefore = 2;
     ForEachPrinted([&](const auto& field) {
@@ -39,7 +39,7 @@ void PrintFields(Sheet& sheet, const DaySheetTexts& giorno)
         }
     });
     sheet.SetFontItalic(true);
-    const auto* value = giorno.campi.begin();
+    const auto* value = day.values.begin();
     ForEachPrinted([&](const auto& field) {
         const SheetPlace& place = field.place;
         if (!place.mark.empty()) {
@@ -49,23 +49,23 @@ void PrintFields(Sheet& sheet, const DaySheetTexts& giorno)
     });
 }
 
-void PrintTable(Sheet& sheet, const DaySheetTexts& giorno)
+void PrintTable(Sheet& sheet, const DaySheetTexts& day)
 {
-    sheet.Print(kRightLabels, kFirstLine, "ALLENAMENTO :  " + giorno.nomeTabella);
+    sheet.Print(kRightLabels, kFirstLine, "ALLENAMENTO :  " + day.tableName);
     PrintColumn(sheet, kRightLabels, kFirstLine + kLineStep, kTableLabels);
     sheet.SetFontItalic(true);
-    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, giorno.tabella);
+    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, day.plan);
 }
 
-void PrintRace(Sheet& sheet, const DaySheetTexts& giorno)
+void PrintRace(Sheet& sheet, const DaySheetTexts& day)
 {
     PrintColumn(sheet, kRightLabels, kFirstLine, kRaceLabels);
-    sheet.Print(kRightValues, kFirstLine, giorno.gara.front());
+    sheet.Print(kRightValues, kFirstLine, day.race.front());
     sheet.SetFontItalic(true);
-    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, std::span(giorno.gara).subspan(1));
+    PrintColumn(sheet, kRightValues, kFirstLine + kLineStep, std::span(day.race).subspan(1));
 }
 
-void PrintNotes(Sheet& sheet, const DaySheetTexts& giorno)
+void PrintNotes(Sheet& sheet, const DaySheetTexts& day)
 {
     constexpr int firstLine = 20;
     constexpr int lines = 56;
@@ -73,34 +73,34 @@ void PrintNotes(Sheet& sheet, const DaySheetTexts& giorno)
     sheet.Print(kRightLabels, firstLine, "Note");
     sheet.SetFontName("Courier New");
     sheet.SetFontSize(10);
-    PrintColumn(sheet, lines, firstLine, giorno.note);
+    PrintColumn(sheet, lines, firstLine, day.note);
 }
 
 } // namespace
 
-Sheet DaySheet(const DaySheetTexts& giorno)
+Sheet DaySheet(const DaySheetTexts& day)
 {
     constexpr int headSize = 12;
     constexpr int textSize = 11;
     constexpr int footLine = 40;
     constexpr int footValues = 21;
     const SheetFont head{.name = "Times New Roman", .size = headSize};
-    Sheet sheet(Orientation::Portrait, head, JobName("giorno", giorno.data));
+    Sheet sheet(Orientation::Portrait, head, JobName("giorno", day.date));
     sheet.Box(3, 1, 94, 48);
-    sheet.Print(40, 2, giorno.data);
+    sheet.Print(40, 2, day.date);
 
     sheet.SetFontSize(textSize);
-    PrintFields(sheet, giorno);
+    PrintFields(sheet, day);
 
     sheet.SetFontItalic(false);
-    giorno.conGara ? PrintRace(sheet, giorno) : PrintTable(sheet, giorno);
-    PrintNotes(sheet, giorno);
+    day.showsRace ? PrintRace(sheet, day) : PrintTable(sheet, day);
+    PrintNotes(sheet, day);
 
     sheet.SetFontName(head.name);
     sheet.SetFontSize(textSize);
     sheet.SetFontItalic(false);
     PrintColumn(sheet, kLeftLabels, footLine, kCounterLabels);
-    PrintColumn(sheet, footValues, footLine, giorno.contatori);
+    PrintColumn(sheet, footValues, footLine, day.counters);
     return sheet;
 }
 

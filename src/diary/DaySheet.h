@@ -12,21 +12,21 @@ namespace zelvia
 
 /// What the page shows of a day: the texts of its labels.
 struct DaySheetTexts {
-    CalendarDate data;
-    std::array<Text, kPrintedFields> campi; ///< In the order of the table of fields.
+    CalendarDate date;
+    std::array<Text, kPrintedFields> values; ///< In the order of the table of fields.
     /// True when the page shows the race of the day instead of the active table.
-    bool conGara = false;
-    Text nomeTabella;
+    bool showsRace = false;
+    Text tableName;
     /// Distance, time, average, pace, terrain, repetitions.
-    std::array<Text, 6> tabella;
+    std::array<Text, 6> plan;
     /// Name, place, runners, time, length, placing, category, placing in it.
-    std::array<Text, 8> gara;
+    std::array<Text, 8> race;
     std::array<Text, 8> note;
     /// Day of the year, runs, kilometres, races.
-    std::array<Text, 4> contatori;
+    std::array<Text, 4> counters;
 };
 
 /// The sheet of a day.
-Sheet DaySheet(const DaySheetTexts& giorno);
+Sheet DaySheet(const DaySheetTexts& day);
 
 } // namespace zelvia

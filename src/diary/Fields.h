@@ -34,8 +34,8 @@ struct FieldStatistic {
     TextView name = {};  ///< As its routines, its menu entry and its button have it.
     TextView entry = {}; ///< The caption of that menu entry.
     Criterion criterion = {};
-    bool (*counted)(const RecordGiorno& giorno) = nullptr; ///< Null: what is neither empty nor 0 counts.
-    Text (*text)(const RecordGiorno& giorno) = nullptr;    ///< Null for a value that is counted as it is.
+    bool (*counted)(const RecordGiorno& day) = nullptr; ///< Null: what is neither empty nor 0 counts.
+    Text (*text)(const RecordGiorno& day) = nullptr;    ///< Null for a value that is counted as it is.
 };
 
 // The kinds of fields. Each has the label under which two diaries are compared, which is also the title of its
@@ -47,7 +47,7 @@ struct SingleField {
     TextView label;
     T RecordGiorno::*member;
 
-    void Visit(auto& giorno, auto& visit) const { visit(giorno.*member); }
+    void Visit(auto& day, auto& visit) const { visit(day.*member); }
 };
 
 /// The day's place in the year. It is never compared.
@@ -59,7 +59,7 @@ struct DateField : SingleField<CalendarDate> {
 
 /// A text that is entered with a selection list.
 struct ListField : SingleField<Text> {
-    SelectionList lista;
+    SelectionList list;
     SheetPlace place = {};
     FieldStatistic statistic = {};
 };
@@ -82,7 +82,7 @@ struct SplitsField {
     static constexpr int kLines = 100;
     TextView label;
 
-    void Visit(auto& giorno, auto& visit) const { giorno.ListaKm.Visit(0, kLines - 1, visit); }
+    void Visit(auto& day, auto& visit) const { day.ListaKm.Visit(0, kLines - 1, visit); }
 };
 
 /// The notes First..Last of the record.
@@ -91,10 +91,10 @@ struct NotesField {
     static constexpr int kLines = Last - First + 1;
     TextView label;
 
-    void Visit(auto& giorno, auto& visit) const
+    void Visit(auto& day, auto& visit) const
     {
         for (int i = First; i <= Last; ++i) {
-            visit(giorno.Note[i]);
+            visit(day.Note[i]);
         }
     }
 };
@@ -162,9 +162,9 @@ constexpr void ForEachField(Visitor&& visit)
 
 /// Hands the values of a day to `visit`, in the order of the diary file.
 template <typename Giorno, typename Visitor>
-void VisitDiaryValues(Giorno& giorno, Visitor&& visit)
+void VisitDiaryValues(Giorno& day, Visitor&& visit)
 {
-    ForEachField([&](const auto& field) { field.Visit(giorno, visit); });
+    ForEachField([&](const auto& field) { field.Visit(day, visit); });
 }
 
 /// Hands the fields that are printed to `visit`, in the order of the sheet.

@@ -20,7 +20,7 @@ public:
     virtual ~TimesBox() = default;
     virtual void AddLine(TextView line) = 0;
     /// From 0 on; -1 selects nothing.
-    virtual void Select(int indice) = 0;
+    virtual void Select(int index) = 0;
 };
 
 /// Adds a row to a list view that shows a classification: place, time, average and date.

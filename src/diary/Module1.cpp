@@ -16,9 +16,9 @@ Session session;
 namespace
 {
 
-void BlankDay(i16 giorno)
+void BlankDay(i16 number)
 {
-    RecordGiorno& day = Giorni[giorno];
+    RecordGiorno& day = Giorni[number];
     RecordGiorno blank;
     blank.NumGiorno = day.NumGiorno;
     blank.Data = day.Data;
@@ -38,18 +38,18 @@ void AzzeraAnno()
 {
     Trap(kBareTitle, [] {
         CalendarDate date = DateValue("01/01/" + Format(Date().Year(), "0000"));
-        for (i16 giorno = 1; giorno <= 366; giorno += 1) {
-            Giorni[giorno].NumGiorno = giorno;
-            Giorni[giorno].Data = date;
-            BlankDay(giorno);
+        for (i16 day = 1; day <= 366; day += 1) {
+            Giorni[day].NumGiorno = day;
+            Giorni[day].Data = date;
+            BlankDay(day);
             date = DateAdd("d", 1, date);
         }
     });
 }
 
-void AzzeraRecordGiorno(i16 giorno)
+void AzzeraRecordGiorno(i16 day)
 {
-    Trap(kBareTitle, [&] { BlankDay(giorno); });
+    Trap(kBareTitle, [&] { BlankDay(day); });
 }
 
 void SalvaDiario(TextView path)

@@ -34,8 +34,8 @@ void AzzeraStato();
 /// 1 January of the next.
 void AzzeraAnno();
 
-/// Blanks the day at `giorno`, 0..366, keeping its NumGiorno and Data.
-void AzzeraRecordGiorno(i16 giorno);
+/// Blanks the day at `day`, 0..366, keeping its NumGiorno and Data.
+void AzzeraRecordGiorno(i16 day);
 
 /// Writes days 1..366 of Giorni to `path`, 136 values a day. Reports its own failure, under "ERRORE : "; the file is
 /// then left as far as it was written.

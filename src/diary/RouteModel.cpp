@@ -50,9 +50,9 @@ void AzzeraPercorsi()
     });
 }
 
-void AzzeraPercorso(i16 numero)
+void AzzeraPercorso(i16 number)
 {
-    Trap(kBareTitle, [&] { BlankRoute(numero.value()); });
+    Trap(kBareTitle, [&] { BlankRoute(number.value()); });
 }
 
 void SalvaPercorsi()

@@ -27,7 +27,7 @@ inline PerStretch<i32> TrattoMetri;        ///< Its metres beyond them.
 void AzzeraPercorsi();
 
 /// Blanks one route, 0..200.
-void AzzeraPercorso(i16 numero);
+void AzzeraPercorso(i16 number);
 
 /// Writes routes 1..200 to the route file of CartellaDiario. Reports its own failure.
 void SalvaPercorsi();

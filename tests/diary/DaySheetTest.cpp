@@ -17,15 +17,15 @@ namespace
 DaySheetTexts ADay()
 {
     DaySheetTexts giorno;
-    giorno.data = CalendarDate(2026, 3, 1);
-    giorno.campi = {"Lungofiume", "Medio",    "12,500",  "Lento", "Asfalto",   "Allenamento",
-                    "18:00:00",   "19:02:05", "1:02:05", "4:58",  "Primavera", "Sereno",
-                    "Mite",       "2",        "68",      "8",     "400",       "1:30"};
-    giorno.nomeTabella = "Base 10 km";
-    giorno.tabella = {"10,0", "0:50:0", "5:0", "Medio", "Strada", "0 x 0  @  0:0"};
-    giorno.gara = {"Mezza del lago", "Como", "1.234", "1:31:07", "21,97", "87", "S50", "9"};
+    giorno.date = CalendarDate(2026, 3, 1);
+    giorno.values = {"Lungofiume", "Medio",    "12,500",  "Lento", "Asfalto",   "Allenamento",
+                     "18:00:00",   "19:02:05", "1:02:05", "4:58",  "Primavera", "Sereno",
+                     "Mite",       "2",        "68",      "8",     "400",       "1:30"};
+    giorno.tableName = "Base 10 km";
+    giorno.plan = {"10,0", "0:50:0", "5:0", "Medio", "Strada", "0 x 0  @  0:0"};
+    giorno.race = {"Mezza del lago", "Como", "1.234", "1:31:07", "21,97", "87", "S50", "9"};
     giorno.note = {"uno", "due", "tre", "quattro", "cinque", "sei", "sette", "otto"};
-    giorno.contatori = {"60", "31", "402", "2"};
+    giorno.counters = {"60", "31", "402", "2"};
     return giorno;
 }
 
@@ -127,15 +127,15 @@ private Q_SLOTS:
     void withARaceAndNoRowOfTheTable()
     {
         DaySheetTexts giorno = ADay();
-        giorno.conGara = true;
+        giorno.showsRace = true;
         QCOMPARE(SheetLines(DaySheet(giorno)), kLeft + kRaceForm + kNotesAndFoot);
     }
 
     void withoutATable()
     {
         DaySheetTexts giorno = ADay();
-        giorno.nomeTabella = "Nessuna tabella attiva";
-        giorno.tabella = {"0", "0:00", "0:00", "", "", "0 x 000     @ 0.00 "};
+        giorno.tableName = "Nessuna tabella attiva";
+        giorno.plan = {"0", "0:00", "0:00", "", "", "0 x 000     @ 0.00 "};
         const Sheet sheet = DaySheet(giorno);
         QVERIFY(SheetRow(sheet, 4).contains("48|ALLENAMENTO :  Nessuna tabella attiva"));
         QCOMPARE(SheetRow(sheet, 12), (QByteArrayList{"4|Terreno", "16|Asfalto", "48|Andatura"}));
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void noKilometresLeaveTheirFootLineWithoutAValue()
     {
         DaySheetTexts giorno = ADay();
-        giorno.contatori[2].clear();
+        giorno.counters[2].clear();
         QCOMPARE(SheetRow(DaySheet(giorno), 44), (QByteArrayList{"4|Km percorsi"}));
     }
 

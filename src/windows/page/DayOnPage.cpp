@@ -37,7 +37,7 @@ auto ForEachNote(Work work)
 
 Label& DayOnPage::LabelOf(const ListField& field) const
 {
-    return *page_.Campo(field.lista).lblImmis;
+    return *page_.Campo(field.list).lblImmis;
 }
 
 template <typename T>
@@ -51,10 +51,10 @@ Label& DayOnPage::LabelOf(const TimeField& field) const
     return field.member == &RecordGiorno::MediaKm ? *page_.lblOutMediaKM : *page_.lblOutTempoImpiegato;
 }
 
-void DayOnPage::ShowText(SelectionList lista, TextView value)
+void DayOnPage::ShowText(SelectionList list, TextView value)
 {
-    page_.Campo(lista).lblImmis->SetCaption(value);
-    page_.Campo(lista).txt->SetContent(value);
+    page_.Campo(list).lblImmis->SetCaption(value);
+    page_.Campo(list).txt->SetContent(value);
 }
 
 void DayOnPage::ShowNote(int line, TextView value)
@@ -64,9 +64,9 @@ void DayOnPage::ShowNote(int line, TextView value)
     page_.note[line].txt->SetContent(text);
 }
 
-void DayOnPage::ShowTime(const TimeField& field, const RecordGiorno& giorno)
+void DayOnPage::ShowTime(const TimeField& field, const RecordGiorno& day)
 {
-    const Text& value = giorno.*field.member;
+    const Text& value = day.*field.member;
     LabelOf(field).SetCaption(value.empty() ? field.none : TextView(value));
 }
 
@@ -84,82 +84,82 @@ i32 DayOnPage::NumberOf(NumberMember member) const
     return metro + page_.ControlsOf(member).spin->Value();
 }
 
-void DayOnPage::Show(const RecordGiorno& giorno)
+void DayOnPage::Show(const RecordGiorno& day)
 {
-    ForEachOnPage([&](const ListField& field) { ShowText(field.lista, giorno.*field.member); },
+    ForEachOnPage([&](const ListField& field) { ShowText(field.list, day.*field.member); },
                   [&]<typename T>(const NumberField<T>& field) {
-                      page_.ControlsOf(field.member).spin->SetValue(giorno.*field.member);
+                      page_.ControlsOf(field.member).spin->SetValue(day.*field.member);
                   },
-                  [&](const TimeField& field) { ShowTime(field, giorno); },
+                  [&](const TimeField& field) { ShowTime(field, day); },
                   [&](const SplitsField& /*field*/) {
                       BlankSplits();
-                      for (const Text& split : giorno.ListaKm) {
+                      for (const Text& split : day.ListaKm) {
                           if (!split.empty()) {
                               page_.lstListaKM->AddItem(split);
                           }
                       }
                   },
-                  ForEachNote([&](int line) { ShowNote(line, giorno.Note[line]); }));
+                  ForEachNote([&](int line) { ShowNote(line, day.Note[line]); }));
 }
 
-void DayOnPage::BlankTexts(const RecordGiorno& giorno)
+void DayOnPage::BlankTexts(const RecordGiorno& day)
 {
     ForEachOnPage(
         [&](const ListField& field) {
-            if (!(giorno.*field.member).empty()) {
-                ShowText(field.lista, {});
+            if (!(day.*field.member).empty()) {
+                ShowText(field.list, {});
             }
         },
         ForEachNote([&](int line) {
-            if (!giorno.Note[line].empty()) {
+            if (!day.Note[line].empty()) {
                 ShowNote(line, {});
             }
         }));
 }
 
-void DayOnPage::Blank(const RecordGiorno& giorno)
+void DayOnPage::Blank(const RecordGiorno& day)
 {
     static const RecordGiorno blank;
-    BlankTexts(giorno);
+    BlankTexts(day);
     page_.upMetro->SetValue(0);
     ForEachOnPage(
         [&]<typename T>(const NumberField<T>& field) {
             page_.ControlsOf(field.member).spin->SetValue(blank.*field.member);
         },
-        [&](const TimeField& field) { ShowTime(field, giorno); }, [&](const SplitsField& /*field*/) { BlankSplits(); });
+        [&](const TimeField& field) { ShowTime(field, day); }, [&](const SplitsField& /*field*/) { BlankSplits(); });
 }
 
-void DayOnPage::Commit(RecordGiorno& giorno) const
+void DayOnPage::Commit(RecordGiorno& day) const
 {
-    ForEachOnPage([&](const ListField& field) { giorno.*field.member = LabelOf(field).Caption(); },
-                  [&]<typename T>(const NumberField<T>& field) { giorno.*field.member = T(NumberOf(field.member)); },
-                  [&](const TimeField& field) { giorno.*field.member = LabelOf(field).Caption(); },
+    ForEachOnPage([&](const ListField& field) { day.*field.member = LabelOf(field).Caption(); },
+                  [&]<typename T>(const NumberField<T>& field) { day.*field.member = T(NumberOf(field.member)); },
+                  [&](const TimeField& field) { day.*field.member = LabelOf(field).Caption(); },
                   [&](const SplitsField& /*field*/) {
-                      giorno.ListaKm.Clear();
+                      day.ListaKm.Clear();
                       for (int i = 0; i < page_.lstListaKM->ListCount(); ++i) {
-                          giorno.ListaKm[i] = page_.lstListaKM->List(i);
+                          day.ListaKm[i] = page_.lstListaKM->List(i);
                       }
                   },
-                  ForEachNote([&](int line) { giorno.Note[line] = page_.note[line].txt->Content(); }));
+                  ForEachNote([&](int line) { day.Note[line] = page_.note[line].txt->Content(); }));
 }
 
-bool DayOnPage::Differs(const RecordGiorno& giorno) const
+bool DayOnPage::Differs(const RecordGiorno& day) const
 {
     bool differs = false;
     const auto compare = [&](const Text& stored, const Text& shown) { differs = differs || !SameText(stored, shown); };
-    ForEachOnPage([&](const ListField& field) { compare(giorno.*field.member, LabelOf(field).Caption()); },
+    ForEachOnPage([&](const ListField& field) { compare(day.*field.member, LabelOf(field).Caption()); },
                   [&]<typename T>(const NumberField<T>& field) {
-                      differs = differs || NumberOf(field.member) != giorno.*field.member;
+                      differs = differs || NumberOf(field.member) != day.*field.member;
                   },
-                  ForEachNote([&](int line) { compare(giorno.Note[line], page_.note[line].txt->Content()); }));
+                  ForEachNote([&](int line) { compare(day.Note[line], page_.note[line].txt->Content()); }));
     return differs;
 }
 
-bool DayOnPage::SplitsDiffer(const RecordGiorno& giorno) const
+bool DayOnPage::SplitsDiffer(const RecordGiorno& day) const
 {
     bool differ = false;
     for (int i = 0; i < page_.lstListaKM->ListCount(); ++i) {
-        differ = !SameText(giorno.ListaKm[i], page_.lstListaKM->List(i)) || differ;
+        differ = !SameText(day.ListaKm[i], page_.lstListaKM->List(i)) || differ;
     }
     return differ;
 }
@@ -169,17 +169,17 @@ DaySheetTexts DayOnPage::SheetTexts() const
     const auto shown = [](const Label* label) { return label->Caption(); };
     const auto value = [](const PageControls::SlipLine& line) { return line.label->Caption(); };
     DaySheetTexts texts;
-    texts.data = Module1::DataCorrente;
-    auto* text = texts.campi.begin();
+    texts.date = Module1::DataCorrente;
+    auto* text = texts.values.begin();
     ForEachPrinted([&](const auto& field) { *text++ = LabelOf(field).Caption(); });
-    texts.conGara = page_.pctCalGara->Visible();
-    texts.nomeTabella = page_.lblTabNomeFile->Caption();
-    std::transform(page_.tableSlip.begin() + 1, page_.tableSlip.end(), texts.tabella.begin(), value);
-    std::transform(page_.raceSlip.begin(), page_.raceSlip.end(), texts.gara.begin(), value);
+    texts.showsRace = page_.pctCalGara->Visible();
+    texts.tableName = page_.lblTabNomeFile->Caption();
+    std::transform(page_.tableSlip.begin() + 1, page_.tableSlip.end(), texts.plan.begin(), value);
+    std::transform(page_.raceSlip.begin(), page_.raceSlip.end(), texts.race.begin(), value);
     std::transform(page_.note.begin(), page_.note.end(), texts.note.begin(),
                    [&](const NoteControls& note) { return shown(note.lbl); });
-    texts.contatori = {shown(page_.lblNumGiornoAnno), shown(page_.lblNumGiorniCorseAnno), shown(page_.lblNumKMPercorsi),
-                       shown(page_.lblNumGare)};
+    texts.counters = {shown(page_.lblNumGiornoAnno), shown(page_.lblNumGiorniCorseAnno), shown(page_.lblNumKMPercorsi),
+                      shown(page_.lblNumGare)};
     return texts;
 }
 

@@ -16,18 +16,18 @@ class DayOnPage
 public:
     explicit DayOnPage(PageControls& page) : page_(page) {}
 
-    void ShowText(SelectionList lista, TextView value);
+    void ShowText(SelectionList list, TextView value);
     /// Puts the day into the controls.
-    void Show(const RecordGiorno& giorno);
+    void Show(const RecordGiorno& day);
     /// Empties the controls, of the texts those that the day fills. Time and average stay those of the day.
-    void Blank(const RecordGiorno& giorno);
+    void Blank(const RecordGiorno& day);
     /// Puts what the controls hold into the day. Its number and its date stay.
-    void Commit(RecordGiorno& giorno) const;
+    void Commit(RecordGiorno& day) const;
     /// True when the controls hold something else than the day, the splits left out.
-    bool Differs(const RecordGiorno& giorno) const;
+    bool Differs(const RecordGiorno& day) const;
     /// Only the lines that the list has are compared: one that merely became shorter is unchanged. Raises error 9 for
     /// more lines than a day holds.
-    bool SplitsDiffer(const RecordGiorno& giorno) const;
+    bool SplitsDiffer(const RecordGiorno& day) const;
     /// What the labels show, whether or not it has been committed.
     DaySheetTexts SheetTexts() const;
 
@@ -37,8 +37,8 @@ private:
     Label& LabelOf(const NumberField<T>& field) const;
     Label& LabelOf(const TimeField& field) const;
     void ShowNote(int line, TextView value);
-    void ShowTime(const TimeField& field, const RecordGiorno& giorno);
-    void BlankTexts(const RecordGiorno& giorno);
+    void ShowTime(const TimeField& field, const RecordGiorno& day);
+    void BlankTexts(const RecordGiorno& day);
     void BlankSplits();
     i32 NumberOf(NumberMember member) const;
 

@@ -92,14 +92,14 @@ public:
     void mnuFileSave_Click() { files_.mnuFileSave_Click(); }
     void mnuFileSaveAs_Click() { files_.mnuFileSaveAs_Click(); }
     void ChiediSalvataggio(i16& annullato) { files_.ChiediSalvataggio(annullato); }
-    void NuovoFile(const Text& percorso) { files_.NuovoFile(percorso); }
-    void SalvaFileNuovo(const Text& percorso) { files_.SalvaFileNuovo(percorso); }
+    void NuovoFile(const Text& path) { files_.NuovoFile(path); }
+    void SalvaFileNuovo(const Text& path) { files_.SalvaFileNuovo(path); }
     void mnuFilePrint_Click();
     void mnuFileExit_Click() { Unload(); }
 
     // Fields.
     void InizializzaListe() { files_.InizializzaListe(); }
-    i16 AggiungiLista(TextBox& txt, SelectionList lista) { return Field(lista).AggiungiLista(txt); }
+    i16 AggiungiLista(TextBox& txt, SelectionList list) { return Field(list).AggiungiLista(txt); }
     /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
     void FollowInTabOrder(QWidget& field);
     /// Gives the focus to the control of a field that opens. The hand comes with it, once another field has closed.
@@ -110,21 +110,21 @@ public:
     void SalvaNomePercorso() { route_->SalvaNomePercorso(); }
     i16 NumeroPercorso() { return route_->NumeroPercorso(); }
     RouteField& Route() { return *route_; }
-    SelectionField& Field(SelectionList lista) { return *fields_[static_cast<int>(lista)]; }
+    SelectionField& Field(SelectionList list) { return *fields_[static_cast<int>(list)]; }
 
     // What other windows ask for.
-    void SetActiveTableName(TextView nome) override { lblTabNomeFile->SetCaption(nome); }
+    void SetActiveTableName(TextView name) override { lblTabNomeFile->SetCaption(name); }
     void RequestTableReading() override { lblTimerTab->SetCaption("1"); }
-    void SetDistance(i32 km, i32 metri) override;
+    void SetDistance(i32 km, i32 metres) override;
     /// The window of the statistics, created when there is none.
     frmStatistiche1& StatisticsWindow();
 
     i16 ControlloTempiKm() { return time_.ControlloTempiKm(); }
     void TempoImpiegato() { time_.TempoImpiegato(); }
     void tempo() { time_.tempo(); }
-    void MediaKm(i32 ore, i32 minuti, i32 secondi) { time_.MediaKm(ore, minuti, secondi); }
-    void ListavOrdinata(const Text& percorso) { times_.ListavOrdinata(percorso); }
-    void ListavOrdinataDue(const Text& percorso) { times_.ListavOrdinataDue(percorso); }
+    void MediaKm(i32 hours, i32 minutes, i32 seconds) { time_.MediaKm(hours, minutes, seconds); }
+    void ListavOrdinata(const Text& route) { times_.ListavOrdinata(route); }
+    void ListavOrdinataDue(const Text& route) { times_.ListavOrdinataDue(route); }
     void lstListaOrdinata_LostFocus() { times_.Close(); }
     void mnuNote_Click() { notes_->mnuNote_Click(); }
     void cmdListaKM_Click() { splits_->cmdListaKM_Click(); }
@@ -163,7 +163,7 @@ private:
     void ShowDiaryName() override { lblNomeFile->SetCaption(NomeBaseFile); }
     void ShowTableName() override { slips_.ShowTableName(); }
     void ShowActiveTable() override { slips_.ShowActiveTable(); }
-    void ShowList(SelectionList lista) override;
+    void ShowList(SelectionList list) override;
     void ShowOtherDiary() override;
     bool CalendarStays() override;
     void SetBusy(bool busy) override;
@@ -171,12 +171,12 @@ private:
     void ChooseFile(const FileChoice& choice) override;
 
     // What the routines with a name of their own do.
-    void SalvaLista(SelectionList lista) override { files_.SalvaLista(lista); }
-    void CaricaLista(SelectionList lista) override { files_.CaricaLista(lista); }
-    void Immis(SelectionList lista) override { Field(lista).Open(); }
-    void Statis(Categoria categoria) override;
+    void SalvaLista(SelectionList list) override { files_.SalvaLista(list); }
+    void CaricaLista(SelectionList list) override { files_.CaricaLista(list); }
+    void Immis(SelectionList list) override { Field(list).Open(); }
+    void Statis(Categoria category) override;
     /// The command of a statistic: commits the day, counts and shows.
-    void ShowStatistic(Categoria categoria);
+    void ShowStatistic(Categoria category);
 
     BoundedArray<std::unique_ptr<SelectionField>, 1, 8> fields_;
     RouteField* route_ = nullptr; ///< One of them.

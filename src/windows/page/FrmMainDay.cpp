@@ -30,20 +30,20 @@ void frmMain::AssegnaCampi()
         if (FileModificato == 0) {
             ControllaSave(FileModificato);
         }
-        RecordGiorno& giorno = Giorni[GiornoCorrente];
-        giorno.NumGiorno = GiornoCorrente;
-        giorno.Data = DataCorrente;
-        DayOnPage(*this).Commit(giorno);
+        RecordGiorno& day = Giorni[GiornoCorrente];
+        day.NumGiorno = GiornoCorrente;
+        day.Data = DataCorrente;
+        DayOnPage(*this).Commit(day);
     });
 }
 
 void frmMain::ControllaSave(i16& result)
 {
     Trap("ControllaSave - ERRORE : ", [&] {
-        const DayOnPage day(*this);
-        const RecordGiorno& giorno = Giorni[GiornoCorrente];
-        result = day.Differs(giorno) ? 1 : 0;
-        if (day.SplitsDiffer(giorno)) {
+        const DayOnPage shown(*this);
+        const RecordGiorno& day = Giorni[GiornoCorrente];
+        result = shown.Differs(day) ? 1 : 0;
+        if (shown.SplitsDiffer(day)) {
             result = 1;
         }
     });
@@ -55,25 +55,25 @@ void frmMain::DatiAnno()
         UltimoPeso = 0;
         KmAnno = 0;
         GiorniCorseAnno = GareAnno = 0;
-        i32 metri = 0;
+        i32 metres = 0;
         for (i16 i = 1; i <= GiornoCorrente; i += 1) {
-            const RecordGiorno& giorno = Giorni[i];
-            if (giorno.Peso > 0) {
-                UltimoPeso = giorno.Peso;
+            const RecordGiorno& day = Giorni[i];
+            if (day.Peso > 0) {
+                UltimoPeso = day.Peso;
             }
-            if (giorno.Km > 0) {
-                KmAnno += giorno.Km;
+            if (day.Km > 0) {
+                KmAnno += day.Km;
             }
-            if (giorno.Metri > 0) {
-                metri += giorno.Metri;
+            if (day.Metri > 0) {
+                metres += day.Metri;
             }
-            if (SameText(Trim(giorno.Tipo), "Gara")) {
+            if (SameText(Trim(day.Tipo), "Gara")) {
                 GareAnno += 1;
-            } else if (CampoNonVuoto(giorno.Tipo)) {
+            } else if (CampoNonVuoto(day.Tipo)) {
                 GiorniCorseAnno += 1;
             }
         }
-        KmAnno += metri.value() / 1000;
+        KmAnno += metres.value() / 1000;
         lblNumKMPercorsi->SetCaption(Format(KmAnno, "###,###"));
         lblNumGiorniCorseAnno->SetCaption(PlainText(GiorniCorseAnno));
         lblNumGare->SetCaption(PlainText(GareAnno));

@@ -63,32 +63,32 @@ void frmMain::mnuAzzeraGiorno_Click()
 
 frmStatistiche1& frmMain::StatisticsWindow()
 {
-    return statistiche_.Load([this](const Text& titolo) { MostraGrafico(grafici_, titolo); });
+    return statistiche_.Load([this](const Text& title) { MostraGrafico(grafici_, title); });
 }
 
-void frmMain::Statis(zelvia::Categoria categoria)
+void frmMain::Statis(zelvia::Categoria category)
 {
-    RunStatistic(StatisticOf(categoria), StatisticsWindow());
+    RunStatistic(StatisticOf(category), StatisticsWindow());
 }
 
-void frmMain::ShowStatistic(zelvia::Categoria categoria)
+void frmMain::ShowStatistic(zelvia::Categoria category)
 {
     AssegnaCampi();
-    Statis(categoria);
+    Statis(category);
     StatisticsWindow().ShowInFront();
 }
 
 void frmMain::mnuMedie_Click()
 {
     AssegnaCampi();
-    ricerche_.Load([this](const PaceTable& medie) { MostraGraficoMedia(grafici_, medie); }).ShowInFront();
+    ricerche_.Load([this](const PaceTable& paces) { MostraGraficoMedia(grafici_, paces); }).ShowInFront();
 }
 
 void frmMain::ConnectFields()
 {
-    for (const SelectionList lista : kAllLists) {
-        if (lista != SelectionList::Percorso) {
-            fields_[static_cast<int>(lista)] = std::make_unique<SelectionField>(*this, lista);
+    for (const SelectionList list : kAllLists) {
+        if (list != SelectionList::Percorso) {
+            fields_[static_cast<int>(list)] = std::make_unique<SelectionField>(*this, list);
         }
     }
     auto route = std::make_unique<RouteField>(*this);
@@ -163,10 +163,10 @@ void frmMain::CursoreNormale()
     });
 }
 
-void frmMain::SetDistance(i32 km, i32 metri)
+void frmMain::SetDistance(i32 km, i32 metres)
 {
     upKM->SetValue(km);
-    upMetri->SetValue(metri);
+    upMetri->SetValue(metres);
 }
 
 } // namespace zelvia

@@ -105,11 +105,11 @@ void frmMain::ChooseFile(const FileChoice& choice)
     choice.opens ? dlgCommonDialog.ShowOpen() : dlgCommonDialog.ShowSave();
 }
 
-void frmMain::ShowList(SelectionList lista)
+void frmMain::ShowList(SelectionList list)
 {
-    ListBox& lst = *Campo(lista).lst;
+    ListBox& lst = *Campo(list).lst;
     lst.Clear();
-    lst.AddItems(std::vector<TextView>(EntriesOf(lista).begin(), EntriesOf(lista).end()));
+    lst.AddItems(std::vector<TextView>(EntriesOf(list).begin(), EntriesOf(list).end()));
 }
 
 bool frmMain::CalendarStays()

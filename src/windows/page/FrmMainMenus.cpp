@@ -94,10 +94,10 @@ void frmMain::BuildMenus(QMenuBar& bar)
     for (const auto& menu : kMenus) {
         std::vector<MenuEntry> entries = Entries(*this, menu.commands);
         if (menu.commands.data() == kStatistics) {
-            for (const Categoria categoria : kAllCategories) {
-                const Statistic& statistic = StatisticOf(categoria);
+            for (const Categoria category : kAllCategories) {
+                const Statistic& statistic = StatisticOf(category);
                 entries.push_back(
-                    {"mnu" + Text(statistic.name), statistic.entry, [this, categoria] { ShowStatistic(categoria); }});
+                    {"mnu" + Text(statistic.name), statistic.entry, [this, category] { ShowStatistic(category); }});
             }
         }
         AddMenu(bar, menu.name, menu.caption, entries);
@@ -113,9 +113,9 @@ void frmMain::DispatchCommand(TextView key)
             }
         }
     }
-    for (const Categoria categoria : kAllCategories) {
-        if (StatisticOf(categoria).title == key) {
-            ShowStatistic(categoria);
+    for (const Categoria category : kAllCategories) {
+        if (StatisticOf(category).title == key) {
+            ShowStatistic(category);
         }
     }
 }

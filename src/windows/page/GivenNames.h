@@ -73,12 +73,12 @@ public:
     void StatisRipetizioni() { Statis(Categoria::Ripetizioni); }
 
 protected:
-    virtual void SalvaLista(SelectionList lista) = 0;
-    virtual void CaricaLista(SelectionList lista) = 0;
+    virtual void SalvaLista(SelectionList list) = 0;
+    virtual void CaricaLista(SelectionList list) = 0;
     /// Opens the field of a list.
-    virtual void Immis(SelectionList lista) = 0;
+    virtual void Immis(SelectionList list) = 0;
     /// Counts the category up to the day shown, from the records, into the window of the statistics.
-    virtual void Statis(Categoria categoria) = 0;
+    virtual void Statis(Categoria category) = 0;
 };
 
 } // namespace zelvia

@@ -46,9 +46,9 @@ void OrderedTimes::AddRun(i16 day, const Text& time, const Text& pace, CalendarD
 void OrderedTimes::AddRunsOf(const Text& route, i16 last)
 {
     for (i16 i = 1; i <= last; i += 1) {
-        const RecordGiorno& giorno = Giorni[i];
-        if (giorno.Percorso == route) {
-            AddRun(giorno.NumGiorno, giorno.TempoImpiegato, giorno.MediaKm, giorno.Data);
+        const RecordGiorno& day = Giorni[i];
+        if (day.Percorso == route) {
+            AddRun(day.NumGiorno, day.TempoImpiegato, day.MediaKm, day.Data);
         }
     }
 }

@@ -208,8 +208,8 @@ void DressInput(QWidget& input, const QRect& place)
 
 void MakeList(PageControls& controls, QWidget* page, const ListRow& row)
 {
-    ListControls& field = controls.Campo(row.lista);
-    const QString name = ToQString(ListName(row.lista));
+    ListControls& field = controls.Campo(row.list);
+    const QString name = ToQString(ListName(row.list));
     field.lbl = MakeLabel(page, QLatin1String("lbl") + name, row.caption, Caption(row.row), Style::Caption, {});
     field.lblImmis = MakeLabel(page, QLatin1String("lblImmis") + name, {}, Value(row.row), Style::Value, row.caption);
     field.txt = new TextBox(page, QLatin1String("txt") + name, kListTextLimit);

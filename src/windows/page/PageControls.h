@@ -48,7 +48,7 @@ struct PageControls {
 
     // Text fields, in the order of their lists' numbers.
     BoundedArray<ListControls, 1, 8> campi;
-    ListControls& Campo(SelectionList lista) { return campi[static_cast<int>(lista)]; }
+    ListControls& Campo(SelectionList list) { return campi[static_cast<int>(list)]; }
 
     // Numeric fields.
     Label *lblKm{}, *lblImmisMetri{};

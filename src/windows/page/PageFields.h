@@ -14,7 +14,7 @@ namespace zelvia
 
 /// A text field of the page, which is entered with a selection list.
 struct ListRow {
-    SelectionList lista;
+    SelectionList list;
     TextView caption;
     PageLayout::Row row;
 };

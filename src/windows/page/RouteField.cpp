@@ -40,14 +40,14 @@ void RouteField::OnClosed(const Text& text, i16 listed)
 void RouteField::CopyLastRun(const Text& route)
 {
     for (int i = 366; i >= 1; --i) {
-        const RecordGiorno& giorno = Giorni[i];
-        if (!SameText(giorno.Percorso, route)) {
+        const RecordGiorno& day = Giorni[i];
+        if (!SameText(day.Percorso, route)) {
             continue;
         }
-        DayOnPage day(page_);
-        day.ShowText(SelectionList::Lunghezza, giorno.Lunghezza);
-        day.ShowText(SelectionList::Fondo, giorno.Fondo);
-        page_.SetDistance(giorno.Km, giorno.Metri);
+        DayOnPage shown(page_);
+        shown.ShowText(SelectionList::Lunghezza, day.Lunghezza);
+        shown.ShowText(SelectionList::Fondo, day.Fondo);
+        page_.SetDistance(day.Km, day.Metri);
         if (page_.ControlloTempiKm() == 1) {
             page_.TempoImpiegato();
         }

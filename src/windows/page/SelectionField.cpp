@@ -22,8 +22,8 @@ Text Title(TextView control, TextView name)
 
 } // namespace
 
-SelectionField::SelectionField(frmMain& page, SelectionList lista)
-    : page_(page), controls_(page.Campo(lista)), lista_(lista), name_(ListName(lista))
+SelectionField::SelectionField(frmMain& page, SelectionList list)
+    : page_(page), controls_(page.Campo(list)), list_(list), name_(ListName(list))
 {
     Connect();
 }
@@ -46,11 +46,11 @@ void SelectionField::Connect()
     controls_.lst->Click = trapped("lst", &SelectionField::OnListClick);
     controls_.lst->DblClick = trapped("lst", &SelectionField::OnListDblClick);
     // The key handler of the temperatures goes by no name of its own.
-    const Text keyTitle = lista_ == SelectionList::Temperatura ? Text(kBareTitle) : Title("lst", name_);
+    const Text keyTitle = list_ == SelectionList::Temperatura ? Text(kBareTitle) : Title("lst", name_);
     controls_.lst->KeyPress = [this, keyTitle](int keyAscii) { Trap(keyTitle, [&] { OnListKeyPress(keyAscii); }); };
     controls_.lst->MouseUp = [this](Qt::MouseButton button, const QPoint& position) {
         Trap(Title("lst", name_),
-             [&] { page_.mnuCancelladallaLista->OnListMouseUp(button, position, lista_ == SelectionList::Percorso); });
+             [&] { page_.mnuCancelladallaLista->OnListMouseUp(button, position, list_ == SelectionList::Percorso); });
     };
 }
 
@@ -86,9 +86,9 @@ i16 SelectionField::AggiungiLista(TextBox& txt)
         if (!CampoNonVuoto(text)) {
             return;
         }
-        listed = Holds(EntriesOf(lista_), text) ? 1 : 0;
+        listed = Holds(EntriesOf(list_), text) ? 1 : 0;
         if (listed == 0) {
-            EntriesOf(lista_).push_back(text);
+            EntriesOf(list_).push_back(text);
             controls_.lst->AddItem(text);
             FileModificato = 1;
         }
@@ -100,7 +100,7 @@ void SelectionField::RemoveSelected()
 {
     const int selected = controls_.lst->ListIndex();
     if (selected >= 0) {
-        EntriesOf(lista_).erase(EntriesOf(lista_).begin() + selected);
+        EntriesOf(list_).erase(EntriesOf(list_).begin() + selected);
         controls_.lst->RemoveItem(selected);
         controls_.txt->SetContent({});
     }
@@ -115,7 +115,7 @@ void SelectionField::OnListGotFocus()
 {
     controls_.txt->SetVisible(true);
     controls_.lst->SetVisible(true);
-    page_.ListaAperta = static_cast<int>(lista_);
+    page_.ListaAperta = static_cast<int>(list_);
     page_.CursoreMano();
 }
 

@@ -17,7 +17,7 @@ struct ListControls;
 class SelectionField
 {
 public:
-    SelectionField(frmMain& page, SelectionList lista);
+    SelectionField(frmMain& page, SelectionList list);
     virtual ~SelectionField() = default;
     SelectionField(const SelectionField&) = delete;
     SelectionField& operator=(const SelectionField&) = delete;
@@ -49,7 +49,7 @@ private:
     void LeaveBox();
     void Connect();
 
-    SelectionList lista_;
+    SelectionList list_;
     Text name_;
 };
 

@@ -108,14 +108,14 @@ void Slips::GiornodellaGara(i16& place)
         ShowTablePanel(false);
         ShowRacePanel(true);
         const RaceTexts texts = RaceTextsOf(place);
-        page_.lblGara->SetCaption(texts.gara);
-        page_.lblLocalita->SetCaption(texts.localita);
-        page_.lblPartecipanti->SetCaption(texts.partecipanti);
-        page_.lblTempoImpiegato->SetCaption(texts.tempo);
-        page_.lblRisultato->SetCaption(texts.risultato);
-        page_.lblCategoria->SetCaption(texts.categoria);
-        page_.lblRisultatoCat->SetCaption(texts.risultatoCat);
-        page_.lblLunghezzaGara->SetCaption(texts.lunghezza);
+        page_.lblGara->SetCaption(texts.name);
+        page_.lblLocalita->SetCaption(texts.place);
+        page_.lblPartecipanti->SetCaption(texts.runners);
+        page_.lblTempoImpiegato->SetCaption(texts.time);
+        page_.lblRisultato->SetCaption(texts.placing);
+        page_.lblCategoria->SetCaption(texts.category);
+        page_.lblRisultatoCat->SetCaption(texts.categoryPlacing);
+        page_.lblLunghezzaGara->SetCaption(texts.length);
     });
 }
 

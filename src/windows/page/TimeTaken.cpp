@@ -14,9 +14,9 @@ using namespace Module1;
 namespace
 {
 
-ClockTime Reading(const UpDown& ore, const UpDown& minuti, const UpDown& secondi)
+ClockTime Reading(const UpDown& hours, const UpDown& minutes, const UpDown& seconds)
 {
-    return {ore.Value(), minuti.Value(), secondi.Value()};
+    return {hours.Value(), minutes.Value(), seconds.Value()};
 }
 
 } // namespace
@@ -73,10 +73,10 @@ ClockTime TimeTaken::Show()
     return taken;
 }
 
-void TimeTaken::MediaKm(i32 ore, i32 minuti, i32 secondi)
+void TimeTaken::MediaKm(i32 hours, i32 minutes, i32 seconds)
 {
     Trap("MediaKm - ERRORE : ", [&] {
-        if (const auto pace = AverageText(page_.lblImmisMetri->Caption(), {ore, minuti, secondi})) {
+        if (const auto pace = AverageText(page_.lblImmisMetri->Caption(), {hours, minutes, seconds})) {
             page_.lblOutMediaKM->SetCaption(*pace);
         } else {
             MsgBox(Messages::kPaceTooSlow);

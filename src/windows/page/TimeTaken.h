@@ -19,7 +19,7 @@ public:
     i16 ControlloTempiKm();
     void TempoImpiegato();
     void tempo();
-    void MediaKm(i32 ore, i32 minuti, i32 secondi);
+    void MediaKm(i32 hours, i32 minutes, i32 seconds);
 
 private:
     ClockTime Start() const;

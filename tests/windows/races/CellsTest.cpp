@@ -277,10 +277,10 @@ void CellsTest::RaceOnThePage()
     Localita[8] = " LAGO";
     Categoria[8] = "S50 ";
     const RaceTexts texts = RaceTextsOf(8);
-    QCOMPARE(Bytes(texts.lunghezza + "|" + texts.partecipanti + "|" + texts.tempo + "|" + texts.risultato + "|" +
-                   texts.risultatoCat),
+    QCOMPARE(Bytes(texts.length + "|" + texts.runners + "|" + texts.time + "|" + texts.placing + "|" +
+                   texts.categoryPlacing),
              shown);
-    QCOMPARE(Bytes(texts.gara + "|" + texts.localita + "|" + texts.categoria), QByteArray("stracitt\xE0| LAGO|S50 "));
+    QCOMPARE(Bytes(texts.name + "|" + texts.place + "|" + texts.category), QByteArray("stracitt\xE0| LAGO|S50 "));
 }
 
 ZELVIA_TEST(CellsTest)
