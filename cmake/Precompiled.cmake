@@ -12,15 +12,15 @@ set(ZELVIA_WIDGET_HEADERS
   <QApplication> <QClipboard> <QFileDialog> <QImage> <QKeyEvent> <QLabel> <QLineEdit> <QListWidget> <QMenu> <QMenuBar>
   <QMessageBox> <QMouseEvent> <QPainter> <QPushButton> <QWidget> <QWindow>)
 
-# zelvia_precompiled(kind HEADERS headers LINKS targets)
-#   The headers for targets that link at least those and are compiled under Qt's strict rules.
+# zelvia_precompiled(kind HEADERS headers LINKS targets [OPTIONS targets])
+#   The headers for targets that link at least those, with those options, and are compiled under Qt's strict rules.
 function(zelvia_precompiled kind)
-  cmake_parse_arguments(KIND "" "" "HEADERS;LINKS" ${ARGN})
+  cmake_parse_arguments(KIND "" "" "HEADERS;LINKS;OPTIONS" ${ARGN})
   set(source ${CMAKE_BINARY_DIR}/precompiled/${kind}.cpp)
   file(CONFIGURE OUTPUT ${source} CONTENT "")
   add_library(zelvia_precompiled_${kind} OBJECT ${source})
   set_target_properties(zelvia_precompiled_${kind} PROPERTIES AUTOMOC OFF)
-  target_link_libraries(zelvia_precompiled_${kind} PRIVATE ${KIND_LINKS} zelvia_options)
+  target_link_libraries(zelvia_precompiled_${kind} PRIVATE ${KIND_LINKS} zelvia_options ${KIND_OPTIONS})
   target_compile_definitions(zelvia_precompiled_${kind} PRIVATE ${ZELVIA_QT_STRICT})
   target_precompile_headers(zelvia_precompiled_${kind} PRIVATE ${KIND_HEADERS})
 endfunction()
