@@ -5,6 +5,7 @@
 #include "core/Files.h"
 #include "diary/CategoryStatistics.h"
 #include "diary/TableModel.h"
+#include "support/ActiveWindow.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -92,6 +93,8 @@ QMenu* DayPage::OpenMenu(const char* menu) const
     if (opened == nullptr) {
         qFatal("no menu %s", menu);
     }
+    // A menu closes again when the manager gives its window the keyboard only then.
+    hand::AwaitAgreement();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(opened->menuAction()).center());
     if (!QTest::qWaitFor([&] { return opened->isVisible(); }) || !QTest::qWaitForWindowExposed(opened)) {
         qFatal("%s does not open", menu);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/EntryPage.h"
 
+#include "support/ActiveWindow.h"
 #include "support/DiaryBytes.h"
 #include "toolkit/FocusController.h"
 #include "windows/routes/FrmDesPercorso.h"
@@ -184,14 +185,7 @@ void EntryPage::TakeFront() const
 
 void EntryPage::AwaitFront(const QWidget& window)
 {
-    // On a busy machine the manager takes its time.
-    constexpr int patience = 20000;
-    QTRY_VERIFY_WITH_TIMEOUT(window.isActiveWindow(), patience);
-    QTRY_VERIFY_WITH_TIMEOUT(QGuiApplication::focusWindow() == window.windowHandle(), patience);
-    if (hand::OnX11()) {
-        // The manager hears of it later than the window, and until then it may take a click for itself.
-        hand::AwaitManager(window.winId());
-    }
+    hand::AwaitFront(window);
 }
 
 QByteArray RouteFileOf(const QByteArrayList& names)

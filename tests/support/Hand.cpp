@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/Hand.h"
 
+#include "support/ActiveWindow.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -11,14 +13,8 @@
 #include <QWheelEvent>
 #include <QWindow>
 
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <map>
-#include <memory>
 #include <vector>
-#include <xcb/xcb.h>
-
 namespace hand
 {
 namespace
@@ -116,58 +112,6 @@ void Do(const QStringList& words, QEvent::Type awaited, int count = 1)
     QFAIL(qPrintable(QLatin1String("no event came of ") + words.join(QLatin1Char(' '))));
 }
 
-/// What the X server answers, freed as its library asks for.
-template <typename T>
-using Reply = std::unique_ptr<T, decltype([](T* reply) { std::free(reply); })>;
-
-xcb_connection_t* Server()
-{
-    return qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-}
-
-/// A window that a property of the root window names, 0 where it names none.
-WId RootProperty(xcb_connection_t* server, const char* name)
-{
-    const auto length = static_cast<std::uint16_t>(std::strlen(name));
-    const Reply<xcb_intern_atom_reply_t> atom(
-        xcb_intern_atom_reply(server, xcb_intern_atom(server, 1, length, name), nullptr));
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
-    if (atom == nullptr) {
-        return 0;
-    }
-    const Reply<xcb_get_property_reply_t> property(
-        xcb_get_property_reply(server, xcb_get_property(server, 0, root, atom->atom, XCB_ATOM_WINDOW, 0, 1), nullptr));
-    if (property == nullptr || xcb_get_property_value_length(property.get()) < static_cast<int>(sizeof(xcb_window_t))) {
-        return 0;
-    }
-    return *static_cast<const xcb_window_t*>(xcb_get_property_value(property.get()));
-}
-
-/// The window that gets the keys.
-WId FocusOfServer(xcb_connection_t* server)
-{
-    const Reply<xcb_get_input_focus_reply_t> focus(
-        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
-    return focus != nullptr ? focus->focus : 0;
-}
-
-/// Waits until the program, the window manager and the X server agree on the active window. Where a box has just gone
-/// they don't for a moment: the manager may keep a click for itself, and a key reaches no window. Another program may
-/// have the keyboard: then it goes on.
-void AwaitAgreement()
-{
-    constexpr int patience = 2000;
-    // What has come in by now must not be taken for what the next press brings.
-    QCoreApplication::processEvents();
-    (void)QTest::qWaitFor(
-        [] {
-            const QWidget* active = QApplication::activeWindow();
-            return active != nullptr && active->internalWinId() == ManagersActiveWindow() &&
-                   active->internalWinId() == FocusOfServer(Server());
-        },
-        patience);
-}
-
 QStringList PointAt(QWidget& widget, QPoint position)
 {
     const QPoint inWindow = widget.mapTo(widget.window(), position);
@@ -234,19 +178,6 @@ void Raw(const QStringList& words)
     QProcess xdotool;
     xdotool.start(QStringLiteral("xdotool"), words);
     QVERIFY2(xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0, qPrintable(words.join(QLatin1Char(' '))));
-}
-
-WId ManagersActiveWindow()
-{
-    return RootProperty(Server(), "_NET_ACTIVE_WINDOW");
-}
-
-void AwaitManager(WId window)
-{
-    constexpr int patience = 20000;
-    if (!QTest::qWaitFor([window] { return ManagersActiveWindow() == window; }, patience)) {
-        QFAIL("the manager holds another window for the active one");
-    }
 }
 
 void KeyForManager(const QStringList& words, const std::function<bool()>& done)
