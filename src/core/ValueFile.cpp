@@ -216,8 +216,12 @@ void ValueReader::SkipSeparator()
 /// file ends before. Raises `tooLong` when the value is longer than any.
 std::size_t ValueReader::FindEnd(TextView ends, std::size_t skip, int tooLong)
 {
+    // The search for one character is several times as fast, which a long text shows.
+    const auto find = [&](std::size_t from) {
+        return ends.size() == 1 ? buffer_.find(ends.front(), from) : buffer_.find_first_of(ends, from);
+    };
     std::size_t end = 0;
-    while ((end = buffer_.find_first_of(ends, position_ + skip)) == std::string::npos) {
+    while ((end = find(position_ + skip)) == std::string::npos) {
         skip = buffer_.size() - position_;
         if (skip > kLongestValue) {
             throw ErroreRunTime(tooLong);
