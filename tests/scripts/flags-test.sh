@@ -8,7 +8,7 @@ build=$(readlink -f "$1")
 # commands BUILD-FOLDER: what makes the programs there, without the folder's name, the compiler's launcher and the
 # option that makes warnings errors.
 commands() {
-  ninja -C "$1" -t commands zelvia zelvia-copie zelvia-avviso | grep -F " -o " |
+  ninja -C "$1" -t commands zelvia zelvia-copie zelvia-strumenti zelvia-avvio zelvia-avviso zelvia-finestra zelvia-libro | grep -F " -o " |
     sed -E "s#$1(/|\\b)#BUILD\\1#g; s#(^|&& )[^ ]*ccache #\\1#g; s# -Werror( |\$)#\\1#g" | sort
 }
 
@@ -17,6 +17,6 @@ commands() {
 commands "$build" >"$work/tested"
 commands "$work/release" >"$work/installed"
 expect "sources compiled with optimisation" "$(($(grep -c -- ' -O3 -DNDEBUG .* -c ' "$work/installed") >= 100))" 1
-expect "programs linked" "$(grep -cE -- ' -o src/zelvia(-copie|-avviso)? ' "$work/installed")" 3
+expect "programs linked" "$(grep -cE -- ' -o src/zelvia(-copie|-strumenti|-avvio|-avviso|-finestra|-libro)? ' "$work/installed")" 7
 diff "$work/installed" "$work/tested" >&2 || expect "the commands" different same
 verdict
