@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Builds Zelvia, lays its program folder and opens the diary: start.sh [--demo] [FOLDER]
+# Builds Zelvia, lays its program folder and opens the diary: start.sh [--demo] [FOLDER]; or makes the Debian package:
+# start.sh --package
 set -euo pipefail
 
 source_folder=$(dirname "$(readlink -f "$0")")
@@ -12,6 +13,7 @@ source_folder=$(dirname "$(readlink -f "$0")")
 usage() {
   cat <<'TEXT'
 Uso: ./start.sh [--demo] [CARTELLA]
+     ./start.sh --package
 
 Compila Zelvia, lo installa nella CARTELLA (di solito Zelvia, nella cartella
 personale) e apre il diario. I dati che ci sono già non vengono toccati.
@@ -19,6 +21,8 @@ personale) e apre il diario. I dati che ci sono già non vengono toccati.
   --demo    apre un diario di prova con un anno già scritto, nel giorno di una
             gara, in una cartella sua se non è indicata la CARTELLA; questa deve
             essere nuova, vuota o di un diario di prova
+  --package non apre niente: fa il pacchetto Debian nella cartella
+            build/package
   --help    mostra questo testo
 
 Senza uno schermo il diario si apre su uno schermo virtuale: la fotografia della
@@ -42,6 +46,7 @@ demo_folder() {
 }
 
 demo=
+package=
 folder=
 folder_given=
 options=yes
@@ -50,6 +55,7 @@ for argument in "$@"; do
     case $argument in
       --) options= ;;
       --demo) demo=yes ;;
+      --package) package=yes ;;
       --help) usage && exit 0 ;;
       *) refuse "Opzione sconosciuta: $argument" ;;
     esac
@@ -59,6 +65,13 @@ for argument in "$@"; do
     folder_given=yes
   fi
 done
+if [ -n "$package" ]; then
+  [ -z "$demo$folder_given" ] || refuse "Con --package non si indica altro."
+  packages_install build package
+  "$source_folder/packaging/deb.sh" "$source_folder/build/package"
+  ls "$source_folder"/build/package/zelvia_*.deb
+  exit 0
+fi
 if [ -z "$folder_given" ]; then
   if [ -n "$demo" ]; then
     folder=$(demo_folder)

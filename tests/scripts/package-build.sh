@@ -6,5 +6,5 @@
 build=$(readlink -f "$1")
 
 rm -rf "$build/package"
-cpack --config "$build/CPackConfig.cmake" -B "$build/package"
-[ "$(ls "$build/package"/*.deb | wc -l)" -eq 1 ]
+"$source_folder/packaging/deb.sh" "$build/package"
+[ "$(ls "$build/package"/zelvia_*.deb | wc -l)" -eq 1 ]

@@ -12,6 +12,12 @@ expect "lines without a reason" \
 expect "packages named twice" "$(packages_in run build package display test coverage | sort | uniq -d)" ""
 expect "packages not installed when the tests run" "$(packages_missing run build package display test)" ""
 
+# The package is built with, and needs, what the list says. The compiler belongs to every build.
+control_list() { sed -n "/^$1:/,/^[A-Z]/p" "$source_folder/debian/control" | sed -n 's/^ \([a-z0-9.+-]*\).*/\1/p' | grep . | sort; }
+expect "what builds the package" "$(control_list Build-Depends | grep -vx debhelper-compat)" \
+  "$(packages_in build | grep -vx g++ | sort)"
+expect "what the package needs" "$(control_list Depends)" "$(packages_in run | sort)"
+
 # The reader.
 PACKAGE_LIST=$work/packages
 cat >"$PACKAGE_LIST" <<'LIST'

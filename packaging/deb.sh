@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Zelvia authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Builds the Debian package from a copy of the sources: deb.sh FOLDER. The copy is FOLDER/zelvia, the package lies
+# beside that.
+set -euo pipefail
+
+source_folder=$(dirname "$(dirname "$(readlink -f "$0")")")
+mkdir -p "$1"
+folder=$(readlink -f "$1")
+
+rm -rf "$folder/zelvia"
+mkdir "$folder/zelvia"
+tar -C "$source_folder" --exclude=./build --exclude=./.git -c . | tar -C "$folder/zelvia" -x
+cd "$folder/zelvia"
+dpkg-buildpackage -b -us -uc -j"$(nproc)"
