@@ -61,6 +61,7 @@ void DayPage::Start()
     page_->activateWindow();
     QVERIFY(QTest::qWaitForWindowExposed(page_));
     QVERIFY(QTest::qWaitForWindowActive(page_));
+    QTRY_VERIFY(page_->isActiveWindow());
 }
 
 void DayPage::ClickAt(QWidget& widget, QPoint place) const

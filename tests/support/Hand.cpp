@@ -3,8 +3,10 @@
 #include "support/Hand.h"
 
 #include "support/ActiveWindow.h"
+#include "support/ServerInput.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QProcess>
@@ -13,7 +15,9 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include <array>
 #include <map>
+#include <utility>
 #include <vector>
 namespace hand
 {
@@ -21,6 +25,7 @@ namespace
 {
 
 constexpr int kPatience = 5000;
+constexpr int kReleasePatience = 500;
 
 /// Counts what reaches the windows of this program.
 class Arrivals : public QObject
@@ -78,9 +83,9 @@ std::vector<QEvent::Type> KindOf(QEvent::Type awaited)
     }
 }
 
-/// Has xdotool act and waits until `count` events of the kind have come in. A manager that still holds a window that
-/// has just closed keeps a click for itself: when nothing at all has come in, this presses again, as a user would.
-void Do(const QStringList& words, QEvent::Type awaited, int count = 1)
+/// Acts and waits until `count` events of the kind have come in. A manager that still holds a window that has just
+/// closed keeps a click for itself: when nothing at all has come in, this acts again, as a user would.
+void Do(QEvent::Type awaited, int count, const std::function<void()>& act)
 {
     constexpr int attempts = 3;
     Arrivals& arrivals = Arrivals::Instance();
@@ -94,34 +99,55 @@ void Do(const QStringList& words, QEvent::Type awaited, int count = 1)
     const int before = arrivals.Count(awaited);
     const int seenBefore = seen();
     const int blocked = arrivals.Count(QEvent::WindowBlocked);
-    const int unblocked = arrivals.Count(QEvent::WindowUnblocked);
+    const int hidden = arrivals.Count(QEvent::Hide);
     // A box that the press opened keeps the release from its window.
     const auto arrived = [&] {
         return arrivals.Count(awaited) >= before + count || arrivals.Count(QEvent::WindowBlocked) > blocked;
     };
     for (int i = 0; i < attempts; ++i) {
-        Raw(words);
-        // A dialog that the press closed may take the release along: no window has the keyboard for a moment.
-        if (QTest::qWaitFor(arrived, kPatience) || arrivals.Count(QEvent::WindowUnblocked) != unblocked) {
+        // A window that has just closed must not be in the way.
+        QGuiApplication::sync();
+        act();
+        // A dialog or a menu that the press closed may take the release along: no window has the keyboard for a moment.
+        const QDeadlineTimer release(kReleasePatience);
+        const auto closed = [&] { return arrivals.Count(QEvent::Hide) != hidden && release.hasExpired(); };
+        if (Await([&] { return arrived() || closed(); }, kPatience)) {
             return;
         }
         if (seen() != seenBefore) {
             break;
         }
     }
-    QFAIL(qPrintable(QLatin1String("no event came of ") + words.join(QLatin1Char(' '))));
+    QFAIL(qPrintable(QStringLiteral("no event %1 came in").arg(awaited)));
 }
 
-QStringList PointAt(QWidget& widget, QPoint position)
+void PointAt(QWidget& widget, QPoint position)
 {
-    const QPoint inWindow = widget.mapTo(widget.window(), position);
-    return {QStringLiteral("mousemove"), QStringLiteral("--window"), QString::number(widget.window()->winId()),
-            QString::number(inWindow.x()), QString::number(inWindow.y())};
+    MovePointer(*widget.window(), widget.mapTo(widget.window(), position));
 }
 
-QString ButtonNumber(Qt::MouseButton button)
+/// The same with the pointer at a place of a widget.
+void DoAt(QWidget& widget, QPoint position, QEvent::Type awaited, int count, const std::function<void()>& act)
 {
-    return QString::number(button == Qt::LeftButton ? 1 : button == Qt::MiddleButton ? 2 : 3);
+    Do(awaited, count, [&] {
+        PointAt(widget, position);
+        act();
+    });
+}
+
+int NumberOf(Qt::MouseButton button)
+{
+    return button == Qt::LeftButton ? 1 : button == Qt::MiddleButton ? 2 : 3;
+}
+
+/// Presses and releases a button of the mouse, some times.
+void Clicks(int number, int count = 1)
+{
+    constexpr unsigned pause = 20;
+    for (int i = 0; i < count; ++i) {
+        MoveButton(number, true, i > 0 ? pause : 0);
+        MoveButton(number, false);
+    }
 }
 
 QWindow* WindowOf(QWidget& widget)
@@ -134,20 +160,6 @@ QPoint InWindow(QWidget& widget, QPoint position)
     return widget.mapTo(widget.window(), position);
 }
 
-QString KeyName(Qt::Key key)
-{
-    static const std::map<Qt::Key, const char*> names = {
-        {Qt::Key_Return, "Return"}, {Qt::Key_Enter, "KP_Enter"}, {Qt::Key_Escape, "Escape"},
-        {Qt::Key_Tab, "Tab"},       {Qt::Key_Insert, "Insert"},  {Qt::Key_Backspace, "BackSpace"},
-        {Qt::Key_Delete, "Delete"}, {Qt::Key_Left, "Left"},      {Qt::Key_Right, "Right"},
-        {Qt::Key_Up, "Up"},         {Qt::Key_Down, "Down"},      {Qt::Key_Home, "Home"},
-        {Qt::Key_End, "End"},       {Qt::Key_Space, "space"},    {Qt::Key_F1, "F1"},
-        {Qt::Key_F4, "F4"},         {Qt::Key_F10, "F10"},        {Qt::Key_PageDown, "Next"},
-        {Qt::Key_PageUp, "Prior"}};
-    const auto found = names.find(key);
-    return found != names.end() ? QString::fromLatin1(found->second) : QString(QChar(static_cast<int>(key))).toLower();
-}
-
 /// While it lives no two presses make a double click.
 class SingleClicks
 {
@@ -158,6 +170,47 @@ public:
 private:
     int before_ = QApplication::doubleClickInterval();
 };
+
+struct ModifierKey {
+    Qt::KeyboardModifier modifier;
+    Qt::Key key;
+};
+
+/// In the order in which they are pressed.
+constexpr std::array<ModifierKey, 3> kModifierKeys = {
+    {{Qt::ShiftModifier, Qt::Key_Shift}, {Qt::ControlModifier, Qt::Key_Control}, {Qt::AltModifier, Qt::Key_Alt}}};
+
+/// Each step goes to the window that has the focus by then: what runs in between may close a menu.
+void Step(bool press, Qt::Key key, Qt::KeyboardModifiers held)
+{
+    if (QWindow* window = QGuiApplication::focusWindow(); window != nullptr) {
+        const char character = QTest::keyToAscii(key);
+        const QString text = character == 0 ? QString() : QString(QLatin1Char(character));
+        QTest::simulateEvent(window, press, key, held, text, false);
+    }
+}
+
+/// Presses the key with its modifiers and lets go of them.
+void StrikeOffscreen(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    AwaitKeyboard();
+    QVERIFY(QGuiApplication::focusWindow() != nullptr);
+    Qt::KeyboardModifiers held;
+    for (const auto& [modifier, modifierKey] : kModifierKeys) {
+        if ((modifiers & modifier) != 0) {
+            Step(true, modifierKey, held);
+            held |= modifier;
+        }
+    }
+    Step(true, key, modifiers);
+    Step(false, key, modifiers);
+    for (const auto& [modifier, modifierKey] : kModifierKeys) {
+        if ((modifiers & modifier) != 0) {
+            Step(false, modifierKey, held);
+            held &= ~Qt::KeyboardModifiers(modifier);
+        }
+    }
+}
 
 } // namespace
 
@@ -173,8 +226,6 @@ QPoint Middle(const QWidget& widget)
 
 void Raw(const QStringList& words)
 {
-    // A window that has just closed must not be in the way.
-    QGuiApplication::sync();
     QProcess xdotool;
     xdotool.start(QStringLiteral("xdotool"), words);
     QVERIFY2(xdotool.waitForFinished(kPatience) && xdotool.exitCode() == 0, qPrintable(words.join(QLatin1Char(' '))));
@@ -194,9 +245,16 @@ void KeyForManager(const QStringList& words, const std::function<bool()>& done)
 void MoveTo(QWidget& widget, QPoint position)
 {
     if (OnX11()) {
-        // From a pixel aside, since a pointer that is there already would not move.
-        Raw(PointAt(widget, position + QPoint(1, 0)));
-        Do(PointAt(widget, position), QEvent::MouseMove);
+        // From a pixel aside, since a pointer that is there already would not move. Again before each new attempt.
+        const auto aside = [&] { PointAt(widget, position + QPoint(1, 0)); };
+        aside();
+        bool again = false;
+        Do(QEvent::MouseMove, 1, [&] {
+            if (std::exchange(again, true)) {
+                aside();
+            }
+            PointAt(widget, position);
+        });
     } else {
         QTest::mouseMove(WindowOf(widget), InWindow(widget, position));
     }
@@ -207,8 +265,7 @@ void Press(QWidget& widget, QPoint position, Qt::MouseButton button)
     const SingleClicks single;
     if (OnX11()) {
         AwaitAgreement();
-        Do(PointAt(widget, position) + QStringList{QStringLiteral("mousedown"), ButtonNumber(button)},
-           QEvent::MouseButtonPress);
+        DoAt(widget, position, QEvent::MouseButtonPress, 1, [&] { MoveButton(NumberOf(button), true); });
     } else {
         QTest::mousePress(WindowOf(widget), button, Qt::NoModifier, InWindow(widget, position));
     }
@@ -217,8 +274,7 @@ void Press(QWidget& widget, QPoint position, Qt::MouseButton button)
 void Release(QWidget& widget, QPoint position, Qt::MouseButton button)
 {
     if (OnX11()) {
-        Do(PointAt(widget, position) + QStringList{QStringLiteral("mouseup"), ButtonNumber(button)},
-           QEvent::MouseButtonRelease);
+        DoAt(widget, position, QEvent::MouseButtonRelease, 1, [&] { MoveButton(NumberOf(button), false); });
     } else {
         QTest::mouseRelease(WindowOf(widget), button, Qt::NoModifier, InWindow(widget, position));
     }
@@ -229,9 +285,7 @@ void Click(QWidget& widget, QPoint position, Qt::MouseButton button)
     const SingleClicks single;
     if (OnX11()) {
         AwaitAgreement();
-        Do(PointAt(widget, position) + QStringList{QStringLiteral("mousedown"), ButtonNumber(button),
-                                                   QStringLiteral("mouseup"), ButtonNumber(button)},
-           QEvent::MouseButtonRelease);
+        DoAt(widget, position, QEvent::MouseButtonRelease, 1, [&] { Clicks(NumberOf(button)); });
     } else {
         QTest::mouseClick(WindowOf(widget), button, Qt::NoModifier, InWindow(widget, position));
     }
@@ -246,10 +300,7 @@ void DoubleClick(QWidget& widget, QPoint position)
 {
     if (OnX11()) {
         AwaitAgreement();
-        Do(PointAt(widget, position) + QStringList{QStringLiteral("click"), QStringLiteral("--repeat"),
-                                                   QStringLiteral("2"), QStringLiteral("--delay"), QStringLiteral("20"),
-                                                   QStringLiteral("1")},
-           QEvent::MouseButtonRelease, 2);
+        DoAt(widget, position, QEvent::MouseButtonRelease, 2, [&] { Clicks(NumberOf(Qt::LeftButton), 2); });
     } else {
         // The four events of it; the platform's border joins the second press to the first.
         QWindow* window = WindowOf(widget);
@@ -266,10 +317,9 @@ void Wheel(QWidget& widget, QPoint position, int notches)
 {
     constexpr int notch = 120;
     if (OnX11()) {
-        Do(PointAt(widget, position) + QStringList{QStringLiteral("click"), QStringLiteral("--repeat"),
-                                                   QString::number(qAbs(notches)), QStringLiteral("--delay"),
-                                                   QStringLiteral("20"), QString::number(notches > 0 ? 4 : 5)},
-           QEvent::Wheel, qAbs(notches));
+        constexpr int up = 4;
+        constexpr int down = 5;
+        DoAt(widget, position, QEvent::Wheel, qAbs(notches), [&] { Clicks(notches > 0 ? up : down, qAbs(notches)); });
         return;
     }
     const QPoint point = InWindow(widget, position);
@@ -283,31 +333,37 @@ void Wheel(QWidget& widget, QPoint position, int notches)
 void Key(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     if (!OnX11()) {
-        QWindow* window = QGuiApplication::focusWindow();
-        QVERIFY(window != nullptr);
-        QTest::keyClick(window, key, modifiers);
+        StrikeOffscreen(key, modifiers);
         return;
     }
-    QString chord;
-    const std::pair<Qt::KeyboardModifier, const char*> names[] = {
-        {Qt::ControlModifier, "ctrl+"}, {Qt::AltModifier, "alt+"}, {Qt::ShiftModifier, "shift+"}};
-    for (const auto& [modifier, name] : names) {
-        if (modifiers.testFlag(modifier)) {
-            chord += QLatin1String(name);
-        }
-    }
     AwaitAgreement();
-    Do({QStringLiteral("key"), chord + KeyName(key)}, QEvent::KeyRelease);
+    Do(QEvent::KeyRelease, 1, [&] { Strike(key, modifiers); });
+}
+
+void Keys(std::initializer_list<QKeyCombination> keys)
+{
+    for (const QKeyCombination key : keys) {
+        Key(key.key(), key.keyboardModifiers());
+        // A change of focus is reported after the key.
+        QCoreApplication::processEvents();
+    }
 }
 
 void Type(const QString& text)
 {
     if (OnX11()) {
         AwaitAgreement();
-        Do({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("4"), QStringLiteral("--"), text},
-           QEvent::KeyRelease, static_cast<int>(text.size()));
+        const auto type = [&text] {
+            // A character that the keyboard has no key for is typed on one that xdotool gives it for the time.
+            if (!StrikeText(text)) {
+                Raw({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("4"), QStringLiteral("--"),
+                     text});
+            }
+        };
+        Do(QEvent::KeyRelease, static_cast<int>(text.size()), type);
         return;
     }
+    AwaitKeyboard();
     for (const QChar character : text) {
         QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), Qt::Key_unknown, QString(character),
                             Qt::NoModifier);

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <initializer_list>
 
 /// The user's hand in a test: mouse and keys enter where the machine's own do. On an X display they are true input of
 /// the X server and reach whatever window the server thinks fit; offscreen they enter at the platform's border. Each
@@ -34,13 +35,15 @@ void Wheel(QWidget& widget, QPoint position, int notches);
 
 /// A key to whatever has the keyboard.
 void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+/// One key after the other.
+void Keys(std::initializer_list<QKeyCombination> keys);
 void Type(const QString& text);
 
 /// On an X display only: input whose arrival in this program is not waited for, in the words of xdotool.
 void Raw(const QStringList& words);
 
-/// On an X display only: the window that the window manager considers active, 0 for none. It is told
-/// later than the program at times. Keys that the manager acts on go by this.
+/// On an X display only: the window that the window manager considers active, 0 for none. It learns
+/// of it later than the program at times. Keys that the manager acts on go by this.
 WId ManagersActiveWindow();
 
 /// Waits until that is `window`. On a busy machine the manager takes its time, and may change its mind on the way.

@@ -4,6 +4,8 @@
 
 #include "support/ShownTexts.h"
 
+#include <QTemporaryDir>
+
 #include <cerrno>
 #include <iostream>
 #include <string>
@@ -20,6 +22,9 @@ int main(int argc, char* argv[])
         std::cerr << std::endl;
         return 2;
     }
+    // What a window keeps of its size is no other test's, nor the user's.
+    const QTemporaryDir state;
+    qputenv("XDG_STATE_HOME", state.path().toUtf8());
     zelvia::test::ShownTexts::Begin(std::string(program_invocation_short_name) + '_' + argv[1]);
     argv[1] = argv[0];
     return routine->second(argc - 1, argv + 1);
