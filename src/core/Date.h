@@ -77,7 +77,7 @@ private:
 /// The system date, in local time, or what the clock set for a test says.
 CalendarDate Date();
 
-/// Replaces the clock behind Date(); an empty function puts the system's own back.
+/// Replaces the clock that Date() reads; an empty function restores the system's own.
 void SetClock(std::function<CalendarDate()> clock);
 
 /// Reads day/month/year: one or two digits, one or two digits, then one, two or four digits, blanks around each part

@@ -23,7 +23,7 @@ struct MsgRequest {
     friend bool operator==(const MsgRequest&, const MsgRequest&) = default;
 };
 
-/// A message of the program, a row of Messages.h. Each `{}` in its text stands for a part that changes.
+/// A message of the program, a row of Messages.h. Each `{}` in its text is a part that changes.
 struct Message {
     TextView name;
     TextView text;

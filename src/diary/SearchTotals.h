@@ -10,7 +10,7 @@
 namespace zelvia
 {
 
-/// What a search adds up.
+/// The totals of a search.
 struct SearchTotals {
     i32 TotKm;
     i32 TotMetri;

@@ -16,7 +16,7 @@ namespace
 
 using Row = std::array<Text, kColumns>;
 
-/// A sign that is there only behind a text.
+/// A sign that is printed only after a text.
 TextView After(const Text& before, TextView sign)
 {
     return before.empty() ? TextView() : sign;

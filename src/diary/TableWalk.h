@@ -36,7 +36,7 @@ i16 FailedDemands(const RecordGiorno& day, const PlanRow& row);
 /// What a walk along the days of the diary found.
 struct WalkResult {
     enum class State {
-        BeforeStart, ///< The day shown lies before the table's start.
+        BeforeStart, ///< The day shown is before the table's start.
         Finished,    ///< A day came after the one that met the last row.
         UnderWay
     };
@@ -52,7 +52,7 @@ namespace Module1
 void ControlloAllenamento(i16 day, i16 row, i16& result);
 
 /// Walks the days from the table's start to the day shown, leaving a row behind only when a day has met it;
-/// IndiceTabella is then the row to be met next, 32 when all are behind.
+/// IndiceTabella is then the row to be met next, 32 when all have been met.
 WalkResult WalkTable();
 
 } // namespace Module1

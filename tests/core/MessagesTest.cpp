@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Messages.h"
-#include "support/TestProgram.h"
 
 #include "support/Bytes.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 

@@ -20,7 +20,7 @@ Number Read(bool fails)
     return Number(1);
 }
 
-/// What the compiler must not see through is called by way of a volatile pointer.
+/// A volatile pointer keeps the compiler from seeing through the call.
 template <typename Number>
 Number (*volatile read_number)(bool) = Read<Number>;
 

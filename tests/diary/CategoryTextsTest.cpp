@@ -159,7 +159,7 @@ void CategoryTextsTest::Pieces_data()
     row("Quante", "@:", 0);
     row("Tempi", " 5 x 1000 @ 4:30", 30);
     row("Tempi", "10 x 400  @ 1:5", 5);
-    row("Tempi", "1:2:3", 3); // behind the last
+    row("Tempi", "1:2:3", 3); // after the last
     row("Tempi", "17", 17);   // the whole text
     row("Tempi", "Giro", 0);
     row("Tempi", "", 0);

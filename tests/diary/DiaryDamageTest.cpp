@@ -38,8 +38,8 @@ private Q_SLOTS:
 private:
     using DayLines = std::vector<std::string>;
 
-    /// What the days must hold after a load: days before `inHand` as in the file, `inHand` as told, `filedBehind` days
-    /// behind it as in the file, the rest as before.
+    /// What the days must hold after a load: days before `inHand` as in the file, `inHand` as given, `filedBehind` days
+    /// after it as in the file, the rest as before.
     struct Outcome {
         int inHand = 1;
         DayLines lines;
@@ -213,7 +213,7 @@ DiaryDamageTest::Outcome DiaryDamageTest::CutOutcome(int slot, std::size_t line,
     return outcome;
 }
 
-/// The value of `line`, and all behind it, stay as before.
+/// The value of `line`, and all after it, stay as before.
 void DiaryDamageTest::FailAt(Outcome& outcome, std::size_t line, int error, const DayLines& old)
 {
     outcome.error = error;
@@ -331,8 +331,8 @@ void DiaryDamageTest::Unclosed(Outcome& outcome, std::size_t line, const std::st
     FailAt(outcome, line + 1, 13, beforeLines_);
 }
 
-/// A text that ends early: what is behind its second quote is the next value, so the texts behind it move down by one
-/// until a number meets a text. At the very end of the file nothing is behind, and the last text is left over.
+/// A text that ends early: what follows its second quote is the next value, so the texts after it move down by one
+/// until a number meets a text. At the very end of the file nothing follows, and the last text is left over.
 void DiaryDamageTest::Parted(Outcome& outcome, std::size_t line, const std::string& before, const std::string& behind)
 {
     const DayLines filed = outcome.lines;

@@ -51,7 +51,7 @@ private Q_SLOTS:
     void RandomYearsComeBack();
 
 private:
-    /// Saves, compares with lines made anew, reads over blank days and returns the days.
+    /// Saves, compares with lines made again, reads them over blank days and returns the days.
     std::vector<RecordGiorno> OutAndIn();
 
     TempFolder folder_;
@@ -244,7 +244,7 @@ void DiaryFileTest::ANoteWithQuotesEndsInTheReport()
     Module1::Giorni[51].Km = 5;
     const std::vector<RecordGiorno> after = OutAndIn();
     QVERIFY(boxes.AllShown());
-    // The text ends at its second quote; what is behind it is the next value, and all texts behind move down by one.
+    // The text ends at its second quote; what follows is the next value, and all later texts move down by one.
     // The number of day 51 then meets the last, empty text.
     QVERIFY(after[50].Km == 12);
     QCOMPARE(Bytes(after[50].Note[4]), QByteArray("dice "));

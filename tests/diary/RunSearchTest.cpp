@@ -311,7 +311,7 @@ void RunSearchTest::MoreThan350Runs()
     QCOMPARE(int{all.totals.NumCorse.value()}, 366);
     QCOMPARE(all.totals.Medie[350], 5.0F);
     QCOMPARE(all.totals.Medie[366], 6.3F);
-    // The next search empties the first 350 places and leaves those behind them.
+    // The next search empties the first 350 places and leaves those after them.
     SearchTotals totals = all.totals;
     ClearTotals(totals);
     const SearchResult few = FindRuns(Giorni, 10, {}, totals);

@@ -20,7 +20,7 @@
 using namespace zelvia;
 using namespace zelvia::test;
 
-/// The sample year, read and written anew: each file must be the same to the last byte.
+/// The sample year, read and rewritten: each file must be the same to the last byte.
 class SampleYearTest : public QObject
 {
     Q_OBJECT

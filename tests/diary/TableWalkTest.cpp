@@ -288,7 +288,7 @@ void TableWalkTest::ADiaryOfAnEarlierYear()
     QCOMPARE(Shown(WalkTo(CalendarDate(2025, 12, 31))), QByteArray("before"));
 }
 
-/// Days that still carry an earlier year's date lie before the start and are passed over.
+/// Days that still carry an earlier year's date are before the start and are passed over.
 void TableWalkTest::DaysOfAnotherYearInTheDiary()
 {
     BlankYear(2025);

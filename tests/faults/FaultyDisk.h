@@ -31,7 +31,7 @@ struct Fault {
     std::function<void()> meanwhile; ///< Runs just before the call, as another process would.
 };
 
-/// Makes one call of the thread that creates it fail, on whatever lies in a folder, for as long as it lives. The calls
+/// Makes one call of the thread that creates it fail, on whatever is in a folder, for as long as it lives. The calls
 /// are caught where the program hands them to the C library, so that the program that is tested must be linked
 /// together with this. A disk that is full takes the first half of what is written in the call that fails.
 class FaultyDisk

@@ -89,7 +89,7 @@ constexpr std::pair<int, int> kOpenReasons[] = {
     {EDQUOT, 61}, {EMFILE, 67}, {ENFILE, 67}, {EIO, 57},    {EBUSY, 70}, {ETXTBSY, 70}, {ENAMETOOLONG, 52},
 };
 
-// The other reasons of the calls behind it, for one file: the numbers are found in one place for all.
+// The other failures of the later calls, for one file: the numbers are found in one place for all.
 constexpr const char* kFileOfReasons = "CalendarioGare";
 
 constexpr Failure kWriteReasons[] = {
@@ -331,7 +331,7 @@ void FileFaultsTest::Reading()
     const std::string whole = Lines(filed);
     folder_.Write(saved.name, whole);
     const auto kind = static_cast<Call>(call);
-    // The whole pieces, the last one, and the end behind it.
+    // The whole pieces, the last one, and the end after it.
     const std::size_t last = kind == Call::Read ? whole.size() / kRead + 2 : 1;
     for (std::size_t n = 1; n <= last; ++n) {
         ReadOnce(saved, {kind, static_cast<int>(n), reason, {}, {}}, error);

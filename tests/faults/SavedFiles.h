@@ -19,7 +19,7 @@ struct SavedFile {
     Text writeTitle = "ERRORE : "; ///< Of the reports.
     Text readTitle = "ERRORE : ";
     bool quietWhenMissing = false; ///< Error 53 is not reported.
-    bool descriptionOnly = false;  ///< A failed read is reported without its number and with the file's name behind.
+    bool descriptionOnly = false;  ///< A failed read is reported without its number and with the file's name after it.
     bool clearedWhenOpen = false;  ///< Reading starts afresh instead of going over what is in memory.
     std::function<void()> write;
     std::function<void()> read;
@@ -45,7 +45,7 @@ void WriteFor(const SavedFile& file, int error);
 void ReadFor(const SavedFile& file, int error);
 
 /// Compares what is in memory after a read over forgotten values that got no further than `available` bytes: the
-/// values that lie wholly in them are the file's, the one in hand may be, the rest is as before. Empty when it is so,
+/// values that are wholly in them are the file's, the one in hand may be, the rest is as before. Empty when it is so,
 /// else the first difference; forgets the values.
 QByteArray WrongAfterCut(const SavedFile& file, const std::vector<std::string>& filed, std::size_t available);
 

@@ -81,7 +81,7 @@ inline void RefuseOneByOne(const Command& command, Reports& reports, QByteArrayL
         if (taken.isEmpty()) {
             continue;
         }
-        // What was left undone may be reported behind it.
+        // What was left undone may be reported after it.
         const QByteArray& first = taken.constFirst();
         QVERIFY2(first.endsWith("ERRORE : 7 Memoria esaurita") || first == "ERRORE : Memoria esaurita Liste Percorso",
                  first.constData());

@@ -17,7 +17,7 @@
 namespace zelvia::monkey
 {
 
-/// The program on its desk: its folder, its clock, its printer, its windows and the order in which they lie over each
+/// The program on its desk: its folder, its clock, its printer, its windows and the order in which they are over each
 /// other. It takes the place of the window manager, which the display of the run does not have, and holds the timers
 /// back that would otherwise run by the wall's clock.
 class Desk : public QObject

@@ -34,7 +34,7 @@ public:
     const QStringList& Changed() const { return changed_; }
     void Forget() { changed_.clear(); }
 
-    /// Reads every file as the program does and writes it anew: the bytes must be the same. Memory is put back. What
+    /// Reads every file as the program does and rewrites it: the bytes must be the same. Memory is put back. What
     /// is wrong, or nothing.
     QString ReadAll();
 

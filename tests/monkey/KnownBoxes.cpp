@@ -42,7 +42,7 @@ bool IsMissing(const Text& file)
     }
 }
 
-/// True when the program holds the name of a table that has been deleted, or that lies in another diary's folder. One
+/// True when the program holds the name of a table that has been deleted, or that is in another diary's folder. One
 /// chosen while the editor was open waits for the next editor.
 bool TableMissing(const Situation& situation)
 {

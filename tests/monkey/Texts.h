@@ -16,7 +16,7 @@ QString AnyText(Dice& dice);
 /// Up to `length` digits, mostly a number that a box of a date, a time or a distance takes.
 QString AnyDigits(Dice& dice, int length);
 
-/// What may lie on the clipboard: any text, with line ends as well.
+/// What may be on the clipboard: any text, with line ends as well.
 QString AnyClip(Dice& dice);
 
 /// The text with whatever does not show spelt out.

@@ -73,7 +73,7 @@ private:
     QPointer<frmMain> page_;
 };
 
-/// Error numbers with their descriptions, as they stand in a report.
+/// Error numbers with their descriptions, as in a report.
 inline const QString kNotFound = QStringLiteral("53 File non trovato");
 inline const QString kDenied = QStringLiteral("75 Errore di accesso al file o alla cartella");
 inline const QString kNoFolder = QStringLiteral("76 Cartella non trovata");

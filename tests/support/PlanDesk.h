@@ -10,11 +10,11 @@
 namespace zelvia::test
 {
 
-// What the panel shows behind the name while no row is to be shown, and after a diary was opened or made.
+// What the panel shows after the name while no row is to be shown, and after a diary was opened or made.
 inline constexpr const char* kNeutral = "0,0|0:0:0|0:0|||0 x 0  @  0:0";
 inline constexpr const char* kNeutralOfADiary = "0|0:00|0:00|||0 x 000     @ 0.00 ";
 
-/// The panel's texts behind the name for a row that asks for kilometres alone.
+/// The panel's texts after the name for a row that asks for kilometres alone.
 QByteArray Kilometres(int km);
 
 /// A page of a year without an outing, in whose folder no training table lies yet. The program has just begun: no table
@@ -50,7 +50,7 @@ public:
 
     /// The panel's texts from the name of the table on, separated by "|".
     QByteArray Panel() const;
-    /// Its texts behind the name.
+    /// Its texts after the name.
     QByteArray PanelRow() const { return Panel().mid(Panel().indexOf('|') + 1); }
     /// How many of the panel's seven pictures and seven labels show.
     int PanelParts() const;

@@ -46,7 +46,7 @@ QStringList FullSet();
 /// The seven lists that have a file, in the order in which they are written and read.
 QStringList ListNames();
 
-/// The bytes of a file of the sample diary as it lies in the sources.
+/// The bytes of a file of the sample diary as it is in the sources.
 QByteArray SampleFile(const QString& path);
 
 } // namespace zelvia::test

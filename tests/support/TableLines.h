@@ -54,7 +54,7 @@ public:
         return *this;
     }
 
-    /// The first so many lines only.
+    /// Only that many first lines.
     QByteArray First(int lines) const { return lines_.mid(0, lines).join('\n') + '\n'; }
     QByteArray Bytes() const { return lines_.join('\n') + '\n'; }
 

@@ -11,7 +11,7 @@ namespace zelvia::test
 {
 
 /// One of the things that a test program can be run as: PROGRAM NAME [ARGUMENTS]. The routine sees the program's name
-/// and the arguments behind its own.
+/// and the arguments after its own.
 class TestRoutine
 {
 public:

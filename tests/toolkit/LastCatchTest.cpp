@@ -288,7 +288,7 @@ void LastCatchTest::WhatIsNoRunTimeError()
     TRY_SCRIPT(script);
 }
 
-/// One that begins at the same address fails anew.
+/// One that begins at the same address fails again.
 void LastCatchTest::AWindowThatIsGone()
 {
     BoxScript script;

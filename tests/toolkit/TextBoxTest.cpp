@@ -87,7 +87,7 @@ void TextBoxTest::TheProgramSelectsTheText()
     QCOMPARE(form_->txtUno->selectedText(), QStringLiteral("Colle"));
     hand::Type(QStringLiteral("Lago"));
     QTRY_COMPARE(form_->txtUno->text(), QStringLiteral("Lago"));
-    // Given to the box that has it, the focus selects anew.
+    // Given to the box that has it, the focus selects again.
     form_->txtUno->SetFocus();
     hand::Type(QStringLiteral("x"));
     QTRY_COMPARE(form_->txtUno->text(), QStringLiteral("x"));

@@ -20,7 +20,7 @@ namespace zelvia
 QString SearchQuery(const QString& text);
 
 /// The search of the whole guide: a box for the words and the pages that hold them all. The word index is built in the
-/// background; a search made meanwhile is answered when it is ready.
+/// background; a search made before it is ready is answered then.
 class SearchPane : public QWidget
 {
     Q_OBJECT

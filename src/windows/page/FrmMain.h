@@ -100,9 +100,10 @@ public:
     // Fields.
     void InizializzaListe() { files_.InizializzaListe(); }
     i16 AggiungiLista(TextBox& txt, SelectionList list) { return Field(list).AggiungiLista(txt); }
-    /// Has Tab go on behind `field` once that is closed and the focus lies in the sink.
+    /// Has Tab go on after `field` once that is closed and the focus is in the sink.
     void FollowInTabOrder(QWidget& field);
-    /// Gives the focus to the control of a field that opens. The hand comes with it, once another field has closed.
+    /// Gives the focus to the control of a field that opens. The hand pointer comes with it, once another field has
+    /// closed.
     void EnterField(Control& control);
     void mnuCancella_Click() { mnuCancelladallaLista->mnuCancella_Click(); }
     void mnuListaWOrdinata_Click() { route_->mnuListaWOrdinata_Click(); }
@@ -142,7 +143,7 @@ public:
 
     /// The dispatcher of a button bar: runs the menu handler that goes with a button's key; any other key does nothing.
     void DispatchCommand(TextView key);
-    /// Gives the fifteen captions of the fields the hand, or their default pointer back.
+    /// Gives the fifteen captions of the fields the hand pointer, or restores their default one.
     void CursoreMano();
     void CursoreNormale();
 

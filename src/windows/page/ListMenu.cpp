@@ -18,7 +18,7 @@ ListMenu::ListMenu(frmMain& page) : QMenu(&page), page_(page)
             page_.Route().Leave();
         }
     };
-    // The description takes the focus in any case, and the route's box must not close behind it.
+    // The description takes the focus in any case, and the route's box must not close after it.
     const auto leaveRoute = [this] { page_.Route().Leave(); };
     FillMenu(
         *this,

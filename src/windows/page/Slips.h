@@ -16,7 +16,7 @@ namespace zelvia
 class Slips
 {
 public:
-    /// `raised` runs whenever a slip may have come over what lies above it.
+    /// `raised` runs whenever a slip may have come to cover what belongs above it.
     Slips(PageControls& page, std::function<void()> raised) : page_(page), raised_(std::move(raised)) {}
 
     /// Walks the active table up to the day shown and shows the row reached.

@@ -89,7 +89,7 @@ CopyOutcome CopyStoreTest::TakeAt(const char* date) const
     return CopyStore(Root()).Take(Program(), At(date));
 }
 
-/// All that lies in the folder of the copies but the lock.
+/// All that is in the folder of the copies but the lock.
 QString CopyStoreTest::Names() const
 {
     QStringList names;

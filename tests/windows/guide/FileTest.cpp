@@ -148,7 +148,7 @@ void FileTest::damagedTables()
     QCOMPARE(Refusal(path), kDamaged);
 }
 
-// Zeros over any stretch are noticed, or lie in the titles of the contents or where nothing is read.
+// Zeros over any stretch are noticed, or are in the titles of the contents or where nothing is read.
 void FileTest::damageAnywhere()
 {
     constexpr int places = 24;

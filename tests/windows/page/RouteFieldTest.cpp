@@ -14,7 +14,7 @@ namespace
 constexpr int kRoute = 1;
 constexpr int kHands = 15;
 
-/// A run of a route as it lies in a day; everything of it differs from an empty page.
+/// A run of a route as it is in a day; everything of it differs from an empty page.
 void PutRun(int slot, TextView route, TextView length, TextView ground, int km, int metres)
 {
     RecordGiorno& day = Module1::Giorni[slot];

@@ -26,7 +26,7 @@ DiaryBytes SampleWithKm(const QByteArray& km)
     return diary;
 }
 
-/// The failures of writing each companion file, told apart by number: lists and routes 75, calendar 76.
+/// The failures of writing each companion file, distinguished by number: lists and routes 75, calendar 76.
 void BlockCompanions(const DayPage& page, const QString& folder)
 {
     for (const QString& list : ListNames()) {

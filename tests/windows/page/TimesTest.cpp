@@ -176,7 +176,7 @@ void TimesTest::warnings_data()
     const auto row = [](const char* name, const Numbers& start, const Numbers& end, const Numbers& distance,
                         const QStringList& boxes, const char* time, const char* pace) {
         for (const int group : {Distance, Start, End}) {
-            // Behind the distance the time alone is not computed.
+            // After the distance the time alone is not computed.
             const bool timeAlone = group == Distance && distance == Numbers({0, 0, 0});
             QTest::addRow("%s, %s", kGroupNames[group], name)
                 << group << start << end << distance << boxes << QString::fromLatin1(timeAlone ? "0:00:00" : time)

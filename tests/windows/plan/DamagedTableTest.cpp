@@ -109,7 +109,7 @@ QList<Damage> Damages()
     };
 }
 
-/// A page whose active table lies beside the diary's folder.
+/// A page whose active table is beside the diary's folder.
 class DamageDesk : public PlanDesk
 {
 public:

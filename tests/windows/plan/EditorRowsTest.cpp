@@ -134,7 +134,7 @@ void EditorRowsTest::movedDistances()
     QFETCH(int, key);
     QFETCH(int, to);
     TableLines table = TableLines::Blank();
-    // The first row lies above the chosen one and is not moved.
+    // The first row is above the chosen one and is not moved.
     table.Set(1, RipetDistanza, "1500");
     int row = 3;
     for (const Distance& distance : distances) {

@@ -385,7 +385,7 @@ void PanelTest::aMonthIsWalkedDayByDay()
     desk.Activate("Piano.tab");
     desk.Begin();
     QCOMPARE(desk.PanelRow(), Kilometres(1));
-    // 20 June is the 32nd day: sixteen runs lie behind it.
+    // 20 June is the 32nd day: sixteen runs come before it.
     desk.Up(*desk->upMese);
     QCOMPARE(desk.PanelRow(), Kilometres(17));
     desk.Down(*desk->upMese);
@@ -415,7 +415,7 @@ void PanelTest::theLastDayOfTheYear()
     VERIFY_SCRIPT(desk.script);
 }
 
-/// Last year's days lie before the start until the page has shown them once.
+/// Last year's days are before the start until the page has shown them once.
 void PanelTest::daysStillOfAnotherYear()
 {
     PlanDesk desk(CalendarDate(2026, 5, 22));

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The file that saving a table makes, and the folder it may lie in.
+// The file that saving a table makes, and the folder it may be in.
 #include "support/PlanDesk.h"
 #include "support/WindowTest.h"
 

@@ -18,7 +18,7 @@ private Q_SLOTS:
 namespace
 {
 
-/// Types three races on two pages, each with a date or a number to be mended.
+/// Types three races on two pages, each with a date or a number to be corrected.
 void PlanRaces(CalendarDesk& desk)
 {
     desk.Write(RaceColumn::Giorno, 1, QStringLiteral("35"));
