@@ -313,7 +313,7 @@ void PageTest::notes()
     QFETCH(int, line);
     EntryPage page;
     page.Start();
-    const NoteControls& note = page->note[line];
+    const NoteControls& note = page->notes[line];
     int slot = kFirstSlot;
     for (const BadInput& input : TextInputs()) {
         page.Open(*note.lbl);
@@ -348,7 +348,7 @@ void PageTest::doubleQuotesInANote()
     const QString typed = QStringLiteral("dice \"ciao\" a tutti");
     EntryPage page;
     page.Start();
-    const NoteControls& note = page->note[line];
+    const NoteControls& note = page->notes[line];
     page.Open(*note.lbl);
     QTRY_COMPARE(EntryPage::Focused(), note.txt->objectName().toLatin1());
     hand::Type(typed);
@@ -367,7 +367,7 @@ void PageTest::doubleQuotesInANote()
     VERIFY_SCRIPT(page.script);
     QVERIFY(Module1::GiornoCorrente == kFirstSlot);
     QCOMPARE(note.lbl->text(), QStringLiteral("dice "));
-    QCOMPARE(page->note[line + 1].lbl->text(), QStringLiteral("ciao\" a tutti\""));
+    QCOMPARE(page->notes[line + 1].lbl->text(), QStringLiteral("ciao\" a tutti\""));
     page.Up(*page->upGiorno);
     QCOMPARE(page->upKM->Value().value(), 6);
     VERIFY_SCRIPT(page.script);

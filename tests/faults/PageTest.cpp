@@ -135,7 +135,7 @@ bool IsLoaded(const DayPage& page, const FileTitle& file)
 {
     for (const SelectionList list : kFiledLists) {
         if (PathOf(file) == QLatin1String("prova/%1.lsx").arg(QString::fromStdString(Text(ListName(list))))) {
-            return page->Campo(list).lst->ListCount() > 0;
+            return page->ListField(list).lst->ListCount() > 0;
         }
     }
     if (PathOf(file) == QLatin1String("prova/ListePercorso")) {

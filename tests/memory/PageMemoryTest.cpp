@@ -125,7 +125,7 @@ void PageMemoryTest::notes()
 {
     QFETCH(int, line);
     const QByteArray name = "Note" + QByteArray::number(line);
-    const NoteControls& note = Page()->note[line];
+    const NoteControls& note = Page()->notes[line];
     const auto close = [&] {
         AtRest();
         note.txt->SetVisible(false);
@@ -249,7 +249,7 @@ std::map<QByteArray, Command> PageMemoryTest::Commands() const
     const auto openNote = [this] {
         AtRest();
         Page()->NoteAperte = 1;
-        hand::Click(*Page()->note[3].lbl);
+        hand::Click(*Page()->notes[3].lbl);
         Settle();
     };
     return {
@@ -257,7 +257,7 @@ std::map<QByteArray, Command> PageMemoryTest::Commands() const
         {"arrows of the date", {{"lblData"}, atRest, [this] { hand::Click(*Page()->lblData); }}},
         {"plan read again",
          {{"tmrFocus"}, planToRead, [this] { QTRY_COMPARE(Page().Caption("lblTimerTab"), QStringLiteral("0")); }}},
-        {"click in a note", {{"mnuNote"}, openNote, [this] { hand::Click(*Page()->note[3].txt); }}},
+        {"click in a note", {{"mnuNote"}, openNote, [this] { hand::Click(*Page()->notes[3].txt); }}},
         {"first lists", {{"mnuListaIniziale"}, atRest, choose("mnuListaIniziale")}},
         {"lists as saved", {{"mnuListaPrecedente", "NomeFleListe"}, afterLongName, choose("mnuListaPrecedente")}},
         {"blank day", {{"mnuAzzeraGiorno"}, atRest, choose("mnuAzzeraGiorno")}},

@@ -169,7 +169,7 @@ void Actions::EnterField(QWidget& window)
         return;
     }
     const QPointer<frmMain> watched = page;
-    ListControls& field = page->campi[number];
+    ListControls& field = page->listFields[number];
     hand_.Click(*field.lblImmis);
     desk_.Settle();
     if (watched.isNull() || !field.txt->isVisible()) {
@@ -190,10 +190,10 @@ void Actions::WriteNote(QWidget& /*window*/)
     frmMain* page = desk_.Page();
     const int line = dice_.Between(3, 10);
     const int lines = dice_.Between(1, 3);
-    if (page == nullptr || !page->note[line].lbl->isVisible()) {
+    if (page == nullptr || !page->notes[line].lbl->isVisible()) {
         return;
     }
-    hand_.Click(*page->note[line].lbl);
+    hand_.Click(*page->notes[line].lbl);
     for (int i = 0; i < lines; ++i) {
         hand_.Type(AnyText(dice_));
         hand_.Key(Qt::Key_Return);

@@ -152,7 +152,7 @@ Text ListOnPage(const QString& file, const frmMain& page)
     Lines lines;
     for (const SelectionList list : kFiledLists) {
         if (QFileInfo(file).completeBaseName().toStdString() == ListName(list)) {
-            for (const Text& entry : page.campi[static_cast<int>(list)].lst->Items()) {
+            for (const Text& entry : page.listFields[static_cast<int>(list)].lst->Items()) {
                 lines.Add(entry);
             }
         }

@@ -110,7 +110,7 @@ RecordGiorno CommittedFrom(const frmMain& page, const RecordGiorno& before)
     day.NumGiorno = Module1::GiornoCorrente;
     day.Data = Module1::DataCorrente;
     for (std::size_t i = 0; i < kTexts.size(); ++i) {
-        day.*kTexts[i] = page.campi[static_cast<int>(i) + 1].lblImmis->Caption();
+        day.*kTexts[i] = page.listFields[static_cast<int>(i) + 1].lblImmis->Caption();
     }
     for (const auto& [spin, field] : kSpins) {
         day.*field = ValueOf(*(page.*spin));
@@ -124,7 +124,7 @@ RecordGiorno CommittedFrom(const frmMain& page, const RecordGiorno& before)
         day.ListaKm[i] = page.lstListaKM->List(i);
     }
     for (int line = kFirstNote; line <= kLastNote; ++line) {
-        day.Note[line] = page.note[line].txt->Content();
+        day.Note[line] = page.notes[line].txt->Content();
     }
     return day;
 }
@@ -223,7 +223,7 @@ QString PageFault(const frmMain& page)
         return QStringLiteral("the date is out of range: ") + date.toString();
     }
     for (int line = kFirstNote; line <= kLastNote; ++line) {
-        const NoteControls& note = page.note[line];
+        const NoteControls& note = page.notes[line];
         if (!note.txt->isVisible() && note.lbl->text() != note.txt->text()) {
             return Differs(note.lbl->objectName(), note.lbl->text(), note.txt->text());
         }

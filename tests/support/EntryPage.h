@@ -26,7 +26,7 @@ public:
     EntryPage();
 
     /// The field of a list by its number, 1 to 8.
-    ListControls& Field(int number) const { return Page().campi[number]; }
+    ListControls& Field(int number) const { return Page().listFields[number]; }
     /// The texts that the list of a field holds at the start.
     static QStringList Entries(int number);
     QStringList ListOf(int number) const;

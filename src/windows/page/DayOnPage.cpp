@@ -37,7 +37,7 @@ auto ForEachNote(Work work)
 
 Label& DayOnPage::LabelOf(const ListField& field) const
 {
-    return *page_.Campo(field.list).lblImmis;
+    return *page_.ListField(field.list).lblImmis;
 }
 
 template <typename T>
@@ -53,15 +53,15 @@ Label& DayOnPage::LabelOf(const TimeField& field) const
 
 void DayOnPage::ShowText(SelectionList list, TextView value)
 {
-    page_.Campo(list).lblImmis->SetCaption(value);
-    page_.Campo(list).txt->SetContent(value);
+    page_.ListField(list).lblImmis->SetCaption(value);
+    page_.ListField(list).txt->SetContent(value);
 }
 
 void DayOnPage::ShowNote(int line, TextView value)
 {
     const Text text = Left(value, kNoteLength);
-    page_.note[line].lbl->SetCaption(text);
-    page_.note[line].txt->SetContent(text);
+    page_.notes[line].lbl->SetCaption(text);
+    page_.notes[line].txt->SetContent(text);
 }
 
 void DayOnPage::ShowTime(const TimeField& field, const RecordGiorno& day)
@@ -140,7 +140,7 @@ void DayOnPage::Commit(RecordGiorno& day) const
                           day.ListaKm[i] = page_.lstListaKM->List(i);
                       }
                   },
-                  ForEachNote([&](int line) { day.Note[line] = page_.note[line].txt->Content(); }));
+                  ForEachNote([&](int line) { day.Note[line] = page_.notes[line].txt->Content(); }));
 }
 
 bool DayOnPage::Differs(const RecordGiorno& day) const
@@ -151,7 +151,7 @@ bool DayOnPage::Differs(const RecordGiorno& day) const
                   [&]<typename T>(const NumberField<T>& field) {
                       differs = differs || NumberOf(field.member) != day.*field.member;
                   },
-                  ForEachNote([&](int line) { compare(day.Note[line], page_.note[line].txt->Content()); }));
+                  ForEachNote([&](int line) { compare(day.Note[line], page_.notes[line].txt->Content()); }));
     return differs;
 }
 
@@ -176,7 +176,7 @@ DaySheetTexts DayOnPage::SheetTexts() const
     texts.tableName = page_.lblTabNomeFile->Caption();
     std::transform(page_.tableSlip.begin() + 1, page_.tableSlip.end(), texts.plan.begin(), value);
     std::transform(page_.raceSlip.begin(), page_.raceSlip.end(), texts.race.begin(), value);
-    std::transform(page_.note.begin(), page_.note.end(), texts.note.begin(),
+    std::transform(page_.notes.begin(), page_.notes.end(), texts.note.begin(),
                    [&](const NoteControls& note) { return shown(note.lbl); });
     texts.counters = {shown(page_.lblNumGiornoAnno), shown(page_.lblNumGiorniCorseAnno), shown(page_.lblNumKMPercorsi),
                       shown(page_.lblNumGare)};

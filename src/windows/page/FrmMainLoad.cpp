@@ -107,7 +107,7 @@ void frmMain::ChooseFile(const FileChoice& choice)
 
 void frmMain::ShowList(SelectionList list)
 {
-    ListBox& lst = *Campo(list).lst;
+    ListBox& lst = *ListField(list).lst;
     lst.Clear();
     lst.AddItems(std::vector<TextView>(EntriesOf(list).begin(), EntriesOf(list).end()));
 }

@@ -25,25 +25,25 @@ Text NoteName(TextView control, int line)
 NoteLines::NoteLines(frmMain& page) : page_(page)
 {
     for (int line = kFirstNote; line <= kLastNote; ++line) {
-        page_.note[line].lbl->OnClick([this, line] { lblNote_Click(line); });
-        page_.note[line].txt->LostFocus = [this, line] {
+        page_.notes[line].lbl->OnClick([this, line] { lblNote_Click(line); });
+        page_.notes[line].txt->LostFocus = [this, line] {
             Trap(NoteName("txt", line), [&] {
-                page_.note[line].txt->SetVisible(false);
-                page_.note[line].lbl->SetCaption(page_.note[line].txt->Content());
+                page_.notes[line].txt->SetVisible(false);
+                page_.notes[line].lbl->SetCaption(page_.notes[line].txt->Content());
             });
         };
-        page_.note[line].txt->Click = [this, line] { txtNote_Click(line); };
-        page_.note[line].txt->KeyPress = [this, line](int& keyAscii) { txtNote_KeyPress(line, keyAscii); };
+        page_.notes[line].txt->Click = [this, line] { txtNote_Click(line); };
+        page_.notes[line].txt->KeyPress = [this, line](int& keyAscii) { txtNote_KeyPress(line, keyAscii); };
     }
 }
 
 void NoteLines::lblNote_Click(int line)
 {
     Trap(NoteName("lbl", line), [&] {
-        page_.note[line].txt->SetContent(page_.note[line].lbl->Caption());
-        page_.FollowInTabOrder(*page_.note[line].txt);
-        page_.note[line].txt->SetVisible(true);
-        page_.note[line].txt->SetFocus();
+        page_.notes[line].txt->SetContent(page_.notes[line].lbl->Caption());
+        page_.FollowInTabOrder(*page_.notes[line].txt);
+        page_.notes[line].txt->SetVisible(true);
+        page_.notes[line].txt->SetFocus();
         page_.LunghezzaNota = 0;
     });
 }
@@ -64,13 +64,13 @@ void NoteLines::txtNote_KeyPress(int line, int keyAscii)
         if (keyAscii == kBackspace) {
             return;
         }
-        TextBox& txt = *page_.note[line].txt;
+        TextBox& txt = *page_.notes[line].txt;
         page_.LunghezzaNota = static_cast<int>(Len(txt.Content()));
         if (page_.LunghezzaNota == txt.Limit() - 1) {
             txt.SetVisible(false);
             if (line < kLastNote) {
-                page_.note[line + 1].txt->SetVisible(true);
-                page_.note[line + 1].txt->SetFocus();
+                page_.notes[line + 1].txt->SetVisible(true);
+                page_.notes[line + 1].txt->SetFocus();
             }
         }
         if (keyAscii == kEscape || (keyAscii == kEnter && line == kLastNote)) {
@@ -88,7 +88,7 @@ void NoteLines::mnuNote_Click()
             return;
         }
         const bool show = page_.NoteAperte == 0;
-        for (const NoteControls& note : page_.note) {
+        for (const NoteControls& note : page_.notes) {
             note.txt->SetVisible(show);
         }
         page_.NoteAperte = show ? 1 : 0;

@@ -208,7 +208,7 @@ void DressInput(QWidget& input, const QRect& place)
 
 void MakeList(PageControls& controls, QWidget* page, const ListRow& row)
 {
-    ListControls& field = controls.Campo(row.list);
+    ListControls& field = controls.ListField(row.list);
     const QString name = ToQString(ListName(row.list));
     field.lbl = MakeLabel(page, QLatin1String("lbl") + name, row.caption, Caption(row.row), Style::Caption, {});
     field.lblImmis = MakeLabel(page, QLatin1String("lblImmis") + name, {}, Value(row.row), Style::Value, row.caption);
@@ -259,7 +259,7 @@ void MakeNumberSpins(PageControls& controls, QWidget* page, const NumberRow& row
 void MakeNotes(PageControls& controls, QWidget* page)
 {
     for (int line = 3; line <= 10; ++line) {
-        NoteControls& note = controls.note[line];
+        NoteControls& note = controls.notes[line];
         const QString spoken = QStringLiteral("Nota, riga %1").arg(line - 2);
         note.lbl = MakeLabel(page, Numbered("lblNote", line), {}, Note(line), Style::Note, FromQString(spoken));
         note.txt = new TextBox(page, Numbered("txtNote", line), kNoteLimit);

@@ -47,8 +47,8 @@ struct PageControls {
     Picture *pctGiornoAnno{}, *pctAllenamenti{}, *pctKmpercorsi{}, *pctGare{};
 
     // Text fields, in the order of their lists' numbers.
-    BoundedArray<ListControls, 1, 8> campi;
-    ListControls& Campo(SelectionList list) { return campi[static_cast<int>(list)]; }
+    BoundedArray<ListControls, 1, 8> listFields;
+    ListControls& ListField(SelectionList list) { return listFields[static_cast<int>(list)]; }
 
     // Numeric fields.
     Label *lblKm{}, *lblImmisMetri{};
@@ -83,7 +83,7 @@ struct PageControls {
     Button* cmdListaKM{};
     std::array<Button*, 4> cmdLO{};
 
-    BoundedArray<NoteControls, 3, 10> note;
+    BoundedArray<NoteControls, 3, 10> notes;
 
     // The slip of the active table, and that of the race of the day.
     Picture *pctTabAllenamenti{}, *pctTabKm{}, *pctTabTempo{}, *pctTabMedia{}, *pctTabAndatura{}, *pctTabTerreno{};

@@ -23,7 +23,7 @@ Text Title(TextView control, TextView name)
 } // namespace
 
 SelectionField::SelectionField(frmMain& page, SelectionList list)
-    : page_(page), controls_(page.Campo(list)), list_(list), name_(ListName(list))
+    : page_(page), controls_(page.ListField(list)), list_(list), name_(ListName(list))
 {
     Connect();
 }

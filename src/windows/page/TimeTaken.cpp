@@ -57,7 +57,7 @@ void TimeTaken::TempoImpiegato()
         const ClockTime taken = Show();
         MediaKm(taken.hours, taken.minutes, taken.seconds);
         page_.lstListaOrdinata->Clear();
-        times_.ListavOrdinata(page_.Campo(SelectionList::Percorso).lblImmis->Caption());
+        times_.ListavOrdinata(page_.ListField(SelectionList::Percorso).lblImmis->Caption());
     });
 }
 

@@ -28,14 +28,14 @@ struct ChangeRow {
 template <SelectionList lista>
 void Capitals(frmMain& page)
 {
-    Label& label = *page.Campo(lista).lblImmis;
+    Label& label = *page.ListField(lista).lblImmis;
     label.setText(label.text().toUpper());
 }
 
 template <SelectionList lista>
 void NewText(frmMain& page)
 {
-    page.Campo(lista).lblImmis->SetCaption("Altro");
+    page.ListField(lista).lblImmis->SetCaption("Altro");
 }
 
 template <UpDown* PageControls::*spin>
@@ -63,7 +63,7 @@ const ChangeRow kChanges[] = {
     {"TempoAtm", NewText<SelectionList::TempoAtm>, 1, [](const RecordGiorno& day) { return day.TempoAtm == "Altro"; }},
     {"Temperatura", NewText<SelectionList::Temperatura>, 1,
      [](const RecordGiorno& day) { return day.Temperatura == "Altro"; }},
-    {"a text emptied", [](frmMain& page) { page.Campo(SelectionList::Tipo).lblImmis->SetCaption(""); }, 1,
+    {"a text emptied", [](frmMain& page) { page.ListField(SelectionList::Tipo).lblImmis->SetCaption(""); }, 1,
      [](const RecordGiorno& day) { return day.Tipo.empty(); }},
     {"Km", OneMore<&PageControls::upKM>, 1, [](const RecordGiorno& day) { return day.Km == 17; }},
     {"Metri", [](frmMain& page) { page.upMetri->SetValue(550); }, 1,
@@ -107,9 +107,9 @@ const ChangeRow kChanges[] = {
      [](const RecordGiorno& day) { return day.ListaKm[0] == "10      01:01:57" && day.ListaKm[2].empty(); }},
     {"split added", [](frmMain& page) { page.lstListaKM->AddItem("16      01:40:23"); }, 1,
      [](const RecordGiorno& day) { return day.ListaKm[3] == "16      01:40:23"; }},
-    {"first note", [](frmMain& page) { page.note[3].txt->SetContent("piede"); }, 1,
+    {"first note", [](frmMain& page) { page.notes[3].txt->SetContent("piede"); }, 1,
      [](const RecordGiorno& day) { return day.Note[3] == "piede"; }},
-    {"last note", [](frmMain& page) { page.note[10].txt->SetContent("piede"); }, 1,
+    {"last note", [](frmMain& page) { page.notes[10].txt->SetContent("piede"); }, 1,
      [](const RecordGiorno& day) { return day.Note[10] == "piede"; }},
 };
 
@@ -188,7 +188,7 @@ void CommitTest::aNoteInAnotherCase()
     DayPage page(CalendarDate(2026, 3, 1));
     page.Start();
     Module1::Giorni[kSlot].Note[7] = "Salita";
-    page->note[7].txt->SetContent("SALITA");
+    page->notes[7].txt->SetContent("SALITA");
     page.GoTo(kSlot + 1);
     QVERIFY(Module1::FileModificato == 0);
     QCOMPARE(Module1::Giorni[kSlot].Note[7], Text("SALITA"));
@@ -286,8 +286,8 @@ void CommitTest::blankDayShowsItsNeutralValues()
     page.Start();
     page->lblImmisTempoKM->SetCaption("12");
     page->lblImmisTempoMinuti->SetCaption("01:02:03");
-    page->note[5].lbl->SetCaption("di ieri");
-    page->note[5].txt->SetContent("di ieri");
+    page->notes[5].lbl->SetCaption("di ieri");
+    page->notes[5].txt->SetContent("di ieri");
     page.GoTo(kSlot + 1); // 2 March of the sample is blank
     for (const char* name : {"lblImmisPercorso", "txtPercorso", "lblImmisLunghezza", "lblImmisModo", "lblImmisFondo",
                              "lblImmisTipo", "txtTipo", "lblImmisStagione", "lblImmisTempoAtm", "lblImmisTemperatura",
@@ -366,8 +366,8 @@ void CommitTest::blankingLeavesWhatTheRecordHasNot()
     day.Modo.clear();
     day.Note[3].clear();
     day.Note[4] = "nota";
-    page->note[3].txt->SetContent("resta");
-    page->note[4].txt->SetContent("se ne va");
+    page->notes[3].txt->SetContent("resta");
+    page->notes[4].txt->SetContent("se ne va");
     page->upMetro->SetValue(4);
     page->AzzeraCampi();
     QCOMPARE(page.Caption("lblImmisModo"), QStringLiteral("Lenta"));

@@ -105,7 +105,7 @@ void CountersTest::movingBackLowersThem()
     page.Start();
     // The day on screen counts as it was last committed.
     page->upKM->SetValue(8);
-    page->Campo(SelectionList::Tipo).lblImmis->SetCaption("Allenamento");
+    page->ListField(SelectionList::Tipo).lblImmis->SetCaption("Allenamento");
     page->upPeso->SetValue(70);
     QCOMPARE(page.Caption("lblNumKMPercorsi"), QString());
     page.Up(*page->upGiorno);

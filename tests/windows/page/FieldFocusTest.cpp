@@ -27,7 +27,7 @@ struct Kind {
 const Kind kKinds[] = {
     {"list", [](const EntryPage& page) { return page.Field(5).lblImmis; }, "txtTipo", "lstTipo"},
     {"spins", [](const EntryPage& page) -> Label* { return page->lblImmisMetri; }, "upMetri", "upKM"},
-    {"note", [](const EntryPage& page) { return page->note[4].lbl; }, "txtNote4", "txtNote4"},
+    {"note", [](const EntryPage& page) { return page->notes[4].lbl; }, "txtNote4", "txtNote4"},
     {"splits", [](const EntryPage& page) -> Label* { return page->lblImmisTempoKM; }, "cmdListaKM", "lstListaKM"},
 };
 
@@ -624,7 +624,7 @@ void FieldFocusTest::oneFieldAfterTheOther()
         hand::Type(QString(QChar(u'a' + number)));
         QTRY_VERIFY(!page.Field(number).txt->text().isEmpty());
     }
-    page.Open(*page->note[3].lbl);
+    page.Open(*page->notes[3].lbl);
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtNote3"));
     for (int number = 2; number <= 8; ++number) {
         QVERIFY(!page.IsOpen(number));

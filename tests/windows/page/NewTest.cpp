@@ -75,8 +75,8 @@ void NewTest::newDiaryInMemoryOnly()
     QCOMPARE(page.Caption("lblImmisPercorso"), QString());
     QCOMPARE(page.Caption("lblNumKMPercorsi"), QString());
     QCOMPARE(page.Caption("lblNumGiorniCorseAnno"), QStringLiteral("0"));
-    QCOMPARE(page->Campo(SelectionList::Percorso).lst->ListCount(), 0);
-    QCOMPARE(page->Campo(SelectionList::Stagione).lst->ListCount(), 4);
+    QCOMPARE(page->ListField(SelectionList::Percorso).lst->ListCount(), 0);
+    QCOMPARE(page->ListField(SelectionList::Stagione).lst->ListCount(), 4);
     QCOMPARE(Module1::NomiPercorso[1], Text());
     QVERIFY(!page.folder.Exists(kNew));
     QVERIFY(!page.folder.Exists(QStringLiteral("nuova")));

@@ -21,7 +21,7 @@ QList<int> Shown(const EntryPage& page)
 {
     QList<int> lines;
     for (int line = 3; line <= 10; ++line) {
-        if (page->note[line].txt->isVisible()) {
+        if (page->notes[line].txt->isVisible()) {
             lines << line;
         }
     }
@@ -32,10 +32,10 @@ const QList<int> kAll = {3, 4, 5, 6, 7, 8, 9, 10};
 
 void OpenLine(const EntryPage& page, int line)
 {
-    page.Open(*page->note[line].lbl);
+    page.Open(*page->notes[line].lbl);
     QTRY_COMPARE(EntryPage::Focused(), Box(line));
-    QTRY_VERIFY(page->note[line].txt->hasFocus());
-    page->note[line].txt->end(false);
+    QTRY_VERIFY(page->notes[line].txt->hasFocus());
+    page->notes[line].txt->end(false);
 }
 
 void AddLines()
@@ -90,12 +90,12 @@ void NotesTest::aClickOpensWithTheCaption()
     EntryPage page;
     page.Start();
     QCOMPARE(Shown(page), QList<int>());
-    page->note[line].lbl->SetCaption("sulla riga");
+    page->notes[line].lbl->SetCaption("sulla riga");
     page->LunghezzaNota = 7;
-    page.Open(*page->note[line].lbl, Way(way));
+    page.Open(*page->notes[line].lbl, Way(way));
     QTRY_COMPARE(EntryPage::Focused(), Box(line));
     QCOMPARE(Shown(page), QList<int>{line});
-    QCOMPARE(page->note[line].txt->text(), QStringLiteral("sulla riga"));
+    QCOMPARE(page->notes[line].txt->text(), QStringLiteral("sulla riga"));
     QVERIFY(page->LunghezzaNota == 0);
     QCOMPARE(page.Hands(), 0);
     VERIFY_SCRIPT(page.script);
@@ -114,24 +114,24 @@ void NotesTest::theCaretStandsAtTheEnd()
     QFETCH(QString, way);
     EntryPage page;
     page.Start();
-    page->note[5].lbl->SetCaption("vento");
-    page->note[5].txt->SetContent("vento");
+    page->notes[5].lbl->SetCaption("vento");
+    page->notes[5].txt->SetContent("vento");
     if (way == QLatin1String("the line above")) {
         OpenLine(page, 4);
         hand::Key(Qt::Key_Return);
     } else if (way == QLatin1String("Tab")) {
-        page->note[5].txt->SetVisible(true);
+        page->notes[5].txt->SetVisible(true);
         OpenLine(page, 4);
         // By way of the label that the box lies over.
         hand::Key(Qt::Key_Tab);
         hand::Key(Qt::Key_Tab);
     } else {
-        page.Open(*page->note[5].lbl, way == QLatin1String("mouse") ? Way::Mouse : Way::Enter);
+        page.Open(*page->notes[5].lbl, way == QLatin1String("mouse") ? Way::Mouse : Way::Enter);
     }
     QTRY_COMPARE(EntryPage::Focused(), Box(5));
-    QCOMPARE(page->note[5].txt->selectedText(), QString());
+    QCOMPARE(page->notes[5].txt->selectedText(), QString());
     hand::Type(QStringLiteral(" e sole"));
-    QTRY_COMPARE(page->note[5].txt->text(), QStringLiteral("vento e sole"));
+    QTRY_COMPARE(page->notes[5].txt->text(), QStringLiteral("vento e sole"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -142,14 +142,14 @@ void NotesTest::leavingTakesTheText()
     page.Start();
     OpenLine(page, line);
     hand::Type(QStringLiteral("vento"));
-    QTRY_COMPARE(page->note[line].txt->text(), QStringLiteral("vento"));
+    QTRY_COMPARE(page->notes[line].txt->text(), QStringLiteral("vento"));
     // The length before the last key.
     QVERIFY(page->LunghezzaNota == 4);
-    QCOMPARE(page->note[line].lbl->text(), QString());
+    QCOMPARE(page->notes[line].lbl->text(), QString());
     page.Open(5);
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("txtTipo"));
     QCOMPARE(Shown(page), QList<int>());
-    QCOMPARE(page->note[line].lbl->text(), QStringLiteral("vento"));
+    QCOMPARE(page->notes[line].lbl->text(), QStringLiteral("vento"));
     page->AssegnaCampi();
     QCOMPARE(DayPage::Day().Note[line], Text("vento"));
     VERIFY_SCRIPT(page.script);
@@ -163,20 +163,20 @@ void NotesTest::enterMovesDownOneLine()
     OpenLine(page, line);
     hand::Type(QStringLiteral("sole"));
     if (line < 10) {
-        page->note[line + 1].lbl->SetCaption("sotto");
+        page->notes[line + 1].lbl->SetCaption("sotto");
     }
     hand::Key(Qt::Key_Return);
     if (line < 10) {
         QTRY_COMPARE(EntryPage::Focused(), Box(line + 1));
         QCOMPARE(Shown(page), QList<int>{line + 1});
-        QCOMPARE(page->note[line + 1].txt->text(), QStringLiteral("sotto"));
+        QCOMPARE(page->notes[line + 1].txt->text(), QStringLiteral("sotto"));
         QVERIFY(page->LunghezzaNota == 0);
     } else {
         QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
         QCOMPARE(Shown(page), QList<int>());
         QVERIFY(page->NoteAperte == 0);
     }
-    QCOMPARE(page->note[line].lbl->text(), QStringLiteral("sole"));
+    QCOMPARE(page->notes[line].lbl->text(), QStringLiteral("sole"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -210,12 +210,12 @@ void NotesTest::escapeAndAClickHideAll()
     if (escape) {
         hand::Key(Qt::Key_Escape);
     } else {
-        hand::Click(*page->note[line].txt);
+        hand::Click(*page->notes[line].txt);
     }
     QTRY_COMPARE(Shown(page), QList<int>());
     QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
     QVERIFY(page->NoteAperte == 0);
-    QCOMPARE(page->note[line].lbl->text(), QStringLiteral("neve"));
+    QCOMPARE(page->notes[line].lbl->text(), QStringLiteral("neve"));
     VERIFY_SCRIPT(page.script);
 }
 
@@ -245,8 +245,8 @@ void NotesTest::theCommandKeepsWhatIsBeingTyped()
     page.Start();
     page.Menu("mnuOpzioni", Qt::Key_N);
     page.TakeFront();
-    page->note[6].txt->SetFocus();
-    QTRY_VERIFY(page->note[6].txt->hasFocus());
+    page->notes[6].txt->SetFocus();
+    QTRY_VERIFY(page->notes[6].txt->hasFocus());
     hand::Type(QStringLiteral("pioggia"));
     page.Menu("mnuOpzioni", Qt::Key_N);
     QCOMPARE(Shown(page), QList<int>());
@@ -260,21 +260,21 @@ void NotesTest::typingRunsOnIntoTheNextLine()
     EntryPage page;
     page.Start();
     if (line < 10) {
-        page->note[line + 1].txt->SetContent("gia'");
+        page->notes[line + 1].txt->SetContent("gia'");
     }
     OpenLine(page, line);
     hand::Type(kThirty + QLatin1Char('x'));
-    QTRY_COMPARE(page->note[line].txt->text().size(), 31);
+    QTRY_COMPARE(page->notes[line].txt->text().size(), 31);
     QVERIFY(page->LunghezzaNota == 30);
     QCOMPARE(Shown(page), QList<int>{line});
     // The thirty-second character stays in its line and moves on.
     hand::Type(QStringLiteral("y"));
-    QTRY_COMPARE(page->note[line].lbl->text(), kThirty + QStringLiteral("xy"));
+    QTRY_COMPARE(page->notes[line].lbl->text(), kThirty + QStringLiteral("xy"));
     QVERIFY(page->LunghezzaNota == 31);
     if (line < 10) {
         QTRY_COMPARE(EntryPage::Focused(), Box(line + 1));
         QCOMPARE(Shown(page), QList<int>{line + 1});
-        QCOMPARE(page->note[line + 1].txt->text(), QStringLiteral("gia'"));
+        QCOMPARE(page->notes[line + 1].txt->text(), QStringLiteral("gia'"));
     } else {
         QTRY_COMPARE(EntryPage::Focused(), QByteArray("pctGiornoAnno"));
         QCOMPARE(Shown(page), QList<int>());
@@ -290,10 +290,10 @@ void NotesTest::theThirtyThirdCharacterGoesToTheNextLine()
     page.Start();
     OpenLine(page, 3);
     hand::Type(kThirty + kThirty + QStringLiteral("456789"));
-    QTRY_COMPARE(page->note[5].txt->text(), QStringLiteral("89"));
+    QTRY_COMPARE(page->notes[5].txt->text(), QStringLiteral("89"));
     QCOMPARE(page.Caption("lblNote3"), kThirty + QStringLiteral("ab"));
     QCOMPARE(page.Caption("lblNote4"), kThirty.mid(2) + QStringLiteral("4567"));
-    QVERIFY(page->note[5].txt->hasFocus());
+    QVERIFY(page->notes[5].txt->hasFocus());
     VERIFY_SCRIPT(page.script);
 }
 
@@ -303,7 +303,7 @@ void NotesTest::enterOnAFullLineMovesOnOnce()
     page.Start();
     OpenLine(page, 3);
     hand::Type(kThirty + QLatin1Char('x'));
-    QTRY_COMPARE(page->note[3].txt->text().size(), 31);
+    QTRY_COMPARE(page->notes[3].txt->text().size(), 31);
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(EntryPage::Focused(), Box(4));
     QCOMPARE(Shown(page), QList<int>{4});
@@ -317,9 +317,9 @@ void NotesTest::backspaceIsNotCounted()
     page.Start();
     OpenLine(page, 3);
     hand::Type(kThirty + QLatin1Char('x'));
-    QTRY_COMPARE(page->note[3].txt->text().size(), 31);
+    QTRY_COMPARE(page->notes[3].txt->text().size(), 31);
     hand::Key(Qt::Key_Backspace);
-    QTRY_COMPARE(page->note[3].txt->text(), kThirty);
+    QTRY_COMPARE(page->notes[3].txt->text(), kThirty);
     QVERIFY(page->LunghezzaNota == 30);
     QCOMPARE(Shown(page), QList<int>{3});
     VERIFY_SCRIPT(page.script);
@@ -330,11 +330,11 @@ void NotesTest::aLineHolds32Characters()
     EntryPage page;
     page.Start();
     const QString full = kThirty + QStringLiteral("xy");
-    page->note[3].lbl->SetCaption(FromQString(full));
+    page->notes[3].lbl->SetCaption(FromQString(full));
     OpenLine(page, 3);
     hand::Type(QStringLiteral("z"));
     QTRY_VERIFY(page->LunghezzaNota == 32);
-    QCOMPARE(page->note[3].txt->text(), full);
+    QCOMPARE(page->notes[3].txt->text(), full);
     QCOMPARE(Shown(page), QList<int>{3});
     hand::Key(Qt::Key_Escape);
     QTRY_COMPARE(page.Caption("lblNote3"), full);

@@ -29,7 +29,7 @@ std::vector<int> Counts(frmMain& page)
 {
     std::vector<int> counts;
     for (const SelectionList lista : kAllLists) {
-        counts.push_back(page.Campo(lista).lst->ListCount());
+        counts.push_back(page.ListField(lista).lst->ListCount());
     }
     return counts;
 }
@@ -111,7 +111,7 @@ void OptionsTest::initialLists()
     page.Menu("mnuOpzioni", Qt::Key_I);
     VERIFY_SCRIPT(page.script);
     QVERIFY(Counts(page.Page()) == kInitialCounts);
-    QVERIFY(page->Campo(SelectionList::Stagione).lst->Items() ==
+    QVERIFY(page->ListField(SelectionList::Stagione).lst->Items() ==
             (std::vector<Text>{"Primavera", "Estate", "Autunno", "Inverno"}));
     QCOMPARE(Module1::NomiPercorso[1], Text());
     QVERIFY(Module1::FileModificato == 1);

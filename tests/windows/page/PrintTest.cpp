@@ -67,7 +67,7 @@ void PrintTest::nothingIsCommittedByPrinting()
     DayPage page;
     PrinterTray tray;
     page.Start();
-    page->Campo(SelectionList::Percorso).lblImmis->SetCaption("Altrove");
+    page->ListField(SelectionList::Percorso).lblImmis->SetCaption("Altrove");
     page.Menu("mnuFile", Qt::Key_T);
     QCOMPARE(tray.Row(4).value(1), QByteArray("16|Altrove"));
     QVERIFY(DayPage::Day().Percorso == "Pista dello stadio");

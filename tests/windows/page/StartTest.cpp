@@ -184,8 +184,8 @@ void StartTest::theSampleIsShown()
     QCOMPARE(page.Caption("lblImmisCorridori"), QStringLiteral("6"));
     QCOMPARE(page->lstListaKM->List(1), Text("10      01:01:57"));
     // The list files go in front of the initial lists; the seasons have no file.
-    QCOMPARE(page->Campo(SelectionList::Percorso).lst->ListCount(), 13);
-    QCOMPARE(page->Campo(SelectionList::Stagione).lst->ListCount(), 4);
+    QCOMPARE(page->ListField(SelectionList::Percorso).lst->ListCount(), 13);
+    QCOMPARE(page->ListField(SelectionList::Stagione).lst->ListCount(), 4);
     QCOMPARE(Module1::NomiPercorso[1], Text("Lungofiume"));
     QVERIFY(Module1::NumeroGara[100] == 100);
     QVERIFY(Module1::FileModificato == 0);
@@ -202,7 +202,7 @@ void StartTest::firstUseWritesTheSet()
     VERIFY_SCRIPT(page.script);
     VerifyFirstSet(page.folder, QStringLiteral("prova"));
     QVERIFY(!page.folder.Exists(kDiary));
-    QVERIFY(page->Campo(SelectionList::Fondo).lst->ListCount() == 9);
+    QVERIFY(page->ListField(SelectionList::Fondo).lst->ListCount() == 9);
 }
 
 void StartTest::folderWithoutFilesIsFilled_data()
@@ -236,7 +236,7 @@ void StartTest::unsavedDiaryHasItsLists()
     page.folder.Remove(kDiary);
     page.Start();
     VERIFY_SCRIPT(page.script);
-    QCOMPARE(page->Campo(SelectionList::Percorso).lst->ListCount(), 13);
+    QCOMPARE(page->ListField(SelectionList::Percorso).lst->ListCount(), 13);
     QCOMPARE(page.Caption("lblImmisPercorso"), QString());
     QCOMPARE(page.Caption("lblImmisCorridori"), QStringLiteral("1"));
     QVERIFY(DayPage::Day().Data == CalendarDate(2026, 3, 1));
@@ -264,7 +264,7 @@ void StartTest::firstUseWritesInOrder()
     page.Start();
     VERIFY_SCRIPT(page.script);
     // A list whose file does not open keeps what it held.
-    QCOMPARE(page->Campo(SelectionList::Tipo).lst->ListCount(), 2);
+    QCOMPARE(page->ListField(SelectionList::Tipo).lst->ListCount(), 2);
 }
 
 void StartTest::startReadsInOrder()

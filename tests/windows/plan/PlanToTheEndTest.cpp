@@ -77,7 +77,7 @@ void Runner::RunTime(int minutes, int seconds) const
 
 void Runner::Enter(SelectionList field, const QString& text) const
 {
-    const ListControls& controls = Page().Campo(field);
+    const ListControls& controls = Page().ListField(field);
     hand::Click(*controls.lblImmis);
     QTRY_VERIFY(controls.txt->hasFocus());
     hand::Type(text);

@@ -365,9 +365,9 @@ void SearchWindowTest::escLeavesAndAFreshOneComes()
 {
     SearchDesk desk;
     desk.StartSearch();
-    desk.Demand(Categoria::Stagione, desk.Page().campi[6].lblImmis->text().isEmpty()
+    desk.Demand(Categoria::Stagione, desk.Page().listFields[6].lblImmis->text().isEmpty()
                                          ? QStringLiteral("Inverno")
-                                         : desk.Page().campi[6].lblImmis->text());
+                                         : desk.Page().listFields[6].lblImmis->text());
     const QPointer<frmRicercheStatistiche> first = desk.Search();
     hand::Click(*desk->cmdEsci);
     QTRY_VERIFY(first.isNull());

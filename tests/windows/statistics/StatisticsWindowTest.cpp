@@ -47,7 +47,7 @@ const Command kCommands[] = {
 void WriteDay(frmMain& page)
 {
     for (int number = 1; number <= 8; ++number) {
-        page.campi[number].lblImmis->SetCaption("Voce " + PlainText(i32(number)));
+        page.listFields[number].lblImmis->SetCaption("Voce " + PlainText(i32(number)));
     }
     const std::pair<UpDown*, int> spins[] = {{page.upKM, 7},
                                              {page.upMetri, 500},
@@ -128,7 +128,7 @@ void StatisticsWindowTest::itsControls()
         // The last one reaches to the end of the view.
         QVERIFY(i == 3 ? times.columnWidth(i) >= columns[i].second : times.columnWidth(i) == columns[i].second);
     }
-    // The times lie over the list, and over nothing that acts.
+    // The times are over the list, and over nothing that acts.
     QVERIFY(times.geometry().contains(window.lstStatistica->geometry()));
     for (const Button* button : {window.cmdTempiLO, window.cmGrafico, window.cmdStampa, window.cmdEsci}) {
         QVERIFY(!times.geometry().intersects(button->geometry()));
@@ -172,7 +172,7 @@ void StatisticsWindowTest::anOpenFieldIsClosedFirst()
     constexpr int kind = 5;
     StatisticsDesk desk;
     desk.Start();
-    ListControls& field = desk->campi[kind];
+    ListControls& field = desk->listFields[kind];
     hand::Click(*field.lblImmis);
     QTRY_VERIFY(field.txt->hasFocus());
     hand::Type(QStringLiteral("gara"));
