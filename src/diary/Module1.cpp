@@ -6,6 +6,8 @@
 #include "core/ValueFile.h"
 #include "diary/Fields.h"
 
+#include <utility>
+
 namespace zelvia::Module1
 {
 
@@ -57,7 +59,9 @@ void SalvaDiario(TextView path)
     Trap(kBareTitle, [&] {
         ValueWriter file(path);
         for (int i = 1; i <= 366; ++i) {
-            VisitDiaryValues(Giorni[i], [&](const auto& value) { file.Write(value); });
+            VisitDiaryValues(std::as_const(Giorni[i]),
+                             Overloaded{[&](const auto& value) { file.Write(value); },
+                                        [&](const Text& /*blank*/, int count) { file.WriteBlanks(count); }});
         }
         file.Close();
     });

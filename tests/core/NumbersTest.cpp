@@ -234,6 +234,11 @@ void NumbersTest::SparseArraysAreVisitedInTurn()
     std::as_const(lines).Visit(2, 5, [&](const std::string& line) { met.push_back(line); });
     QVERIFY(met == (std::vector<std::string>{"tre", "!", "", ""}));
 
+    met.clear();
+    std::as_const(lines).Visit(
+        2, 5, [&](const std::string& line, int count = 1) { met.push_back(line + std::to_string(count)); });
+    QVERIFY(met == (std::vector<std::string>{"tre1", "!1", "2"}));
+
     lines.Clear();
     lines.Visit(0, 100, [](std::string& line) { line.clear(); });
     QVERIFY(lines.begin() == lines.end());
