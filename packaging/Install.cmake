@@ -5,6 +5,7 @@
 # stays untouched: "nomeload" is installed once, and of "ZelviaFile" only the folder.
 
 include(${CMAKE_SOURCE_DIR}/cmake/Guide.cmake)
+include(${CMAKE_SOURCE_DIR}/cmake/Translations.cmake)
 
 install(TARGETS zelvia DESTINATION .)
 install(FILES ${ZELVIA_GUIDE} ${CMAKE_SOURCE_DIR}/share/mano.cur DESTINATION .)

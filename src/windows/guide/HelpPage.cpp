@@ -26,7 +26,7 @@ constexpr int kWidest = 640;
 HelpPage::HelpPage(const HelpFile& file, QWidget* parent) : QTextBrowser(parent), file_(file)
 {
     setObjectName(QStringLiteral("page"));
-    setAccessibleName(QStringLiteral("Pagina della Guida"));
+    setAccessibleName(tr("Pagina della Guida"));
     setOpenExternalLinks(false);
     constexpr int readable = 16;
     setFont(PageFont("Times New Roman", readable));

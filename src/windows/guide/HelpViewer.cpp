@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/guide/HelpViewer.h"
 
+#include "core/CMouse.h"
 #include "core/Files.h"
+#include "translation/Translation.h"
 #include "windows/guide/HelpWindow.h"
 
 #include <QDateTime>
@@ -32,6 +34,9 @@ void HelpViewer::Open(TextView file)
     const QString path = QString::fromStdString(NativePath(file).string());
     QString stamp = StampOf(path);
     if (window_ == nullptr || stamp != stamp_) {
+        CMouse pointer;
+        pointer.SetPointer(MousePointer::Hourglass);
+        InstallGuideTranslation();
         window_ = std::make_unique<HelpWindow>(std::make_unique<HelpFile>(path));
         stamp_ = std::move(stamp);
     }

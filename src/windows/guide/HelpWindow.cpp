@@ -65,14 +65,14 @@ void HelpWindow::BuildPanes()
     page_ = new HelpPage(*file_, nullptr);
     contents_ = file_->Engine().contentWidget();
     contents_->setObjectName(QStringLiteral("contents"));
-    contents_->setAccessibleName(QStringLiteral("Sommario"));
+    contents_->setAccessibleName(tr("Sommario"));
     contents_->setHeaderHidden(true);
     contents_->setFont(PageFont("Times New Roman", kListPixels));
     search_ = new SearchPane(*file_->Engine().searchEngine());
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("tabs"));
-    tabs_->addTab(contents_, QStringLiteral("&Sommario"));
-    tabs_->addTab(search_, QStringLiteral("&Cerca"));
+    tabs_->addTab(contents_, tr("&Sommario"));
+    tabs_->addTab(search_, tr("&Cerca"));
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(tabs_);
@@ -96,18 +96,18 @@ void HelpWindow::BuildPanes()
 
 void HelpWindow::BuildButtons()
 {
-    back_ = MakeButton("back", QStringLiteral("Indietro"), QStringLiteral("La pagina di prima (Alt+Sinistra)"));
-    forward_ = MakeButton("forward", QStringLiteral("Avanti"), QStringLiteral("La pagina seguente (Alt+Destra)"));
-    home_ = MakeButton("home", QStringLiteral("Inizio"), QStringLiteral("La prima pagina (Alt+Home)"));
-    auto* previous = MakeButton("findPrevious", QStringLiteral("Precedente"), QStringLiteral("Maiusc+F3"));
-    auto* next = MakeButton("findNext", QStringLiteral("Successivo"), QStringLiteral("F3"));
+    back_ = MakeButton("back", tr("Indietro"), tr("La pagina di prima (Alt+Sinistra)"));
+    forward_ = MakeButton("forward", tr("Avanti"), tr("La pagina seguente (Alt+Destra)"));
+    home_ = MakeButton("home", tr("Inizio"), tr("La prima pagina (Alt+Home)"));
+    auto* previous = MakeButton("findPrevious", tr("Precedente"), tr("Maiusc+F3"));
+    auto* next = MakeButton("findNext", tr("Successivo"), tr("F3"));
     find_ = new QLineEdit;
     find_->setObjectName(QStringLiteral("find"));
     find_->setClearButtonEnabled(true);
     notFound_ = new QLabel(QStringLiteral("Non c'è"));
     notFound_->setObjectName(QStringLiteral("notFound"));
     notFound_->hide();
-    auto* caption = new QLabel(QStringLiteral("&Trova nella pagina:"));
+    auto* caption = new QLabel(tr("&Trova nella pagina:"));
     caption->setBuddy(find_);
 
     auto* bar = new QHBoxLayout;

@@ -61,7 +61,7 @@ SearchPane::SearchPane(QHelpSearchEngine& engine, QWidget* parent)
     results->setSpacing(2);
     state->setObjectName(QStringLiteral("state"));
     state->setTextFormat(Qt::PlainText);
-    auto* caption = new QLabel(QStringLiteral("&Parole da cercare:"));
+    auto* caption = new QLabel(tr("&Parole da cercare:"));
     caption->setBuddy(words);
     auto* layout = new QVBoxLayout(this);
     for (QWidget* widget : std::initializer_list<QWidget*>{caption, words, state, results}) {
@@ -82,7 +82,7 @@ SearchPane::SearchPane(QHelpSearchEngine& engine, QWidget* parent)
         state->clear();
         Search();
     });
-    state->setText(QStringLiteral("Preparazione dell'indice…"));
+    state->setText(tr("Preparazione dell'indice…"));
     engine_.scheduleIndexDocumentation();
 }
 
@@ -118,11 +118,11 @@ void SearchPane::ShowResults()
         item->setData(kAddressRole, result.url());
     }
     if (found.isEmpty()) {
-        state->setText(QStringLiteral("Nessun argomento trovato"));
+        state->setText(tr("Nessun argomento trovato"));
     } else if (found.size() == 1) {
-        state->setText(QStringLiteral("Un argomento trovato"));
+        state->setText(tr("Un argomento trovato"));
     } else {
-        state->setText(QStringLiteral("%1 argomenti trovati").arg(found.size()));
+        state->setText(tr("%1 argomenti trovati").arg(found.size()));
     }
 }
 
