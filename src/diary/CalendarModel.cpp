@@ -5,6 +5,7 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
+#include "diary/FileForms.h"
 #include "diary/Module1.h"
 #include "diary/TimeAndPace.h"
 
@@ -20,26 +21,12 @@ Text CalendarFile()
     return CartellaDiario + "\\CalendarioGare";
 }
 
-/// Hands the fifteen values of every row to `visit`, in the order of the file.
+/// Hands the values of every row to `visit`, in the order of the file.
 template <typename Visitor>
 void VisitCalendar(Visitor&& visit)
 {
     for (int row = 1; row <= kRaces; ++row) {
-        visit(NumeroGara[row]);
-        visit(GiornoGara[row]);
-        visit(MeseGara[row]);
-        visit(AnnoGara[row]);
-        visit(Gara[row]);
-        visit(Localita[row]);
-        visit(KmGara[row]);
-        visit(MetriGara[row]);
-        visit(Partecipanti[row]);
-        visit(Risultato[row]);
-        visit(OreGara[row]);
-        visit(MinutiGara[row]);
-        visit(SecondiGara[row]);
-        visit(Categoria[row]);
-        visit(RisultatoCat[row]);
+        VisitRace(row, visit);
     }
 }
 
@@ -88,3 +75,15 @@ RaceTexts RaceTextsOf(i16 row)
 }
 
 } // namespace zelvia::Module1
+
+namespace zelvia
+{
+
+std::vector<ValueKind> CalendarForm()
+{
+    std::vector<ValueKind> form;
+    Module1::VisitCalendar([&](const auto& value) { form.push_back(KindOf(value)); });
+    return form;
+}
+
+} // namespace zelvia

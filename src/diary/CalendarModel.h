@@ -30,6 +30,27 @@ inline RaceValues<i16> SecondiGara;  ///< Seconds.
 inline RaceValues<Text> Categoria;   ///< Age or class category, such as S50.
 inline RaceValues<i32> RisultatoCat; ///< Placing in the category.
 
+/// Hands the fifteen values of a row to `visit`, in the order of the file.
+template <typename Visitor>
+void VisitRace(int row, Visitor&& visit)
+{
+    visit(NumeroGara[row]);
+    visit(GiornoGara[row]);
+    visit(MeseGara[row]);
+    visit(AnnoGara[row]);
+    visit(Gara[row]);
+    visit(Localita[row]);
+    visit(KmGara[row]);
+    visit(MetriGara[row]);
+    visit(Partecipanti[row]);
+    visit(Risultato[row]);
+    visit(OreGara[row]);
+    visit(MinutiGara[row]);
+    visit(SecondiGara[row]);
+    visit(Categoria[row]);
+    visit(RisultatoCat[row]);
+}
+
 /// Blanks all rows, each keeping its number.
 void AzzeraCalendario();
 

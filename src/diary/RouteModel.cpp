@@ -6,6 +6,7 @@
 #include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
+#include "diary/FileForms.h"
 #include "diary/Module1.h"
 
 namespace zelvia::Module1
@@ -14,24 +15,10 @@ namespace
 {
 
 constexpr int kRoutes = 200;
-constexpr int kStretches = 20;
 
 Text RouteFile()
 {
     return CartellaDiario + "\\ListePercorso";
-}
-
-/// Hands the 62 values of a route to `visit`, in the order of the file.
-template <typename Visitor>
-void VisitRoute(int route, Visitor&& visit)
-{
-    visit(NomiPercorso[route]);
-    visit(DistanzePercorso[route]);
-    for (int stretch = 1; stretch <= kStretches; ++stretch) {
-        visit(TrattoDescrizione[route][stretch]);
-        visit(TrattoKm[route][stretch]);
-        visit(TrattoMetri[route][stretch]);
-    }
 }
 
 void BlankRoute(int route)
@@ -84,6 +71,15 @@ namespace zelvia
 {
 
 using namespace Module1;
+
+std::vector<ValueKind> RoutesForm()
+{
+    std::vector<ValueKind> form;
+    for (int route = 1; route <= kRoutes; ++route) {
+        VisitRoute(route, [&](const auto& value) { form.push_back(KindOf(value)); });
+    }
+    return form;
+}
 
 RouteLength LengthOf(i32 km, i32 metres)
 {

@@ -23,6 +23,21 @@ inline PerStretch<Text> TrattoDescrizione; ///< Text of a stretch.
 inline PerStretch<i32> TrattoKm;           ///< Its kilometres.
 inline PerStretch<i32> TrattoMetri;        ///< Its metres beyond them.
 
+inline constexpr int kStretches = 20;
+
+/// Hands the 62 values of a route to `visit`, in the order of the file.
+template <typename Visitor>
+void VisitRoute(int route, Visitor&& visit)
+{
+    visit(NomiPercorso[route]);
+    visit(DistanzePercorso[route]);
+    for (int stretch = 1; stretch <= kStretches; ++stretch) {
+        visit(TrattoDescrizione[route][stretch]);
+        visit(TrattoKm[route][stretch]);
+        visit(TrattoMetri[route][stretch]);
+    }
+}
+
 /// Blanks all routes 1..200.
 void AzzeraPercorsi();
 
@@ -33,7 +48,7 @@ void AzzeraPercorso(i16 number);
 void SalvaPercorsi();
 
 /// Reads the route file of CartellaDiario. Any failure, a missing file too, is reported by its description alone with
-/// the name of the file behind it; what was read is kept.
+/// the name of the file after it; what was read is kept.
 void CaricaPercorsi();
 
 } // namespace zelvia::Module1

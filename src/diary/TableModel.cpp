@@ -5,6 +5,7 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
+#include "diary/FileForms.h"
 
 namespace zelvia::Module1
 {
@@ -74,3 +75,18 @@ void LeggiTabella(TextView path)
 }
 
 } // namespace zelvia::Module1
+
+namespace zelvia
+{
+
+std::vector<ValueKind> TableForm()
+{
+    std::vector<ValueKind> form;
+    for (int row = 1; row <= Module1::kRows; ++row) {
+        Module1::VisitRow(row, [&](const auto& value) { form.push_back(KindOf(value)); });
+    }
+    form.push_back(KindOf(Module1::TabDataInizio));
+    return form;
+}
+
+} // namespace zelvia
