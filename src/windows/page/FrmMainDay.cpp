@@ -3,6 +3,7 @@
 // The day shown: its date, its record and the controls, its sheet.
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "diary/YearSoFar.h"
 #include "toolkit/Printer.h"
 #include "windows/page/DayOnPage.h"
 #include "windows/page/FrmMain.h"
@@ -52,28 +53,7 @@ void frmMain::ControllaSave(i16& result)
 void frmMain::DatiAnno()
 {
     Trap("DatiAnno - ERRORE : ", [this] {
-        UltimoPeso = 0;
-        KmAnno = 0;
-        GiorniCorseAnno = GareAnno = 0;
-        i32 metres = 0;
-        for (i16 i = 1; i <= GiornoCorrente; i += 1) {
-            const RecordGiorno& day = Giorni[i];
-            if (day.Peso > 0) {
-                UltimoPeso = day.Peso;
-            }
-            if (day.Km > 0) {
-                KmAnno += day.Km;
-            }
-            if (day.Metri > 0) {
-                metres += day.Metri;
-            }
-            if (SameText(Trim(day.Tipo), "Gara")) {
-                GareAnno += 1;
-            } else if (CampoNonVuoto(day.Tipo)) {
-                GiorniCorseAnno += 1;
-            }
-        }
-        KmAnno += metres.value() / 1000;
+        CountYearSoFar();
         lblNumKMPercorsi->SetCaption(Format(KmAnno, "###,###"));
         lblNumGiorniCorseAnno->SetCaption(PlainText(GiorniCorseAnno));
         lblNumGare->SetCaption(PlainText(GareAnno));
