@@ -28,11 +28,18 @@ CommandLine ReadCommandLine(std::span<const char* const> words)
             options = false;
         } else if (options && word == "--help") {
             line.help = true;
+        } else if (options && word == "--informazioni") {
+            line.information = true;
         } else if (options && word == "--oggi") {
             const std::string day = ++i < words.size() ? words[i] : "";
             line.today = DayOf(day);
             if (!line.today) {
                 throw WrongUsage{"Dopo --oggi ci vuole un giorno, AAAA-MM-GG: «" + day + "» non lo è."};
+            }
+        } else if (options && word == "--diario") {
+            line.diary = ++i < words.size() ? words[i] : "";
+            if (line.diary->empty()) {
+                throw WrongUsage{"Dopo --diario ci vuole il NOME di un diario."};
             }
         } else if (options && word.starts_with('-')) {
             throw WrongUsage{"Opzione sconosciuta: " + word};

@@ -7,6 +7,7 @@
 #include "diary/CalendarModel.h"
 #include "diary/FileCommands.h"
 #include "diary/Module1.h"
+#include "diary/ProgramFiles.h"
 #include "diary/RouteModel.h"
 #include "diary/Workspace.h"
 
@@ -58,7 +59,7 @@ void FileCommands::CaricaNomeFile()
 {
     TrapWith(
         [this] {
-            session.NomeFile = ReadPointer(StartPointer());
+            session.NomeFile = StartDiary().empty() ? ReadPointer(StartPointer()) : StartDiary();
             if (session.NomeFile.empty()) {
                 session.NomeFile = ProgramFolder() + Text(kDefaultDiary);
             }

@@ -14,6 +14,7 @@ namespace
 namespace fs = std::filesystem;
 
 Text shareFolder;
+Text startDiary;
 
 Text In(TextView folder, TextView name)
 {
@@ -98,6 +99,16 @@ Text ShareFolder(const fs::path& own)
 void SetShareFolder(TextView folder)
 {
     shareFolder = folder;
+}
+
+const Text& StartDiary()
+{
+    return startDiary;
+}
+
+void SetStartDiary(TextView path)
+{
+    startDiary = path;
 }
 
 Text InstalledFile(TextView name)

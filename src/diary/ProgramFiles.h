@@ -28,4 +28,8 @@ void SetShareFolder(TextView folder);
 /// there.
 Text InstalledFile(TextView name);
 
+/// The diary to open at the start instead of the one that the start pointer names; empty for that one.
+const Text& StartDiary();
+void SetStartDiary(TextView path);
+
 } // namespace zelvia

@@ -25,7 +25,8 @@ QByteArray Read(const QByteArray& typed)
     try {
         const CommandLine line = ReadCommandLine(pointers);
         const Text today = line.today ? Format(*line.today, "dddd dd/mm/yyyy") : "-";
-        return QByteArray::fromStdString((line.help ? "help, " : "") + today + ", " + line.folder.value_or("-"));
+        return QByteArray::fromStdString((line.help ? "help, " : "") + today + ", " +
+                                         (line.diary ? *line.diary + " in " : "") + line.folder.value_or("-"));
     } catch (const WrongUsage& wrong) {
         return QByteArray::fromStdString(wrong.reason);
     }
@@ -62,6 +63,12 @@ void CommandLineTest::lines_data()
     row("help about a good line", "--help|--oggi|2027-01-01|Zelvia|", "help, venerd\xEC 01/01/2027, Zelvia");
     row("a folder that looks like an option", "--|--oggi|", "-, --oggi");
     row("a day, then such a folder", "--oggi|2027-01-01|--|-d|", "venerd\xEC 01/01/2027, -d");
+
+    row("a diary", "--diario|2025|", "-, 2025 in -");
+    row("a diary of a folder", "--diario|vecchi/2020|Zelvia|", "-, vecchi/2020 in Zelvia");
+    row("a day and a diary", "--oggi|2027-01-01|--diario|2025|", "venerd\xEC 01/01/2027, 2025 in -");
+    row("no diary", "--diario|", "Dopo --diario ci vuole il NOME di un diario.");
+    row("an empty diary", "--diario||", "Dopo --diario ci vuole il NOME di un diario.");
 
     row("an unknown option", "--prova|", "Opzione sconosciuta: --prova");
     row("an unknown letter", "-h|", "Opzione sconosciuta: -h");
