@@ -4,6 +4,7 @@
 #include "core/Files.h"
 #include "core/StateFolder.h"
 #include "diary/CommandLine.h"
+#include "diary/Journal.h"
 #include "diary/ProgramFiles.h"
 #include "diary/Workspace.h"
 #include "toolkit/Application.h"
@@ -114,12 +115,15 @@ int Run(int argc, char* argv[])
     if (toBeLaid && !LayProgramFolder(ProgramFolder())) {
         return kMisused;
     }
+    Journal::Instance().Begin();
     auto* page = new frmMain;
     if (!page->FormLoad()) {
         return 0;
     }
     page->show();
-    return QCoreApplication::exec();
+    const int status = QCoreApplication::exec();
+    Journal::Instance().End();
+    return status;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 #include "diary/FileForms.h"
+#include "diary/Journal.h"
 #include "diary/Module1.h"
 #include "diary/TimeAndPace.h"
 
@@ -56,6 +57,7 @@ void ScriviCalendario()
         ValueWriter file(CalendarFile());
         VisitCalendar([&](const auto& value) { file.Write(value); });
         file.Close();
+        Journal::Instance().Saved(RecordKind::Race);
     });
 }
 

@@ -9,6 +9,7 @@
 #include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/CalendarModel.h"
+#include "diary/Journal.h"
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "diary/Workspace.h"
@@ -118,7 +119,10 @@ void FileCommands::ChiediSalvataggio(i16& cancelled)
     }
     switch (MsgBox(Messages::kSaveDiary)) {
     case MsgAnswer::Yes: mnuFileSave_Click(); break;
-    case MsgAnswer::No: FileModificato = 0; break;
+    case MsgAnswer::No:
+        FileModificato = 0;
+        Journal::Instance().Forget();
+        break;
     default: cancelled = 1; break;
     }
 }
@@ -203,6 +207,7 @@ void FileCommands::OpenDiary()
     // Also when reading it has failed half-way: what the other windows hold must not be saved there.
     if (opened) {
         page_.ShowOtherDiary();
+        Journal::Instance().Opened();
     }
 }
 
@@ -273,6 +278,7 @@ void FileCommands::ShowNewDiary()
     page_.VisualizzaGiorno();
     page_.DatiAnno();
     page_.ShowOtherDiary();
+    Journal::Instance().Opened();
 }
 
 void FileCommands::SalvaFileNuovo(const Text& path)

@@ -6,6 +6,7 @@
 #include "core/RunTimeError.h"
 #include "diary/CalendarModel.h"
 #include "diary/FileCommands.h"
+#include "diary/Journal.h"
 #include "diary/Module1.h"
 #include "diary/ProgramFiles.h"
 #include "diary/RouteModel.h"
@@ -48,6 +49,7 @@ void FileCommands::Start()
     page_.VisualizzaGiorno();
     page_.DatiAnno();
     LoadCompanions();
+    Journal::Instance().Opened();
 }
 
 void FileCommands::SetToday()
@@ -143,7 +145,10 @@ void FileCommands::InizializzaListe()
 
 void FileCommands::SalvaLista(SelectionList list)
 {
-    Trap("SalvaLista" + Text(ListName(list)) + " - ERRORE : ", [&] { WriteEntries(ListPath(list), EntriesOf(list)); });
+    Trap("SalvaLista" + Text(ListName(list)) + " - ERRORE : ", [&] {
+        WriteEntries(ListPath(list), EntriesOf(list));
+        Journal::Instance().Saved(RecordKind::List, static_cast<int>(list));
+    });
 }
 
 void FileCommands::CaricaLista(SelectionList list)

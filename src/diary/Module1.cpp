@@ -5,6 +5,7 @@
 #include "core/Conversions.h"
 #include "core/ValueFile.h"
 #include "diary/Fields.h"
+#include "diary/Journal.h"
 
 #include <utility>
 
@@ -64,6 +65,7 @@ void SalvaDiario(TextView path)
                                         [&](const Text& /*blank*/, int count) { file.WriteBlanks(count); }});
         }
         file.Close();
+        Journal::Instance().SavedDays(path);
     });
 }
 

@@ -7,6 +7,7 @@
 #include "core/RunTimeError.h"
 #include "core/ValueFile.h"
 #include "diary/FileForms.h"
+#include "diary/Journal.h"
 #include "diary/Module1.h"
 
 namespace zelvia::Module1
@@ -50,6 +51,7 @@ void SalvaPercorsi()
             VisitRoute(route, [&](const auto& value) { file.Write(value); });
         }
         file.Close();
+        Journal::Instance().Saved(RecordKind::Route);
     });
 }
 

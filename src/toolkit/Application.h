@@ -38,6 +38,9 @@ public:
     /// What F1 does in a window that has no menu entry of its own for it; it is passed the window's name.
     std::function<void(const QString& window)> HelpKey;
 
+    /// Runs after each routine of the program, when all that it changed is in its place.
+    std::function<void()> RoutineEnded;
+
     bool notify(QObject* receiver, QEvent* event) override;
 
     /// Takes the current exception, wherever it was thrown, and reports it after the current event.

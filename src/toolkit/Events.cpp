@@ -40,6 +40,9 @@ Routine::~Routine()
     }
     try {
         FocusController::Instance().Schedule();
+        if (const auto& ended = Application::Instance().RoutineEnded) {
+            ended();
+        }
     } catch (...) {
         // The next press, key or change of focus reports what is pending.
         Application::Instance().ReportLater();

@@ -10,6 +10,7 @@
 #include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
 #include "windows/page/PageArt.h"
+#include "windows/page/PageJournal.h"
 
 #include <QMenuBar>
 #include <QVBoxLayout>
@@ -54,6 +55,9 @@ frmMain::frmMain()
     BuildMenus(*bar);
     ConnectFields();
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
+    Application::Instance().RoutineEnded = [this, journal = PageJournal(*this)]() mutable {
+        journal.Update();
+    };
     Application::Instance().ShowAgain = [this] {
         BringToFront(this);
         // A box over the page, or over another window, stays in front.
@@ -63,6 +67,7 @@ frmMain::frmMain()
 
 frmMain::~frmMain()
 {
+    Application::Instance().RoutineEnded = {};
     Application::Instance().HelpKey = {};
     Application::Instance().ShowAgain = {};
 }
