@@ -8,6 +8,7 @@
 #include "diary/ProgramFiles.h"
 #include "diary/Workspace.h"
 #include "toolkit/Application.h"
+#include "toolkit/SessionEnd.h"
 #include "windows/page/FrmMain.h"
 
 #include <QSysInfo>
@@ -121,6 +122,7 @@ int Run(int argc, char* argv[])
         return 0;
     }
     page->show();
+    const SessionEnd end(*page);
     const int status = QCoreApplication::exec();
     Journal::Instance().End();
     return status;
