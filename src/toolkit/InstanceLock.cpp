@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSocketNotifier>
 
+#include <array>
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +22,10 @@ namespace zelvia
 {
 namespace
 {
+
+/// What a start under Wayland was given by whoever the user clicked: the right to bring a window to the front.
+constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
+constexpr std::size_t kLongestToken = 1024;
 
 /// Opens any entry of that name for locking: folders and read-only files can be locked too.
 int OpenForLock(const QString& path)
@@ -86,12 +91,22 @@ void InstanceLock::Answer(std::function<void()> asked)
     }
     notifier_ = std::make_unique<QSocketNotifier>(socket, QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [socket, asked = std::move(asked)] {
-        // Those that have asked meanwhile are answered together; what they sent does not matter.
+        // Those that have asked meanwhile are answered together, by the token of the last one.
         constexpr int most = 1000;
-        char ignored = 0;
-        for (int i = 0; i < most && ::recv(socket, &ignored, sizeof ignored, 0) >= 0; ++i) {
+        std::array<char, kLongestToken + 1> token{};
+        ssize_t length = 0;
+        for (int i = 0; i < most; ++i) {
+            const ssize_t received = ::recv(socket, token.data(), kLongestToken, 0);
+            if (received < 0) {
+                break;
+            }
+            length = received;
         }
+        token[static_cast<std::size_t>(length)] = 0;
+        // Qt takes it from there for the window that is activated now. Nothing later may take it.
+        qputenv(kTokenVariable, token.data());
         asked();
+        qunsetenv(kTokenVariable);
     });
 }
 
@@ -99,10 +114,15 @@ bool InstanceLock::Ask() const
 {
     const Address address = AddressOf(file_.Number());
     const Descriptor socket(OpenSocket());
-    const ssize_t sent =
-        ::sendto(socket.Number(), "", 1, 0, reinterpret_cast<const sockaddr*>(&address.name), address.length);
+    QByteArray token = qgetenv(kTokenVariable);
+    if (token.size() >= static_cast<qsizetype>(kLongestToken)) {
+        token.clear();
+    }
+    // With the zero at its end: an empty one is a message too.
+    const ssize_t sent = ::sendto(socket.Number(), token.constData(), static_cast<std::size_t>(token.size()) + 1, 0,
+                                  reinterpret_cast<const sockaddr*>(&address.name), address.length);
     // A run that does not read for a while has been asked often enough.
-    return sent == 1 || errno == EAGAIN;
+    return sent == token.size() + 1 || errno == EAGAIN;
 }
 
 } // namespace zelvia

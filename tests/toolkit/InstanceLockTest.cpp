@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QSocketNotifier>
 #include <QSysInfo>
 #include <QTemporaryDir>
@@ -36,7 +37,9 @@ int RunIn(const char* folder)
 {
     SetProgramFolder(SystemPath(folder));
     Application& application = Application::Instance();
-    application.ShowAgain = [] { std::cout << "asked" << std::endl; };
+    application.ShowAgain = [] {
+        std::cout << "asked" << qgetenv("XDG_ACTIVATION_TOKEN").prepend(' ').constData() << std::endl;
+    };
     const bool taken = application.TakeInstanceLock();
     std::cout << (taken ? "taken" : "held") << std::endl;
     if (!taken) {
@@ -55,8 +58,11 @@ const test::TestRoutine runIn(kRoutine, [](int argc, char* argv[]) {
 class Run : public QProcess
 {
 public:
-    explicit Run(const QString& folder)
+    explicit Run(const QString& folder, const QString& token = {})
     {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), token);
+        setProcessEnvironment(environment);
         start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kRoutine), folder});
     }
     ~Run() override { End(); }
@@ -92,6 +98,8 @@ private Q_SLOTS:
     void init();
     void ASecondRunIsRefused();
     void ASecondRunAsksForTheWindow();
+    void TheTokenOfASecondRunComesAlong_data();
+    void TheTokenOfASecondRunComesAlong();
     void ManyRunsAtOnce();
     void ARunThatDoesNotAnswer();
     void TheSameFolderThroughALink();
@@ -145,6 +153,29 @@ void InstanceLockTest::ASecondRunAsksForTheWindow()
     }
 }
 
+void InstanceLockTest::TheTokenOfASecondRunComesAlong_data()
+{
+    QTest::addColumn<QString>("token");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::newRow("one") << QStringLiteral("gettone-1") << QByteArray("asked gettone-1");
+    QTest::newRow("too long") << QString(2000, QLatin1Char('g')) << QByteArray("asked");
+}
+
+/// Each counts once: the next run, which has none, does not come with the one before.
+void InstanceLockTest::TheTokenOfASecondRunComesAlong()
+{
+    QFETCH(const QString, token);
+    QFETCH(const QByteArray, answer);
+    Run first(folder_->path());
+    QCOMPARE(first.Answer(), QByteArray("taken"));
+    Run second(folder_->path(), token);
+    QCOMPARE(second.Answer(), QByteArray("held"));
+    QCOMPARE(first.Answer(), answer);
+    Run third(folder_->path());
+    QCOMPARE(third.Answer(), QByteArray("held"));
+    QCOMPARE(first.Answer(), QByteArray("asked"));
+}
+
 /// One of them gets the lock, whoever it is, and all others end.
 void InstanceLockTest::ManyRunsAtOnce()
 {
@@ -192,7 +223,7 @@ void InstanceLockTest::TheSameFolderThroughALink()
     QCOMPARE(first.Answer(), QByteArray("asked"));
 }
 
-/// Who looks whether the diary is open holds the lock for a moment, which must not end a start.
+/// A program that checks whether the diary is open holds the lock for a moment, which must not end a start.
 void InstanceLockTest::ALookAtTheLock()
 {
     QFile lock(Lock());
@@ -289,7 +320,7 @@ void InstanceLockTest::AnothersLockFile()
     QCOMPARE(second.Answer(), QByteArray("held"));
 }
 
-/// What the program starts may live on behind it.
+/// What the program starts may outlive it.
 void InstanceLockTest::ItsChildrenDoNotHoldTheLock()
 {
     SetProgramFolder(SystemPath(folder_->path().toStdString()));
