@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/Printer.h"
 
+#include "core/CMouse.h"
 #include "core/RunTimeError.h"
 #include "toolkit/Button.h"
 #include "toolkit/FocusController.h"
 #include "toolkit/Fonts.h"
+#include "toolkit/Progress.h"
 #include "toolkit/QtText.h"
 
 #include <QClipboard>
@@ -47,7 +49,8 @@ QPointF Corner(int x, int y)
 class SheetPlayer
 {
 public:
-    SheetPlayer(QPrinter& printer, QPainter& painter) : printer_(printer), painter_(painter)
+    SheetPlayer(QPrinter& printer, QPainter& painter, std::ptrdiff_t pages)
+        : printer_(printer), painter_(painter), pages_(pages)
     {
         painter_.setPen(QPen(Qt::black, kRuleWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         painter_.setBrush(Qt::NoBrush);
@@ -86,11 +89,15 @@ public:
         if (!printer_.newPage()) {
             Refuse();
         }
+        progress_.Tell(QStringLiteral("Stampa: pagina %1 di %2").arg(++page_).arg(pages_));
     }
 
 private:
     QPrinter& printer_;
     QPainter& painter_;
+    Progress progress_;
+    std::ptrdiff_t pages_;
+    int page_ = 1;
 };
 
 /// Whether the spooler accepted the last job. Qt does not say; the spooler's own library, which printing has loaded by
@@ -119,6 +126,14 @@ QPageLayout::Orientation LayoutOf(Orientation orientation)
     return orientation == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape;
 }
 
+std::ptrdiff_t PagesOf(const Sheet& sheet)
+{
+    const auto& operations = sheet.Operations();
+    return 1 + std::count_if(operations.begin(), operations.end(), [](const SheetOperation& operation) {
+               return std::holds_alternative<SheetPageBreak>(operation);
+           });
+}
+
 /// Prints on the system's default printer.
 void PlaySheet(const Sheet& sheet)
 {
@@ -140,7 +155,7 @@ void PlaySheet(const Sheet& sheet)
         Refuse();
     }
     try {
-        SheetPlayer player(printer, painter);
+        SheetPlayer player(printer, painter, PagesOf(sheet));
         for (const SheetOperation& operation : sheet.Operations()) {
             std::visit(player, operation);
         }
@@ -165,6 +180,8 @@ void SetPrinterHandler(std::function<void(const Sheet&)> handler)
 
 void PrintSheet(const Sheet& sheet)
 {
+    CMouse pointer;
+    pointer.SetPointer(MousePointer::Hourglass);
     if (replacedPrinter) {
         replacedPrinter(sheet);
         return;

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void whatIsNotCommittedYet();
     void nothingIsCommittedByPrinting();
     void theEntryIsOffMeanwhile();
+    void theHourglassShowsMeanwhile();
     void aPrinterThatFails();
     void theDispatcherPrintsToo();
 };
@@ -84,6 +85,23 @@ void PrintTest::theEntryIsOffMeanwhile()
     page.Menu("mnuFile", Qt::Key_T);
     QVERIFY(!enabledMeanwhile);
     QVERIFY(Entry(page).isEnabled());
+    VERIFY_SCRIPT(page.script);
+}
+
+void PrintTest::theHourglassShowsMeanwhile()
+{
+    DayPage page;
+    page.Start();
+    int printed = 0;
+    SetPrinterHandler([&printed](const Sheet& /*sheet*/) {
+        ++printed;
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    });
+    page.Menu("mnuFile", Qt::Key_T);
+    SetPrinterHandler({});
+    QCOMPARE(printed, 1);
+    QVERIFY(QApplication::overrideCursor() == nullptr);
     VERIFY_SCRIPT(page.script);
 }
 
