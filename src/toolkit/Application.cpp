@@ -6,9 +6,12 @@
 #include "core/Files.h"
 #include "core/MessageBox.h"
 #include "core/RunTimeError.h"
+#include "toolkit/DrawnIcon.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
+#include "toolkit/PageStyle.h"
 #include "toolkit/QtText.h"
 
 #include <QFile>
@@ -18,6 +21,7 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QThread>
+#include <QToolTip>
 #include <QTranslator>
 
 #include <array>
@@ -87,12 +91,34 @@ void InstallItalian(QApplication& application)
     }
 }
 
+/// The paper, its inks and its print for every window, whatever the desktop has: tooltips keep colours of their own.
+void DressOnPaper()
+{
+    constexpr int pixels = 15;
+    constexpr int tipPixels = 14;
+    QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
+    QApplication::setStyle(MakePageStyle());
+    QApplication::setPalette(PagePalette());
+    QApplication::setFont(PrintFont(pixels));
+    // What menus say is printed too.
+    QPalette menus = PagePalette();
+    menus.setColor(QPalette::Text, Ink::PrintDark);
+    menus.setColor(QPalette::Disabled, QPalette::Text, Ink::Faded);
+    QApplication::setPalette(menus, "QMenu");
+    QPalette tips = PagePalette();
+    tips.setColor(QPalette::Window, Ink::Slip);
+    tips.setColor(QPalette::WindowText, Ink::PrintDark);
+    QToolTip::setPalette(tips);
+    QToolTip::setFont(PrintFont(tipPixels));
+    QApplication::setWindowIcon(DrawnIcon(DrawProgramIcon));
+}
+
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QLatin1String("zelvia"));
-    setStyle(MakePageStyle());
+    DressOnPaper();
     InstallItalian(*this);
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);

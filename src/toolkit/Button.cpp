@@ -36,7 +36,7 @@ Button* MakeButton(QWidget* parent, const char* name, TextView caption, const QR
     constexpr int pixels = 15;
     auto* button = new Button(parent, QLatin1String(name), caption);
     button->setGeometry(place);
-    button->setFont(PageFont("Times New Roman", pixels));
+    button->setFont(PrintFont(pixels));
     button->Click = std::move(click);
     return button;
 }

@@ -3,6 +3,7 @@
 #include "toolkit/Chart.h"
 
 #include "core/Conversions.h"
+#include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
 
 #include <QClipboard>
@@ -40,13 +41,14 @@ Text Spoken(const ChartData& data)
 Chart::Chart(QWidget* parent, const QString& name) : QWidget(parent), Control(this)
 {
     setObjectName(name);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(QStringLiteral("Grafico"));
 }
 
 void Chart::Show(const ChartData& shown)
 {
     data_ = shown;
-    setAccessibleName(QStringLiteral("Grafico: ") + ToQString(shown.TitleText));
+    setAccessibleName(shown.TitleText.empty() ? QStringLiteral("Grafico") : ToQString(shown.TitleText));
     setAccessibleDescription(ToQString(Spoken(shown)));
     update();
 }
@@ -69,6 +71,9 @@ void Chart::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     DrawChart(painter, rect(), data_);
+    if (hasFocus()) {
+        DrawFocusRing(painter, rect(), palette().color(QPalette::Window));
+    }
 }
 
 } // namespace zelvia

@@ -16,7 +16,7 @@ namespace zelvia
 /// paper. The background is left as it is.
 void DrawChart(QPainter& painter, const QRectF& area, const ChartData& data);
 
-/// The chart of a window. Its values are also its accessible description.
+/// The chart of a window. Its title is also its accessible name, its values are its description.
 class Chart : public QWidget, public Control
 {
     Q_OBJECT

@@ -6,14 +6,21 @@
 #include "core/Files.h"
 #include "core/Messages.h"
 #include "core/RunTimeError.h"
+#include "toolkit/DrawnIcon.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
 
+#include <QAbstractFileIconProvider>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFrame>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QTreeView>
 
 namespace zelvia
 {
@@ -44,6 +51,30 @@ Text BackslashForm(const QString& native)
     return SystemPath(native.toStdString());
 }
 
+/// Drawn icons for folders and files, and the kind of a file by its suffix: the desktop's icons and its database of
+/// kinds differ on each desktop, and take their time to load.
+class FileIcons : public QAbstractFileIconProvider
+{
+public:
+    QIcon icon(IconType type) const override
+    {
+        switch (type) {
+        case Computer:
+        case Drive: return Drawn(QStyle::SP_ComputerIcon);
+        case File: return Drawn(QStyle::SP_FileIcon);
+        default: return Drawn(QStyle::SP_DirIcon);
+        }
+    }
+    QIcon icon(const QFileInfo& file) const override { return icon(file.isDir() ? Folder : File); }
+    QString type(const QFileInfo& file) const override
+    {
+        return file.isDir() ? QStringLiteral("Cartella") : QStringLiteral("File ") + file.suffix();
+    }
+
+private:
+    static QIcon Drawn(QStyle::StandardPixmap icon) { return DrawnIcon(StandardDrawing(icon)); }
+};
+
 /// The dialog that a CommonDialog shows. It accepts a name only when a file of that name can be kept and found again;
 /// otherwise it reports why and stays open. A name without the filter's suffix gets it, whatever the current directory
 /// is; one that differs from a file's name only in case means that file.
@@ -61,6 +92,7 @@ public:
     }
 
 private:
+    void MakeRoom();
     bool Opens() const { return acceptMode() == AcceptOpen; }
     void TakeChoice();
     const Message* NameRefusal(const QString& path) const;
@@ -80,6 +112,9 @@ FileChooser::FileChooser(QWidget* owner, const CommonDialog& settings, FileDialo
 {
     setOption(DontUseNativeDialog);
     setOption(HideNameFilterDetails);
+    static FileIcons icons;
+    setIconProvider(&icons);
+    MakeRoom();
     setDirectory(NativeString(PathOnDisk(settings.InitDir)));
     setAcceptMode(mode == FileDialogMode::Open ? AcceptOpen : AcceptSave);
     setFileMode((settings.Flags & DialogFlags::FileMustExist) != 0 ? ExistingFile : AnyFile);
@@ -89,11 +124,25 @@ FileChooser::FileChooser(QWidget* owner, const CommonDialog& settings, FileDialo
     const FilterParts filter = Parse(settings.Filter);
     setNameFilter(filter.description + QLatin1String(" (") + filter.pattern + QLatin1Char(')'));
     suffix_ = QLatin1Char('.') + filter.pattern.section(QLatin1Char('.'), -1);
+    findChild<QFrame*>(QStringLiteral("frame"))->setAccessibleName(QStringLiteral("File"));
     nameEdit_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     connect(nameEdit_, &QLineEdit::textChanged, this, &FileChooser::EnableOpen);
     if (!settings.FileName.empty()) {
         selectFile(NativeString(Mid(settings.FileName, InStrRev(settings.FileName, "\\") + 1)));
     }
+}
+
+/// Enough for the columns of the list to be read; the names take what the others leave.
+void FileChooser::MakeRoom()
+{
+    constexpr QSize wide(800, 480);
+    constexpr int places = 130;
+    resize(wide.boundedTo(screen()->availableSize()));
+    findChild<QSplitter*>(QStringLiteral("splitter"))->setSizes({places, wide.width() - places});
+    auto* columns = findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    columns->setStretchLastSection(false);
+    columns->setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 void FileChooser::TakeChoice()

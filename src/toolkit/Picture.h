@@ -3,6 +3,7 @@
 #pragma once
 
 #include "toolkit/Control.h"
+#include "toolkit/Pixels.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -28,18 +29,24 @@ public:
         setFocusPolicy(Qt::NoFocus);
     }
 
+    /// How many times larger than designed it is shown: it is drawn in units of the design.
+    void SetFactor(double factor) { factor_ = factor; }
+
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         if (drawing_) {
             QPainter painter(this);
             painter.setRenderHint(QPainter::Antialiasing);
-            drawing_(painter, rect());
+            painter.scale(factor_, factor_);
+            const QRectF area = Pixels(painter).Around(QRectF(QPointF(), QSizeF(size()) / factor_));
+            drawing_(painter, area);
         }
     }
 
 private:
     Drawing drawing_;
+    double factor_ = 1;
 };
 
 } // namespace zelvia

@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
+#include <QStyleOptionFrame>
 
 #include <algorithm>
 #include <limits>
@@ -190,6 +192,19 @@ void TextBox::dropEvent(QDropEvent* event)
     setCursorPosition(cursorPositionAt(event->position().toPoint()));
     Paste(event->mimeData()->text());
     event->acceptProposedAction();
+}
+
+void TextBox::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (!hasFocus() || !hasFrame()) {
+        return;
+    }
+    // The caret of a line as high as its box crosses the border by a part of a pixel at some scales.
+    QStyleOptionFrame frame;
+    initStyleOption(&frame);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_FrameLineEdit, &frame, &painter, this);
 }
 
 void TextBox::contextMenuEvent(QContextMenuEvent* event)

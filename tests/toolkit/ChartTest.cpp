@@ -408,10 +408,10 @@ void ChartTest::ItTellsItsValues()
     Chart chart(nullptr, QStringLiteral("MSChart1"));
     chart.Show(Bars({QStringLiteral("Città"), QStringLiteral("Mare")}, {12, 3}));
     QCOMPARE(chart.objectName(), QStringLiteral("MSChart1"));
-    QCOMPARE(chart.accessibleName(), QStringLiteral("Grafico: Percorso"));
+    QCOMPARE(chart.accessibleName(), QStringLiteral("Percorso"));
     QCOMPARE(chart.accessibleDescription(), QStringLiteral("Città: 12; Mare: 3"));
     chart.Show(Line({QStringLiteral("5,07"), QStringLiteral("0"), QStringLiteral("4,5")}));
-    QCOMPARE(chart.accessibleName(), QStringLiteral("Grafico: Velocità Media per Km"));
+    QCOMPARE(chart.accessibleName(), QStringLiteral("Velocità Media per Km"));
     QCOMPARE(chart.accessibleDescription(), QStringLiteral("Tempo: 5,07; 0; 4,5"));
     chart.Show(Line({}));
     QCOMPARE(chart.accessibleDescription(), QStringLiteral("Nessun valore"));

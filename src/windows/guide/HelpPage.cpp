@@ -29,7 +29,7 @@ HelpPage::HelpPage(const HelpFile& file, QWidget* parent) : QTextBrowser(parent)
     setAccessibleName(tr("Pagina della Guida"));
     setOpenExternalLinks(false);
     constexpr int readable = 16;
-    setFont(PageFont("Times New Roman", readable));
+    setFont(PrintFont(readable));
 }
 
 QVariant HelpPage::loadResource(int type, const QUrl& name)

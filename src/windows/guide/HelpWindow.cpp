@@ -67,7 +67,7 @@ void HelpWindow::BuildPanes()
     contents_->setObjectName(QStringLiteral("contents"));
     contents_->setAccessibleName(tr("Sommario"));
     contents_->setHeaderHidden(true);
-    contents_->setFont(PageFont("Times New Roman", kListPixels));
+    contents_->setFont(PrintFont(kListPixels));
     search_ = new SearchPane(*file_->Engine().searchEngine());
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("tabs"));

@@ -56,7 +56,7 @@ SearchPane::SearchPane(QHelpSearchEngine& engine, QWidget* parent)
     words->setClearButtonEnabled(true);
     results->setObjectName(QStringLiteral("results"));
     results->setAccessibleName(QStringLiteral("Argomenti trovati"));
-    results->setFont(PageFont("Times New Roman", kListPixels));
+    results->setFont(PrintFont(kListPixels));
     results->setWordWrap(true);
     results->setSpacing(2);
     state->setObjectName(QStringLiteral("state"));

@@ -233,23 +233,6 @@ QColor Mixed(const QColor& from, const QColor& to, double part)
     return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
 }
 
-// The face that is there as a rule comes first: a search through the others costs time at the start.
-constexpr TextView kPrintFace = "Liberation Serif";
-
-QFont PrintFont(int pixels, bool bold)
-{
-    QFont font = PageFont(kPrintFace, pixels);
-    font.setBold(bold);
-    return font;
-}
-
-QFont PenFont(int pixels)
-{
-    QFont font = PageFont(kPrintFace, pixels);
-    font.setItalic(true);
-    return font;
-}
-
 QFont DateFont()
 {
     QFont font = PageFont("Times New Roman", 24);

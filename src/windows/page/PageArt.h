@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/Text.h"
+#include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
 
@@ -16,8 +17,6 @@ class QPainter;
 namespace zelvia
 {
 
-QFont PrintFont(int pixels, bool bold = false);
-QFont PenFont(int pixels);
 /// The large face of the date, and of the counters' numbers.
 QFont DateFont();
 

@@ -29,26 +29,10 @@ constexpr int kButtonWidth = 130;
 constexpr int kButtonHeight = 32;
 constexpr int kRight = 1232;
 
-constexpr TextView kSerif = "Times New Roman";
-
 /// The fixed pitch of the strips keeps their signs between the boxes.
 QFont StripFont()
 {
     return PageFont("Courier", 12);
-}
-
-QFont PrintFont(int pixels, bool bold = false)
-{
-    QFont font = PageFont(kSerif, pixels);
-    font.setBold(bold);
-    return font;
-}
-
-QFont PenFont()
-{
-    QFont font = PageFont(kSerif, 16);
-    font.setItalic(true);
-    return font;
 }
 
 /// The signs between the boxes of a distance and of a time.
@@ -158,7 +142,7 @@ void frmCalendario::BuildGrid()
                        .top = kTop,
                        .step = kStep,
                        .height = kBoxHeight,
-                       .font = PenFont(),
+                       .font = PenFont(19),
                        .margins = {0, -2, 0, -2}});
 }
 

@@ -77,7 +77,7 @@ void ChartWindowTest::beforeAnySearch()
     QCOMPARE(window.MSChart1->objectName(), QStringLiteral("MSChart1"));
     QVERIFY(window.MSChart1->Shown().chartType == ChartType::Line);
     QCOMPARE(window.MSChart1->Shown().RowCount(), 0);
-    QCOMPARE(window.MSChart1->accessibleName(), QStringLiteral("Grafico: Velocità Media per Km"));
+    QCOMPARE(window.MSChart1->accessibleName(), QStringLiteral("Velocità Media per Km"));
     QCOMPARE(window.MSChart1->accessibleDescription(), QStringLiteral("Nessun valore"));
     const QPointer<frmGrafici> watched = &window;
     SearchDesk::AwaitFront(window);
@@ -137,12 +137,12 @@ void ChartWindowTest::barsOfAStatistic()
     desk.Bars(Categoria::Fondo);
     const Chart& chart = *desk.Charts()->MSChart1;
     QVERIFY(chart.Shown().chartType == ChartType::Bars);
-    QCOMPARE(chart.accessibleName(), QStringLiteral("Grafico: Terreno"));
+    QCOMPARE(chart.accessibleName(), QStringLiteral("Terreno"));
     QCOMPARE(chart.accessibleDescription(), QStringLiteral("Strada: 60; Pista: 20"));
     const frmGrafici* first = desk.Charts();
     desk.Bars(Categoria::Tipo);
     QCOMPARE(desk.Charts(), first);
-    QCOMPARE(chart.accessibleName(), QStringLiteral("Grafico: Tipo"));
+    QCOMPARE(chart.accessibleName(), QStringLiteral("Tipo"));
     VERIFY_SCRIPT(desk.script);
 }
 
@@ -158,7 +158,7 @@ void ChartWindowTest::theStatisticsWindowOpensThem()
     hand::Click(*desk.Window()->cmGrafico);
     QPointer<frmGrafici> charts;
     QTRY_VERIFY(!(charts = Charts()).isNull());
-    QCOMPARE(charts->MSChart1->accessibleName(), QStringLiteral("Grafico: Percorso"));
+    QCOMPARE(charts->MSChart1->accessibleName(), QStringLiteral("Percorso"));
     QCOMPARE(charts->MSChart1->accessibleDescription(), QStringLiteral("Lungofiume: 2; Parco: 1"));
     SearchDesk::AwaitFront(*charts);
     hand::Click(*charts->cmdEsci);
