@@ -4,11 +4,27 @@
 
 #include "core/BoundedArray.h"
 #include "core/MessageBox.h"
+#include "toolkit/FocusController.h"
 #include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 
+#include <QKeyEvent>
+
+#include <algorithm>
+
 namespace zelvia
 {
+namespace
+{
+
+/// The accessible name of a column's boxes, which that of the row may follow.
+QString SpokenColumn(const GridColumn& column)
+{
+    const QString spoken = ToQString(column.spoken);
+    return spoken.left(1).toUpper() + spoken.mid(1);
+}
+
+} // namespace
 
 QString Indexed(const char* name, int index)
 {
@@ -31,7 +47,7 @@ TextBox* MakeBox(QWidget* parent, const GridColumn& column, const GridLook& look
     box->setGeometry(column.left, look.top + (row - 1) * look.step, column.width, look.height);
     box->setFont(look.font);
     box->setTextMargins(look.margins);
-    box->setAccessibleName(ToQString(column.spoken));
+    box->setAccessibleName(SpokenColumn(column));
     if (column.digitsOnly && look.digitsRight) {
         box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
@@ -47,6 +63,7 @@ void BoxGrid::Build(QWidget* parent, const GridLook& look)
         }
     }
     Visit([this](int column, int row) { Connect(column, row); });
+    returnsTo_ = boxes_.front();
 }
 
 TextBox* BoxGrid::Box(int column, int row) const
@@ -65,14 +82,11 @@ bool BoxGrid::Holds(int column, int row, int place) const
     return CellHolds(Column(column).cell(place), Content(column, row), Column(column).format);
 }
 
-void BoxGrid::Speak(TextView word, int rowsBefore)
+void BoxGrid::Speak(int rowsBefore)
 {
     Visit([&](int column, int row) {
         Box(column, row)
-            ->setAccessibleName(QStringLiteral("%1 %2, %3")
-                                    .arg(ToQString(word))
-                                    .arg(rowsBefore + row)
-                                    .arg(ToQString(Column(column).spoken)));
+            ->setAccessibleName(QStringLiteral("%1, riga %2").arg(SpokenColumn(Column(column))).arg(rowsBefore + row));
     });
 }
 
@@ -93,9 +107,12 @@ void BoxGrid::Connect(int column, int row)
         }
     };
     box.Validate = [this, column, row] { return !Leave(column, row); };
-    if (column == signs.column) {
-        box.GotFocus = [this, row] { ShowSigns(row, true); };
-    }
+    box.GotFocus = [this, column, row] {
+        returnsTo_ = Box(column, row);
+        if (column == signs.column) {
+            ShowSigns(row, true);
+        }
+    };
 }
 
 bool BoxGrid::LimitHolds(int column, int row) const
@@ -134,6 +151,42 @@ void BoxGrid::MoveOn(int column, int row) const
     } else if (LastEntered) {
         LastEntered();
     }
+}
+
+bool BoxGrid::MoveByKey(const QKeyEvent& key) const
+{
+    const auto focused = std::find(boxes_.begin(), boxes_.end(), FocusController::Instance().Current());
+    const bool inside = focused != boxes_.end();
+    if (key.key() == Qt::Key_F6 && key.modifiers() == Qt::NoModifier) {
+        inside ? MoveBeside() : returnsTo_->SetFocus();
+        return true;
+    }
+    return inside && MoveInColumn(static_cast<int>(focused - boxes_.begin()), key);
+}
+
+void BoxGrid::MoveBeside() const
+{
+    const auto takes = [](const Control* control) { return control->Visible() && control->Widget().isEnabled(); };
+    if (const auto next = std::find_if(beside.begin(), beside.end(), takes); next != beside.end()) {
+        (*next)->SetFocus();
+    }
+}
+
+bool BoxGrid::MoveInColumn(int place, const QKeyEvent& key) const
+{
+    const int row = place / Columns() + 1;
+    int target = 0;
+    switch (Chord(key).toCombined()) {
+    case Qt::Key_Up: target = std::max(row - 1, 1); break;
+    case Qt::Key_Down: target = std::min(row + 1, rows_); break;
+    case (Qt::CTRL | Qt::Key_Home).toCombined(): target = 1; break;
+    case (Qt::CTRL | Qt::Key_End).toCombined(): target = rows_; break;
+    default: return false;
+    }
+    if (target != row) {
+        Box(place % Columns(), target)->SetFocus();
+    }
+    return true;
 }
 
 } // namespace zelvia

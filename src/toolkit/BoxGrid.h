@@ -14,6 +14,8 @@
 #include <span>
 #include <vector>
 
+class QKeyEvent;
+
 namespace zelvia
 {
 
@@ -31,7 +33,7 @@ struct GridColumn {
     CellFormat format;
     int left;
     int width;
-    TextView spoken;                 ///< Its accessible name, behind that of the row.
+    TextView spoken;                 ///< Its accessible name, in front of the row.
     Cell (*cell)(int row) = nullptr; ///< The value that a box shows.
     bool testedOnEnter = true;       ///< Enter tests the limit; otherwise leaving the box does.
 };
@@ -60,7 +62,8 @@ struct GridSigns {
 };
 
 /// Rows of edit boxes. Enter moves on along the row and then to the next one. A number beyond its column's limit is
-/// reported and keeps the focus; a box that is left has its text rewritten in the column's format.
+/// reported and keeps the focus; a box that is left has its text rewritten in the column's format. Up, Down, Ctrl+Home
+/// and Ctrl+End move within a column, F6 between the grid and what is beside it.
 /// Columns count from 0, rows from 1; any other raises error 9.
 class BoxGrid
 {
@@ -102,14 +105,19 @@ public:
         }
     }
 
-    /// Gives each box its accessible name: the word, the row's number and the column.
-    void Speak(TextView word, int rowsBefore = 0);
+    /// Gives each box its accessible name: the column and the row's number.
+    void Speak(int rowsBefore = 0);
+    /// Moves the focus by a key that no control has handled; false when it is none of the grid's. Leaving a box is
+    /// tested as on Tab.
+    bool MoveByKey(const QKeyEvent& key) const;
+
     void ShowSigns(int row, bool shown) const { signs.label(row)->SetCaption(shown ? signs.shown : signs.blank); }
 
     GridSigns signs; ///< None as long as no column is named.
     std::function<void()> Click;
     std::function<void()> Edited; ///< A key was pressed, even one that is thrown away, or the text was changed by hand.
     std::function<void()> LastEntered; ///< Enter in the last box.
+    std::vector<Control*> beside;      ///< F6 goes from the grid to the first of them that takes the focus.
 
 private:
     int Columns() const { return static_cast<int>(columns_.size()); }
@@ -117,10 +125,13 @@ private:
     bool LimitHolds(int column, int row) const;
     bool Leave(int column, int row) const;
     void MoveOn(int column, int row) const;
+    void MoveBeside() const;
+    bool MoveInColumn(int place, const QKeyEvent& key) const;
 
     std::span<const GridColumn> columns_;
     int rows_ = 0;
-    std::vector<TextBox*> boxes_; ///< Row by row.
+    std::vector<TextBox*> boxes_;  ///< Row by row.
+    TextBox* returnsTo_ = nullptr; ///< The box that had the focus last.
 };
 
 } // namespace zelvia

@@ -4,6 +4,7 @@
 
 #include "toolkit/Events.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 
 namespace zelvia
@@ -20,6 +21,11 @@ int ControlKey(int key)
     }
 }
 
+QKeyCombination Chord(const QKeyEvent& key)
+{
+    return QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key()));
+}
+
 bool FireListKey(const QKeyEvent& event, const std::function<void(int keyAscii)>& handler)
 {
     const int keyAscii = ControlKey(event.key());
@@ -32,6 +38,13 @@ bool FireListKey(const QKeyEvent& event, const std::function<void(int keyAscii)>
         }
     });
     return true;
+}
+
+void FrameFirstRow(QAbstractItemView& list)
+{
+    if (list.hasFocus() && !list.currentIndex().isValid()) {
+        list.selectionModel()->setCurrentIndex(list.model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    }
 }
 
 void ThrowAwayNonDigit(int& keyAscii)

@@ -24,15 +24,7 @@ BoundedArray<i16, 1, 2> minutes;
 BoundedArray<Text, 1, 2> names;
 
 constexpr std::array<GridColumn, 2> kColumns = {{
-    {"txtMinuti",
-     2,
-     true,
-     {59, &Messages::kMinutesLimit},
-     CellFormat::TwoDigits,
-     200,
-     50,
-     "minuti",
-     CellOf<minutes>},
+    {"txtMinuti", 2, true, {59, &Messages::kMinutesLimit}, CellFormat::TwoDigits, 200, 50, "minuti", CellOf<minutes>},
     {"txtNome", 6, false, {}, CellFormat::Capitals, 260, 100, "nome", CellOf<names>},
 }};
 
@@ -51,6 +43,8 @@ private Q_SLOTS:
     void OtherCharactersThanDigitsAreThrownAway();
     void ANumberBeyondTheLimitKeepsTheFocus_data();
     void ANumberBeyondTheLimitKeepsTheFocus();
+    void KeysGoAlongTheColumn();
+    void F6GoesBesideAndBack();
     void LeavingRewritesTheText();
     void TheSignsComeAndGo();
     void KeysAndChangesAreReported();
@@ -71,6 +65,7 @@ void BoxGridTest::init()
 {
     last_ = edited_ = 0;
     form_ = std::make_unique<SampleForm>();
+    form_->UnhandledKey = [this](const QKeyEvent& key) { return grid_->MoveByKey(key); };
     for (std::size_t i = 0; i < signs_.size(); ++i) {
         signs_[i] = new Label(form_.get(), QStringLiteral("lblSegni"));
     }
@@ -78,8 +73,10 @@ void BoxGridTest::init()
     grid_->signs = {0, ":", " ", [this](int row) { return signs_[static_cast<std::size_t>(row - 1)]; }};
     grid_->Edited = [this] { ++edited_; };
     grid_->LastEntered = [this] { ++last_; };
+    form_->txtTre->setEnabled(false);
+    grid_->beside = {form_->txtTre, form_->cmdVai};
     grid_->Build(form_.get(), {.rows = 2, .top = 240, .step = 30, .height = 26, .font = form_->font()});
-    grid_->Speak("Riga", 20);
+    grid_->Speak(20);
     form_->Open();
     grid_->Box(0, 1)->SetFocus();
     QTRY_COMPARE(form_->Focused(), QByteArray("txtMinuti(1)"));
@@ -89,6 +86,11 @@ void BoxGridTest::cleanup()
 {
     form_.reset();
     grid_.reset();
+}
+
+void Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    hand::Key(key, modifiers);
 }
 
 /// Clicks into a box and types over what it holds.
@@ -105,7 +107,7 @@ void BoxGridTest::Enter(int column, int row, const QString& text)
 void BoxGridTest::BoxesAreNamed()
 {
     QCOMPARE(grid_->Box(1, 2)->objectName(), QStringLiteral("txtNome(2)"));
-    QCOMPARE(grid_->Box(1, 2)->accessibleName(), QStringLiteral("Riga 22, nome"));
+    QCOMPARE(grid_->Box(1, 2)->accessibleName(), QStringLiteral("Nome, riga 22"));
     QCOMPARE(grid_->Box(1, 2)->geometry(), QRect(260, 270, 100, 26));
 }
 
@@ -130,23 +132,80 @@ void BoxGridTest::OtherCharactersThanDigitsAreThrownAway()
 void BoxGridTest::ANumberBeyondTheLimitKeepsTheFocus_data()
 {
     QTest::addColumn<Qt::Key>("key");
-    QTest::newRow("Tab") << Qt::Key_Tab;
-    QTest::newRow("Enter") << Qt::Key_Return;
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<QByteArray>("next");
+    const auto row = [](const char* name, Qt::Key key, const char* next, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::newRow(name) << key << modifiers << QByteArray(next);
+    };
+    row("Tab", Qt::Key_Tab, "txtNome(1)");
+    row("Enter", Qt::Key_Return, "txtNome(1)");
+    row("Down", Qt::Key_Down, "txtMinuti(2)");
+    row("Ctrl+End", Qt::Key_End, "txtMinuti(2)", Qt::ControlModifier);
+    row("F6", Qt::Key_F6, "cmdVai");
 }
 
 void BoxGridTest::ANumberBeyondTheLimitKeepsTheFocus()
 {
     QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(QByteArray, next);
     Enter(0, 1, QStringLiteral("60"));
     BoxScript script;
     script.Expect(Messages::kMinutesLimit);
-    hand::Key(key);
+    Press(key, modifiers);
     TRY_SCRIPT(script);
     QTRY_COMPARE(form_->Focused(), QByteArray("txtMinuti(1)"));
     Enter(0, 1, QStringLiteral("59"));
-    hand::Key(key);
-    QTRY_COMPARE(form_->Focused(), QByteArray("txtNome(1)"));
+    Press(key, modifiers);
+    QTRY_COMPARE(form_->Focused(), next);
     VERIFY_SCRIPT(script);
+}
+
+void BoxGridTest::KeysGoAlongTheColumn()
+{
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* next;
+    } steps[] = {
+        // In the first row, and in the last, the focus stays.
+        {Qt::Key_Up, {}, "txtNome(1)"},
+        {Qt::Key_Down, {}, "txtNome(2)"},
+        {Qt::Key_Down, {}, "txtNome(2)"},
+        {Qt::Key_Up, {}, "txtNome(1)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtNome(2)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtNome(2)"},
+        {Qt::Key_Home, Qt::ControlModifier, "txtNome(1)"},
+        // These go along the text of the box.
+        {Qt::Key_End, {}, "txtNome(1)"},
+        {Qt::Key_Home, {}, "txtNome(1)"},
+    };
+    Enter(1, 1, QStringLiteral("ABCABC"));
+    for (const auto& step : steps) {
+        hand::Key(step.key, step.modifiers);
+        QTRY_COMPARE(form_->Focused(), QByteArray(step.next));
+        QCOMPARE(form_->focusWidget()->objectName().toLatin1(), QByteArray(step.next));
+    }
+    // Each was left as by Tab, and entered as by Tab.
+    QCOMPARE(grid_->Box(1, 1)->text(), QStringLiteral("Abcabc"));
+    hand::Key(Qt::Key_Down);
+    hand::Key(Qt::Key_Up);
+    QTRY_COMPARE(grid_->Box(1, 1)->selectedText(), QStringLiteral("Abcabc"));
+}
+
+void BoxGridTest::F6GoesBesideAndBack()
+{
+    hand::Click(*grid_->Box(1, 2));
+    hand::Key(Qt::Key_F6);
+    // What is disabled is passed over.
+    QTRY_COMPARE(form_->Focused(), QByteArray("cmdVai"));
+    hand::Key(Qt::Key_F6);
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtNome(2)"));
+    // From wherever else, to the box that had the focus last.
+    hand::Click(*grid_->Box(0, 1));
+    hand::Click(*form_->txtDue);
+    hand::Key(Qt::Key_F6);
+    QTRY_COMPARE(form_->Focused(), QByteArray("txtMinuti(1)"));
 }
 
 void BoxGridTest::LeavingRewritesTheText()

@@ -95,3 +95,10 @@ QPoint RowCentre(const ListBox& list, int row)
 {
     return list.viewport()->mapTo(&list, list.visualItemRect(list.item(row)).center());
 }
+
+void SampleForm::keyPressEvent(QKeyEvent* event)
+{
+    if (!UnhandledKey || !UnhandledKey(*event)) {
+        Form::keyPressEvent(event);
+    }
+}

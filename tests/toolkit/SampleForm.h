@@ -13,6 +13,8 @@
 #include <QByteArray>
 #include <QMenu>
 
+#include <functional>
+
 class QMenuBar;
 
 /// A window with one of each control, none over another. It notes what is reported to its controls: "+txtUno" for a
@@ -38,6 +40,9 @@ public:
     /// Writes a word down.
     void Tell(const QByteArray& word);
 
+    /// Sees each key that no control has handled; true when it is done with.
+    std::function<bool(const QKeyEvent& key)> UnhandledKey;
+
     /// The reports, separated by blanks.
     QByteArray told;
 
@@ -55,6 +60,9 @@ public:
     QMenuBar* bar;
     QMenu* mnuFile;
     QMenu popUp;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Place();

@@ -84,6 +84,8 @@ public:
 
 protected:
     void OnUnload() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void BuildHeads();

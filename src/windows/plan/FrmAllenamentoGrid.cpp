@@ -5,11 +5,14 @@
 #include "toolkit/Fonts.h"
 #include "toolkit/Menu.h"
 #include "toolkit/QtText.h"
+#include "toolkit/RuledSheet.h"
 #include "windows/plan/FrmAllenamento.h"
 #include "windows/plan/PlanColumns.h"
 #include "windows/plan/TableWindows.h"
 
+#include <QFontMetricsF>
 #include <QMenu>
+#include <QPainter>
 
 namespace zelvia
 {
@@ -27,18 +30,48 @@ QFont StripFont()
 
 QFont HeadFont()
 {
-    return PageFont("Times New Roman", 14);
+    return PrintFont(14);
+}
+
+/// The uprights between the strips.
+constexpr int kColumnRules[] = {2, 51, 136, 248, 382, 572, 762, 1035};
+constexpr RuledSheet kSheet{.frame = {},
+                            .head = {2, 4, 1034, 47},
+                            .headsTop = 9,
+                            .firstRow = kTop - 1,
+                            .step = kStep,
+                            .rows = kRows,
+                            .lines = kColumnRules};
+
+/// Puts the words of a head, which begins with a blank, over the boxes of its columns by the spacing of its words.
+void SpreadOver(Label& head, int firstColumn, int lastColumn)
+{
+    const auto middle = [](int column) {
+        const GridColumn& boxes = kPlanColumns[static_cast<std::size_t>(column)];
+        return boxes.left + boxes.width / 2.0;
+    };
+    const QString caption = head.text();
+    const QStringList words = caption.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const auto ledBy = caption.indexOf(words.first());
+    const auto blanks = caption.indexOf(words.last()) - ledBy - words.join(QString()).size() + words.last().size();
+    QFont font = HeadFont();
+    const QFontMetricsF metrics(font);
+    const qreal first = metrics.horizontalAdvance(words.first());
+    const qreal last = metrics.horizontalAdvance(words.last());
+    const qreal written = metrics.horizontalAdvance(words.join(QString()));
+    const qreal span = middle(lastColumn) - middle(firstColumn) + (first + last) / 2;
+    const qreal blank = metrics.horizontalAdvance(QLatin1Char(' '));
+    // The spacing of words is added once between two words, however many blanks there are.
+    const qreal more = (span - written - blank * static_cast<qreal>(blanks)) / static_cast<qreal>(words.size() - 1);
+    font.setWordSpacing(more);
+    head.setFont(font);
+    const int left = qRound(middle(firstColumn) - first / 2 - blank * static_cast<qreal>(ledBy) - more);
+    head.setGeometry(left, head.y(), qCeil(QFontMetricsF(font).horizontalAdvance(caption)), head.height());
 }
 
 GridLook Look(int rows, int top, int height)
 {
-    return {.rows = rows,
-            .top = top,
-            .step = kStep,
-            .height = height,
-            .font = PageFont("Times New Roman", 14),
-            .margins = {0, -2, -1, -2},
-            .digitsRight = rows > 1};
+    return {.rows = rows, .top = top, .step = kStep, .height = height, .font = PenFont(18), .margins = {0, -4, -1, -2}};
 }
 
 } // namespace
@@ -49,25 +82,31 @@ void frmAllenamento::BuildHeads()
         const char* name;
         TextView caption;
         QRect place;
+        int first = 0; ///< Of the columns whose units it names.
+        int last = 0;
     };
-    constexpr int upper = 4;
-    constexpr int lower = 24;
+    constexpr int upper = 10;
+    constexpr int lower = 30;
     const Head heads[] = {
         {"lblGiorno", "Giorno", {4, lower, 48, 18}},
         {"lblTitoloDistanza", " Distanza", {54, upper, 80, 18}},
-        {"lblTitoloKm", "  km  metri", {54, lower, 84, 18}},
+        {"lblTitoloKm", "  km  metri", {54, lower, 84, 18}, Km, Metri},
         {"lblTitoloTempo", " Tempo", {140, upper, 106, 18}},
-        {"lblTitoloOre", "  hh  mm  ss", {140, lower, 106, 18}},
+        {"lblTitoloOre", "  hh  mm  ss", {140, lower, 106, 18}, Ore, Secondi},
         {"lblTitoloMedia", " Media", {252, upper, 128, 18}},
-        {"lblTitoloMinuti", "  mm  ss   mls ", {252, lower, 128, 18}},
+        {"lblTitoloMinuti", "  mm  ss   mls ", {252, lower, 128, 18}, MediaMinuti, MediaMillesimi},
         {"lblTitoloAndatura", " Andatura", {386, lower, 184, 18}},
         {"lblTitoloTerreno", " Terreno", {576, lower, 184, 18}},
         {"lblTitoloRipetizioni", " Ripetizioni", {766, lower, 264, 18}},
         {"lblTitoloInizio", " Data Inizio", {kPanelLeft, lower, 176, 18}},
     };
     for (const Head& head : heads) {
-        const bool units = head.caption.starts_with("  ");
-        MakeLabel(this, QLatin1String(head.name), head.caption, head.place, units ? StripFont() : HeadFont());
+        Label* label = MakeLabel(this, QLatin1String(head.name), head.caption, head.place, HeadFont());
+        if (head.last > 0) {
+            SpreadOver(*label, head.first, head.last);
+        } else {
+            label->setAlignment(Qt::AlignCenter);
+        }
     }
 }
 
@@ -76,6 +115,8 @@ void frmAllenamento::BuildLabels(int row)
     const int top = RowTop(row);
     lblGiorni[row] =
         MakeLabel(this, Indexed("lblGiorni", row), " " + PlainText(i32(row)), {4, top, 46, kBoxHeight}, HeadFont());
+    lblGiorni[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblGiorni[row]->setIndent(12);
     SetBackColour(*lblGiorni[row], TableColours::Accepted);
     lblGiorni[row]->MouseUp = [this, row](Qt::MouseButton button, const QPoint& position) {
         if (button == Qt::RightButton) {
@@ -95,7 +136,7 @@ void frmAllenamento::BuildGrid()
     grid_.signs = {RipetVolte, kRepetitionStrip, kBlankRepetitionStrip,
                    [this](int row) { return StripOf(LblRipetizioni, row); }};
     grid_.Build(this, Look(kRows, kTop, kBoxHeight));
-    grid_.Speak("Giorno");
+    grid_.Speak();
     for (int row = 1; row <= kRows; ++row) {
         PaintRow(row, TableColours::Editing);
         WriteRow(row, TableColours::Fore);
@@ -140,6 +181,7 @@ void frmAllenamento::BuildPanel()
     cmdEsci = make("cmdEsci", "Esci", &frmAllenamento::cmdEsci_Click);
     cmdAttiva->setEnabled(false);
     cmdDisattiva->setEnabled(false);
+    grid_.beside = {cmdOK, cmdAttiva, cmdDisattiva, cmdCalcoloMedie, cmdSalva, cmdStampa, cmdEsci};
 }
 
 void frmAllenamento::BuildRowMenu()
@@ -150,6 +192,20 @@ void frmAllenamento::BuildRowMenu()
              {{"mnuInserisciRiga", "&Inserisci Riga", [this] { mnuInserisciRiga_Click(); }},
               {"mnuEliminaRiga", "&Elimina Riga", [this] { mnuEliminaRiga_Click(); }}},
              MenuKind::PopUp);
+}
+
+void frmAllenamento::keyPressEvent(QKeyEvent* event)
+{
+    if (!grid_.MoveByKey(*event)) {
+        Form::keyPressEvent(event);
+    }
+}
+
+void frmAllenamento::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    DrawRuledSheet(painter, kSheet);
+    DrawSheetHead(painter, {kPanelLeft, kSheet.head.top(), 176, kSheet.head.height()});
 }
 
 void frmAllenamento::BeginEditing()

@@ -9,6 +9,7 @@
 #include "diary/Module1.h"
 #include "diary/Workspace.h"
 #include "toolkit/Fonts.h"
+#include "toolkit/Keys.h"
 #include "toolkit/QtText.h"
 #include "windows/plan/TableWindows.h"
 
@@ -45,8 +46,14 @@ frmTabAllenamenti::frmTabAllenamenti(TableWindows& windows)
     setWindowTitle(QStringLiteral("Lista Tabelle Allenamenti"));
     LayOnPaper({524, 300});
     flbListaTabelle->setGeometry(20, 20, 288, 260);
-    flbListaTabelle->setFont(PageFont("Times New Roman", 16));
+    flbListaTabelle->setFont(PenFont(20));
     flbListaTabelle->setAccessibleName(QStringLiteral("Tabelle di allenamento"));
+    flbListaTabelle->DblClick = cmdOK->Click;
+    flbListaTabelle->KeyPress = [this](int keyAscii) {
+        if (keyAscii == kEnter) {
+            cmdOK_Click();
+        }
+    };
     Reload();
 }
 
@@ -138,7 +145,7 @@ void frmTabAllenamenti::cmdCancellaTab_Click()
             DeleteFile(path);
             RefreshList();
         }
-        // The active table is deactivated whatever the answer.
+        // The active table is deactivated with any answer.
         if (SameText(path, NomeTabellaAttiva)) {
             NomeTabellaAttiva.clear();
             SalvaNomeTabella();

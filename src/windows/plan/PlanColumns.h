@@ -58,7 +58,7 @@ inline constexpr TextView kDateStrip = "      /      /    ";
 inline constexpr TextView kBlankDateStrip = "                  ";
 
 // Places, in logical pixels.
-inline constexpr int kTop = 46;
+inline constexpr int kTop = 53;
 inline constexpr int kStep = 20;
 inline constexpr int kBoxHeight = 19;
 inline constexpr int kPanelLeft = 1048;

@@ -64,9 +64,10 @@ void frmCalendario::VisualizzaCalendarioGare()
         grid_.Visit([this](int column, int row) {
             grid_.Box(column, row)->SetContent(CalendarGrid::RaceText(column, RaceOf(row)));
         });
-        grid_.Speak("Gara", PrimaGaraPagina.value());
+        grid_.Speak(PrimaGaraPagina.value());
         lblPaginaGare->setText(
             QStringLiteral("Pagina %1 di %2").arg(PrimaGaraPagina.value() / kRows + 1).arg(CalendarGrid::kPages));
+        upPaginaGare->setAccessibleDescription(lblPaginaGare->text());
     });
 }
 

@@ -70,6 +70,7 @@ private:
 
     void Load();
     void ShowPage();
+    void TurnPage(bool forward);
     void VisualizzaCalendarioGare();
     void AssegnaPaginaGare();
     void AzzeraPaginaGare();

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The race calendar's controls: their places, and the events of its boxes.
 #include "toolkit/Colours.h"
+#include "toolkit/FocusController.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
+#include "toolkit/RuledSheet.h"
 #include "windows/races/FrmCalendario.h"
 
 #include <QKeyEvent>
@@ -59,29 +61,13 @@ constexpr Group kGroups[] = {{"lblTitoloData", "Data", 66, 147},
 /// The printed rules between the groups of columns.
 constexpr int kColumnRules[] = {57, 218, 481, 659, 753, 839, 925, 1053, 1147};
 
-void DrawHead(QPainter& painter)
-{
-    constexpr int left = kNumberLeft;
-    constexpr int width = kRight - kNumberLeft;
-    painter.fillRect(left, 14, width, 2, Ink::Accent);
-    painter.fillRect(left, 18, width, 1, Ink::Accent);
-    painter.fillRect(left, 64, width, 2, Ink::Accent);
-    for (const int upright : {left, 1162, kRight - 1}) {
-        painter.fillRect(upright, 19, 1, 45, Ink::Rule);
-    }
-}
-
-void DrawGridRules(QPainter& painter)
-{
-    constexpr int bottom = RowTop(kRows) + kBoxHeight + 1;
-    for (int row = 1; row <= kRows; ++row) {
-        painter.fillRect(kNumberLeft, RowTop(row) + kBoxHeight + 1, kRight - kNumberLeft, 1, Ink::Rule);
-    }
-    painter.fillRect(kNumberLeft, kTop - 3, kRight - kNumberLeft, 1, Ink::Rule);
-    for (const int x : kColumnRules) {
-        painter.fillRect(x, kUpperHeads, 1, bottom - kUpperHeads, Ink::Rule);
-    }
-}
+constexpr RuledSheet kSheet{.frame = {8, 6, kWidth - 16, kHeight - 12},
+                            .head = {kNumberLeft, 14, kRight - kNumberLeft, 52},
+                            .headsTop = kUpperHeads,
+                            .firstRow = kTop - 2,
+                            .step = kStep,
+                            .rows = kRows,
+                            .lines = kColumnRules};
 
 } // namespace
 
@@ -153,7 +139,7 @@ void frmCalendario::BuildFoot()
     upPaginaGare->SetRange(0, (kPages - 1) * kRows, kRows);
     upPaginaGare->setFocusPolicy(Qt::TabFocus);
     upPaginaGare->setToolTip(QStringLiteral("pagina (Pag Giù e Pag Su)"));
-    upPaginaGare->setAccessibleName(QStringLiteral("pagina delle gare"));
+    upPaginaGare->setAccessibleName(QStringLiteral("Pagina delle gare"));
     upPaginaGare->Change = [this] { upPaginaGare_Change(); };
     const auto make = [this](const char* name, TextView caption, int fromRight, std::function<void()> click) {
         constexpr int step = kButtonWidth + 14;
@@ -163,15 +149,24 @@ void frmCalendario::BuildFoot()
     cmdSalva = make("cmdSalva", "Salva", 2, [this] { cmdSalva_Click(); });
     cmdStampa = make("cmdStampa", "Stampa", 1, [this] { cmdStampa_Click(); });
     cmdEsci = make("cmdEsci", "Esci", 0, [this] { Unload(); });
+    grid_.beside = {cmdSalva, cmdStampa, cmdEsci};
+}
+
+/// Turns the page by a key, which unlike the arrow of the pages leaves the box that has the focus.
+void frmCalendario::TurnPage(bool forward)
+{
+    if (!FocusController::Instance().Refuses(nullptr)) {
+        forward ? upPaginaGare->StepUp(1) : upPaginaGare->StepDown(1);
+    }
 }
 
 void frmCalendario::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_PageDown) {
-        upPaginaGare->StepUp(1);
+        TurnPage(true);
     } else if (event->key() == Qt::Key_PageUp) {
-        upPaginaGare->StepDown(1);
-    } else {
+        TurnPage(false);
+    } else if (!grid_.MoveByKey(*event)) {
         Form::keyPressEvent(event);
     }
 }
@@ -179,10 +174,9 @@ void frmCalendario::keyPressEvent(QKeyEvent* event)
 void frmCalendario::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.setPen(Ink::Rule.darker(108));
-    painter.drawRect(rect().adjusted(8, 6, -9, -7));
-    DrawHead(painter);
-    DrawGridRules(painter);
+    DrawRuledSheet(painter, kSheet);
+    // Before the arrows of the pages.
+    DrawRule(painter, QRectF(1162, kSheet.head.top() + 5, 1, kSheet.head.height() - 7), Ink::Rule);
 }
 
 } // namespace zelvia

@@ -8,7 +8,9 @@
 #include "diary/Module1.h"
 #include "diary/RouteModel.h"
 #include "toolkit/Fonts.h"
-#include "toolkit/QtText.h"
+#include "toolkit/RuledSheet.h"
+
+#include <QPainter>
 
 #include <array>
 #include <numeric>
@@ -26,7 +28,7 @@ constexpr int kRows = 20;
 
 // Places, in logical pixels.
 constexpr QSize kSize{860, 636};
-constexpr int kTop = 40;
+constexpr int kTop = 45;
 constexpr int kRowStep = 27;
 constexpr int kRowHeight = 25;
 constexpr int kLabelLeft = 16;
@@ -42,7 +44,16 @@ constexpr int RowTop(int row)
     return kTop + (row - 1) * kRowStep;
 }
 
-constexpr int kTotalTop = RowTop(kRows + 1) + 10;
+constexpr int kTotalTop = RowTop(kRows + 1) + 6;
+
+constexpr int kColumnRules[] = {12, kTextLeft - 6, kKmLeft - 6, kMetriLeft - 4, 847};
+constexpr RuledSheet kSheet{.frame = {},
+                            .head = {12, 8, 836, 35},
+                            .headsTop = 13,
+                            .firstRow = kTop - 1,
+                            .step = kRowStep,
+                            .rows = kRows,
+                            .lines = kColumnRules};
 
 constexpr std::array<GridColumn, 3> kColumns = {{
     {"txtTratto", 80, false, {}, CellFormat::Plain, kTextLeft, kTextWidth, "descrizione"},
@@ -61,8 +72,8 @@ GridLook Look(int rows, int top)
             .top = top,
             .step = kRowStep,
             .height = kRowHeight,
-            .font = PageFont("Times New Roman", 16),
-            .digitsRight = false};
+            .font = PenFont(20),
+            .margins = {0, -1, 0, 0}};
 }
 
 i32 NumberIn(const TextBox* box)
@@ -108,15 +119,16 @@ frmDesPercorso::frmDesPercorso(QWidget* owner, RoutePage& page)
 void frmDesPercorso::BuildLabels()
 {
     const auto make = [this](const QString& name, TextView caption, int left, int top, int width) {
-        MakeLabel(this, name, caption, {left, top, width, kRowHeight}, PageFont("Times New Roman", 15));
+        return MakeLabel(this, name, caption, {left, top, width, kRowHeight}, PrintFont(15));
     };
-    constexpr int headTop = 10;
+    constexpr int headTop = 15;
     make(QStringLiteral("lblDescrizione"), " Descrizione ", kTextLeft, headTop, 200);
-    make(QStringLiteral("lblKm"), " Km ", kKmLeft, headTop, kKmWidth);
-    make(QStringLiteral("lblMetri"), " Metri ", kMetriLeft, headTop, kMetriWidth);
+    make(QStringLiteral("lblKm"), " Km ", kKmLeft, headTop, kKmWidth)->setAlignment(Qt::AlignCenter);
+    make(QStringLiteral("lblMetri"), " Metri ", kMetriLeft, headTop, kMetriWidth)->setAlignment(Qt::AlignCenter);
     for (int row = 1; row <= kRows; ++row) {
         const Text caption = (row < 10 ? " " : "") + PlainText(i32(row)) + Text("°Tratto"_t);
-        make(Indexed("lblTratto", row), caption, kLabelLeft, RowTop(row), kTextLeft - kLabelLeft - 8);
+        make(Indexed("lblTratto", row), caption, kLabelLeft, RowTop(row), kTextLeft - kLabelLeft - 12)
+            ->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         make(Indexed("lblDescr", row), "", kTextLeft, RowTop(row), kTextWidth);
     }
     make(QStringLiteral("lblTotale"), " Totale", kKmLeft - 80, kTotalTop, 76);
@@ -127,7 +139,7 @@ void frmDesPercorso::BuildGrid()
     // Every key counts as a change, one that is thrown away too. What is pasted, cut or undone comes without a key.
     grid_.Edited = [] { FileModificato = 1; };
     grid_.Build(this, Look(kRows, kTop));
-    grid_.Speak("Tratto");
+    grid_.Speak();
     for (int row = 1; row <= kRows; ++row) {
         txtTratto[row] = grid_.Box(0, row);
         txtKm[row] = grid_.Box(1, row);
@@ -140,8 +152,11 @@ void frmDesPercorso::BuildTotals()
 {
     txtDistanzaKm = MakeBox(this, kTotals[0], Look(1, kTotalTop));
     txtDistanzaMetri = MakeBox(this, kTotals[1], Look(1, kTotalTop));
-    txtDistanzaKm->setReadOnly(true);
-    txtDistanzaMetri->setReadOnly(true);
+    for (TextBox* total : {txtDistanzaKm, txtDistanzaMetri}) {
+        total->setReadOnly(true);
+        total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    grid_.beside = {txtDistanzaKm};
 }
 
 void frmDesPercorso::VisualizzaListaPercorso()
@@ -205,6 +220,19 @@ void frmDesPercorso::AzzeraVideo()
         txtDistanzaKm->SetContent({});
         txtDistanzaMetri->SetContent({});
     });
+}
+
+void frmDesPercorso::keyPressEvent(QKeyEvent* event)
+{
+    if (!grid_.MoveByKey(*event)) {
+        Form::keyPressEvent(event);
+    }
+}
+
+void frmDesPercorso::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    DrawRuledSheet(painter, kSheet);
 }
 
 void frmDesPercorso::OnUnload()

@@ -21,7 +21,7 @@ public:
 };
 
 /// The window that describes the stretches of one route, the one named by PercorsoCorrente. Closing it stores them and
-/// hands their total to the day page as its distance.
+/// gives their total to the day page as its distance.
 class frmDesPercorso : public Form
 {
     Q_OBJECT
@@ -49,6 +49,8 @@ public:
 
 protected:
     void OnUnload() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void BuildGrid();

@@ -45,6 +45,10 @@ private Q_SLOTS:
     void enterEndsWithTheGrid();
     void enterGoesAlongTheDate();
     void tabGoesAlongTheRow();
+    void keysGoAlongTheColumn();
+    void f6GoesToTheButtonsAndBack();
+    void keysAlongTheColumnAreRefusedToo_data();
+    void keysAlongTheColumnAreRefusedToo();
     void theLimitsThemselvesPass();
     void aRefusedPressDoesNotFire_data();
     void aRefusedPressDoesNotFire();
@@ -141,7 +145,7 @@ void EditorKeysTest::enterEndsWithTheGrid()
     for (int i = 0; i < 2; ++i) {
         hand::Key(Qt::Key_Return);
         QCOMPARE(TableDesk::Focused(), QByteArray("txtRipetTempi(31)"));
-        // Not left, so not written anew.
+        // Not left, so not rewritten.
         QCOMPARE(desk.Held(RipetTempi, 31), QByteArray("7"));
     }
     desk.Write(desk.Box(RipetTempi, 31), QStringLiteral("60"));
@@ -179,6 +183,107 @@ void EditorKeysTest::tabGoesAlongTheRow()
                               : desk.Box(static_cast<Column>(i % kColumns), 30 + i / kColumns).objectName().toLatin1();
         QTRY_COMPARE(TableDesk::Focused(), expected);
     }
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorKeysTest::keysGoAlongTheColumn()
+{
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* next;
+    } steps[] = {
+        {Qt::Key_Down, {}, "txtFondo(31)"},
+        {Qt::Key_Down, {}, "txtFondo(31)"},
+        {Qt::Key_Up, {}, "txtFondo(30)"},
+        {Qt::Key_Home, Qt::ControlModifier, "txtFondo(1)"},
+        {Qt::Key_Up, {}, "txtFondo(1)"},
+        {Qt::Key_Down, {}, "txtFondo(2)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtFondo(31)"},
+    };
+    TableDesk desk;
+    desk.StartNew();
+    desk.Write(desk.Box(Fondo, 30), QStringLiteral("PISTA"));
+    for (const auto& step : steps) {
+        hand::Key(step.key, step.modifiers);
+        QTRY_COMPARE(TableDesk::Focused(), QByteArray(step.next));
+    }
+    // Leaving wrote the text again, and is no click.
+    QCOMPARE(desk.Row(30), QByteArray("|||||||||Pista||||"));
+    // The signs of the repetitions come and go as they do on Tab.
+    hand::Key(Qt::Key_Tab);
+    QTRY_COMPARE(desk.Editor()->StripOf(LblRipetizioni, 31)->text(), QLatin1String(kRepetitionStrip.data()));
+    hand::Key(Qt::Key_Up);
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtRipetVolte(30)"));
+    QCOMPARE(desk.Editor()->StripOf(LblRipetizioni, 31)->text(), QLatin1String(kBlankRepetitionStrip.data()));
+    QCOMPARE(desk.Editor()->StripOf(LblRipetizioni, 30)->text(), QLatin1String(kRepetitionStrip.data()));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void EditorKeysTest::f6GoesToTheButtonsAndBack()
+{
+    TableDesk desk(CalendarDate(2026, 3, 1));
+    desk.SetActive("Base 10 km.tab");
+    desk.StartWith("Base 10 km.tab");
+    hand::Click(desk.Box(Andatura, 17));
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtAndatura(17)"));
+    hand::Key(Qt::Key_F6);
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("cmdOK"));
+    // From any button, and from the start date, to the box that was left.
+    const std::pair<const char*, Qt::KeyboardModifiers> places[] = {
+        {"cmdOK", {}}, {"cmdSalva", {}}, {"txtMeseInizio", Qt::ShiftModifier}};
+    for (const auto& [place, modifiers] : places) {
+        TableDesk::TabTo(place, modifiers);
+        hand::Key(Qt::Key_F6);
+        QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtAndatura(17)"));
+        hand::Key(Qt::Key_F6);
+        QTRY_COMPARE(TableDesk::Focused(), QByteArray("cmdOK"));
+    }
+    VERIFY_SCRIPT(desk.script);
+
+    // A button that can't be pressed is passed over.
+    hand::Key(Qt::Key_Return);
+    QCOMPARE(desk.Enabled(), QByteArray("cmdOK cmdDisattiva"));
+    hand::Click(*desk.Editor()->cmdDisattiva);
+    hand::Click(*desk.Editor()->cmdOK);
+    QTRY_COMPARE(desk.Enabled(), QByteArray("cmdAttiva"));
+    hand::Key(Qt::Key_F6);
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("txtAndatura(17)"));
+    hand::Key(Qt::Key_F6);
+    QTRY_COMPARE(TableDesk::Focused(), QByteArray("cmdAttiva"));
+}
+
+void EditorKeysTest::keysAlongTheColumnAreRefusedToo_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<QByteArray>("next");
+    const auto row = [](const char* name, Qt::Key key, const char* next, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::newRow(name) << key << modifiers << QByteArray(next);
+    };
+    row("Up", Qt::Key_Up, "txtMinuti(1)");
+    row("Down", Qt::Key_Down, "txtMinuti(3)");
+    row("Ctrl+Home", Qt::Key_Home, "txtMinuti(1)", Qt::ControlModifier);
+    row("Ctrl+End", Qt::Key_End, "txtMinuti(31)", Qt::ControlModifier);
+    row("F6", Qt::Key_F6, "cmdOK");
+}
+
+void EditorKeysTest::keysAlongTheColumnAreRefusedToo()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(QByteArray, next);
+    const auto press = [&] { hand::Key(key, modifiers); };
+    TableDesk desk;
+    WriteTooManyMinutes(desk, 2);
+    desk.script.Expect(Warning(kMaxMinutes));
+    press();
+    desk.AwaitBoxes();
+    VerifyStillRefuses(desk, 2);
+    desk.Write(desk.Box(Minuti, 2), QStringLiteral("7"));
+    press();
+    QTRY_COMPARE(TableDesk::Focused(), next);
+    QCOMPARE(desk.Held(Minuti, 2), QByteArray("07"));
     VERIFY_SCRIPT(desk.script);
 }
 

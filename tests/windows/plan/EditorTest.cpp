@@ -4,6 +4,7 @@
 #include "support/TableDesk.h"
 #include "support/WindowTest.h"
 #include "toolkit/Colours.h"
+#include "toolkit/PagePalette.h"
 #include "windows/plan/PlanColumns.h"
 
 namespace zelvia::test
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void limitsHoldTheFocus();
     void aMovedDistanceLosesItsThousands();
     void activatesAndDeactivates();
+    void itsSheetIsRuledAndItsHeadsStandOverTheirBoxes();
 };
 
 void EditorTest::opensATableOfTheList()
@@ -123,6 +125,43 @@ void EditorTest::activatesAndDeactivates()
     QCOMPARE(desk.Caption("lblTabNomeFile"), QString());
     QCOMPARE(BackColour(*desk.Editor()->dateBoxes[0]), TableColours::Accepted);
     VERIFY_SCRIPT(desk.script);
+}
+
+/// The printed lines are on paper between the strips; what is written has the pen's face, and heads are printed.
+void EditorTest::itsSheetIsRuledAndItsHeadsStandOverTheirBoxes()
+{
+    TableDesk desk;
+    desk.StartNew();
+    const QImage shown = desk.Editor()->grab().toImage();
+    for (const int row : {1, 17, 31}) {
+        const QRect left = desk.Editor()->StripOf(LblKmt, row)->geometry();
+        const QRect right = desk.Editor()->StripOf(LblTempi, row)->geometry();
+        const int between = (left.right() + right.left()) / 2;
+        QCOMPARE(shown.pixelColor(left.center().x(), left.bottom() + 1), QColor(Ink::Rule));
+        QCOMPARE(shown.pixelColor(between, left.center().y()), QColor(Ink::Rule));
+    }
+    QVERIFY(desk.Box(Fondo, 1).font().italic());
+    QVERIFY(!desk.Editor()->lblGiorni[1]->font().italic());
+    QVERIFY(desk.Box(Km, 1).alignment().testFlag(Qt::AlignRight));
+
+    // The middle of the ink of a word of the heads is over the middle of its box.
+    const QRect heads = desk.Editor()->findChild<QWidget*>(QStringLiteral("lblTitoloKm"))->geometry();
+    for (const Column column : {Km, Metri, Ore, Minuti, Secondi, MediaMinuti, MediaMillesimi}) {
+        const QRect box = desk.Box(column, 1).geometry();
+        int first = 0;
+        int last = 0;
+        for (int x = box.left() - 2; x <= box.right() + 2; ++x) {
+            for (int y = heads.top(); y <= heads.bottom(); ++y) {
+                if (shown.pixelColor(x, y).lightness() < 160) {
+                    first = first == 0 ? x : first;
+                    last = x;
+                }
+            }
+        }
+        QVERIFY(first > 0);
+        const int off = std::abs((first + last) / 2 - box.center().x());
+        QVERIFY2(off <= 2, qPrintable(QStringLiteral("%1: %2").arg(column).arg(off)));
+    }
 }
 
 } // namespace zelvia::test

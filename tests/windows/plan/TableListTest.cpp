@@ -43,6 +43,8 @@ private Q_SLOTS:
     void theActiveTableIsSelected();
     void opensTheTableSelected_data();
     void opensTheTableSelected();
+    void anEntryOpensAtOnce_data();
+    void anEntryOpensAtOnce();
     void deletes_data();
     void deletes();
     void deletesTheActiveTableInOtherLetters();
@@ -122,14 +124,17 @@ void TableListTest::anEmptyFolder()
 
 void TableListTest::nothingSelected_data()
 {
-    QTest::addColumn<bool>("deletes");
-    QTest::newRow("OK") << false;
-    QTest::newRow("delete") << true;
+    QTest::addColumn<QByteArray>("way");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("OK") << QByteArray("cmdOK") << true;
+    QTest::newRow("Enter") << QByteArray("Enter") << true;
+    QTest::newRow("delete") << QByteArray("cmdCancellaTab") << false;
 }
 
 void TableListTest::nothingSelected()
 {
-    QFETCH(bool, deletes);
+    QFETCH(QByteArray, way);
+    QFETCH(bool, opens);
     PlanDesk desk;
     PutTwoTables(desk);
     desk.Activate("altrove/Alfa.tab");
@@ -138,10 +143,15 @@ void TableListTest::nothingSelected()
     desk.OpenList();
     Module1::NomeTabellaAperta = "da prima";
     desk.script.Expect(Warning(kChoose));
-    hand::Click(deletes ? *desk.List()->cmdCancellaTab : *desk.List()->cmdOK);
+    if (way == "Enter") {
+        QCOMPARE(TableDesk::Focused(), QByteArray("flbListaTabelle"));
+        hand::Key(Qt::Key_Return);
+    } else {
+        hand::Click(*desk.List()->findChild<Button*>(QLatin1String(way)));
+    }
     TRY_SCRIPT(desk.script);
     QCOMPARE(desk.Editor(), nullptr);
-    QCOMPARE(Module1::NomeTabellaAperta, deletes ? Text("da prima") : Text());
+    QCOMPARE(Module1::NomeTabellaAperta, opens ? Text() : Text("da prima"));
     Module1::NomeTabellaAperta.clear();
     QCOMPARE(desk.Entries(), (QByteArrayList{"Alfa.tab", "Beta.tab"}));
     QCOMPARE(desk.Pointer(), desk.PointerTo("altrove/Alfa.tab"));
@@ -208,6 +218,41 @@ void TableListTest::opensTheTableSelected()
     QCOMPARE(desk.Row(31), QByteArray("12|050|1|02|03|4|05|006|Media|Strada|7|1.500|8|09"));
     QCOMPARE(desk.StartDate(), QByteArray("1|6|2026"));
     QCOMPARE(Module1::NomeTabellaAperta, Text());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void TableListTest::anEntryOpensAtOnce_data()
+{
+    QTest::addColumn<std::function<void(const TableDesk&)>>("open");
+    const auto row = [](const char* name, const std::function<void(const TableDesk&)>& open) {
+        QTest::newRow(name) << open;
+    };
+    const auto press = [](Qt::Key key) {
+        hand::Key(Qt::Key_Down);
+        hand::Key(Qt::Key_Down);
+        hand::Key(key);
+    };
+    row("Return", [press](const TableDesk& /*desk*/) { press(Qt::Key_Return); });
+    row("Enter", [press](const TableDesk& /*desk*/) { press(Qt::Key_Enter); });
+    row("double click", [](const TableDesk& desk) {
+        ListBox& list = *desk.List()->flbListaTabelle;
+        hand::DoubleClick(*list.viewport(), list.visualItemRect(list.item(1)).center());
+    });
+}
+
+void TableListTest::anEntryOpensAtOnce()
+{
+    QFETCH(std::function<void(const TableDesk&)>, open);
+    PlanDesk desk;
+    PutTwoTables(desk);
+    desk.PutTable(QStringLiteral("Beta.tab"), TableBytes(QDate(2026, 6, 1)).SetRow(1, "12"));
+    desk.Begin();
+    desk.OpenList();
+    open(desk);
+    QTRY_VERIFY(desk.Editor() != nullptr);
+    QTRY_COMPARE(desk.Editor()->windowTitle(), QStringLiteral("Tabella allenamento : Beta    di   "));
+    QCOMPARE(desk.Row(1), QByteArray("12|||||||||||||"));
+    TableDesk::ToFront(*desk.Editor());
     VERIFY_SCRIPT(desk.script);
 }
 

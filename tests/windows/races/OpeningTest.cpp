@@ -52,7 +52,7 @@ void OpeningTest::opensFromTheMenu()
             const auto* box = window.findChild<TextBox*>(named(name));
             QVERIFY2(box != nullptr && box->isVisible() && window.rect().contains(box->geometry()), name);
             QCOMPARE(box->Limit(), limit);
-            QVERIFY(box->accessibleName().startsWith(QStringLiteral("Gara %1, ").arg(row)));
+            QVERIFY(box->accessibleName().endsWith(QStringLiteral(", riga %1").arg(row)));
         }
         QCOMPARE(window.findChild<Label*>(named("lblNumeroGara"))->text(), QString::number(row));
         for (const char* name : {"lblGiornoGara", "lblKmt", "lblTempi"}) {

@@ -15,6 +15,8 @@ class PagesTest : public QObject
 private Q_SLOTS:
     void fivePages();
     void pagesByTheKeys();
+    void theKeysTestTheBox();
+    void keysGoAlongTheColumn();
     void aTurnStoresThePage();
     void aTurnForgetsTheChangesOfAnother();
     void aTurnRemembersThePageLeft();
@@ -34,7 +36,7 @@ void PagesTest::fivePages()
         QVERIFY(desk.Window()->PrimaGaraPagina == first - 1);
         QVERIFY(desk.Window()->upPaginaGare->Value() == first - 1);
         QCOMPARE(desk.Window()->lblPaginaGare->text(), QStringLiteral("Pagina %1 di 5").arg(first / 20 + 1));
-        QCOMPARE(desk.Box(RaceColumn::Km, 20).accessibleName(), QStringLiteral("Gara %1, chilometri").arg(first + 19));
+        QCOMPARE(desk.Box(RaceColumn::Km, 20).accessibleName(), QStringLiteral("Chilometri, riga %1").arg(first + 19));
     }
     QCOMPARE(desk.Row(20), QByteArray("31|12|2026|San Silvestro||||||||||"));
     for (const int first : {61, 41, 21, 1, 1}) {
@@ -57,7 +59,7 @@ void PagesTest::pagesByTheKeys()
     hand::Key(Qt::Key_PageUp);
     QTRY_COMPARE(desk.FirstNumber(), QByteArray("21"));
     QCOMPARE(CalendarDesk::Focused(), QByteArray("txtRisultatoCat(20)"));
-    // Behind the last box come the arrows of the pages and the buttons.
+    // After the last box come the arrows of the pages and the buttons.
     hand::Key(Qt::Key_Tab);
     QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("upPaginaGare"));
     hand::Key(Qt::Key_Up);
@@ -71,6 +73,61 @@ void PagesTest::pagesByTheKeys()
     const QPointer<frmCalendario> window = desk.Window();
     hand::Key(Qt::Key_Return);
     QTRY_VERIFY(window.isNull());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void PagesTest::theKeysTestTheBox()
+{
+    CalendarDesk desk;
+    desk.StartOpen();
+    desk.Write(RaceColumn::Minuti, 1, QStringLiteral("75"));
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_Down}) {
+        desk.script.Expect(Warning(QStringLiteral("MAX 59 MINUTI                ")));
+        hand::Key(key);
+        TRY_SCRIPT(desk.script);
+        CalendarDesk::AwaitFront(*desk.Window());
+        QCOMPARE(desk.FirstNumber(), QByteArray("1"));
+        QCOMPARE(CalendarDesk::Focused(), QByteArray("txtMinuti(1)"));
+    }
+    desk.Write(RaceColumn::Minuti, 1, QStringLiteral("5"));
+    hand::Key(Qt::Key_PageDown);
+    QTRY_COMPARE(desk.FirstNumber(), QByteArray("21"));
+    QVERIFY(Module1::MinutiGara[1] == 5);
+    hand::Key(Qt::Key_PageUp);
+    QTRY_COMPARE(desk.Row(1), QByteArray("||||||||||05|||"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void PagesTest::keysGoAlongTheColumn()
+{
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* next;
+    } steps[] = {
+        {Qt::Key_Up, {}, "txtGiornoGara(1)"},
+        {Qt::Key_Down, {}, "txtGiornoGara(2)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtGiornoGara(20)"},
+        {Qt::Key_Down, {}, "txtGiornoGara(20)"},
+        {Qt::Key_Up, {}, "txtGiornoGara(19)"},
+        {Qt::Key_Home, Qt::ControlModifier, "txtGiornoGara(1)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtGiornoGara(20)"},
+        {Qt::Key_F6, {}, "cmdSalva"},
+        {Qt::Key_F6, {}, "txtGiornoGara(20)"},
+        {Qt::Key_F6, {}, "cmdSalva"},
+        {Qt::Key_Tab, {}, "cmdStampa"},
+        {Qt::Key_F6, {}, "txtGiornoGara(20)"},
+    };
+    CalendarDesk desk;
+    desk.StartOpen();
+    QTRY_COMPARE(CalendarDesk::Focused(), QByteArray("txtGiornoGara(1)"));
+    for (const auto& step : steps) {
+        hand::Key(step.key, step.modifiers);
+        QTRY_COMPARE(CalendarDesk::Focused(), QByteArray(step.next));
+    }
+    // The dashes come and go as they do on Tab.
+    QCOMPARE(desk.Dashes(20), QByteArray("      -      -    "));
+    QCOMPARE(desk.Dashes(19), QByteArray("                  "));
     VERIFY_SCRIPT(desk.script);
 }
 

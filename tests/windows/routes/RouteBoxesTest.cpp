@@ -14,6 +14,7 @@ class RouteBoxesTest : public QObject
 
 private Q_SLOTS:
     void enterWalksThroughTheRows();
+    void keysGoAlongTheColumn();
     void typingTakesTheTextsPlace();
     void onlyDigitsPass_data();
     void onlyDigitsPass();
@@ -44,6 +45,41 @@ void RouteBoxesTest::enterWalksThroughTheRows()
     hand::Type(QStringLiteral("5"));
     QTRY_COMPARE(window.txtMetri[20]->text(), QStringLiteral("5"));
     QVERIFY(window.txtMetri[20]->hasFocus());
+    page.CloseRouteWindow();
+    VERIFY_SCRIPT(page.script);
+}
+
+void RouteBoxesTest::keysGoAlongTheColumn()
+{
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* next;
+    } steps[] = {
+        {Qt::Key_Down, {}, "txtKm(2)"},
+        {Qt::Key_Up, {}, "txtKm(1)"},
+        {Qt::Key_Up, {}, "txtKm(1)"},
+        {Qt::Key_End, Qt::ControlModifier, "txtKm(20)"},
+        {Qt::Key_Down, {}, "txtKm(20)"},
+        {Qt::Key_Home, Qt::ControlModifier, "txtKm(1)"},
+        // There are no buttons: F6 goes to the total.
+        {Qt::Key_F6, {}, "txtDistanzaKm"},
+        {Qt::Key_F6, {}, "txtKm(1)"},
+    };
+    EntryPage page;
+    page.Start();
+    OpenEntry(page, 1);
+    const frmDesPercorso& window = Opened(page);
+    TypeInto(*window.txtKm[1], QStringLiteral("21"));
+    QTRY_COMPARE(window.txtKm[1]->text(), QStringLiteral("21"));
+    Module1::FileModificato = 0;
+    for (const auto& step : steps) {
+        hand::Key(step.key, step.modifiers);
+        QTRY_COMPARE(EntryPage::Focused(), QByteArray(step.next));
+    }
+    // Leaving the box added up; the keys entered nothing.
+    QCOMPARE(window.txtDistanzaKm->text(), QStringLiteral("21"));
+    QVERIFY(Module1::FileModificato == 0);
     page.CloseRouteWindow();
     VERIFY_SCRIPT(page.script);
 }

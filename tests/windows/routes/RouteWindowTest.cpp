@@ -3,7 +3,9 @@
 // The window of a route's description: when it opens, what it shows and what its closing stores.
 #include "core/Messages.h"
 #include "diary/RouteModel.h"
+#include "support/WholeHand.h"
 #include "support/WindowTest.h"
+#include "toolkit/PagePalette.h"
 #include "windows/routes/RouteHand.h"
 
 namespace zelvia::test
@@ -77,6 +79,20 @@ void RouteWindowTest::itsControls()
         QVERIFY(window.findChild<TextBox*>(Name("txtKm", row))->Limit() == 2);
         QVERIFY(window.findChild<TextBox*>(Name("txtMetri", row))->Limit() == 3);
         QVERIFY(window.findChild<QWidget*>(Name("lblDescr", row)) != nullptr);
+    }
+    for (const TextBox* number :
+         {window.txtKm[1], window.txtMetri[20], window.txtDistanzaKm, window.txtDistanzaMetri}) {
+        QVERIFY(number->alignment().testFlag(Qt::AlignRight));
+        QVERIFY(number->font().italic());
+    }
+    QVERIFY(window.txtTratto[1]->font().italic());
+    QVERIFY(ShowsWholeHand(*window.txtTratto[1]));
+    QVERIFY(!window.findChild<QWidget*>(QStringLiteral("lblDescrizione"))->font().italic());
+    // A printed line under each row.
+    const QImage sheet = window.grab().toImage();
+    for (int row = 1; row <= 20; ++row) {
+        const QRect box = window.txtTratto[row]->geometry();
+        QCOMPARE(sheet.pixelColor(box.center().x(), box.bottom() + 2), QColor(Ink::Rule));
     }
     QVERIFY(window.txtDistanzaKm->isReadOnly());
     QVERIFY(window.txtDistanzaMetri->isReadOnly());
