@@ -6,6 +6,8 @@
 #include "toolkit/Events.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Picture.h"
+#include "toolkit/ScreenFit.h"
+#include "toolkit/WindowPlaces.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -38,9 +40,7 @@ void Form::LayOnPaper(const QSize& size)
 
 void Form::ShowInFront()
 {
-    show();
-    raise();
-    activateWindow();
+    WindowPlaces::Instance().ShowInFront(*this);
 }
 
 Form* Form::Of(QWidget* widget)
@@ -73,15 +73,27 @@ void Form::NoteBlocking(QEvent::Type type)
 bool Form::event(QEvent* event)
 {
     NoteBlocking(event->type());
-    const auto& helpKey = Application::Instance().HelpKey;
-    if (event->type() == QEvent::KeyPress && helpKey) {
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) {
-            Fire([&] { helpKey(objectName()); });
-            return true;
-        }
+    if (event->type() == QEvent::Polish) {
+        FitToScreen(*this, sink_->Widget());
+    }
+    if (event->type() == QEvent::KeyPress && TakeKey(static_cast<const QKeyEvent&>(*event))) {
+        return true;
     }
     return QWidget::event(event);
+}
+
+bool Form::TakeKey(const QKeyEvent& key)
+{
+    const auto& helpKey = Application::Instance().HelpKey;
+    if (helpKey && key.key() == Qt::Key_F1 && key.modifiers() == Qt::NoModifier) {
+        Fire([&] { helpKey(objectName()); });
+        return true;
+    }
+    if (key.key() == Qt::Key_W && key.modifiers() == Qt::ControlModifier && !WindowPlaces::Instance().IsMain(*this)) {
+        close();
+        return true;
+    }
+    return false;
 }
 
 void Form::showEvent(QShowEvent* event)

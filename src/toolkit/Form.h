@@ -28,7 +28,7 @@ public:
     /// The control that takes the focus when none should have it.
     virtual Control& FocusSink();
 
-    /// Shows the window, or brings the one that is open to the front.
+    /// Shows the window over the main one, or brings the one that is open to the front.
     void ShowInFront();
 
     /// Ends the window as its close box does. False when it refused.
@@ -44,7 +44,7 @@ public:
     static Form* Of(QWidget* widget);
 
 protected:
-    /// Gives the window the look of paper, and a size that stays.
+    /// Gives the window the look of paper, and a size that stays. On a screen without room for it the contents scroll.
     void LayOnPaper(const QSize& size);
 
     bool event(QEvent* event) override;
@@ -57,6 +57,7 @@ protected:
 
 private:
     void NoteBlocking(QEvent::Type type);
+    bool TakeKey(const QKeyEvent& key);
 
     Control* sink_;
     bool unloaded_ = false;

@@ -3,7 +3,7 @@
 #include "windows/guide/HelpWindow.h"
 
 #include "toolkit/Fonts.h"
-#include "toolkit/PagePalette.h"
+#include "toolkit/WindowPlaces.h"
 #include "windows/guide/HelpPage.h"
 #include "windows/guide/SearchPane.h"
 
@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -41,13 +42,11 @@ QPushButton* MakeButton(const char* name, const QString& caption, const QString&
 HelpWindow::HelpWindow(std::unique_ptr<HelpFile> file) : file_(std::move(file))
 {
     setObjectName(QStringLiteral("HelpWindow"));
-    setWindowTitle(QStringLiteral("Guida di Zelvia"));
-    setPalette(PagePalette());
-    setAutoFillBackground(true);
+    setWindowTitle(tr("Guida di Zelvia"));
     // The guide must not keep a program alive whose page is closed.
     setAttribute(Qt::WA_QuitOnClose, false);
     constexpr QSize wide(1000, 660);
-    resize(wide.boundedTo(screen()->availableSize()));
+    resize(wide.boundedTo(WindowPlaces::Instance().RoomFor(*this)));
     BuildPanes();
     BuildButtons();
     BuildKeys();
@@ -77,7 +76,7 @@ void HelpWindow::BuildPanes()
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(tabs_);
     splitter->addWidget(page_);
-    constexpr int contentsWidth = 270;
+    constexpr int contentsWidth = 310;
     splitter->setSizes({contentsWidth, width() - contentsWidth});
     splitter->setStretchFactor(1, 1);
     auto* layout = new QVBoxLayout(this);
@@ -89,6 +88,12 @@ void HelpWindow::BuildPanes()
     });
     connect(contents_->selectionModel(), &QItemSelectionModel::currentChanged, this, &HelpWindow::FollowContents);
     connect(contents_, &QHelpContentWidget::linkActivated, this, &HelpWindow::GoTo);
+    connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        // The letter of a tab brings its pane up from anywhere; the arrows go along the tabs.
+        if (!tabs_->tabBar()->hasFocus()) {
+            tabs_->currentWidget() == search_ ? search_->TakeFocus() : contents_->setFocus(Qt::ShortcutFocusReason);
+        }
+    });
     connect(search_, &SearchPane::Chosen, this, &HelpWindow::ShowFound);
     connect(page_, &HelpPage::sourceChanged, this, &HelpWindow::FollowPage);
     file_->Engine().contentModel()->createContents(QString());
@@ -140,6 +145,7 @@ void HelpWindow::BuildKeys()
         std::function<void()> act;
     } rows[] = {
         {Qt::Key_Escape, [this] { close(); }},
+        {Qt::CTRL | Qt::Key_W, [this] { close(); }},
         {Qt::Key_F1, [this] { ShowContents(); }},
         {Qt::ALT | Qt::Key_Left, [this] { page_->backward(); }},
         {Qt::ALT | Qt::Key_Right, [this] { page_->forward(); }},
@@ -162,12 +168,7 @@ void HelpWindow::BuildKeys()
 
 void HelpWindow::BringToFront()
 {
-    if (isMinimized()) {
-        showNormal();
-    }
-    show();
-    raise();
-    activateWindow();
+    WindowPlaces::Instance().ShowInFront(*this);
 }
 
 void HelpWindow::ShowContents()

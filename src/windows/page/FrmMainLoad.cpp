@@ -8,6 +8,7 @@
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
+#include "toolkit/WindowPlaces.h"
 #include "windows/page/FrmMain.h"
 #include "windows/page/PageArt.h"
 #include "windows/page/PageJournal.h"
@@ -54,6 +55,7 @@ frmMain::frmMain()
     BuildPage(*this, page);
     BuildMenus(*bar);
     ConnectFields();
+    WindowPlaces::Instance().SetMain(this);
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().RoutineEnded = [this, journal = PageJournal(*this)]() mutable {
         journal.Update();

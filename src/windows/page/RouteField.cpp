@@ -32,7 +32,7 @@ void RouteField::OnClosed(const Text& text, i16 listed)
     PercorsoCorrente = text;
     if (listed == 0) {
         SalvaNomePercorso();
-        // On a text that was listed already the hand stays on the captions until the next field closes.
+        // On a text that was listed already the captions keep the hand pointer until the next field closes.
         page_.CursoreNormale();
     }
 }
@@ -58,7 +58,7 @@ void RouteField::CopyLastRun(const Text& route)
 void RouteField::RemoveSelected()
 {
     if (controls_.lst->ListIndex() >= 0) {
-        // A route without a description has been described at place 0, which must not hand it on to another one.
+        // A route without a description has been described at place 0, which must not pass it on to another one.
         const i16 description = NumeroPercorso();
         SelectionField::RemoveSelected();
         AzzeraPercorso(description);
@@ -124,7 +124,7 @@ void RouteField::mnuDescrizionePercorso_Click()
 void RouteField::ShowDescription(const Text& name)
 {
     frmDesPercorso& window = description_.Load(&page_, page_);
-    window.show();
+    window.ShowInFront();
     window.setWindowTitle(ToQString("Percorso : " + name));
 }
 

@@ -7,6 +7,7 @@
 #include "diary/StatisticSheets.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/Printer.h"
+#include "toolkit/WindowPlaces.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -71,7 +72,7 @@ frmGrafici::frmGrafici()
                                  [ink](QPainter& painter, const QRectF& area) { painter.fillRect(area, ink); });
     }
     setMinimumSize(kSmallest);
-    resize(kSize);
+    resize(kSize.boundedTo(WindowPlaces::Instance().RoomFor(*this)));
 }
 
 void frmGrafici::resizeEvent(QResizeEvent* event)

@@ -3,6 +3,7 @@
 // The window of the guide, worked by hand.
 #include "support/WindowTest.h"
 
+#include "support/Centred.h"
 #include "support/EntryPage.h"
 #include "support/TempFolder.h"
 #include "windows/plan/FrmTabAllenamenti.h"
@@ -20,6 +21,7 @@
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QTreeView>
+#include <QWindow>
 
 namespace zelvia::test
 {
@@ -120,7 +122,10 @@ private Q_SLOTS:
     void TheContentsFollowThePage();
     void TextIsFoundOnThePage();
     void PicturesFit();
-    void EscapeCloses();
+    void KeysClose_data();
+    void KeysClose();
+    void ItComesUpOverThePageAndStaysWhereItWas();
+    void ItIsReadOverADescription();
     void TabReachesEveryControl();
     void TheKeyInAnotherWindowOpensItsTopic_data();
     void TheKeyInAnotherWindowOpensItsTopic();
@@ -207,6 +212,14 @@ void WindowTest::TheSearchOpensWithTheKeyboardInItsBox()
     Reader::AwaitGuide();
     QTRY_VERIFY(words.hasFocus());
     QCOMPARE(words.selectedText(), QStringLiteral("peso"));
+
+    // The letters of the tabs go to what they bring up.
+    Reader::Shown().setFocus();
+    hand::Key(Qt::Key_S, Qt::AltModifier);
+    QTRY_VERIFY(Reader::Contents().hasFocus());
+    Reader::Shown().setFocus();
+    hand::Key(Qt::Key_C, Qt::AltModifier);
+    QTRY_VERIFY(words.hasFocus());
 }
 
 void WindowTest::AFoundPageShowsThePlace()
@@ -375,14 +388,24 @@ void WindowTest::PicturesFit()
     QCOMPARE(Reader::Shown().horizontalScrollBar()->maximum(), 0);
 }
 
-void WindowTest::EscapeCloses()
+void WindowTest::KeysClose_data()
 {
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::newRow("Escape") << Qt::Key_Escape << Qt::KeyboardModifiers();
+    QTest::newRow("Ctrl+W") << Qt::Key_W << Qt::KeyboardModifiers(Qt::ControlModifier);
+}
+
+void WindowTest::KeysClose()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
     Reader reader;
     reader.Open();
     const QPointer<QWidget> window = Reader::Window();
     hand::Key(Qt::Key_Down);
     QTRY_COMPARE(Reader::Address(), QStringLiteral("/guida/primogiorno.html"));
-    hand::Key(Qt::Key_Escape);
+    hand::Key(key, modifiers);
     QTRY_VERIFY(Reader::Window() == nullptr);
     QVERIFY(reader->isVisible());
     reader.TakeFront();
@@ -394,8 +417,59 @@ void WindowTest::EscapeCloses()
     // From a box, too.
     hand::Key(Qt::Key_F, Qt::ControlModifier);
     QTRY_VERIFY(Reader::Part<QLineEdit>("find").hasFocus());
-    hand::Key(Qt::Key_Escape);
+    hand::Key(key, modifiers);
     QTRY_VERIFY(Reader::Window() == nullptr);
+}
+
+void WindowTest::ItComesUpOverThePageAndStaysWhereItWas()
+{
+    Reader reader;
+    reader.Open();
+    QWidget& window = *Reader::Window();
+    QCOMPARE(window.windowHandle()->transientParent(), reader->windowHandle());
+    // The border of a window that can be resized is wider below.
+    constexpr int wider = 4;
+    QTRY_VERIFY(OffCentre(window, reader.Page()) <= wider);
+    const QPoint moved = MoveBy(window, {-29, 17});
+    QTRY_COMPARE(PlaceOf(window), moved);
+    for (int i = 0; i < 2; ++i) {
+        hand::Key(Qt::Key_Escape);
+        QTRY_VERIFY(Reader::Window() == nullptr);
+        reader.TakeFront();
+        hand::Key(Qt::Key_F1);
+        Reader::AwaitGuide();
+        QTRY_COMPARE(PlaceOf(window), moved);
+    }
+}
+
+void WindowTest::ItIsReadOverADescription()
+{
+    Reader reader;
+    reader.Open();
+    const QPointer<QWidget> guide = Reader::Window();
+    reader->activateWindow();
+    EntryPage::AwaitFront(reader.Page());
+    reader.EntryPage::Open(*reader.Field(1).lblImmis, Way::Enter);
+    reader.TypeOver(*reader.Field(1).txt, QStringLiteral("Delta"));
+    hand::Key(Qt::Key_Return);
+    QTRY_VERIFY(reader.RouteWindow() != nullptr);
+    reader.RouteWindow()->activateWindow();
+    EntryPage::AwaitFront(*reader.RouteWindow());
+    // The description blocks the page and what belongs to it, the guide only until that is asked for.
+    hand::Key(Qt::Key_F1);
+    Reader::AwaitGuide();
+    QCOMPARE(Reader::Window(), guide.data());
+    hand::Key(Qt::Key_F, Qt::ControlModifier);
+    QTRY_VERIFY(Reader::Part<QLineEdit>("find").hasFocus());
+    // It outlives the description.
+    reader.RouteWindow()->activateWindow();
+    reader.CloseRouteWindow();
+    QVERIFY(guide->isVisible());
+    reader->activateWindow();
+    EntryPage::AwaitFront(reader.Page());
+    hand::Key(Qt::Key_F1);
+    Reader::AwaitGuide();
+    QCOMPARE(guide->windowHandle()->transientParent(), reader->windowHandle());
 }
 
 void WindowTest::TabReachesEveryControl()
@@ -535,7 +609,7 @@ void WindowTest::RefusedFiles()
         QVERIFY(HelpWindows().isEmpty());
     }
 
-    // Once it is mended the guide opens.
+    // Once it is repaired the guide opens.
     reader.folder.Write(QStringLiteral("Guida.hlp"), GuideBytes());
     reader.TakeFront();
     hand::Key(Qt::Key_F1);

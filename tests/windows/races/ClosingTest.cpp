@@ -6,6 +6,8 @@
 #include "support/CalendarDesk.h"
 #include "support/WindowTest.h"
 
+#include <QWindow>
+
 namespace zelvia::test
 {
 
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void anUnwritableFile();
     void theEndOfTheProgram_data();
     void theEndOfTheProgram();
+    void whatStaysIsAWindowOfItsOwn();
     void errorsOfTheQuestion();
 };
 
@@ -202,6 +205,24 @@ void ClosingTest::theEndOfTheProgram()
     QTRY_VERIFY(window.isNull());
     const bool saved = answer == QMessageBox::Yes;
     QCOMPARE(desk.File(), saved ? CalendarBytes().SetRow(1, "8|2|2026|Corrida").Bytes() : CalendarBytes().Bytes());
+    VERIFY_SCRIPT(desk.script);
+}
+
+void ClosingTest::whatStaysIsAWindowOfItsOwn()
+{
+    // As a child of the page it would not keep the program running.
+    CalendarDesk desk;
+    desk.StartOpen();
+    desk.WriteRow(1, "8|2|2026|Corrida");
+    const QPointer<frmCalendario> window = desk.Window();
+    QCOMPARE(window->windowHandle()->transientParent(), desk->windowHandle());
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::Cancel);
+    QVERIFY(desk.Page().Unload());
+    QVERIFY(!desk.Gone());
+    QVERIFY(window != nullptr && window->windowHandle()->transientParent() == nullptr);
+    desk.script.Expect(Messages::kRacesNotSaved, QMessageBox::No);
+    window->close();
+    QTRY_VERIFY(window.isNull());
     VERIFY_SCRIPT(desk.script);
 }
 
