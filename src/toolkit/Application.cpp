@@ -6,6 +6,7 @@
 #include "core/Files.h"
 #include "core/MessageBox.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Accessible.h"
 #include "toolkit/DrawnIcon.h"
 #include "toolkit/Events.h"
 #include "toolkit/FocusController.h"
@@ -14,8 +15,10 @@
 #include "toolkit/PageStyle.h"
 #include "toolkit/QtText.h"
 
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
@@ -113,6 +116,13 @@ void DressOnPaper()
     QApplication::setWindowIcon(DrawnIcon(DrawProgramIcon));
 }
 
+/// Shift+F10 stands for the menu key where the keyboard has none.
+bool IsMenuChord(QEvent& event)
+{
+    return event.type() == QEvent::KeyPress && static_cast<QKeyEvent&>(event).key() == Qt::Key_F10 &&
+           static_cast<QKeyEvent&>(event).modifiers() == Qt::ShiftModifier;
+}
+
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
@@ -120,6 +130,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationName(QLatin1String("zelvia"));
     DressOnPaper();
     InstallItalian(*this);
+    InstallAccessibility();
     FocusController::Instance();
     SetMsgBoxHandler(ShowMessageBox);
     SetScreenMousePointerHandler(ShowScreenPointer);
@@ -157,6 +168,12 @@ bool Application::notify(QObject* receiver, QEvent* event)
     }
     const QEvent::Type type = event->type();
     try {
+        if (receiver->isWidgetType() && IsMenuChord(*event)) {
+            const QPoint middle = static_cast<QWidget*>(receiver)->rect().center();
+            QContextMenuEvent menu(QContextMenuEvent::Keyboard, middle,
+                                   static_cast<QWidget*>(receiver)->mapToGlobal(middle));
+            return QApplication::notify(receiver, &menu);
+        }
         const bool done =
             FocusController::Instance().FilterInput(receiver, event) || QApplication::notify(receiver, event);
         lastCatch_.Passed(receiver, type);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/Button.h"
 
+#include "toolkit/Accessible.h"
 #include "toolkit/Events.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/Keys.h"
@@ -20,6 +21,13 @@ Button::Button(QWidget* parent, const QString& name, TextView caption)
     setObjectName(name);
     setAutoDefault(false);
     connect(this, &QPushButton::clicked, this, [this] { Fire(Click); });
+}
+
+void Button::SetSwitched(bool on)
+{
+    if (std::exchange(switched_, on) != on) {
+        TellSwitched(*this);
+    }
 }
 
 void Button::keyPressEvent(QKeyEvent* event)

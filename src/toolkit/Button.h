@@ -7,6 +7,8 @@
 
 #include <QPushButton>
 
+#include <optional>
+
 namespace zelvia
 {
 
@@ -20,8 +22,15 @@ public:
 
     std::function<void()> Click;
 
+    /// Of a button that switches something: whether that is on, for screen readers; none for any other.
+    std::optional<bool> Switched() const { return switched_; }
+    void SetSwitched(bool on);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    std::optional<bool> switched_;
 };
 
 /// A button in the face of the printed pages.

@@ -4,6 +4,7 @@
 
 #include "toolkit/Events.h"
 #include "toolkit/Form.h"
+#include "toolkit/Label.h"
 #include "toolkit/ListBox.h"
 #include "toolkit/ListView.h"
 
@@ -206,7 +207,8 @@ void FocusController::EndGrey(Control& control, bool enabled)
 void FocusController::LeaveField()
 {
     Control* focused = Focused();
-    if (Control* sink = focused == nullptr ? nullptr : SinkOf(*focused)) {
+    const bool open = focused != nullptr && dynamic_cast<const Label*>(focused) == nullptr;
+    if (Control* sink = open ? SinkOf(*focused) : nullptr) {
         sink->Widget().setFocus(Qt::OtherFocusReason);
         Enqueue(sink);
     }

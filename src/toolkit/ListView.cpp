@@ -39,9 +39,17 @@ void ListView::AddRow(std::initializer_list<TextView> texts)
     int column = 0;
     for (const TextView text : texts) {
         row->setText(column, ToQString(text));
+        row->setData(column, Qt::AccessibleTextRole,
+                     QString(headerItem()->text(column) + QLatin1Char(' ') + ToQString(text).trimmed()));
         row->setTextAlignment(column, Qt::AlignCenter);
         ++column;
     }
+}
+
+void ListView::rowsInserted(const QModelIndex& parent, int start, int end)
+{
+    QTreeWidget::rowsInserted(parent, start, end);
+    FrameFirstRow(*this);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event)

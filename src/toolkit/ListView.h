@@ -37,6 +37,7 @@ public:
     std::function<void(int keyAscii)> KeyPress;
 
 protected:
+    void rowsInserted(const QModelIndex& parent, int start, int end) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
 

@@ -14,6 +14,7 @@ namespace zelvia
 
 void FillMenu(QMenu& menu, const std::vector<MenuEntry>& entries, MenuKind kind)
 {
+    menu.setAccessibleName(menu.title().remove(QLatin1Char('&')));
     for (const MenuEntry& entry : entries) {
         QAction* action = entry.caption.empty() ? menu.addSeparator() : menu.addAction(ToQString(entry.caption));
         action->setObjectName(ToQString(entry.name));

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "toolkit/UpDown.h"
 
+#include "toolkit/Accessible.h"
 #include "toolkit/Events.h"
+#include "toolkit/Pixels.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -13,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace zelvia
 {
@@ -48,6 +51,16 @@ void UpDown::SetValue(i32 value)
     if (value != value_) {
         value_ = value;
         Fire(Change);
+        if (!spoken_) {
+            TellValue(*this, SpokenValue());
+        }
+    }
+}
+
+void UpDown::SetSpokenValue(i32 value)
+{
+    if (std::exchange(spoken_, value) != value) {
+        TellValue(*this, SpokenValue());
     }
 }
 
@@ -83,6 +96,9 @@ void UpDown::SetMarked(bool marked)
 {
     marked_ = marked;
     update();
+    if (marked) {
+        TellActive(*this);
+    }
 }
 
 void UpDown::StopRepeat()
@@ -143,10 +159,6 @@ void UpDown::timerEvent(QTimerEvent* event)
 
 void UpDown::wheelEvent(QWheelEvent* event)
 {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
     event->accept();
     // A fine wheel turns one notch in many events.
     for (turned_ += event->angleDelta().y(); std::abs(turned_) >= kNotch; turned_ -= turned_ > 0 ? kNotch : -kNotch) {
@@ -168,14 +180,21 @@ void UpDown::keyPressEvent(QKeyEvent* event)
 void UpDown::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    const QColor ink = palette().color(QPalette::WindowText);
+    const double factor = width() / double(kWidth);
+    {
+        const Pixels pixels(painter);
+        const int line = pixels.Of(1.0);
+        const QRect place = pixels.Of(rect());
+        const qreal inset = line / 2.0;
+        const QRectF frame = QRectF(place).adjusted(inset, inset, -inset, -inset);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(Marked() ? QPalette::Highlight : QPalette::Mid), line));
+        painter.setBrush(palette().color(QPalette::Button));
+        painter.drawRoundedRect(frame, pixels.Of(3.0), pixels.Of(3.0));
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const QColor ink = palette().color(QPalette::WindowText);
-    painter.setPen(
-        QPen(marked_.value_or(hasFocus()) ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid), 1));
-    painter.setBrush(palette().color(QPalette::Button));
-    painter.drawRoundedRect(frame, 3, 3);
-
     const qreal middle = frame.center().y();
     for (const Half half : {Half::Upper, Half::Lower}) {
         const bool upper = half == Half::Upper;
@@ -188,13 +207,14 @@ void UpDown::paintEvent(QPaintEvent* /*event*/)
             painter.drawRoundedRect(area.adjusted(1, 1, -1, -1), 2, 2);
         }
         const QPointF centre = area.center();
-        const qreal rise = upper ? -2.2 : 2.2;
+        const qreal wide = 4 * factor;
+        const qreal rise = (upper ? -2.2 : 2.2) * factor;
         QPainterPath arrow;
-        arrow.moveTo(centre.x() - 4, centre.y() - rise);
+        arrow.moveTo(centre.x() - wide, centre.y() - rise);
         arrow.lineTo(centre.x(), centre.y() + rise);
-        arrow.lineTo(centre.x() + 4, centre.y() - rise);
+        arrow.lineTo(centre.x() + wide, centre.y() - rise);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(ink, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(ink, 1.6 * factor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(arrow);
     }
 }

@@ -14,8 +14,8 @@ namespace zelvia
 {
 
 /// A spin control of two arrows: the upper half steps up, the lower half down, and again while held. It takes the focus
-/// by program only; wheel and arrow keys work while it has it. At its limit a step does nothing, there is no
-/// wrap-around. A value set by program is kept as it is, even beyond the limits.
+/// by program only; the arrow keys work while it has it, the wheel whenever the pointer is over it. At its limit a step
+/// does nothing, there is no wrap-around. A value set by program is kept as it is, even beyond the limits.
 class UpDown : public QWidget, public Control
 {
     Q_OBJECT
@@ -40,9 +40,14 @@ public:
 
     /// In a group whose keys go to one of several, whether they go to this one; of itself a spin shows its focus.
     void SetMarked(bool marked);
+    bool Marked() const { return marked_.value_or(hasFocus()); }
 
     i32 Value() const { return value_; }
     void SetValue(i32 value);
+
+    /// What screen readers say instead of a value that means nothing by itself.
+    void SetSpokenValue(i32 value);
+    int SpokenValue() const { return spoken_.value_or(value_).value(); }
 
     /// The value has changed, by the user or by program.
     std::function<void()> Change;
@@ -86,6 +91,7 @@ private:
     QBasicTimer repeat_;
     bool repeating_ = false;
     std::optional<bool> marked_;
+    std::optional<i32> spoken_;
     int turned_ = 0; ///< Of the wheel, beyond the last whole notch.
 };
 

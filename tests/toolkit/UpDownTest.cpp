@@ -37,7 +37,8 @@ private Q_SLOTS:
     void ABoxStopsTheRepeat();
     void HidingStopsTheRepeat();
     void OtherButtonsDoNothing();
-    void WheelAndArrowKeysNeedTheFocus();
+    void TheWheelStepsWhatIsUnderThePointer();
+    void ArrowKeysNeedTheFocus();
     void ItsPropertiesTellTheRange();
 
 private:
@@ -194,20 +195,27 @@ void UpDownTest::OtherButtonsDoNothing()
     QVERIFY(StaysFalse([this] { return changes_ > 0; }));
 }
 
-void UpDownTest::WheelAndArrowKeysNeedTheFocus()
+void UpDownTest::TheWheelStepsWhatIsUnderThePointer()
 {
     form_->Start(*form_->txtUno);
     hand::Wheel(*up_, kUpper, 1);
+    QTRY_COMPARE(up_->Value().value(), 1);
+    hand::Wheel(*up_, kLower, 2);
+    QTRY_COMPARE(up_->Value().value(), 3);
+    hand::Wheel(*up_, kLower, -1);
+    QTRY_COMPARE(up_->Value().value(), 2);
+    QCOMPARE(form_->Focused(), QByteArray("txtUno"));
+}
+
+void UpDownTest::ArrowKeysNeedTheFocus()
+{
+    form_->Start(*form_->txtUno);
+    hand::Key(Qt::Key_Up);
     QVERIFY(StaysFalse([this] { return changes_ > 0; }));
 
     form_->Start(*up_);
-    hand::Wheel(*up_, kLower, 2);
-    QTRY_COMPARE(up_->Value().value(), 2);
-    hand::Wheel(*up_, kLower, -1);
-    QTRY_COMPARE(up_->Value().value(), 1);
     hand::Key(Qt::Key_Up);
-    QTRY_COMPARE(up_->Value().value(), 2);
-    hand::Key(Qt::Key_Down);
+    QTRY_COMPARE(up_->Value().value(), 1);
     hand::Key(Qt::Key_Down);
     hand::Key(Qt::Key_Down);
     QTRY_COMPARE(up_->Value().value(), 0);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/guide/HelpWindow.h"
 
+#include "toolkit/Accessible.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/WindowPlaces.h"
 #include "windows/guide/HelpPage.h"
@@ -108,8 +109,8 @@ void HelpWindow::BuildButtons()
     auto* next = MakeButton("findNext", tr("Successivo"), tr("F3"));
     find_ = new QLineEdit;
     find_->setObjectName(QStringLiteral("find"));
-    find_->setClearButtonEnabled(true);
-    notFound_ = new QLabel(QStringLiteral("Non c'è"));
+    AddClearButton(*find_);
+    notFound_ = new QLabel(tr("Non c'è"));
     notFound_->setObjectName(QStringLiteral("notFound"));
     notFound_->hide();
     auto* caption = new QLabel(tr("&Trova nella pagina:"));

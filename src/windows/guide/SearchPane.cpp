@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/guide/SearchPane.h"
 
+#include "toolkit/Accessible.h"
 #include "toolkit/Fonts.h"
 
 #include <QHelpSearchEngine>
@@ -53,9 +54,9 @@ SearchPane::SearchPane(QHelpSearchEngine& engine, QWidget* parent)
     : QWidget(parent), words(new QLineEdit), results(new QListWidget), state(new QLabel), engine_(engine)
 {
     words->setObjectName(QStringLiteral("words"));
-    words->setClearButtonEnabled(true);
+    AddClearButton(*words);
     results->setObjectName(QStringLiteral("results"));
-    results->setAccessibleName(QStringLiteral("Argomenti trovati"));
+    results->setAccessibleName(tr("Argomenti trovati"));
     results->setFont(PrintFont(kListPixels));
     results->setWordWrap(true);
     results->setSpacing(2);

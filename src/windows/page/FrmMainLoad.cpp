@@ -45,6 +45,7 @@ frmMain::frmMain()
 {
     setWindowTitle(QStringLiteral("Zelvia"));
     auto* bar = new QMenuBar(this);
+    bar->setAccessibleName(QStringLiteral("Menu"));
     auto* page = new PaperSheet(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
