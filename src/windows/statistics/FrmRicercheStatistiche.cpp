@@ -7,7 +7,10 @@
 #include "core/Messages.h"
 #include "core/RunTimeError.h"
 #include "diary/Module1.h"
+#include "toolkit/Events.h"
 #include "toolkit/Printer.h"
+
+#include <QKeyEvent>
 
 #include <algorithm>
 #include <utility>
@@ -61,6 +64,33 @@ void frmRicercheStatistiche::cmdCategoria_Click(Categoria category)
         lbl.SetVisible(false);
         lblTitoliSta->SetVisible(false);
     }
+    ControlsFor(category).cmd->SetSwitched(lbl.Visible());
+}
+
+bool frmRicercheStatistiche::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto found = std::find_if(kAllCategories.begin(), kAllCategories.end(),
+                                    [&](Categoria category) { return ControlsFor(category).cmd == watched; });
+    return event->type() == QEvent::KeyPress && found != kAllCategories.end() &&
+           ConditionKey(*found, static_cast<const QKeyEvent*>(event)->key());
+}
+
+/// Of a condition that is on, Down goes to its values and Delete takes it away; true for these.
+bool frmRicercheStatistiche::ConditionKey(Categoria category, int key)
+{
+    if (!ControlsFor(category).lbl->Visible()) {
+        return false;
+    }
+    const bool listed = lstStatistiche->ListCount() > 0 && SameText(StatisticOf(category).title, CategoriaLista);
+    if (key == Qt::Key_Down && listed) {
+        lstStatistiche->SetFocus();
+        return true;
+    }
+    if (key == Qt::Key_Delete) {
+        Fire(ControlsFor(category).cmd->Click);
+        return true;
+    }
+    return false;
 }
 
 void frmRicercheStatistiche::Lista(Categoria category)
@@ -93,6 +123,7 @@ void frmRicercheStatistiche::lstStatistiche_DblClick()
 void frmRicercheStatistiche::cmdPeriodo_Click()
 {
     const bool show = !lblDalTit->Visible();
+    cmdPeriodo->SetSwitched(show);
     for (Control* control : {lblDalTit, lblDataInizio, lblAlTit, lblDataFine}) {
         control->SetVisible(show);
     }

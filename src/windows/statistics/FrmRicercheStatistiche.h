@@ -100,6 +100,8 @@ public:
     Button* cmdEsci = nullptr;
 
 protected:
+    /// Sees the keys of the conditions' buttons first.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -111,6 +113,7 @@ private:
     Label* MakeSlip(const char* name, const QRect& place);
     ListBox* MakeList(const char* name, const QRect& place, const QString& spoken);
 
+    bool ConditionKey(Categoria category, int key);
     void Lista(Categoria category);
     void AddUp();
     void NascondiMedie();

@@ -8,6 +8,7 @@
 #include "toolkit/Keys.h"
 #include "toolkit/PagePalette.h"
 #include "toolkit/QtText.h"
+#include "toolkit/RuledSheet.h"
 #include "windows/statistics/FrmRicercheStatistiche.h"
 
 #include <QPainter>
@@ -70,6 +71,8 @@ constexpr TotalPlace kTotals[] = {
     {"lblTotMedia", " Media", "lblTmedia", 74},
 };
 
+const QString kHint = QStringLiteral("Scegli una categoria, poi un valore con un doppio clic");
+
 /// A field of a printed form that is still empty: a frame with rules.
 void DrawEmptyForm(QPainter& painter, const QRectF& area)
 {
@@ -79,6 +82,24 @@ void DrawEmptyForm(QPainter& painter, const QRectF& area)
     for (int y = rule; y < area.height() - 4; y += rule) {
         painter.drawLine(QPointF(8, y + 0.5), QPointF(area.width() - 8, y + 0.5));
     }
+}
+
+/// The empty form of the result, which says how to come to one.
+void DrawFormWithHint(QPainter& painter, const QRectF& area)
+{
+    DrawEmptyForm(painter, area);
+    constexpr int pixels = 18;
+    constexpr int margin = 60;
+    const QRectF place = area.adjusted(margin, 0, -margin, -area.height() / 3);
+    painter.setFont(PrintFont(pixels));
+    painter.setPen(Ink::Faded);
+    constexpr int how = Qt::AlignCenter | Qt::TextWordWrap;
+    constexpr int around = 8;
+    // A line for each half.
+    const QString lines = QString(kHint).replace(QLatin1String(", "), QLatin1String(",\n"));
+    const QRectF words = painter.boundingRect(place, how, lines);
+    painter.fillRect(words.adjusted(-around, -around, around, around), Ink::Paper);
+    painter.drawText(place, how, lines);
 }
 
 } // namespace
@@ -110,13 +131,14 @@ void frmRicercheStatistiche::paintEvent(QPaintEvent* /*event*/)
 
 Label* frmRicercheStatistiche::MakeLabel(const char* name, TextView caption, const QRect& place, int pixels)
 {
-    return zelvia::MakeLabel(this, QLatin1String(name), caption, place, PageFont("Times New Roman", pixels));
+    return zelvia::MakeLabel(this, QLatin1String(name), caption, place, PrintFont(pixels));
 }
 
 /// A label on a slip of its own, for what the runner chose or ran.
 Label* frmRicercheStatistiche::MakeSlip(const char* name, const QRect& place)
 {
     Label* label = MakeLabel(name, {}, place, 16);
+    label->setFont(PenFont(20));
     label->setFrameShape(QFrame::StyledPanel);
     SetBackColour(*label, Ink::Slip);
     SetForeColour(*label, Ink::Pen);
@@ -142,6 +164,8 @@ void frmRicercheStatistiche::BuildConditions()
         controls.cmd = MakeButton(this, ("cmd" + name).constData(), word, {kMargin, top, kButtonWidth, kRowHeight},
                                   [this, category] { cmdCategoria_Click(category); });
         controls.cmd->setToolTip(QStringLiteral("Accende e spegne la condizione"));
+        controls.cmd->installEventFilter(this);
+        controls.cmd->SetSwitched(false);
         controls.lbl = MakeSlip(("lbl" + name).constData(), {kValueLeft, top, kValueWidth, kRowHeight});
         controls.lbl->setIndent(6);
         controls.lbl->setAccessibleName(QStringLiteral("Condizione: ") + ToQString(word));
@@ -150,11 +174,12 @@ void frmRicercheStatistiche::BuildConditions()
     }
     lblTitoliSta = MakeLabel("lblTitoliSta", {}, {kListLeft, kHeadTop, kListWidth, kHeadHeight}, 18);
     SetForeColour(*lblTitoliSta, Ink::Accent);
+    lblTitoliSta->setAccessibleName(QStringLiteral("Valori di"));
     lblTitoliSta->SetVisible(false);
     lstStatistiche = MakeList("lstStatistiche", {kListLeft, kTop, kListWidth, kListHeight},
                               QStringLiteral("Valori tra cui scegliere"));
-    lstStatistiche->setFont(PageFont("Times New Roman", 16));
-    lstStatistiche->setToolTip(QStringLiteral("Un doppio clic sceglie il valore"));
+    lstStatistiche->setFont(PenFont(20));
+    lstStatistiche->setToolTip(QStringLiteral("Un doppio clic, o Invio, sceglie il valore"));
     lstStatistiche->DblClick = [this] { lstStatistiche_DblClick(); };
     lstStatistiche->KeyPress = [this](int keyAscii) {
         if (keyAscii == kEnter && lstStatistiche->ListIndex() >= 0) {
@@ -167,6 +192,7 @@ void frmRicercheStatistiche::BuildPeriod()
 {
     cmdPeriodo = MakeButton(this, "cmdPeriodo", "Periodo", {kMargin, kPeriodTop, kButtonWidth, kFrameHeight},
                             [this] { cmdPeriodo_Click(); });
+    cmdPeriodo->SetSwitched(false);
     constexpr int captionPixels = 24; // Its blanks separate the strokes by the width of a box.
     constexpr int wordPixels = 16;
     lblDalTit = MakeLabel("lblDalTit", "Dal", {kValueLeft, kPeriodTop, 32, kFrameHeight}, wordPixels);
@@ -183,7 +209,7 @@ void frmRicercheStatistiche::BuildPeriod()
                          .top = kPeriodTop + 2,
                          .step = 0,
                          .height = kFrameHeight - 4,
-                         .font = PageFont("Times New Roman", 16),
+                         .font = PenFont(20),
                          .digitsRight = false});
     for (std::size_t i = 0; i < periodBoxes.size(); ++i) {
         periodBoxes[i] = period_.Box(static_cast<int>(i), 1);
@@ -196,15 +222,22 @@ void frmRicercheStatistiche::BuildPeriod()
 
 void frmRicercheStatistiche::BuildResult()
 {
-    // The font's blanks put the words over the columns of the list.
+    // The font's blanks put the words over the columns of the list, with a little more after each word.
     constexpr int headPixels = 16;
     constexpr int dateLeft = 288;
+    constexpr int headIndent = 9;
+    constexpr qreal afterWord = 5.5;
     lblTitoliMedie = MakeLabel("lblTitoliMedie", "      Km             Tempi          Media Km    ",
-                               {kResultLeft, kHeadTop, dateLeft, kHeadHeight}, headPixels);
+                               {kResultLeft + headIndent, kHeadTop, dateLeft - headIndent, kHeadHeight}, headPixels);
+    QFont spaced = lblTitoliMedie->font();
+    spaced.setWordSpacing(afterWord);
+    lblTitoliMedie->setFont(spaced);
     lblTitoliMedie2 = MakeLabel("lblTitoliMedie2", "  gg  mm  aaaa",
                                 {kResultLeft + dateLeft, kHeadTop, kResultWidth - dateLeft, kHeadHeight}, headPixels);
     lstMedie = MakeList("lstMedie", {kResultLeft, kTop, kResultWidth, kResultHeight}, QStringLiteral("Corse trovate"));
     lstMedie->setFont(PageFont("Courier", 15));
+    lstMedie->SetSpokenColumns(
+        {QStringLiteral("Km"), QStringLiteral("tempo"), QStringLiteral("media per Km"), QStringLiteral("data")});
     ShowHeads(false);
 
     constexpr int width = 126;
@@ -227,6 +260,9 @@ void frmRicercheStatistiche::BuildTotals()
         const TotalPlace& place = kTotals[i];
         totals_.push_back(MakeLabel(place.head, place.caption, {left, kTotalsTop, place.width, height}, 15));
         values[i] = MakeSlip(place.value, {left, kTotalsTop + height, place.width, height});
+        if (i > 0) {
+            values[i]->setAccessibleName(QStringLiteral("Totali, ") + ToQString(place.caption).trimmed());
+        }
         totals_.push_back(values[i]);
         left += place.width;
     }
@@ -239,9 +275,10 @@ void frmRicercheStatistiche::BuildTotals()
         {kResultLeft, kTotalsTop + height, kTotals[0].width, height},
         {kResultLeft + kTotals[0].width, kTotalsTop + height, kResultWidth - kTotals[0].width, height}};
     for (std::size_t i = 0; i < shapes_.size(); ++i) {
-        shapes_[i] = new Picture(this, QStringLiteral("shp%1").arg(i + 6), DrawEmptyForm);
+        shapes_[i] = new Picture(this, QStringLiteral("shp%1").arg(i + 6), i == 0 ? DrawFormWithHint : DrawEmptyForm);
         shapes_[i]->setGeometry(shapes[i]);
     }
+    shapes_[0]->setAccessibleName(kHint);
     NascondiLblTotali();
 }
 

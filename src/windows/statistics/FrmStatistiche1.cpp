@@ -13,6 +13,7 @@
 #include "toolkit/Picture.h"
 #include "toolkit/Printer.h"
 
+#include <QHeaderView>
 #include <QPainter>
 
 #include <utility>
@@ -107,6 +108,11 @@ frmStatistiche1::frmStatistiche1(ChartOpener openChart)
     setWindowTitle(QStringLiteral("Statistiche"));
     LayOnPaper(kSize);
     Build();
+    lstStatistica->KeyPress = [this](int keyAscii) {
+        if (keyAscii == kEnter && lstStatistica->ListIndex() >= 0) {
+            cmdTempiLO_Click();
+        }
+    };
     lvListaOrdinata->LostFocus = [this] { lvListaOrdinata_LostFocus(); };
     lvListaOrdinata->KeyPress = [this](int keyAscii) {
         if (keyAscii == kEscape) {
@@ -128,9 +134,7 @@ void frmStatistiche1::Build()
     lblTitolo->SetCaption("Statistica");
     lblTitolo->setGeometry(kTitle);
     lblTitolo->setAlignment(Qt::AlignCenter);
-    QFont title = PageFont("Times New Roman", 25);
-    title.setBold(true);
-    lblTitolo->setFont(title);
+    lblTitolo->setFont(PrintFont(24, true));
     lblTitolo->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (Button* head : {cmdStatitolo, cmdStatfre}) {
         head->setFocusPolicy(Qt::NoFocus);
@@ -139,14 +143,16 @@ void frmStatistiche1::Build()
     lstStatistica->setFont(PageFont("Courier", 20));
     lstStatistica->setAlternatingRowColors(true);
     lstStatistica->setAccessibleName(QStringLiteral("Valori e frequenze"));
+    lstStatistica->SetSpokenColumns({QStringLiteral("descrizione"), QStringLiteral("frequenza")});
     lvListaOrdinata->setGeometry(kTimes);
-    lvListaOrdinata->setFont(PageFont("Times New Roman", 18));
+    lvListaOrdinata->setFont(PenFont(20));
+    lvListaOrdinata->header()->setFont(PrintFont(16));
     lvListaOrdinata->setAlternatingRowColors(true);
     lvListaOrdinata->setAccessibleName(QStringLiteral("Tempi del valore scelto"));
     // Its frame would show the heads below it.
     lvListaOrdinata->setAutoFillBackground(true);
     lvListaOrdinata->SetVisible(false);
-    cmdTempiLO->setToolTip(QStringLiteral("I tempi del valore scelto"));
+    cmdTempiLO->setToolTip(QStringLiteral("I tempi del valore scelto (Invio)"));
 }
 
 void frmStatistiche1::mousePressEvent(QMouseEvent* event)

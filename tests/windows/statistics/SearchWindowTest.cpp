@@ -4,6 +4,7 @@
 #include "diary/PlainSearch.h"
 #include "support/SearchDesk.h"
 #include "support/WindowTest.h"
+#include "toolkit/PagePalette.h"
 
 #include <QFontInfo>
 
@@ -54,7 +55,10 @@ private Q_SLOTS:
     void eachCategoryOffersItsValues_data();
     void eachCategoryOffersItsValues();
     void enterChoosesAsADoubleClickDoes();
+    void downGoesToTheValues();
+    void deleteTakesAConditionAway();
     void threeConditionsAndAPeriod();
+    void saysWhatToDoWhileItIsEmpty();
     void withoutConditions();
     void aConditionWithoutAValueHasNoEffect();
     void aCategoryGoesBackToChoosing();
@@ -230,6 +234,58 @@ void SearchWindowTest::enterChoosesAsADoubleClickDoes()
     VERIFY_SCRIPT(desk.script);
 }
 
+void SearchWindowTest::downGoesToTheValues()
+{
+    SearchDesk desk;
+    desk.StartSearch();
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdPercorso"));
+    // Of a condition that is off there are none to go to.
+    hand::Key(Qt::Key_Down);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdLunghezza"));
+    hand::Key(Qt::Key_Return);
+    QTRY_VERIFY(desk.Condition(Categoria::Lunghezza).isVisible());
+    hand::Key(Qt::Key_Down);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("lstStatistiche"));
+    QCOMPARE(desk->lstStatistiche->ListIndex(), -1);
+    hand::Key(Qt::Key_Down);
+    hand::Key(Qt::Key_Return);
+    QTRY_COMPARE(desk.Condition(Categoria::Lunghezza).text(), desk->lstStatistiche->item(0)->text());
+
+    // The list holds another condition's values.
+    desk.ClickCategory(Categoria::Km);
+    QTRY_COMPARE(desk->lblTitoliSta->text(), QStringLiteral("Km"));
+    hand::Key(Qt::Key_Up);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdLunghezza"));
+    hand::Key(Qt::Key_Down);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("cmdKm"));
+    hand::Key(Qt::Key_Down);
+    QTRY_COMPARE(SearchDesk::Focused(), QByteArray("lstStatistiche"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void SearchWindowTest::deleteTakesAConditionAway()
+{
+    SearchDesk desk;
+    desk.StartSearch();
+    // Off, it stays off.
+    hand::Key(Qt::Key_Delete);
+    QVERIFY(StaysFalse([&] { return desk.Condition(Categoria::Percorso).isVisible(); }));
+    hand::Key(Qt::Key_Space);
+    QTRY_VERIFY(desk.Condition(Categoria::Percorso).isVisible());
+    desk.Choose(desk->lstStatistiche->item(0)->text());
+    QTRY_VERIFY(!desk.Condition(Categoria::Percorso).text().isEmpty());
+    hand::Key(Qt::Key_Delete);
+    QVERIFY(desk.Condition(Categoria::Percorso).isVisible());
+    desk->ControlsFor(Categoria::Percorso).cmd->SetFocus();
+    hand::Key(Qt::Key_Delete);
+    QTRY_VERIFY(!desk.Condition(Categoria::Percorso).isVisible());
+    QCOMPARE(desk.Condition(Categoria::Percorso).text(), QString());
+    QVERIFY(!desk->lblTitoliSta->isVisible());
+    QCOMPARE(desk->lstStatistiche->count(), 0);
+    QCOMPARE(SearchDesk::Focused(), QByteArray("cmdPercorso"));
+    VERIFY_SCRIPT(desk.script);
+}
+
 void SearchWindowTest::threeConditionsAndAPeriod()
 {
     // Five days of the sample year fulfil the three conditions: 14 January, 11 February, 4 March, 14 and 28 October.
@@ -256,6 +312,35 @@ void SearchWindowTest::threeConditionsAndAPeriod()
     QCOMPARE(chart.RowLabel(1), Text("5,06"));
     QCOMPARE(chart.RowLabel(2), Text("5,07"));
     QCOMPARE(chart.RowLabel(3), Text("5"));
+    VERIFY_SCRIPT(desk.script);
+}
+
+void SearchWindowTest::saysWhatToDoWhileItIsEmpty()
+{
+    SearchDesk desk;
+    desk.StartSearch();
+    const auto* form = desk.Search()->findChild<QWidget*>(QStringLiteral("shp6"));
+    const auto* other = desk.Search()->findChild<QWidget*>(QStringLiteral("shp8"));
+    QCOMPARE(form->accessibleName(), QStringLiteral("Scegli una categoria, poi un valore con un doppio clic"));
+    // Drawn in the print that can be read, which an empty form does not have.
+    const auto written = [&](const QWidget& shape) {
+        const QImage shown = desk.Search()->grab(shape.geometry()).toImage();
+        int dark = 0;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                dark += shown.pixelColor(x, y) == QColor(Ink::Faded) ? 1 : 0;
+            }
+        }
+        return dark;
+    };
+    QVERIFY(form->isVisible());
+    QVERIFY(written(*form) > 50);
+    QCOMPARE(written(*other), 0);
+    desk.Run();
+    QTRY_VERIFY(!form->isVisible());
+    QVERIFY(desk->lstMedie->isVisible());
+    desk.ClickCategory(Categoria::Tipo);
+    QTRY_VERIFY(form->isVisible());
     VERIFY_SCRIPT(desk.script);
 }
 

@@ -47,7 +47,9 @@ private Q_SLOTS:
     void longPiecesOfTime();
     void failures_data();
     void failures();
+    void theKeyboardDoesTheSame_data();
     void theKeyboardDoesTheSame();
+    void enterNeedsARow();
     void leaving_data();
     void leaving();
     void pressedTwice();
@@ -396,8 +398,16 @@ void ValueTimesTest::failures()
     VERIFY_SCRIPT(desk.script);
 }
 
+void ValueTimesTest::theKeyboardDoesTheSame_data()
+{
+    QTest::addColumn<bool>("atTheButton");
+    QTest::newRow("Enter on the row") << false;
+    QTest::newRow("Enter on the button") << true;
+}
+
 void ValueTimesTest::theKeyboardDoesTheSame()
 {
+    QFETCH(bool, atTheButton);
     StatisticsDesk desk;
     desk.Start();
     StatisticsDesk::PutRun(1, "Lago", "0:50:00", "5:00");
@@ -407,8 +417,10 @@ void ValueTimesTest::theKeyboardDoesTheSame()
     hand::Key(Qt::Key_Down);
     hand::Key(Qt::Key_Down);
     QTRY_COMPARE(desk.Window()->lstStatistica->ListIndex(), 1);
-    hand::Key(Qt::Key_Tab);
-    QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("cmdTempiLO"));
+    if (atTheButton) {
+        hand::Key(Qt::Key_Tab);
+        QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("cmdTempiLO"));
+    }
     hand::Key(Qt::Key_Return);
     QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("lvListaOrdinata"));
     QCOMPARE(desk.Times(), QByteArrayList{Row(1, "0:40:00", 2, "4:00")});
@@ -420,6 +432,20 @@ void ValueTimesTest::theKeyboardDoesTheSame()
     QTRY_VERIFY(TimesAreGone(desk));
     QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("lstStatistica"));
     QCOMPARE(desk.Window()->lstStatistica->ListIndex(), 1);
+    VERIFY_SCRIPT(desk.script);
+}
+
+void ValueTimesTest::enterNeedsARow()
+{
+    StatisticsDesk desk;
+    desk.Start();
+    StatisticsDesk::PutRun(1, "Lago", "0:50:00", "5:00");
+    StatisticsDesk::PutRun(2, "", "0:40:00", "4:00");
+    desk.Choose("mnuPercorso");
+    QTRY_COMPARE(StatisticsDesk::Focused(), QByteArray("lstStatistica"));
+    hand::Key(Qt::Key_Return);
+    QVERIFY(StaysFalse([&] { return desk.Window()->lvListaOrdinata->isVisible(); }));
+    QCOMPARE(desk.Window()->lstStatistica->ListIndex(), -1);
     VERIFY_SCRIPT(desk.script);
 }
 
