@@ -39,7 +39,7 @@ expect "pictures without words" "$(grep -n '<img' *.html | grep -v 'alt="[^"]' |
 topics=$(grep -oE ' id="[^"]+"' guida.qhp | sed 's/ id="//; s/"$//' | sort)
 expect "topics named twice" "$(uniq -d <<<"$topics")" ""
 names=$(cd "$source_folder/src" && {
-  grep -oE '\{"mnu[A-Za-z]+", "[^"]*", &M::' windows/page/FrmMainMenus.cpp | grep -oE 'mnu[A-Za-z]+'
+  grep -oE '\{"mnu[A-Za-z]+", "[^"]*", Call<&M::' windows/page/FrmMainMenus.cpp | grep -oE 'mnu[A-Za-z]+'
   # The statistics are entries by the rows of the fields.
   grep -oE '\{"[A-Za-z]+", "[^"]*", &C::' diary/Fields.h | grep -oE '^\{"[A-Za-z]+' | sed 's/^{"/mnu/'
   grep -rhoE 'Form\(QStringLiteral\("frm[A-Za-z0-9]+"' . | grep -oE 'frm[A-Za-z0-9]+'

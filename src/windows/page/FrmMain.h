@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "diary/FileCommands.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
 #include "toolkit/Timer.h"
@@ -39,13 +38,11 @@ class frmMain : public Form,
                 public PageControls,
                 public NamedState,
                 public NamedRoutines,
+                public NamedCommands,
                 public RoutePage,
-                public TablePage,
-                public DiaryPage
+                public TablePage
 {
     Q_OBJECT
-
-    FileCommands files_{*this};
 
 public:
     frmMain();
@@ -55,7 +52,6 @@ public:
     bool FormLoad();
     Control& FocusSink() override { return *pctGiornoAnno; }
 
-    int& NuovoAnnullato = files_.NuovoAnnullato;
     i16 LunghezzaNota; ///< Length of the note being typed.
     CommonDialog dlgCommonDialog;
 
@@ -83,22 +79,10 @@ public:
     void AssegnaGara() override { slips_.AssegnaGara(); }
     void GiornodellaGara(i16& place) { slips_.GiornodellaGara(place); }
 
-    // Files.
-    void CaricaNomeFile() { files_.CaricaNomeFile(); }
-    void SalvaNomeFile() { files_.SalvaNomeFile(); }
-    void NomeFleListe() { files_.NomeFleListe(); }
-    void mnuFileOpen_Click() { files_.mnuFileOpen_Click(); }
-    void mnuFileNuovo_Click() { files_.mnuFileNuovo_Click(); }
-    void mnuFileSave_Click() { files_.mnuFileSave_Click(); }
-    void mnuFileSaveAs_Click() { files_.mnuFileSaveAs_Click(); }
-    void ChiediSalvataggio(i16& annullato) { files_.ChiediSalvataggio(annullato); }
-    void NuovoFile(const Text& path) { files_.NuovoFile(path); }
-    void SalvaFileNuovo(const Text& path) { files_.SalvaFileNuovo(path); }
     void mnuFilePrint_Click();
     void mnuFileExit_Click() { Unload(); }
 
     // Fields.
-    void InizializzaListe() { files_.InizializzaListe(); }
     i16 AggiungiLista(TextBox& txt, SelectionList list) { return Field(list).AggiungiLista(txt); }
     /// Has Tab go on after `field` once that is closed and the focus is in the sink.
     void FollowInTabOrder(QWidget& field);

@@ -21,45 +21,52 @@ namespace
 struct Command {
     const char* name;
     TextView caption = {};
-    void (frmMain::*run)() = nullptr;
+    void (*run)(frmMain& page) = nullptr;
     TextView key = {};
-    Qt::Key shortcut = {};
+    QKeyCombination shortcut = {};
 };
 
 using M = frmMain;
 
+/// Runs a routine of the page, or of what the page is made of.
+template <auto Routine>
+void Call(frmMain& page)
+{
+    (page.*Routine)();
+}
+
 constexpr Command kFile[] = {
-    {"mnuFileOpen", "&Apri", &M::mnuFileOpen_Click, "Open"},
+    {"mnuFileOpen", "&Apri", Call<&M::mnuFileOpen_Click>, "Open", Qt::CTRL | Qt::Key_O},
     {"mnuFileBar0"},
-    {"mnuFileNuovo", "&Nuovo", &M::mnuFileNuovo_Click, "Nuovo"},
+    {"mnuFileNuovo", "&Nuovo", Call<&M::mnuFileNuovo_Click>, "Nuovo", Qt::CTRL | Qt::Key_N},
     {"mnuFileBar2"},
-    {"mnuFileSave", "&Salva", &M::mnuFileSave_Click, "Save"},
-    {"mnuFileSaveAs", "Sal&va con nome", &M::mnuFileSaveAs_Click},
+    {"mnuFileSave", "&Salva", Call<&M::mnuFileSave_Click>, "Save", Qt::CTRL | Qt::Key_S},
+    {"mnuFileSaveAs", "Sal&va con nome", Call<&M::mnuFileSaveAs_Click>, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
     {"mnuFileBar3"},
-    {"mnuFilePrint", "S&tampa", &M::mnuFilePrint_Click, "Print"},
+    {"mnuFilePrint", "S&tampa", Call<&M::mnuFilePrint_Click>, "Print", Qt::CTRL | Qt::Key_P},
     {"mnuFileBar4"},
-    {"mnuFileExit", "&Esci", &M::mnuFileExit_Click},
+    {"mnuFileExit", "&Esci", Call<&M::mnuFileExit_Click>, {}, Qt::CTRL | Qt::Key_Q},
 };
 constexpr Command kOptions[] = {
-    {"mnuNote", "&Note", &M::mnuNote_Click, "Note"},
-    {"mnuAzzeraGiorno", "Az&zera Giorno", &M::mnuAzzeraGiorno_Click, "AzzeraGiorno"},
-    {"mnuListaPrecedente", "Ripristina &Lista Precedente", &M::mnuListaPrecedente_Click, "ListaPrecedente"},
-    {"mnuListaIniziale", "Ripristina Lista &Iniziale", &M::mnuListaIniziale_Click, "ListaIniziale"},
+    {"mnuNote", "&Note", Call<&M::mnuNote_Click>, "Note"},
+    {"mnuAzzeraGiorno", "Az&zera Giorno", Call<&M::mnuAzzeraGiorno_Click>, "AzzeraGiorno"},
+    {"mnuListaPrecedente", "Ripristina &Lista Precedente", Call<&M::mnuListaPrecedente_Click>, "ListaPrecedente"},
+    {"mnuListaIniziale", "Ripristina Lista &Iniziale", Call<&M::mnuListaIniziale_Click>, "ListaIniziale"},
 };
 constexpr Command kTables[] = {
-    {"mnuAllenamenti", "&Allenamenti", &M::mnuAllenamenti_Click, "Allenamenti"},
-    {"mnuGare", "&Gare", &M::mnuGare_Click, "Gare"},
+    {"mnuAllenamenti", "&Allenamenti", Call<&M::mnuAllenamenti_Click>, "Allenamenti"},
+    {"mnuGare", "&Gare", Call<&M::mnuGare_Click>, "Gare"},
 };
 // The statistics follow.
 constexpr Command kStatistics[] = {
-    {"mnuMedie", "&Medie", &M::mnuMedie_Click, "Medie"},
+    {"mnuMedie", "&Medie", Call<&M::mnuMedie_Click>, "Medie"},
     {"mnuStatBar"},
 };
 constexpr Command kHelp[] = {
-    {"mnuHelpContents", "&Sommario", &M::mnuHelpContents_Click, "Help", Qt::Key_F1},
-    {"mnuHelpSearchForHelpOn", "&Cerca argomento", &M::mnuHelpSearchForHelpOn_Click},
+    {"mnuHelpContents", "&Sommario", Call<&M::mnuHelpContents_Click>, "Help", Qt::Key_F1},
+    {"mnuHelpSearchForHelpOn", "&Cerca argomento", Call<&M::mnuHelpSearchForHelpOn_Click>},
     {"mnuHelpBar0"},
-    {"mnuHelpAbout", "&Informazioni su", &M::mnuHelpAbout_Click},
+    {"mnuHelpAbout", "&Informazioni su", Call<&M::mnuHelpAbout_Click>},
 };
 
 constexpr struct {
@@ -78,9 +85,9 @@ std::vector<MenuEntry> Entries(frmMain& page, std::span<const Command> commands)
     for (const Command& command : commands) {
         entries.push_back({command.name, command.caption, {}});
         if (command.run != nullptr) {
-            entries.back().click = [&page, run = command.run] { (page.*run)(); };
+            entries.back().click = [&page, run = command.run] { run(page); };
         }
-        if (command.shortcut != Qt::Key()) {
+        if (command.shortcut != QKeyCombination()) {
             entries.back().shortcut = QKeySequence(command.shortcut);
         }
     }
@@ -109,7 +116,7 @@ void frmMain::DispatchCommand(TextView key)
     for (const auto& menu : kMenus) {
         for (const Command& command : menu.commands) {
             if (!command.key.empty() && command.key == key) {
-                (this->*command.run)();
+                command.run(*this);
             }
         }
     }

@@ -28,6 +28,29 @@ struct NamedState {
     i16& ListaAperta = Module1::session.ListaAperta;
 };
 
+/// The file commands under the names that they have on the page.
+class NamedCommands : public DiaryPage
+{
+public:
+    void CaricaNomeFile() { files_.CaricaNomeFile(); }
+    void SalvaNomeFile() { files_.SalvaNomeFile(); }
+    void NomeFleListe() { files_.NomeFleListe(); }
+    void InizializzaListe() { files_.InizializzaListe(); }
+    void mnuFileOpen_Click() { files_.mnuFileOpen_Click(); }
+    void mnuFileNuovo_Click() { files_.mnuFileNuovo_Click(); }
+    void mnuFileSave_Click() { files_.mnuFileSave_Click(); }
+    void mnuFileSaveAs_Click() { files_.mnuFileSaveAs_Click(); }
+    void ChiediSalvataggio(i16& annullato) { files_.ChiediSalvataggio(annullato); }
+    void NuovoFile(const Text& path) { files_.NuovoFile(path); }
+    void SalvaFileNuovo(const Text& path) { files_.SalvaFileNuovo(path); }
+
+protected:
+    FileCommands files_{*this};
+
+public:
+    int& NuovoAnnullato = files_.NuovoAnnullato;
+};
+
 /// The routines that bear a name for each list and each category and do alike.
 class NamedRoutines
 {
