@@ -137,10 +137,10 @@ void LeaveByTab(DayPage& page, TextBox& box, const Outcome& outcome, const Expec
     }
 }
 
-void PressForeignKeys()
+void PressForeignKeys(const QString& text)
 {
     QApplication::clipboard()->setText(QStringLiteral("7"));
-    hand::Type(QStringLiteral("z-9,.e+"));
+    hand::Type(text);
     hand::Key(Qt::Key_V, Qt::ControlModifier);
     hand::Key(Qt::Key_Delete);
     hand::Key(Qt::Key_Backspace);

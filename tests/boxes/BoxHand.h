@@ -24,7 +24,7 @@ void Correct(TextBox& box, const QString& text);
 void LeaveByTab(DayPage& page, TextBox& box, const Outcome& outcome, const ExpectedBox& refusal);
 
 /// Presses keys that are none of a list or of a spin control: letters, signs, digits, pasting and deleting ones.
-void PressForeignKeys();
+void PressForeignKeys(const QString& text = QStringLiteral("z-9,.e+"));
 
 /// The guide, as the build makes it.
 QByteArray GuideBytes();

@@ -203,8 +203,8 @@ void Actions::WriteNote(QWidget& /*window*/)
 /// Opens a group of spin controls and works it with keys.
 void Actions::UseGroup(Label& value, int keys)
 {
-    static constexpr Qt::Key worked[] = {Qt::Key_Up,   Qt::Key_Up,    Qt::Key_Up,     Qt::Key_PageUp,
-                                         Qt::Key_Down, Qt::Key_Right, Qt::Key_PageUp, Qt::Key_Left};
+    static constexpr Qt::Key worked[] = {Qt::Key_Up,   Qt::Key_Up,    Qt::Key_1, Qt::Key_4,
+                                         Qt::Key_Down, Qt::Key_Right, Qt::Key_9, Qt::Key_Left};
     hand_.Click(value);
     desk_.Settle();
     for (int i = 0; i < keys; ++i) {

@@ -181,6 +181,13 @@ bool Invariants::Replaced() const
     return desk_.Carried("start") || desk_.Carried("frmMain.mnuFileOpen") || desk_.Carried("frmMain.mnuFileNuovo");
 }
 
+void Invariants::NoteDay()
+{
+    if (desk_.Page() != nullptr && !worked_.empty()) {
+        worked_[static_cast<std::size_t>(GiornoCorrente.value())] = true;
+    }
+}
+
 QString Invariants::CheckDays(long number)
 {
     const frmMain* page = desk_.Page();
@@ -190,12 +197,12 @@ QString Invariants::CheckDays(long number)
     if (Replaced() || days_.empty()) {
         return CheckReplaced();
     }
-    worked_[static_cast<std::size_t>(GiornoCorrente.value())] = true;
+    NoteDay();
     const QString wrong = CheckCommitted();
     return wrong.isEmpty() && number % kOtherDaysEvery == 0 ? CheckOtherDays() : wrong;
 }
 
-/// A diary has been opened, made or kept: what it then holds is where the comparison begins anew.
+/// A diary has been opened, made or kept: what it then holds is where the comparison begins again.
 QString Invariants::CheckReplaced()
 {
     const frmMain& page = *desk_.Page();

@@ -28,6 +28,9 @@ public:
 
     const FileWatch& Files() const { return files_; }
 
+    /// The day on show may be worked on by what follows, before the keys of the same action turn it.
+    void NoteDay();
+
 private:
     QString CheckAtRest() const;
     QString CheckMemory() const;

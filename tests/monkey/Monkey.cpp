@@ -85,6 +85,7 @@ void MonkeyTest::plays()
     Boxes boxes(desk, dice, trail);
     Actions actions(desk, dice, trail, boxes);
     Invariants invariants(desk, boxes);
+    trail.OnNote = [&invariants] { invariants.NoteDay(); };
     QElapsedTimer time;
     time.start();
     long number = 0;

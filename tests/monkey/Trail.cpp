@@ -135,6 +135,9 @@ void Trail::Begin(long number)
 
 void Trail::Note(const QString& what)
 {
+    if (OnNote) {
+        OnNote();
+    }
     char* line = lines[current % kKept];
     const std::size_t used = std::strlen(line);
     std::snprintf(line + used, kLength - used, " %s", what.toUtf8().constData());

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 namespace zelvia::monkey
 {
 
@@ -23,6 +25,8 @@ public:
     void Begin(long number);
     /// What the action does, noted before it is done.
     void Note(const QString& what);
+    /// Called at each note.
+    std::function<void()> OnNote;
     /// One line more in the log file alone, if there is one.
     void Log(const QByteArray& line);
 

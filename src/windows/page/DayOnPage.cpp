@@ -100,6 +100,8 @@ void DayOnPage::Show(const RecordGiorno& day)
                       }
                   },
                   ForEachNote([&](int line) { ShowNote(line, day.Note[line]); }));
+    // One runner is what a blank day has, and what was written on the day of a run.
+    page_.lblImmisCorridori->FadeBlank(day.Tipo.empty() ? "1" : "");
 }
 
 void DayOnPage::BlankTexts(const RecordGiorno& day)

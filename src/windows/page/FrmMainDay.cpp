@@ -64,6 +64,7 @@ void frmMain::Data()
 {
     Trap("Data - ERRORE : ", [this] {
         lblData->SetCaption(Format(DataCorrente, "   dddd  d  mmmm  yyyy"));
+        lblIndiceMesi->SetCaption(Format(DataCorrente, "mmmm"));
         GiornoMese = DataCorrente.Day();
         MeseCorrente = DataCorrente.Month();
         AnnoCorrente = DataCorrente.Year();

@@ -7,11 +7,13 @@
 #include "diary/Workspace.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
+#include "toolkit/KeptSize.h"
 #include "toolkit/QtText.h"
+#include "toolkit/ScrollPane.h"
 #include "toolkit/WindowPlaces.h"
 #include "windows/page/FrmMain.h"
-#include "windows/page/PageArt.h"
 #include "windows/page/PageJournal.h"
+#include "windows/page/PaperSheet.h"
 
 #include <QMenuBar>
 #include <QVBoxLayout>
@@ -37,6 +39,16 @@ void BringToFront(QWidget* window)
     }
 }
 
+/// A list that is open when the page grows has to show whole entries again.
+void FitOpenList(frmMain& page)
+{
+    for (const SelectionList list : kAllLists) {
+        if (page.ListField(list).lst->Visible()) {
+            page.Field(list).FitList();
+        }
+    }
+}
+
 } // namespace
 
 frmMain::frmMain()
@@ -50,13 +62,16 @@ frmMain::frmMain()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(bar);
-    layout->addWidget(page);
+    layout->addWidget(new ScrollPane(this, page), 1);
     BuildPage(*this, page);
     BuildMenus(*bar);
     ConnectFields();
+    page->Grown = [this] { FitOpenList(*this); };
     WindowPlaces::Instance().SetMain(this);
+    // In a bar that is too narrow when it is asked, a menu would be made of what has no room.
+    bar->resize(page->sizeHint());
+    new KeptSize(*this, page->sizeHint() + QSize(0, bar->sizeHint().height()));
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().RoutineEnded = [this, journal = PageJournal(*this)]() mutable {
         journal.Update();

@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/page/PageArt.h"
 
-#include "toolkit/Fonts.h"
+#include "toolkit/Pixels.h"
 #include "toolkit/QtText.h"
+#include "windows/page/PageHead.h"
 #include "windows/page/PageLayout.h"
+#include "windows/page/PaperGrain.h"
 
-#include <QPaintEvent>
+#include <QFontDatabase>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -23,34 +27,55 @@ using namespace PageLayout;
 /// The most lines of a translucent area that are filled without threads.
 constexpr int kLines = 60;
 
-constexpr int kCorner = 12; ///< What lies further than this from a corner of a sheet or its shadow has straight edges.
+constexpr double kCorner =
+    12; ///< What lies further than this from a corner of a sheet or its shadow has straight edges.
+
+/// Smooths the edges of what is drawn meanwhile.
+class Smoothly
+{
+public:
+    explicit Smoothly(QPainter& painter) : painter_(painter) { painter_.setRenderHint(QPainter::Antialiasing); }
+    ~Smoothly() { painter_.setRenderHint(QPainter::Antialiasing, false); }
+    Smoothly(const Smoothly&) = delete;
+    Smoothly& operator=(const Smoothly&) = delete;
+
+private:
+    QPainter& painter_;
+};
+
+// What follows is drawn by a painter that counts in pixels.
 
 /// A sheet of paper with rounded corners.
 void FillSheet(QPainter& painter, const QRect& sheet, int radius, const QColor& paper)
 {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(paper);
-    QRect edge(sheet.left(), sheet.top(), sheet.width(), 2 * radius);
-    painter.drawRoundedRect(edge, radius, radius);
-    edge.moveBottom(sheet.bottom());
-    painter.drawRoundedRect(edge, radius, radius);
+    {
+        const Smoothly smoothly(painter);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(paper);
+        QRect edge(sheet.left(), sheet.top(), sheet.width(), 2 * radius);
+        painter.drawRoundedRect(edge, radius, radius);
+        edge.moveBottom(sheet.bottom());
+        painter.drawRoundedRect(edge, radius, radius);
+    }
     painter.fillRect(sheet.adjusted(0, radius, 0, -radius), paper);
 }
 
-/// A hairline with rounded corners just inside `frame`.
-void DrawFrame(QPainter& painter, const QRect& frame, int radius, const QColor& ink)
+/// A line with rounded corners just inside `frame`.
+void DrawFrame(QPainter& painter, const QRect& frame, int radius, int line, const QColor& ink)
 {
     const QRect across = frame.adjusted(radius, 0, -radius, 0);
     const QRect upright = frame.adjusted(0, radius, 0, -radius);
-    painter.fillRect(across.left(), frame.top(), across.width(), 1, ink);
-    painter.fillRect(across.left(), frame.bottom(), across.width(), 1, ink);
-    painter.fillRect(frame.left(), upright.top(), 1, upright.height(), ink);
-    painter.fillRect(frame.right(), upright.top(), 1, upright.height(), ink);
+    painter.fillRect(across.left(), frame.top(), across.width(), line, ink);
+    painter.fillRect(across.left(), frame.bottom() + 1 - line, across.width(), line, ink);
+    painter.fillRect(frame.left(), upright.top(), line, upright.height(), ink);
+    painter.fillRect(frame.right() + 1 - line, upright.top(), line, upright.height(), ink);
 
-    painter.setPen(QPen(ink, 1));
+    const Smoothly smoothly(painter);
+    painter.setPen(QPen(ink, line));
     painter.setBrush(Qt::NoBrush);
     const qreal size = 2.0 * radius;
-    const QRectF inner = QRectF(frame).adjusted(0.5, 0.5, -0.5 - size, -0.5 - size);
+    const qreal inset = line / 2.0;
+    const QRectF inner = QRectF(frame).adjusted(inset, inset, -inset - size, -inset - size);
     const QPointF corners[] = {inner.topRight(), inner.topLeft(), inner.bottomLeft(), inner.bottomRight()};
     int from = 0;
     for (const QPointF& corner : corners) {
@@ -60,23 +85,36 @@ void DrawFrame(QPainter& painter, const QRect& frame, int radius, const QColor& 
     }
 }
 
-/// The soft shadow of a sheet in layers that lie over each other, given from the widest on. What the sheet hides is
+/// The soft shadow of a sheet in layers over each other, given from the widest on. What the sheet hides is
 /// left out.
-void DrawShadow(QPainter& painter, const QRect& sheet, const QList<QRect>& layers, int radius, const QColor& shade)
+void DrawShadow(QPainter& painter, const Pixels& pixels, const QRect& place, const QList<QRect>& places, double round,
+                const QColor& shade)
 {
+    QList<QRect> layers;
+    std::transform(places.begin(), places.end(), std::back_inserter(layers),
+                   [&pixels](const QRect& layer) { return pixels.Of(layer); });
+    const QRect sheet = pixels.Of(place);
+    const int radius = pixels.Of(round);
+    const int corner = pixels.Of(kCorner);
     const QRect& widest = layers.first();
-    const QRect straight = sheet.adjusted(kCorner, kCorner, -kCorner, -kCorner);
+    const QRect straight = sheet.adjusted(corner, corner, -corner, -corner);
     const QRegion corners = QRegion(widest) - QRect(straight.left(), widest.top(), straight.width(), widest.height()) -
                             QRect(widest.left(), straight.top(), widest.width(), straight.height());
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(shade);
-    for (const QRect& corner : corners) {
-        painter.setClipRect(corner);
-        for (const QRect& layer : layers) {
-            painter.drawRoundedRect(layer, radius, radius);
+    {
+        const Smoothly smoothly(painter);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(shade);
+        for (const QRect& piece : corners) {
+            painter.setClipRect(piece);
+            // Only the piece of a layer around the corner: a rounded rectangle costs by its lines, clipped ones too.
+            // Whole layers take 5.6 of 136 million instructions of the start.
+            const QRect around = piece.adjusted(-2 * radius, -2 * radius, 2 * radius, 2 * radius);
+            for (const QRect& layer : layers) {
+                painter.drawRoundedRect(layer & around, radius, radius);
+            }
         }
+        painter.setClipping(false);
     }
-    painter.setClipping(false);
     for (const QRect& layer : layers) {
         for (const QRect& side : QRegion(layer) - sheet - corners) {
             for (int top = side.top(); top <= side.bottom(); top += kLines) {
@@ -86,29 +124,22 @@ void DrawShadow(QPainter& painter, const QRect& sheet, const QList<QRect>& layer
     }
 }
 
-/// The wood darkens from the top on.
-void DrawDesk(QPainter& painter)
+void DrawLeavesUnderneath(QPainter& painter, const Pixels& pixels)
 {
-    constexpr int band = 24;
-    const QColor light = Ink::Desk.lighter(116);
-    const QColor dark = Ink::Desk.darker(116);
-    for (int top = 0; top < kDesk.height(); top += band) {
-        painter.fillRect(0, top, kDesk.width(), band, Mixed(light, dark, (top + band / 2.0) / kDesk.height()));
-    }
-}
-
-void DrawLeavesUnderneath(QPainter& painter)
-{
-    const QRect both = kLeftPage.united(kRightPage);
+    const QRect place = kLeftPage.united(kRightPage);
     QList<QRect> shadow;
     for (int depth = 8; depth > 0; depth -= 2) {
-        shadow << both.adjusted(-depth, -depth + 3, depth, depth + 2);
+        shadow << place.adjusted(-depth, -depth + 3, depth, depth + 2);
     }
-    DrawShadow(painter, both, shadow, 8, QColor(0, 0, 0, 23));
+    DrawShadow(painter, pixels, place, shadow, 8, QColor(0, 0, 0, 23));
 
-    constexpr int radius = 5;
-    const std::pair<int, QColor> leaves[] = {{5, Ink::PaperShade}, {3, Ink::Paper}, {2, Ink::PaperShade}};
-    for (const auto& [out, paper] : leaves) {
+    const QRect both = pixels.Of(place);
+    const int radius = pixels.Of(5.0);
+    // The edges of the leaves below, each a little further out than the one above.
+    constexpr int leaves = 7;
+    for (int wide = leaves; wide > 0; --wide) {
+        const int out = pixels.Of(static_cast<double>(wide));
+        const QColor paper = wide % 2 == 0 ? Ink::Paper : Ink::PaperShade.darker(108);
         const QRect leaf = both.adjusted(-out, 0, out, out);
         FillSheet(painter, {leaf.left(), both.top(), leaf.width(), 2 * radius}, radius, paper);
         FillSheet(painter, {leaf.left(), leaf.bottom() + 1 - 2 * radius, leaf.width(), 2 * radius}, radius, paper);
@@ -119,13 +150,11 @@ void DrawLeavesUnderneath(QPainter& painter)
 
 /// The fold of the binding: shades of the paper from the middle out to both sides. Drawn once for a few lines, which
 /// are then repeated down the page.
-void DrawFold(QPainter& painter)
+void DrawFold(QPainter& painter, const Pixels& pixels)
 {
-    constexpr int reach = 46;
+    const int reach = pixels.Of(46.0);
     constexpr int lines = 24;
-    const qreal scale = painter.device()->devicePixelRatioF();
-    QPixmap piece((QSizeF(2 * reach, lines) * scale).toSize());
-    piece.setDevicePixelRatio(scale);
+    QPixmap piece(2 * reach, lines);
     QPainter fold(&piece);
     const QColor shade(90, 60, 30);
     const QColor valley = Mixed(Ink::Paper, QColor(60, 38, 18), 110 / 255.0);
@@ -142,90 +171,123 @@ void DrawFold(QPainter& painter)
             fold.fillRect(page.side < 0 ? reach - 1 - x : reach + x, 0, 1, lines, paper);
         }
     }
-    static_assert(kRightPage.height() % lines == 0);
-    for (int top = kRightPage.top(); top <= kRightPage.bottom(); top += lines) {
-        painter.drawPixmap(kRightPage.left() - reach, top, piece);
+    const QRect right = pixels.Of(kRightPage);
+    for (int top = right.top(); top <= right.bottom(); top += lines) {
+        const int height = qMin(lines, right.bottom() + 1 - top);
+        painter.drawPixmap(right.left() - reach, top, piece, 0, 0, 2 * reach, height);
     }
 }
 
-void DrawPaper(QPainter& painter)
+void DrawPaper(QPainter& painter, const Pixels& pixels)
 {
-    FillSheet(painter, kLeftPage.united(kRightPage), 4, Ink::Paper);
-    DrawFold(painter);
+    FillSheet(painter, pixels.Of(kLeftPage.united(kRightPage)), pixels.Of(4.0), Ink::Paper);
+    DrawCurl(painter, pixels, kLeftPage.united(kRightPage));
+    DrawGrain(painter, pixels, kLeftPage.united(kRightPage));
+    DrawFold(painter, pixels);
     const QColor ink = Ink::Rule.darker(108);
-    DrawFrame(painter, kLeftPage.adjusted(12, 10, -15, -10), 3, ink);
-    DrawFrame(painter, kRightPage.adjusted(15, 10, -12, -10), 3, ink);
-}
-
-void DrawRule(QPainter& painter, int left, int right, int y)
-{
-    painter.fillRect(left, y, right - left, 1, Ink::Rule);
-}
-
-void DrawWord(QPainter& painter, const QRect& place, TextView word, const QFont& font, const QColor& ink,
-              Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter)
-{
-    painter.setFont(font);
-    painter.setPen(ink);
-    painter.drawText(place, static_cast<int>(alignment), ToQString(word));
-}
-
-void DrawFields(QPainter& painter)
-{
-    for (int row = 0; row < kRows; ++row) {
-        DrawRule(painter, kCaptionLeft, kRowRight, RowTop(row) + kRowHeight + 1);
+    for (const QRect& frame : {kLeftPage.adjusted(12, 10, -15, -10), kRightPage.adjusted(15, 10, -12, -10)}) {
+        DrawFrame(painter, pixels.Of(frame), pixels.Of(3.0), pixels.Of(1.0), ink);
     }
-    const QFont print = PrintFont(15);
-    DrawWord(painter, Caption(Tempo), "Tempo", print, Ink::Print);
-    DrawWord(painter, Caption(Media), "Media", print, Ink::Print);
-    DrawWord(painter, kPer, "x", print, Ink::Print, Qt::AlignCenter);
-    DrawWord(painter, kIn, "@", print, Ink::Print, Qt::AlignCenter);
-    DrawWord(painter, kFileCaption, "Diario", print, Ink::Print);
 }
 
-void DrawSlip(QPainter& painter)
+void DrawSlip(QPainter& painter, const Pixels& pixels)
 {
     QList<QRect> shadow;
     for (int depth = 4; depth > 0; --depth) {
         shadow << kSlip.adjusted(-1, 1, depth, depth + 1);
     }
-    DrawShadow(painter, kSlip, shadow, 4, QColor(60, 38, 18, 14));
-    FillSheet(painter, kSlip, 3, Ink::Slip);
-    DrawFrame(painter, kSlip, 3, Ink::Rule.darker(112));
-    painter.fillRect(kSlip.left() + 16, kSlipTop + 30, kSlip.width() - 33, 2, Mixed(Ink::Slip, Ink::Accent, 0.7));
+    DrawShadow(painter, pixels, kSlip, shadow, 4, QColor(60, 38, 18, 14));
+    const QRect slip = pixels.Of(kSlip);
+    FillSheet(painter, slip, pixels.Of(3.0), Ink::Slip);
+    DrawFrame(painter, slip, pixels.Of(3.0), pixels.Of(1.0), Ink::Rule.darker(112));
+    const QRect line(kSlip.left() + 16, kSlipTop + 30, kSlip.width() - 33, 2);
+    painter.fillRect(pixels.Line(line), Mixed(Ink::Slip, Ink::Accent, 0.7));
 }
 
-void DrawNotes(QPainter& painter)
+void DrawRules(QPainter& painter, const Pixels& pixels)
 {
-    DrawWord(painter, kNotesHead, "Note", PrintFont(16, true), Ink::Accent);
+    const auto rule = [&](int left, int right, int y) {
+        painter.fillRect(pixels.Line(QRect(left, y, right - left, 1)), Ink::Rule);
+    };
+    for (int row = 0; row < kRows; ++row) {
+        rule(kCaptionLeft, kRowRight, RowTop(row) + kRowHeight + 1);
+    }
     for (int line = 3; line <= 10; ++line) {
-        DrawRule(painter, 636, 1144, Note(line).bottom() + 2);
+        rule(636, 1144, Note(line).bottom() + 2);
+    }
+    for (const DateRule& date : kDateRules) {
+        painter.fillRect(pixels.Line(date.place), date.accent ? Ink::Accent : Ink::Rule);
     }
 }
 
-void DrawFoot(QPainter& painter)
+/// The printed words that are no control.
+void DrawWords(QPainter& painter)
 {
-    DrawRule(painter, 636, 1144, kCountersTop - 8);
+    const auto word = [&painter](const QRect& place, TextView text, const QFont& font) {
+        DrawWord(painter, place, ToQString(text), font, Ink::Print);
+    };
+    const QFont print = PrintFont(15);
+    word(Caption(Tempo), "Tempo", print);
+    word(Caption(Media), "Media", print);
+    DrawWord(painter, kPer, QStringLiteral("x"), print, Ink::Print, Qt::AlignCenter);
+    DrawWord(painter, kIn, QStringLiteral("@"), print, Ink::Print, Qt::AlignCenter);
+    word(kFileCaption, "Diario", print);
+    DrawWord(painter, kNotesHead, QStringLiteral("Note"), PrintFont(16, true), Ink::Accent);
+    DrawArrowsAtRest(painter, kDayCell, QStringLiteral("giorno"));
+    DrawArrowsAtRest(painter, kMonthCell, QStringLiteral("mese"));
     const QFont small = PrintFont(13);
-    constexpr std::array<TextView, 4> captions = {"Giorno dell'anno", "Allenamenti", "Km percorsi", "Gare"};
-    for (int i = 0; i < 4; ++i) {
-        DrawWord(painter, CounterCaption(i), captions[static_cast<std::size_t>(i)], small, Ink::Print);
+    int index = 0;
+    for (const TextView caption : {"Giorno dell'anno", "Allenamenti", "Km percorsi", "Gare"}) {
+        word(CounterCaption(index), caption, small);
+        ++index;
     }
-}
-
-void DrawSheet(QPainter& painter)
-{
-    painter.setRenderHint(QPainter::Antialiasing);
-    DrawDesk(painter);
-    DrawLeavesUnderneath(painter);
-    DrawPaper(painter);
-    DrawFields(painter);
-    DrawSlip(painter);
-    DrawNotes(painter);
-    DrawFoot(painter);
 }
 
 } // namespace
+
+/// The wood darkens from the top on.
+void DrawDesk(QPainter& painter, const QRect& place)
+{
+    const Pixels pixels(painter);
+    const QRect desk = pixels.Of(place);
+    const int band = pixels.Of(24.0);
+    const QColor light = Ink::Desk.lighter(116);
+    const QColor dark = Ink::Desk.darker(116);
+    for (int top = 0; top < desk.height(); top += band) {
+        painter.fillRect(desk.left(), desk.top() + top, desk.width(), band,
+                         Mixed(light, dark, (top + band / 2.0) / desk.height()));
+    }
+}
+
+void DrawPage(QPainter& painter)
+{
+    {
+        const Pixels pixels(painter);
+        DrawLeavesUnderneath(painter, pixels);
+        DrawPaper(painter, pixels);
+        DrawRules(painter, pixels);
+        DrawSlip(painter, pixels);
+    }
+    DrawWords(painter);
+}
+
+void DrawWord(QPainter& painter, const QRectF& place, const QString& word, const QFont& font, const QColor& ink,
+              Qt::Alignment alignment)
+{
+    const double factor = painter.deviceTransform().m11() / painter.device()->devicePixelRatioF();
+    painter.save();
+    painter.scale(1 / factor, 1 / factor);
+    painter.setFont(Enlarged(font, factor));
+    painter.setPen(ink);
+    painter.drawText(QRectF(place.topLeft() * factor, place.size() * factor), static_cast<int>(alignment), word);
+    painter.restore();
+}
+
+QFont Enlarged(QFont font, double factor)
+{
+    font.setPixelSize(std::max(qRound(font.pixelSize() * factor), 1));
+    return font;
+}
 
 QColor Mixed(const QColor& from, const QColor& to, double part)
 {
@@ -240,42 +302,27 @@ QFont DateFont()
     return font;
 }
 
+QFont HeadFont()
+{
+    static const QStringList families = [] {
+        // Not QFontDatabase::hasFamily: for a family that is missing it asks fontconfig too.
+        const QStringList installed = QFontDatabase::families();
+        QStringList kin = DateFont().families();
+        const auto found =
+            std::find_if(kin.begin(), kin.end(), [&](const QString& family) { return installed.contains(family); });
+        std::rotate(kin.begin(), found != kin.end() ? found : kin.begin(), kin.end());
+        return kin;
+    }();
+    QFont font = DateFont();
+    font.setFamilies(families);
+    return font;
+}
+
 Picture::Drawing CaptionDrawing(TextView caption, bool heading)
 {
     return [caption = ToQString(caption), heading](QPainter& painter, const QRectF& area) {
-        painter.setFont(PrintFont(heading ? 16 : 15, heading));
-        painter.setPen(heading ? Ink::Accent : Ink::Print);
-        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, caption);
+        DrawWord(painter, area, caption, PrintFont(heading ? 16 : 15, heading), heading ? Ink::Accent : Ink::Print);
     };
-}
-
-PaperSheet::PaperSheet(QWidget* parent) : QWidget(parent)
-{
-    setFixedSize(kDesk.size());
-    setAttribute(Qt::WA_OpaquePaintEvent);
-    setPalette(PagePalette());
-    setFont(PrintFont(15));
-}
-
-void PaperSheet::paintEvent(QPaintEvent* event)
-{
-    // The first page goes straight onto the screen; the copy for the many small repaints is made with the second.
-    if (!shown_) {
-        shown_ = true;
-        QPainter painter(this);
-        DrawSheet(painter);
-        return;
-    }
-    const qreal scale = devicePixelRatioF();
-    if (cache_.isNull() || cache_.devicePixelRatioF() != scale) {
-        cache_ = QPixmap((QSizeF(size()) * scale).toSize());
-        cache_.setDevicePixelRatio(scale);
-        QPainter painter(&cache_);
-        DrawSheet(painter);
-    }
-    QPainter painter(this);
-    const QRect dirty = event->rect();
-    painter.drawPixmap(dirty, cache_, QRectF(QPointF(dirty.topLeft()) * scale, QSizeF(dirty.size()) * scale).toRect());
 }
 
 } // namespace zelvia

@@ -9,16 +9,21 @@
 
 #include <QColor>
 #include <QFont>
-#include <QPixmap>
-#include <QWidget>
 
 class QPainter;
 
 namespace zelvia
 {
 
-/// The large face of the date, and of the counters' numbers.
+/// The large face of the date.
 QFont DateFont();
+
+/// The same by the name of a family that is installed, for what is drawn: asked for one that is not, Qt has fontconfig
+/// sort all fonts, 2.5 million instructions of the start.
+QFont HeadFont();
+
+/// A face of the page as it is shown `factor` times larger.
+QFont Enlarged(QFont font, double factor);
 
 /// A caption in print, for the pictures that carry one.
 Picture::Drawing CaptionDrawing(TextView caption, bool heading = false);
@@ -32,21 +37,17 @@ void DrawShoe(QPainter& painter, const QRectF& area);
 void DrawMilestone(QPainter& painter, const QRectF& area);
 void DrawCup(QPainter& painter, const QRectF& area);
 
-/// The open diary on its desk: paper, rules, binding and the printed words that are no control. Drawn once for each
-/// scale of the screen.
-class PaperSheet : public QWidget
-{
-    Q_OBJECT
+/// The wood of the desk.
+void DrawDesk(QPainter& painter, const QRect& place);
 
-public:
-    explicit PaperSheet(QWidget* parent);
+// The painters of what follows have been scaled to the page: places and faces are those of PageLayout. Upright lines
+// and edges are drawn with Pixels.
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
+/// A text in the face that a label has beside it: of whole pixels, whatever the scale of the page.
+void DrawWord(QPainter& painter, const QRectF& place, const QString& word, const QFont& font, const QColor& ink,
+              Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignVCenter);
 
-private:
-    QPixmap cache_;
-    bool shown_ = false;
-};
+/// The open diary: paper, rules, binding and the printed words that are no control.
+void DrawPage(QPainter& painter);
 
 } // namespace zelvia

@@ -19,6 +19,8 @@
 namespace zelvia
 {
 
+class PaperSheet;
+
 /// The controls of a text field that takes its value from a selection list.
 struct ListControls {
     Label* lbl = nullptr;      ///< The caption.
@@ -36,11 +38,15 @@ struct NoteControls {
 /// The number of a day that a spin control holds.
 using NumberMember = std::variant<std::monostate, i16 RecordGiorno::*, i32 RecordGiorno::*>;
 
-/// Every control of the day page under its name. What stands where is in PageLayout.
+/// Every control of the day page under its name. Their places are in PageLayout.
 struct PageControls {
+    PaperSheet* sheet{}; ///< Their parent.
+
     // Date and file.
     Label *lblData{}, *lblNomeFile{};
     UpDown *upGiorno{}, *upMese{};
+    Label* lblIndiceMesi{}; ///< The tabs of the months along the page's edge.
+    Picture* pctCoccarda{}; ///< The rosette of a race day.
 
     // Counters of the year.
     Label *lblNumGiornoAnno{}, *lblNumGiorniCorseAnno{}, *lblNumKMPercorsi{}, *lblNumGare{};
@@ -53,6 +59,7 @@ struct PageControls {
     // Numeric fields.
     Label *lblKm{}, *lblImmisMetri{};
     UpDown *upKM{}, *upMetri{}, *upMetro{};
+    Picture* pctUnita{}; ///< What the three step, in print.
     Label *lblOraInizio{}, *lblImmisOraInizio{};
     UpDown *upOraInizio{}, *upMinutiInizio{}, *upSecondiInizio{};
     Label *lblOraFine{}, *lblImmisOraFine{};
@@ -100,10 +107,13 @@ struct PageControls {
         Label* label;
     };
     std::vector<SlipLine> tableSlip, raceSlip;
+
+    /// Each field's value, and what opens over it or beside it, in the order of the Tab key.
+    std::vector<std::vector<QWidget*>> fields;
 };
 
 /// Creates every control of the page on `page`, in its place, with its caption and limits, visible or hidden as at
 /// rest. The order of their creation is the order of the Tab key.
-void BuildPage(PageControls& controls, QWidget* page);
+void BuildPage(PageControls& controls, PaperSheet* page);
 
 } // namespace zelvia

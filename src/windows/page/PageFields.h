@@ -34,7 +34,7 @@ struct ValueRow {
     Label* PageControls::*label;
     TextView name;
     TextView text;         ///< What it shows before any day.
-    TextView spoken;       ///< What it holds, for a screen reader.
+    TextView spoken = {};  ///< Its name for a screen reader, where it isn't the caption.
     QRect place = {};      ///< Where it isn't the whole place of the row.
     std::size_t probe = 0; ///< The spin that is visible when the value counts as open.
     TextView click = {};   ///< What its click and its opening report under, where it isn't the name.

@@ -4,16 +4,41 @@
 
 #include <QRect>
 
-/// Where everything of the page stands, in logical pixels from the corner of the page's desk.
+/// Where everything on the page is as designed, in logical pixels from the corner of the desk. PaperSheet shows it
+/// larger or smaller.
 namespace zelvia::PageLayout
 {
 
 inline constexpr QRect kDesk{0, 0, 1200, 648};
 inline constexpr QRect kLeftPage{24, 12, 576, 624};
 inline constexpr QRect kRightPage{600, 12, 576, 624};
+inline constexpr QRect kLeast{20, 8, 1160, 632}; ///< What is shown of the desk at least.
+inline constexpr double kLeastFactor = 0.7;
+inline constexpr double kMostFactor = 2.5;
 
 // Left page: the head, then one row a field.
-inline constexpr QRect kDate{49, 34, 440, 43};
+inline constexpr QRect kDate{49, 33, 440, 53};
+inline constexpr QRect kDayCell{492, 33, 41, 53}; ///< Of the arrows of the day.
+inline constexpr QRect kMonthCell{534, 33, 41, 53};
+inline constexpr int kArrowsHeight = 34; ///< Below them a cell has its name.
+/// The rules that frame the date and its arrows.
+struct DateRule {
+    const char* name;
+    QRect place;
+    bool accent; ///< In the accent's ink; otherwise in that of the rules.
+};
+inline constexpr DateRule kDateRules[] = {
+    {"chkBordoSup", {48, 28, 528, 2}, true},      {"chkBordoSup2", {48, 32, 528, 1}, true},
+    {"chkBordoInf", {48, 86, 528, 2}, true},      {"chkBarraGiorno1", {48, 33, 1, 53}, false},
+    {"chkBarraGiorno2", {491, 33, 1, 53}, false}, {"chkBarraGiorno3", {533, 33, 1, 53}, false},
+    {"chkBarraGiorno4", {575, 33, 1, 53}, false},
+};
+/// The arrows of a cell.
+constexpr QRect DateSpin(const QRect& cell)
+{
+    constexpr int width = 24;
+    return {cell.left() + (cell.width() - width) / 2 + 1, cell.top() + 3, width, kArrowsHeight};
+}
 inline constexpr int kCaptionLeft = 56;
 inline constexpr int kCaptionWidth = 108;
 inline constexpr int kValueLeft = 168;
@@ -24,7 +49,8 @@ inline constexpr int kRowHeight = 26;
 inline constexpr int kRowRight = 576;
 inline constexpr int kSpinLeft = 412;
 inline constexpr int kSpinStep = 24;
-inline constexpr int kListHeight = 152;
+inline constexpr int kDistanceStep = 58; ///< The same where a unit follows each.
+inline constexpr int kListEntries = 8;   ///< How many a list shows at most.
 
 /// Rows of the left page.
 enum Row {
@@ -63,14 +89,21 @@ constexpr QRect Value(int row)
 /// The `index`-th spin control, from 0 on, of a row.
 constexpr QRect Spin(int row, int index)
 {
-    return {kSpinLeft + index * kSpinStep, RowTop(row), 20, kRowHeight};
+    return {kSpinLeft + index * (row == Km ? kDistanceStep : kSpinStep), RowTop(row), 20, kRowHeight};
 }
-/// A list opens under its row, or over it where the page ends.
-constexpr QRect List(int row)
+inline constexpr QRect kUnits{kSpinLeft, RowTop(Km), kRowRight - kSpinLeft, kRowHeight};
+/// The box of an open value reaches from rule to rule, for the hand is as high as the row; in it the text stays where
+/// it was.
+constexpr QRect Box(const QRect& value)
 {
-    const int below = RowTop(row) + kRowHeight + 1;
-    const int top = below + kListHeight <= kLeftPage.bottom() - 8 ? below : RowTop(row) - kListHeight - 1;
-    return {kValueLeft, top, kValueWidth, kListHeight};
+    return value.adjusted(-4, -2, 0, 2);
+}
+/// A list opens under the box of its row, or over it where the page ends.
+constexpr QRect List(int row, int height)
+{
+    const QRect box = Box(Value(row));
+    const int below = box.bottom() + 1;
+    return {box.left(), below + height <= kLeftPage.bottom() - 8 ? below : box.top() - height, box.width(), height};
 }
 
 // The three values of the repetitions and the two of the splits share a row.
@@ -100,7 +133,8 @@ inline constexpr int kPlanStep = 30;
 inline constexpr int kRaceStep = 26;
 
 inline constexpr QRect kOrderedHeads{636, 36, 508, 24};
-inline constexpr QRect kOrderedList{636, 60, 508, 204};
+inline constexpr QRect kOrderedList{636, 57, 508, 204}; ///< Its frame is below the heads.
+inline constexpr int kOrderedText = 5;                  ///< From the edge of the list to its text.
 
 inline constexpr int kNotesTop = 306;
 inline constexpr int kNoteStep = 29;
@@ -123,7 +157,10 @@ constexpr QRect CounterCaption(int index)
 {
     return {636 + index * 128, kCountersTop + 43, 124, 18};
 }
-inline constexpr QRect kFileName{160, 600, 300, 24};
+// At the outer edge of the right page: the tabs of the months, and the rosette of a race over the slip's corner.
+inline constexpr QRect kThumbIndex{1155, 84, 21, 12 * 44};
+inline constexpr QRect kRosette{1148, 14, 24, 48};
+inline constexpr QRect kFileName{kValueLeft + 2, 600, 290, 24};
 inline constexpr QRect kFileCaption{56, 600, 100, 24};
 
 } // namespace zelvia::PageLayout

@@ -5,7 +5,11 @@
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
 #include "toolkit/Keys.h"
+#include "toolkit/QtText.h"
 #include "windows/page/FrmMain.h"
+#include "windows/page/PaperSheet.h"
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -37,6 +41,7 @@ void SelectionField::Connect()
     controls_.lbl->OnClick(trapped("lbl", &SelectionField::LeaveBox), KeyReach::MouseOnly);
     controls_.txt->LostFocus = trapped("txt", &SelectionField::Close);
     controls_.txt->Click = trapped("txt", &SelectionField::LeaveBox);
+    controls_.txt->Change = [this] { MarkTyped(); };
     controls_.txt->KeyPress = [leave = controls_.txt->Click](int& keyAscii) {
         if (keyAscii == kEnter || keyAscii == kEscape) {
             leave();
@@ -60,8 +65,61 @@ void SelectionField::Open()
         page_.FollowInTabOrder(*controls_.lst);
         controls_.txt->SetVisible(true);
         controls_.lst->SetVisible(true);
+        FitList();
+        const std::vector<Text>& entries = EntriesOf(list_);
+        const auto same = [this](const Text& entry) { return SameText(entry, controls_.txt->Content()); };
+        MarkAt(std::find_if(entries.begin(), entries.end(), same));
         page_.EnterField(*controls_.txt);
     });
+}
+
+void SelectionField::FitList()
+{
+    const auto row = static_cast<std::size_t>(list_) - 1;
+    ListBox& list = *controls_.lst;
+    const int entries = std::clamp(list.ListCount(), 1, PageLayout::kListEntries);
+    const PaperSheet& sheet = *page_.sheet;
+    const int height = list.HeightOf(entries);
+    const QRect place = PageLayout::List(ListRows()[row].row, qRound(height / sheet.Factor()));
+    QRect shown = sheet.Place(place);
+    place.top() > PageLayout::RowTop(ListRows()[row].row) ? shown.setHeight(height)
+                                                          : shown.setTop(shown.bottom() + 1 - height);
+    list.setGeometry(shown);
+}
+
+/// Marks an entry of the list, or none at its end. The box, which has the focus, reports it to screen readers.
+void SelectionField::MarkAt(std::vector<Text>::const_iterator entry)
+{
+    const std::vector<Text>& entries = EntriesOf(list_);
+    const bool marks = entry != entries.end();
+    controls_.lst->Mark(marks ? static_cast<int>(entry - entries.begin()) : -1);
+    const QString summary = controls_.lst->Summary();
+    controls_.txt->setAccessibleDescription(marks ? summary + QStringLiteral("; ") + ToQString(*entry) : summary);
+}
+
+void SelectionField::MarkTyped()
+{
+    const std::vector<Text>& entries = EntriesOf(list_);
+    const Text typed = controls_.txt->Content();
+    const auto begins = [&typed](const Text& entry) { return SameText(Text(Left(entry, Len(typed))), typed); };
+    MarkAt(typed.empty() ? entries.end() : std::find_if(entries.begin(), entries.end(), begins));
+}
+
+void SelectionField::EnterList(int step)
+{
+    ListBox& list = *controls_.lst;
+    if (list.ListCount() == 0) {
+        return;
+    }
+    const int marked = list.currentRow();
+    int row = marked;
+    if (marked < 0) {
+        row = step > 0 ? 0 : list.ListCount() - 1;
+    } else if (list.List(marked) == controls_.txt->Content()) {
+        row = std::clamp(marked + step, 0, list.ListCount() - 1);
+    }
+    controls_.txt->SetContent(list.List(row));
+    list.Choose(row);
 }
 
 void SelectionField::Close()
@@ -103,6 +161,7 @@ void SelectionField::RemoveSelected()
         EntriesOf(list_).erase(EntriesOf(list_).begin() + selected);
         controls_.lst->RemoveItem(selected);
         controls_.txt->SetContent({});
+        FitList();
     }
 }
 

@@ -6,6 +6,8 @@
 #include "core/Text.h"
 #include "diary/SelectionLists.h"
 
+#include <vector>
+
 namespace zelvia
 {
 
@@ -26,6 +28,11 @@ public:
     void Open();
     /// Adds the box's trimmed text to the list if it is new there; 1 when the list held it already, else 0.
     i16 AggiungiLista(TextBox& txt);
+    /// A key of the box: takes the marked entry into it or, when it is there already, the one `step` further, and goes
+    /// into the list on that entry as a press there does.
+    void EnterList(int step);
+    /// The list shows whole entries in its place on the page, and no more than there are.
+    void FitList();
     /// Removes the selected entry from the list.
     virtual void RemoveSelected();
 
@@ -47,6 +54,8 @@ private:
     void OnListDblClick();
     void OnListKeyPress(int keyAscii);
     void LeaveBox();
+    void MarkTyped();
+    void MarkAt(std::vector<Text>::const_iterator entry);
     void Connect();
 
     SelectionList list_;

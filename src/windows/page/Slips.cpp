@@ -11,6 +11,7 @@
 #include "diary/TableModel.h"
 #include "diary/TableWalk.h"
 #include "diary/Workspace.h"
+#include "windows/page/PageMarks.h"
 
 namespace zelvia
 {
@@ -88,6 +89,7 @@ void Slips::Show(const std::vector<PageControls::SlipLine>& slip, bool visible)
         line.picture->SetVisible(visible);
         line.label->SetVisible(visible);
     }
+    ShowRaceDay(page_);
     raised_();
 }
 

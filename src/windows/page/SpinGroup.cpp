@@ -13,6 +13,9 @@ namespace zelvia
 SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
     : page_(page), then_(group.then), value_(*(page.*group.values.front().label))
 {
+    if (then_ == Then::Distance) {
+        controls_.push_back(page_.pctUnita);
+    }
     for (const SpinRow& spin : group.spins) {
         spins_.push_back(page_.*spin.member);
         controls_.push_back(page_.*spin.member);

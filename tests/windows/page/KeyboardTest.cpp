@@ -116,9 +116,9 @@ void KeyboardTest::TabGoesOnBehindTheFieldThatWasOpen_data()
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("next");
     QTest::newRow("list") << QStringLiteral("lblImmisFondo") << QStringLiteral("lblImmisTipo");
-    QTest::newRow("numbers") << QStringLiteral("lblImmisOraFine") << QStringLiteral("lblImmisCorridori");
+    QTest::newRow("numbers") << QStringLiteral("lblImmisOraFine") << QStringLiteral("lblOutTempoImpiegato");
     QTest::newRow("note") << QStringLiteral("lblNote4") << QStringLiteral("lblNote5");
-    QTest::newRow("last list") << QStringLiteral("lblImmisTemperatura") << QStringLiteral("lblImmisMetri");
+    QTest::newRow("last list") << QStringLiteral("lblImmisTemperatura") << QStringLiteral("lblImmisCorridori");
 }
 
 void KeyboardTest::TabGoesOnBehindTheFieldThatWasOpen()

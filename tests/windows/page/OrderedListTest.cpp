@@ -4,10 +4,12 @@
 #include "core/Conversions.h"
 #include "support/EntryPage.h"
 #include "support/WindowTest.h"
+#include "windows/page/PaperSheet.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QRegularExpression>
+#include <QStyle>
 
 namespace zelvia::test
 {
@@ -43,7 +45,7 @@ bool Hidden(const EntryPage& page)
            std::none_of(page->cmdLO.begin(), page->cmdLO.end(), [](const Button* head) { return head->isVisible(); });
 }
 
-/// What lies over the list or its heads on the screen.
+/// What is over the list or its heads on the screen.
 QByteArrayList Covering(const EntryPage& page)
 {
     QByteArrayList names;
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void itComesUpAnew();
     void theCommandListsTheStoredRuns();
     void columnsLineUp();
+    void headsStandOverTheirColumns_data();
+    void headsStandOverTheirColumns();
 };
 
 void OrderedListTest::earlierRunsAndTheOneOnShow()
@@ -338,6 +342,46 @@ void OrderedListTest::columnsLineUp()
     }
     QCOMPARE(lines.filter(QStringLiteral("   5:00   ")).size(), 61);
     QCOMPARE(lines.filter(QStringLiteral("  12:30   ")).size(), 60);
+    VERIFY_SCRIPT(page.script);
+}
+
+void OrderedListTest::headsStandOverTheirColumns_data()
+{
+    QTest::addColumn<double>("factor");
+    QTest::newRow("smallest") << 0.7;
+    QTest::newRow("as designed") << 1.0;
+    QTest::newRow("larger") << 1.2;
+}
+
+void OrderedListTest::headsStandOverTheirColumns()
+{
+    QFETCH(double, factor);
+    EntryPage page;
+    page.Start();
+    const int bar = page->height() - page->sheet->height();
+    page->resize(qRound(1200 * factor), qRound(648 * factor) + bar);
+    QTRY_VERIFY(std::abs(page->sheet->Factor() - factor) < 0.01);
+    PutRun(20, "Alfa", "1:02:03", "12:30");
+    RunToday(page, "Alfa");
+    const ListBox& list = *page->lstListaOrdinata;
+    const QFontMetricsF metrics(list.font());
+    // The first and the last character of each column in a line.
+    constexpr std::pair<int, int> columns[] = {{1, 5}, {8, 15}, {17, 22}, {25, 35}};
+    const QString line = QStringLiteral("   1°   1:02:03  12:30   20/01/2026");
+    QCOMPARE(line.size(), 35);
+    const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+    const int text = list.viewport()->mapTo(page->sheet, list.visualItemRect(list.item(0)).topLeft()).x() + margin;
+    for (std::size_t i = 0; i < std::size(columns); ++i) {
+        const QRect head = page->cmdLO[i]->geometry();
+        const double from = text + metrics.horizontalAdvance(line.left(columns[i].first));
+        const double to = text + metrics.horizontalAdvance(line.left(columns[i].second));
+        QVERIFY2(head.left() <= from && to <= head.right() + 1, qPrintable(page->cmdLO[i]->text()));
+        // The word is in the middle of the head, and over a part of its column.
+        QVERIFY(from < head.center().x() && head.center().x() < to);
+        QVERIFY(page->cmdLO[i]->fontMetrics().horizontalAdvance(page->cmdLO[i]->text()) < head.width());
+    }
+    QCOMPARE(page->cmdLO[0]->geometry().left(), list.geometry().left());
+    QCOMPARE(page->cmdLO[3]->geometry().right(), list.geometry().right());
     VERIFY_SCRIPT(page.script);
 }
 
