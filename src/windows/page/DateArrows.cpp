@@ -5,7 +5,6 @@
 #include "core/RunTimeError.h"
 #include "toolkit/FocusController.h"
 #include "toolkit/QtText.h"
-#include "toolkit/SpinKeys.h"
 #include "windows/page/FrmMain.h"
 
 namespace zelvia
@@ -16,10 +15,15 @@ using namespace Module1;
 DateArrows::DateArrows(frmMain& page) : page_(page)
 {
     page_.lblData->OnClick([this] { lblData_Click(); });
-    new SpinKeys(*page_.upGiorno, {page_.upGiorno, page_.upMese}, *page_.upGiorno, [this] {
+    page_.lblIndiceMesi->OnClick([this] { lblData_Click(); }, KeyReach::MouseOnly);
+    SpinKeys::Actions actions;
+    actions.leave = [this] {
         page_.lstListaOrdinata_LostFocus();
         page_.FocusSink().SetFocus();
-    });
+    };
+    actions.next = [this] { page_.FocusNextValue(); };
+    keys_.emplace(*page_.upGiorno, std::vector<UpDown*>{page_.upGiorno, page_.upMese}, *page_.upGiorno,
+                  std::move(actions));
     for (UpDown* spin : {page_.upGiorno, page_.upMese}) {
         const TextView interval = spin == page_.upGiorno ? "d" : "m";
         spin->BeforeStep = [this] { return LeaveField(); };
@@ -32,8 +36,8 @@ bool DateArrows::LeaveField()
 {
     FocusController& focus = FocusController::Instance();
     const Control* current = focus.Current();
-    const bool arrows = current == page_.upGiorno || current == page_.upMese;
-    if (current != nullptr && !arrows && current->Widget().window() == &page_) {
+    const bool open = dynamic_cast<const Label*>(current) == nullptr && current != page_.upGiorno;
+    if (current != nullptr && open && current->Widget().window() == &page_) {
         focus.LeaveField();
     }
     return !page_.Route().Described();
@@ -63,6 +67,15 @@ void DateArrows::Move(const UpDown& spin, TextView interval, int step)
         page_.VisualizzaGiorno();
         page_.DatiAnno();
     });
+}
+
+void DateArrows::SpeakDate() const
+{
+    page_.upGiorno->SetSpokenValue(page_.GiornoMese);
+    page_.upMese->SetSpokenValue(page_.MeseCorrente);
+    for (QWidget* widget : std::initializer_list<QWidget*>{page_.upGiorno, page_.upMese, page_.pctGiornoAnno}) {
+        widget->setAccessibleDescription(page_.lblData->text().trimmed());
+    }
 }
 
 void DateArrows::lblData_Click()

@@ -3,6 +3,9 @@
 #pragma once
 
 #include "core/Text.h"
+#include "toolkit/SpinKeys.h"
+
+#include <optional>
 
 namespace zelvia
 {
@@ -17,6 +20,9 @@ public:
     explicit DateArrows(frmMain& page);
 
     void lblData_Click();
+    /// The numbers of the arrows only count clicks: screen readers say the date instead, and where the
+    /// focus rests.
+    void SpeakDate() const;
 
 private:
     /// Closes the open field for a step of the date; false when that opened a route's description.
@@ -24,6 +30,7 @@ private:
     void Move(const UpDown& spin, TextView interval, int step);
 
     frmMain& page_;
+    std::optional<SpinKeys> keys_;
 };
 
 } // namespace zelvia

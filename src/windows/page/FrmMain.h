@@ -89,6 +89,8 @@ public:
     /// Gives the focus to the control of a field that opens. The hand pointer comes with it, once another field has
     /// closed.
     void EnterField(Control& control);
+    /// Goes on to the next value, as Tab does.
+    void FocusNextValue() { focusNextPrevChild(true); }
     void mnuCancella_Click() { mnuCancelladallaLista->mnuCancella_Click(); }
     void mnuListaWOrdinata_Click() { route_->mnuListaWOrdinata_Click(); }
     void mnuDescrizionePercorso_Click() { route_->mnuDescrizionePercorso_Click(); }

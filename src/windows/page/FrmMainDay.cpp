@@ -70,6 +70,7 @@ void frmMain::Data()
         AnnoCorrente = DataCorrente.Year();
         GiornoCorrente = DataCorrente.DayOfYear();
         lblNumGiornoAnno->SetCaption(PlainText(GiornoCorrente));
+        dates_->SpeakDate();
         AzzeraDatiTabella();
         NascondiRiquadriGara();
         if (!NomeTabellaAttiva.empty()) {

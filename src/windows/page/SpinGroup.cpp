@@ -4,7 +4,6 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
-#include "toolkit/SpinKeys.h"
 #include "windows/page/FrmMain.h"
 
 namespace zelvia
@@ -27,6 +26,7 @@ SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
         focus_ = page_.cmdListaKM;
     }
     for (const ValueRow& value : group.values) {
+        values_.push_back(page_.*value.label);
         ConnectClick(value);
     }
     (page_.*row.label)
@@ -36,7 +36,14 @@ SpinGroup::SpinGroup(frmMain& page, const NumberRow& row, const GroupRow& group)
             },
             KeyReach::MouseOnly);
     focus_->LostFocus = [this] { Close(); };
-    new SpinKeys(focus_->Widget(), spins_, first, [this] { page_.FocusSink().SetFocus(); });
+    SpinKeys::Actions actions;
+    actions.leave = [this] { page_.FocusSink().SetFocus(); };
+    actions.active = [this](int spin) { Underline(spin); };
+    if (then_ != Then::Splits) {
+        // There Enter is the button's.
+        actions.next = [this] { page_.FocusNextValue(); };
+    }
+    keys_.emplace(focus_->Widget(), spins_, first, std::move(actions));
     then_ == Then::Distance ? ConnectDistance() : ConnectSpins();
 }
 
@@ -94,11 +101,27 @@ void SpinGroup::Show(bool visible)
     }
 }
 
+/// Underlines in the label what the spin at this place enters; -1 for no spin.
+void SpinGroup::Underline(int spin)
+{
+    for (Label* label : values_) {
+        label->UnderlineNumber(-1);
+    }
+    constexpr int tens = 1;
+    if (then_ == Then::Distance && spin > tens) {
+        value_.UnderlineNumber(tens, 1);
+    } else if (spin > 0 && values_.size() > 1) {
+        values_.back()->UnderlineNumber(spin - 1);
+    } else {
+        value_.UnderlineNumber(spin);
+    }
+}
+
 void SpinGroup::Open(const Text& opening)
 {
     Trap(opening + " - ERRORE : ", [this] {
-        Show(true);
         try {
+            Show(true);
             page_.EnterField(*focus_);
         } catch (...) {
             // Without the focus nothing would ever close it.

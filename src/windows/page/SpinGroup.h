@@ -3,8 +3,10 @@
 #pragma once
 
 #include "core/Text.h"
+#include "toolkit/SpinKeys.h"
 #include "windows/page/PageFields.h"
 
+#include <optional>
 #include <vector>
 
 namespace zelvia
@@ -30,13 +32,16 @@ private:
     void ShowDistance(i32 metres);
     void Open(const Text& opening);
     void Close();
+    void Underline(int spin);
 
     frmMain& page_;
     Then then_;
     Label& value_;
+    std::vector<Label*> values_;     ///< `value_` and, where a second label shows more of the group, that one.
     std::vector<UpDown*> spins_;     ///< From left to right.
     std::vector<Control*> controls_; ///< In the order in which they appear.
     Control* focus_;                 ///< The one that takes the focus.
+    std::optional<SpinKeys> keys_;
 };
 
 } // namespace zelvia

@@ -15,11 +15,14 @@ using namespace TableGrid;
 constexpr int kFirst = 61; // 2 March 2026
 const QString kFile = QStringLiteral("prova/Piano.tab");
 
-/// The steps that a spin control needs for a number of its increments.
-QList<Qt::Key> Steps(int increments)
+/// The keys of a number.
+QList<Qt::Key> Digits(int number)
 {
-    constexpr int page = 10;
-    return QList<Qt::Key>(increments / page, Qt::Key_PageUp) + QList<Qt::Key>(increments % page, Qt::Key_Up);
+    QList<Qt::Key> keys;
+    for (const QChar digit : QString::number(number)) {
+        keys << Qt::Key(Qt::Key_0 + digit.digitValue());
+    }
+    return keys;
 }
 
 class Runner : public PlanDesk
@@ -29,7 +32,7 @@ public:
 
     /// Opens a group of spin controls by its value, presses keys and closes it.
     void Turn(Label& value, UpDown& focus, const QList<Qt::Key>& keys) const;
-    void RunDistance(int km, int tensOfMetres = 0) const;
+    void RunDistance(int km, int metres = 0) const;
     /// From seven o'clock on.
     void RunTime(int minutes, int seconds = 0) const;
     /// Types into the field of a list.
@@ -53,19 +56,19 @@ void Runner::Turn(Label& value, UpDown& focus, const QList<Qt::Key>& keys) const
     QTRY_VERIFY(!focus.isVisible());
 }
 
-void Runner::RunDistance(int km, int tensOfMetres) const
+void Runner::RunDistance(int km, int metres) const
 {
-    Turn(*Page().lblImmisMetri, *Page().upMetri, Steps(tensOfMetres) + QList<Qt::Key>{Qt::Key_Left} + Steps(km));
+    Turn(*Page().lblImmisMetri, *Page().upMetri, Digits(metres) + QList<Qt::Key>{Qt::Key_Left} + Digits(km));
 }
 
 void Runner::RunTime(int minutes, int seconds) const
 {
     constexpr int hour = 60;
     constexpr int seven = 7;
-    Turn(*Page().lblImmisOraInizio, *Page().upOraInizio, Steps(seven));
+    Turn(*Page().lblImmisOraInizio, *Page().upOraInizio, Digits(seven));
     const QList<Qt::Key> right = {Qt::Key_Right};
     Turn(*Page().lblImmisOraFine, *Page().upOraFine,
-         Steps(seven + minutes / hour) + right + Steps(minutes % hour) + right + Steps(seconds));
+         Digits(seven + minutes / hour) + right + Digits(minutes % hour) + right + Digits(seconds));
     // The route's times have come up over the panel.
     ListBox& times = *Page().lstListaOrdinata;
     QTRY_VERIFY(times.isVisible());
@@ -250,10 +253,10 @@ void PlanToTheEndTest::MeetTheWork(const Runner& desk)
     desk.Enter(SelectionList::Fondo, QStringLiteral("strada bianca"));
     desk.NextDay();
     desk.Verify(kRow6, 6);
-    desk.Turn(*page.lblRipetizioniVolte, *page.upRipetizioni, Steps(5));
-    desk.Turn(*page.lblRipetizioniDistanza, *page.upRipetizioniDistanza, Steps(10));
+    desk.Turn(*page.lblRipetizioniVolte, *page.upRipetizioni, Digits(5));
+    desk.Turn(*page.lblRipetizioniDistanza, *page.upRipetizioniDistanza, Digits(1000));
     desk.Turn(*page.lblRipetizioniQuante, *page.upRipetizioniQuante,
-              Steps(4) + QList<Qt::Key>{Qt::Key_Right} + Steps(10));
+              Digits(4) + QList<Qt::Key>{Qt::Key_Right} + Digits(10));
     desk.NextDay();
 }
 
@@ -272,7 +275,7 @@ void PlanToTheEndTest::MeetTheLast(Runner& desk)
     desk.Verify(kRow31, 31);
     desk.NextDay();
     desk.Verify(kRow31, 31);
-    desk.RunDistance(1, 50);
+    desk.RunDistance(1, 500);
     desk.script.Expect(EndOfTable(QStringLiteral("Piano")));
     const QByteArray before = desk.folder.Read(kFile);
     desk.NextDay();
