@@ -8,6 +8,7 @@
 #include "diary/ProgramFiles.h"
 #include "diary/Workspace.h"
 #include "toolkit/Application.h"
+#include "toolkit/PageTurn.h"
 #include "toolkit/SessionEnd.h"
 #include "windows/page/FrmMain.h"
 
@@ -121,6 +122,7 @@ int Run(int argc, char* argv[])
     if (!page->FormLoad()) {
         return 0;
     }
+    PageTurn::Allow(true);
     page->show();
     const SessionEnd end(*page);
     const int status = QCoreApplication::exec();

@@ -4,6 +4,7 @@
 
 #include "toolkit/CommonDialog.h"
 #include "toolkit/Form.h"
+#include "toolkit/PageTurn.h"
 #include "toolkit/Timer.h"
 #include "windows/guide/HelpViewer.h"
 #include "windows/page/DateArrows.h"
@@ -175,6 +176,7 @@ private:
     TimeTaken time_{*this, times_};
     Slips slips_{*this, [this] { times_.Raise(); }};
     TableWindows tables_;
+    PageTurn turn_;
     HelpViewer guida_;
     FormSlot<frmInfo> info_;
     FormSlot<frmCalendario> calendario_;

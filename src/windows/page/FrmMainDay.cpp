@@ -63,6 +63,9 @@ void frmMain::DatiAnno()
 void frmMain::Data()
 {
     Trap("Data - ERRORE : ", [this] {
+        if (DataCorrente.DayOfYear() != GiornoCorrente) {
+            turn_.Begin(*this);
+        }
         lblData->SetCaption(Format(DataCorrente, "   dddd  d  mmmm  yyyy"));
         lblIndiceMesi->SetCaption(Format(DataCorrente, "mmmm"));
         GiornoMese = DataCorrente.Day();
