@@ -14,6 +14,7 @@
 #include "windows/page/NoteLines.h"
 #include "windows/page/OrderedTimes.h"
 #include "windows/page/PageControls.h"
+#include "windows/page/PageKeys.h"
 #include "windows/page/RouteField.h"
 #include "windows/page/Slips.h"
 #include "windows/page/SpinGroup.h"
@@ -98,6 +99,8 @@ public:
     void SalvaNomePercorso() { route_->SalvaNomePercorso(); }
     i16 NumeroPercorso() { return route_->NumeroPercorso(); }
     RouteField& Route() { return *route_; }
+    NoteLines& Notes() { return *notes_; }
+    Splits& TimesPerKm() { return *splits_; }
     SelectionField& Field(SelectionList list) { return *fields_[static_cast<int>(list)]; }
 
     // What other windows ask for.
@@ -140,6 +143,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void OnUnload() override;
 
 private:
@@ -172,6 +176,7 @@ private:
     std::optional<Splits> splits_;
     std::optional<NoteLines> notes_;
     std::optional<DateArrows> dates_;
+    std::optional<PageKeys> keys_;
     OrderedTimes times_{*this};
     TimeTaken time_{*this, times_};
     Slips slips_{*this, [this] { times_.Raise(); }};

@@ -6,7 +6,6 @@
 #include "diary/RouteModel.h"
 #include "toolkit/Application.h"
 #include "toolkit/Events.h"
-#include "toolkit/Keys.h"
 #include "windows/page/FrmMain.h"
 
 #include <QKeyEvent>
@@ -107,13 +106,8 @@ void frmMain::ConnectFields()
     }
     notes_.emplace(*this);
     dates_.emplace(*this);
+    keys_.emplace(*this);
     tmrFocus->Tick = [this] { tmrFocus_Timer(); };
-    lstListaOrdinata->LostFocus = [this] { lstListaOrdinata_LostFocus(); };
-    lstListaOrdinata->KeyPress = [this](int keyAscii) {
-        if (keyAscii == kEscape) {
-            lstListaOrdinata_LostFocus();
-        }
-    };
 }
 
 void frmMain::FollowInTabOrder(QWidget& field)
@@ -137,11 +131,14 @@ void frmMain::EnterField(Control& control)
 /// A key that no control of the page had a use for.
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape) {
-        Fire([this] { lstListaOrdinata_LostFocus(); });
-    } else {
+    if (!keys_->Handle(*event)) {
         Form::keyPressEvent(event);
     }
+}
+
+bool frmMain::focusNextPrevChild(bool next)
+{
+    return keys_->MoveFocus(next, [this, next] { return Form::focusNextPrevChild(next); });
 }
 
 void frmMain::CursoreMano()

@@ -4,8 +4,11 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "toolkit/Events.h"
 #include "toolkit/Keys.h"
 #include "windows/page/FrmMain.h"
+
+#include <algorithm>
 
 namespace zelvia
 {
@@ -81,6 +84,24 @@ void NoteLines::txtNote_KeyPress(int line, int keyAscii)
     });
 }
 
+bool NoteLines::MoveAlong(int step)
+{
+    for (int line = kFirstNote; line <= kLastNote; ++line) {
+        const NoteControls& note = page_.notes[line];
+        if (!note.txt->hasFocus() && !note.lbl->hasFocus()) {
+            continue;
+        }
+        const int target = std::clamp(line + step, kFirstNote, kLastNote);
+        if (note.lbl->hasFocus()) {
+            page_.notes[target].lbl->SetFocus();
+        } else if (target != line) {
+            Fire([&] { lblNote_Click(target); });
+        }
+        return true;
+    }
+    return false;
+}
+
 void NoteLines::mnuNote_Click()
 {
     Trap("mnuNote - ERRORE : ", [this] {
@@ -89,6 +110,11 @@ void NoteLines::mnuNote_Click()
         }
         const bool show = page_.NoteAperte == 0;
         for (const NoteControls& note : page_.notes) {
+            if (show && note.lbl->hasFocus()) {
+                // The box hides it; Tab goes on from there.
+                page_.FollowInTabOrder(*note.lbl);
+                page_.FocusSink().SetFocus();
+            }
             note.txt->SetVisible(show);
         }
         page_.NoteAperte = show ? 1 : 0;

@@ -16,6 +16,8 @@ public:
     void lblNote_Click(int line);
     void txtNote_Click(int line);
     void txtNote_KeyPress(int line, int keyAscii);
+    /// Goes up or down by `step` lines from the one that has the focus, open or not. False when none has it.
+    bool MoveAlong(int step);
     /// Opens all lines, or closes them.
     void mnuNote_Click();
 

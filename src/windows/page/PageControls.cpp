@@ -83,6 +83,8 @@ void MakeList(PageControls& controls, QWidget* page, const ListRow& row)
     for (QWidget* input : {static_cast<QWidget*>(field.txt), static_cast<QWidget*>(field.lst)}) {
         input->setAccessibleName(ToQString(row.caption).trimmed());
     }
+    // Tab passes it over: it is reached from the box with Down.
+    field.lst->setFocusPolicy(Qt::ClickFocus);
     field.txt->SetVisible(false);
     field.lst->SetVisible(false);
     controls.captions.push_back(field.lbl);

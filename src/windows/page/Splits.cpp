@@ -8,10 +8,14 @@
 #include "windows/page/FrmMain.h"
 #include "windows/page/SpinGroup.h"
 
+#include <algorithm>
+
 namespace zelvia
 {
 namespace
 {
+
+constexpr int kSplitsList = 9;
 
 /// Digits with a leading 0 below 10.
 Text TwoDigits(const UpDown& spin)
@@ -27,8 +31,7 @@ Splits::Splits(frmMain& page, SpinGroup& group) : page_(page), group_(group)
     page_.lstListaKM->GotFocus = [this] {
         Trap("lstListaKm - ERRORE : ", [this] {
             group_.Show(true);
-            constexpr int splits = 9;
-            page_.ListaAperta = splits;
+            page_.ListaAperta = kSplitsList;
             page_.CursoreMano();
             page_.cmdListaKM->SetFocus();
         });
@@ -51,6 +54,29 @@ Splits::Splits(frmMain& page, SpinGroup& group) : page_(page), group_(group)
             });
         };
     }
+}
+
+void Splits::ChooseLine(int step)
+{
+    ListBox& list = *page_.lstListaKM;
+    const int first = step < 0 ? list.ListCount() - 1 : 0;
+    list.SetListIndex(list.ListIndex() < 0 ? first : std::clamp(list.ListIndex() + step, 0, list.ListCount() - 1));
+    list.TellRow();
+}
+
+void Splits::RemoveLine()
+{
+    if (page_.lstListaKM->ListIndex() >= 0) {
+        page_.ListaAperta = kSplitsList;
+        page_.mnuCancella_Click();
+    }
+}
+
+void Splits::OpenMenu()
+{
+    const ListBox& list = *page_.lstListaKM;
+    page_.ListaAperta = kSplitsList;
+    page_.mnuCancelladallaLista->OnListMouseUp(Qt::RightButton, list.EntryPoint(), false);
 }
 
 void Splits::cmdListaKM_Click()

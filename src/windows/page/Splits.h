@@ -16,6 +16,11 @@ public:
 
     void cmdListaKM_Click();
 
+    // The keys of the list, whose group's button holds the focus.
+    void ChooseLine(int step);
+    void RemoveLine();
+    void OpenMenu();
+
 private:
     frmMain& page_;
     SpinGroup& group_;

@@ -146,7 +146,7 @@ void ListMenuTest::cancellaWithoutASelection()
     page.Start();
     page.Open(number);
     page.TypeOver(*page.Field(number).txt, EntryPage::Entries(number).constLast());
-    hand::Key(Qt::Key_Tab);
+    page.Field(number).lst->SetFocus();
     QTRY_VERIFY(page->ListaAperta == number);
     QVERIFY(Module1::FileModificato == 0);
     page.PopUp(*page.Field(number).lst, Qt::Key_C);
