@@ -15,6 +15,7 @@
 #include "windows/page/OrderedTimes.h"
 #include "windows/page/PageControls.h"
 #include "windows/page/PageKeys.h"
+#include "windows/page/PageTitle.h"
 #include "windows/page/RouteField.h"
 #include "windows/page/Slips.h"
 #include "windows/page/SpinGroup.h"
@@ -181,6 +182,7 @@ private:
     TimeTaken time_{*this, times_};
     Slips slips_{*this, [this] { times_.Raise(); }};
     TableWindows tables_;
+    PageTitle title_{*this};
     PageTurn turn_;
     HelpViewer guida_;
     FormSlot<frmInfo> info_;

@@ -74,6 +74,7 @@ frmMain::frmMain()
     new KeptSize(*this, page->sizeHint() + QSize(0, bar->sizeHint().height()));
     Application::Instance().HelpKey = [this](const QString& window) { ShowHelp(HelpCommand::Topic, window); };
     Application::Instance().RoutineEnded = [this, journal = PageJournal(*this)]() mutable {
+        title_.Update();
         journal.Update();
     };
     Application::Instance().ShowAgain = [this] {

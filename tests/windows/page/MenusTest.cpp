@@ -240,7 +240,6 @@ void MenusTest::helpBoxes()
     }
     ExpectedBox box = Report(text);
     box.icon = information ? QMessageBox::Information : QMessageBox::NoIcon;
-    box.title = page->windowTitle();
     page.script.Expect(box);
     page.Menu("mnuHelp", Qt::Key(entry));
     VERIFY_SCRIPT(page.script);
