@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/page/FrmInfo.h"
 
+#include "core/Files.h"
 #include "windows/page/PageArt.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 namespace zelvia
@@ -11,15 +13,42 @@ namespace zelvia
 namespace
 {
 
+constexpr QSize kSize{460, 388};
+constexpr int kRuleTop = 116;
+constexpr int kLineTop = 128;
+constexpr int kLineStep = 24;
+
+QString DataFolder()
+{
+    return QString::fromStdString(NativePath(ProgramFolder()).string());
+}
+
+/// The text under the name: the version, the licence, and where the diaries are kept.
+QStringList Facts()
+{
+    return {QStringLiteral("Versione " ZELVIA_VERSION), QStringLiteral("Licenza GNU GPL, versione 3 o successiva"),
+            QStringLiteral("I dati sono in ") + DataFolder()};
+}
+
 void DrawTitle(QPainter& painter, const QRectF& area)
 {
     painter.setFont(PrintFont(44, true));
     painter.setPen(Ink::PrintDark);
-    painter.drawText(area.adjusted(0, 0, 0, -46), Qt::AlignCenter, QStringLiteral("Zelvia"));
+    painter.drawText(QRectF(0, 0, area.width(), 64), Qt::AlignCenter, QStringLiteral("Zelvia"));
     painter.setFont(PrintFont(17));
     painter.setPen(Ink::Accent);
-    painter.drawText(area.adjusted(0, 74, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+    painter.drawText(QRectF(0, 68, area.width(), 28), Qt::AlignHCenter | Qt::AlignTop,
                      QStringLiteral("il diario di chi corre"));
+    painter.fillRect(QRectF(0, kRuleTop, area.width(), 1), Ink::Rule);
+    painter.setFont(PrintFont(15));
+    painter.setPen(Ink::Print);
+    const QFontMetricsF metrics(painter.font());
+    int top = kLineTop;
+    for (const QString& fact : Facts()) {
+        painter.drawText(QRectF(0, top, area.width(), kLineStep), Qt::AlignHCenter | Qt::AlignVCenter,
+                         metrics.elidedText(fact, Qt::ElideMiddle, area.width()));
+        top += kLineStep;
+    }
 }
 
 } // namespace
@@ -30,14 +59,16 @@ frmInfo::frmInfo()
       cmdOK(new Button(this, QStringLiteral("cmdOK"), "O.K."))
 {
     setWindowTitle(QStringLiteral("Informazioni su Zelvia"));
-    setPalette(PagePalette());
     setAutoFillBackground(true);
-    setFixedSize(380, 250);
-    pctInfo->setGeometry(130, 30, 220, 130);
+    setFixedSize(kSize);
+    pctInfo->setGeometry(30, 98, 400, 210);
     pctInfo->setAccessibleName(QStringLiteral("Zelvia, il diario di chi corre"));
-    Picture1->setGeometry(30, 45, 90, 90);
+    pctInfo->setAccessibleDescription(Facts().join(QStringLiteral(". ")));
+    // A long path is shortened in the picture.
+    pctInfo->setToolTip(DataFolder());
+    Picture1->setGeometry(188, 16, 84, 84);
     Picture1->setAccessibleName(QStringLiteral("Una scarpa da corsa"));
-    cmdOK->setGeometry(140, 190, 100, 34);
+    cmdOK->setGeometry(180, 328, 100, 34);
     cmdOK->setFont(PrintFont(15));
     cmdOK->Click = [this] { Unload(); };
 }

@@ -9,7 +9,8 @@
 namespace zelvia
 {
 
-/// The window that tells what the program is: two pictures and a button.
+/// The window that says what the program is, its version, its licence and where the diaries are: two pictures and a
+/// button.
 class frmInfo : public Form
 {
     Q_OBJECT

@@ -314,7 +314,13 @@ void MenusTest::infoWindow()
     QVERIFY(info->isVisible());
     QCOMPARE(info->windowTitle(), QStringLiteral("Informazioni su Zelvia"));
     QVERIFY(!info->isModal());
-    QVERIFY(info->findChild<QWidget*>(QStringLiteral("pctInfo"))->isVisible());
+    const auto* about = info->findChild<QWidget*>(QStringLiteral("pctInfo"));
+    QVERIFY(about->isVisible());
+    const QString folder = page.folder.Native(QString());
+    const QString data = folder.endsWith(QLatin1Char('/')) ? folder.chopped(1) : folder;
+    QCOMPARE(about->accessibleDescription(),
+             QStringLiteral("Versione 1.0.0. Licenza GNU GPL, versione 3 o successiva. I dati sono in ") + data);
+    QCOMPARE(about->toolTip(), data);
     QVERIFY(info->findChild<QWidget*>(QStringLiteral("Picture1"))->isVisible());
     auto* ok = info->findChild<Button*>(QStringLiteral("cmdOK"));
     QCOMPARE(ok->text(), QStringLiteral("O.K."));
