@@ -73,8 +73,15 @@ FocusController::FocusController()
     connect(qApp, &QApplication::focusChanged, this, &FocusController::OnFocusChanged);
 }
 
-void FocusController::OnFocusChanged(QWidget* /*old*/, QWidget* now)
+void FocusController::OnFocusChanged(QWidget* old, QWidget* now)
 {
+    // Under Wayland a menu takes the keyboard from its window: a bar that was left meanwhile comes back with the focus.
+    const auto* bar = qobject_cast<QMenuBar*>(now);
+    if (bar != nullptr && old == nullptr && bar->activeAction() == nullptr && current_ != nullptr &&
+        current_->Widget().window() == bar->window()) {
+        current_->Widget().setFocus(Qt::ActiveWindowFocusReason);
+        return;
+    }
     Control* target = FocusTarget(now);
     if (target != nullptr && (displaced_ == nullptr || target != SinkOf(*displaced_))) {
         Enqueue(target);
