@@ -26,21 +26,6 @@ constexpr int kLines = [] {
     return lines;
 }();
 
-std::vector<TextView> LinesOf(TextView bytes)
-{
-    std::vector<TextView> lines;
-    while (!bytes.empty()) {
-        const auto end = bytes.find('\n');
-        TextView line = bytes.substr(0, end);
-        bytes.remove_prefix(end == TextView::npos ? bytes.size() : end + 1);
-        if (line.ends_with('\r')) {
-            line.remove_suffix(1);
-        }
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 /// One diary: any line of any day, the missing ones as empty texts.
 class DiaryLines
 {
@@ -91,7 +76,7 @@ Text Content(const TimeField& field, TextView line)
     return Text(text == field.none ? TextView() : text);
 }
 
-/// A date line #2007-03-03# as `pattern` has it, or the line as it stands.
+/// A date line #2007-03-03# as `pattern` has it, or the line unchanged.
 Text DateText(TextView line, TextView pattern)
 {
     if (line.size() != 12) {
@@ -157,6 +142,26 @@ private:
 
 } // namespace
 
+std::vector<TextView> LinesOf(TextView bytes)
+{
+    std::vector<TextView> lines;
+    while (!bytes.empty()) {
+        const auto end = bytes.find('\n');
+        TextView line = bytes.substr(0, end);
+        bytes.remove_prefix(end == TextView::npos ? bytes.size() : end + 1);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+int LinesOfDay()
+{
+    return kLines;
+}
+
 DiaryDifference CompareDiaries(TextView before, TextView after)
 {
     const DiaryLines old(before);
@@ -167,7 +172,8 @@ DiaryDifference CompareDiaries(TextView before, TextView after)
         if (!day.differences.empty()) {
             const TextView date =
                 now.Line(slot, kDateLine).empty() ? old.Line(slot, kDateLine) : now.Line(slot, kDateLine);
-            result.days.push_back({slot, DayName(date, slot), std::move(day.differences)});
+            const Text iso = DateText(date, "yyyy-mm-dd");
+            result.days.push_back({slot, DayName(date, slot), std::move(day.differences), iso == date ? Text() : iso});
         }
     }
     return result;

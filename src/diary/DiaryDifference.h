@@ -22,6 +22,7 @@ struct DayDifference {
     int slot = 0; ///< 1..366
     Text date;    ///< "sabato 3 marzo 2007", or "giorno 62" when the file holds no date there.
     std::vector<FieldDifference> fields;
+    Text iso; ///< "2007-03-03"; empty when the file holds no date there.
 };
 
 struct DiaryDifference {
@@ -29,6 +30,12 @@ struct DiaryDifference {
     int daysBefore = 0; ///< Whole days that each diary holds, 0..366.
     int daysAfter = 0;
 };
+
+/// The lines of a file without their ends.
+std::vector<TextView> LinesOf(TextView bytes);
+
+/// The number of lines that a day has in the file.
+int LinesOfDay();
 
 /// Compares two diary files, given whole, line by line. So a damaged diary, which the program would
 /// not read, can be compared all the same; a day that it lacks counts as blank, and so does a missing diary, given as

@@ -3,14 +3,16 @@
 #include "tools/copies/CopyStore.h"
 
 #include "core/Files.h"
+#include "core/StateFolder.h"
+#include "core/Tr.h"
 #include "diary/Workspace.h"
 #include "tools/copies/SafeFiles.h"
 #include "tools/copies/WorkspaceData.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <ctime>
+#include <memory>
 #include <set>
 
 namespace zelvia
@@ -35,6 +37,12 @@ void Rename(const fs::path& from, const fs::path& to)
     }
 }
 
+/// True when the pointer is the only file.
+bool HoldsNothing(const std::vector<std::string>& files)
+{
+    return std::all_of(files.begin(), files.end(), [](const std::string& file) { return file == kStartPointer; });
+}
+
 /// Copies `files` of one folder into another with `copy`, and syncs them.
 template <typename CopyOne>
 void CopyFiles(const fs::path& from, const fs::path& to, const std::vector<std::string>& files, CopyOne&& copy)
@@ -52,19 +60,25 @@ bool HoldsTheSame(const fs::path& folder, const std::vector<std::string>& files,
            });
 }
 
-std::string NameOf(int number, std::chrono::system_clock::time_point now)
+/// Date and time as in the name of a copy.
+std::string StampOf(std::chrono::system_clock::time_point now)
 {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
     std::tm local{};
     localtime_r(&seconds, &local);
     std::array<char, 64> stamp{};
-    std::strftime(stamp.data(), stamp.size(), "_%Y-%m-%d_%H-%M-%S", &local);
-    std::string digits = std::to_string(number);
-    digits.insert(0, digits.size() < 6 ? 6 - digits.size() : 0, '0');
-    return digits + stamp.data();
+    std::strftime(stamp.data(), stamp.size(), "%Y-%m-%d_%H-%M-%S", &local);
+    return stamp.data();
 }
 
-/// True when the text has the form of the pattern, in which 0 stands for any digit.
+std::string NameOf(int number, const std::string& stamp)
+{
+    std::string digits = std::to_string(number);
+    digits.insert(0, digits.size() < 6 ? 6 - digits.size() : 0, '0');
+    return digits + "_" + stamp;
+}
+
+/// True when the text has the form of the pattern, in which 0 means any digit.
 bool HasForm(std::string_view text, std::string_view pattern)
 {
     return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(),
@@ -145,38 +159,49 @@ std::optional<Copy> CopyStore::Find(int number) const
 
 CopyOutcome CopyStore::Take(const fs::path& folder, std::chrono::system_clock::time_point now)
 {
+    return HoldsNothing(WorkspaceFiles(folder)) ? CopyOutcome::NothingThere
+           : IsInUse(folder)                    ? CopyOutcome::InUse
+                                                : TakeHeld(folder, now);
+}
+
+CopyOutcome CopyStore::TakeHeld(const fs::path& folder, std::chrono::system_clock::time_point now)
+{
     const std::vector<std::string> files = WorkspaceFiles(folder);
-    if (std::all_of(files.begin(), files.end(), [](const std::string& file) { return file == kStartPointer; })) {
-        return CopyOutcome::NothingThere;
-    }
-    if (IsInUse(folder)) {
-        return CopyOutcome::InUse;
-    }
+    return HoldsNothing(files) ? CopyOutcome::NothingThere : Keep({folder, folder, files}, StampOf(now));
+}
+
+CopyOutcome CopyStore::Take(const Copy& copy)
+{
+    return Keep({copy.place, copy.folder, FilesBelow(copy.place)}, copy.date + "_" + copy.time);
+}
+
+CopyOutcome CopyStore::Keep(const Source& source, const std::string& stamp)
+{
     MakeFolders(root_);
     const FileLock lock(root_ / kLock, patience_);
     Sweep();
     const std::vector<Copy> copies = List();
     const auto newest =
-        std::find_if(copies.rbegin(), copies.rend(), [&](const Copy& copy) { return copy.folder == folder; });
-    if (newest != copies.rend() && HoldsTheSame(folder, files, newest->place)) {
+        std::find_if(copies.rbegin(), copies.rend(), [&](const Copy& copy) { return copy.folder == source.folder; });
+    if (newest != copies.rend() && HoldsTheSame(source.from, source.files, newest->place)) {
         return CopyOutcome::Unchanged;
     }
     TemporaryFolder temporary(root_ / kNew);
-    CopyFiles(folder, temporary.Place(), files, CopyNewFile);
-    WriteNewFile(temporary.Place() / kOrigin, folder.string());
-    temporary.PutInPlace(root_ / NameOf(copies.empty() ? 1 : copies.back().number + 1, now));
-    Thin(folder);
+    CopyFiles(source.from, temporary.Place(), source.files, CopyNewFile);
+    WriteNewFile(temporary.Place() / kOrigin, source.folder.string());
+    temporary.PutInPlace(root_ / NameOf(copies.empty() ? 1 : copies.back().number + 1, stamp));
+    Thin(source.folder);
     return CopyOutcome::Made;
 }
 
 std::vector<std::string> CopyStore::PutBack(const Copy& copy, const fs::path& target)
 {
     if (fs::exists(fs::symlink_status(target)) && !(fs::is_directory(target) && fs::is_empty(target))) {
-        throw FileFailure("«" + target.string() +
-                          "» non è una cartella vuota: una copia si rimette soltanto in una cartella nuova o vuota");
+        throw FileFailure(Tools::Tr(
+            "«%1» non è una cartella vuota: una copia si rimette soltanto in una cartella nuova o vuota", target));
     }
-    // The copy must not be deleted for its age while it is being read.
-    const FileLock lock(root_ / kLock, patience_);
+    // The copy must not be deleted for its age while it is being read. Nobody can where nothing can be written.
+    const auto lock = IsReadOnly(root_) ? nullptr : std::make_unique<FileLock>(root_ / kLock, patience_);
     const std::string origin = "\"" + SystemPath(copy.folder.string()) + "\\";
     const std::string place = "\"" + SystemPath(target.string()) + "\\";
     std::vector<std::string> elsewhere;
@@ -233,15 +258,7 @@ void CopyStore::Thin(const fs::path& folder) const
 
 fs::path CopyFolder()
 {
-    const auto variable = [](const char* name) {
-        const char* value = std::getenv(name);
-        return fs::path(value != nullptr ? value : "");
-    };
-    if (const fs::path state = variable("XDG_STATE_HOME"); state.is_absolute()) {
-        return state / "zelvia/copie";
-    }
-    const fs::path home = variable("HOME");
-    return home.is_absolute() ? home / ".local/state/zelvia/copie" : fs::path();
+    return StateFile("copie");
 }
 
 } // namespace zelvia

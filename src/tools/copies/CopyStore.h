@@ -51,11 +51,24 @@ public:
     /// in it. Copies that are too old are deleted afterwards.
     CopyOutcome Take(const std::filesystem::path& folder, std::chrono::system_clock::time_point now);
 
+    /// The same for a caller that holds the lock of the program in `folder`.
+    CopyOutcome TakeHeld(const std::filesystem::path& folder, std::chrono::system_clock::time_point now);
+
+    /// Takes a copy that another store holds, unless the newest one here of the same folder is the same.
+    CopyOutcome Take(const Copy& copy);
+
     /// Restores a copy into `target`, which must be empty or absent. The pointer files that lead into the program
     /// folder of the copy then lead into `target`; returns those that lead elsewhere.
     std::vector<std::string> PutBack(const Copy& copy, const std::filesystem::path& target);
 
 private:
+    /// Files of `from` that are to be kept as a copy of `folder`.
+    struct Source {
+        std::filesystem::path from;
+        std::filesystem::path folder;
+        std::vector<std::string> files;
+    };
+    CopyOutcome Keep(const Source& source, const std::string& stamp);
     void Sweep() const;
     void Thin(const std::filesystem::path& folder) const;
 

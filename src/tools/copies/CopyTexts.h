@@ -16,8 +16,15 @@ namespace zelvia
 /// One line for each copy.
 std::string TextOfList(const std::vector<Copy>& copies);
 
+/// The same for programs: tab-separated lines of number, time, diaries and bytes, with a head.
+std::string TableOfList(const std::vector<Copy>& copies);
+
 /// How the files of `present` differ from those of a copy: the diaries day by day, the other files by name.
 /// Raises what reading them raises.
 std::string TextOfComparison(const Copy& copy, const std::filesystem::path& present);
+
+/// The same for programs: tab-separated lines of file, date, field, copy and now with a head, one for each field of a
+/// day and one for each other file, without date and field: "1" where that file exists.
+std::string TableOfComparison(const Copy& copy, const std::filesystem::path& present);
 
 } // namespace zelvia

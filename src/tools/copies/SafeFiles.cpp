@@ -4,11 +4,13 @@
 
 #include "core/Files.h"
 #include "core/RunTimeError.h"
+#include "core/Tr.h"
 
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -107,6 +109,24 @@ private:
     Descriptor file_;
 };
 
+void Replace(const fs::path& path, std::string_view bytes, fs::perms permissions)
+{
+    const fs::path fresh = fs::absolute(path).parent_path() / (".zelvia-" + RandomDigits());
+    // Once it has taken its name there is nothing left to remove.
+    const struct Removed {
+        const fs::path& file;
+        ~Removed()
+        {
+            std::error_code ignored;
+            fs::remove(file, ignored);
+        }
+    } removed{fresh};
+    WriteNewFile(fresh, bytes);
+    std::error_code ignored;
+    fs::permissions(fresh, permissions, ignored); // Not every disk has them.
+    fs::rename(fresh, path);
+}
+
 } // namespace
 
 FileFailure::FileFailure(const fs::path& path, int errnoValue)
@@ -154,6 +174,34 @@ void CopyNewFile(const fs::path& from, const fs::path& to)
     target.Finish();
 }
 
+void ReplaceFile(const fs::path& path, std::string_view bytes)
+{
+    constexpr auto common =
+        fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read | fs::perms::others_read;
+    Replace(path, bytes, fs::exists(path) ? fs::status(path).permissions() : common);
+}
+
+void ReplaceOwnFile(const fs::path& path, std::string_view bytes)
+{
+    MakeFolders(path.parent_path());
+    Replace(path, bytes, fs::perms::owner_read | fs::perms::owner_write);
+}
+
+std::string RandomDigits()
+{
+    std::array<unsigned char, 16> bytes{};
+    if (::getrandom(bytes.data(), bytes.size(), 0) != static_cast<ssize_t>(bytes.size())) {
+        throw FileFailure("getrandom", errno);
+    }
+    std::string text;
+    for (const unsigned char byte : bytes) {
+        constexpr std::string_view digits = "0123456789abcdef";
+        text += digits[byte >> 4];
+        text += digits[byte & 0xF];
+    }
+    return text;
+}
+
 void MakeFolders(const fs::path& path)
 {
     std::error_code ignored;
@@ -191,6 +239,11 @@ void SyncFolders(const fs::path& path)
     SyncFolder(path);
 }
 
+bool IsReadOnly(const fs::path& folder)
+{
+    return ::access(folder.c_str(), W_OK) != 0 && (errno == EROFS || errno == EACCES);
+}
+
 FileLock::FileLock(const fs::path& path, std::chrono::milliseconds patience) : file_(OpenOrFail(path, O_RDWR | O_CREAT))
 {
     constexpr std::chrono::milliseconds pause(20);
@@ -200,7 +253,7 @@ FileLock::FileLock(const fs::path& path, std::chrono::milliseconds patience) : f
             return;
         }
         if (patience <= pause) {
-            throw FileFailure("un altro Zelvia sta lavorando alle copie («" + path.string() + "»)");
+            throw FileFailure(Tools::Tr("un altro Zelvia sta lavorando alle copie («%1»)", path));
         }
         std::this_thread::sleep_for(pause);
     }

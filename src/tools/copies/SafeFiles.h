@@ -33,6 +33,15 @@ void WriteNewFile(const std::filesystem::path& path, std::string_view bytes);
 /// The same with the content of another file, however long it is.
 void CopyNewFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
+/// Writes the whole file or none of it. One that is new can be read by everybody, as what other programs write.
+void ReplaceFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// The same for one that is always readable by its owner only, with the folder for it.
+void ReplaceOwnFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// For a name that can't be guessed.
+std::string RandomDigits();
+
 /// Makes a folder, accessible to its owner only, and the missing ones above it.
 void MakeFolders(const std::filesystem::path& path);
 
@@ -41,6 +50,9 @@ void SyncFolder(const std::filesystem::path& path);
 
 /// The same for a folder and all folders below it.
 void SyncFolders(const std::filesystem::path& path);
+
+/// True for a folder that can't be written in.
+bool IsReadOnly(const std::filesystem::path& folder);
 
 /// A lock on a file, created when missing, for the life of the object. Fails when another process holds it for all of
 /// `patience`; the kernel releases it when its holder ends, however it ends.

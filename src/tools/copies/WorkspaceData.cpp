@@ -9,6 +9,7 @@
 #include "tools/copies/SafeFiles.h"
 
 #include <set>
+#include <sys/stat.h>
 
 namespace zelvia
 {
@@ -94,6 +95,20 @@ std::vector<std::string> WorkspaceFiles(const fs::path& folder)
         }
     }
     return {files.begin(), files.end()};
+}
+
+std::string StateOfFiles(const fs::path& folder)
+{
+    std::string state;
+    for (const std::string& file : WorkspaceFiles(folder)) {
+        struct stat status {
+        };
+        if (::stat((folder / file).c_str(), &status) == 0) {
+            state += file + " " + std::to_string(status.st_ino) + " " + std::to_string(status.st_size) + " " +
+                     std::to_string(status.st_ctim.tv_sec) + "." + std::to_string(status.st_ctim.tv_nsec) + "\n";
+        }
+    }
+    return state;
 }
 
 std::vector<std::string> FilesBelow(const fs::path& folder)

@@ -15,6 +15,9 @@ namespace zelvia
 /// Raises std::filesystem::filesystem_error on a folder that can't be read.
 std::vector<std::string> WorkspaceFiles(const std::filesystem::path& folder);
 
+/// Changes with any write to those files.
+std::string StateOfFiles(const std::filesystem::path& folder);
+
 /// Every file below a folder except hidden ones, as paths that start from it, sorted. None for a folder that is
 /// absent.
 std::vector<std::string> FilesBelow(const std::filesystem::path& folder);

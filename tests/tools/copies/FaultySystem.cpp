@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
@@ -69,6 +70,26 @@ void FreeStep()
     }
 }
 
+/// Writes `count` bytes by `writes`, or as far as the fault lets it.
+template <typename Write>
+ssize_t FaultyWrite(int file, size_t count, Write&& writes)
+{
+    if (file <= STDERR_FILENO || Kind() == Fault::None || !Due()) {
+        return writes(count);
+    }
+    if (Kind() == Fault::Kill) {
+        writes(count / 2);
+        Die();
+    }
+    static bool full = false;
+    if (full || count < 2) {
+        errno = ENOSPC;
+        return -1;
+    }
+    full = true;
+    return writes(count / 2);
+}
+
 mode_t ModeOf(int flags, va_list& arguments)
 {
     return (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
@@ -91,28 +112,65 @@ int open(const char* path, int flags, ...)
     return Next<int(const char*, int, ...)>("open")(path, flags, mode);
 }
 
+int openat(int folder, const char* path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = ModeOf(flags, arguments);
+    va_end(arguments);
+    if ((flags & O_CREAT) != 0 && faccessat(folder, path, F_OK, 0) != 0 && NoSpace()) {
+        return -1;
+    }
+    return Next<int(int, const char*, int, ...)>("openat")(folder, path, flags, mode);
+}
+
 int mkdir(const char* path, mode_t mode)
 {
     return NoSpace() ? -1 : Next<int(const char*, mode_t)>("mkdir")(path, mode);
 }
 
+int mkdirat(int folder, const char* path, mode_t mode)
+{
+    return NoSpace() ? -1 : Next<int(int, const char*, mode_t)>("mkdirat")(folder, path, mode);
+}
+
 ssize_t write(int file, const void* bytes, size_t count)
 {
     auto* const next = Next<ssize_t(int, const void*, size_t)>("write");
-    if (file <= STDERR_FILENO || Kind() == Fault::None || !Due()) {
-        return next(file, bytes, count);
+    return FaultyWrite(file, count, [&](size_t part) { return next(file, bytes, part); });
+}
+
+ssize_t pwrite(int file, const void* bytes, size_t count, off_t offset)
+{
+    auto* const next = Next<ssize_t(int, const void*, size_t, off_t)>("pwrite");
+    return FaultyWrite(file, count, [&](size_t part) { return next(file, bytes, part, offset); });
+}
+
+int ftruncate(int file, off_t size)
+{
+    FreeStep();
+    return Next<int(int, off_t)>("ftruncate")(file, size);
+}
+
+FILE* fopen(const char* path, const char* mode)
+{
+    if (mode[0] == 'w' && access(path, F_OK) != 0 && NoSpace()) {
+        return nullptr;
     }
-    if (Kind() == Fault::Kill) {
-        next(file, bytes, count / 2);
-        Die();
-    }
-    static bool full = false;
-    if (full || count < 2) {
+    return Next<FILE*(const char*, const char*)>("fopen")(path, mode);
+}
+
+// Of the program's own streams that write files none has a buffer, and all write single bytes.
+size_t fwrite(const void* bytes, size_t size, size_t count, FILE* stream)
+{
+    auto* const next = Next<size_t(const void*, size_t, size_t, FILE*)>("fwrite");
+    const ssize_t written = FaultyWrite(
+        fileno(stream), count, [&](size_t part) { return static_cast<ssize_t>(next(bytes, size, part, stream)); });
+    if (written < static_cast<ssize_t>(count)) {
+        // The real one has tried the rest again.
         errno = ENOSPC;
-        return -1;
     }
-    full = true;
-    return next(file, bytes, count / 2);
+    return written < 0 ? 0 : static_cast<size_t>(written);
 }
 
 int fsync(int file)
@@ -120,10 +178,21 @@ int fsync(int file)
     return NoSpace() ? -1 : Next<int(int)>("fsync")(file);
 }
 
+int fdatasync(int file)
+{
+    return NoSpace() ? -1 : Next<int(int)>("fdatasync")(file);
+}
+
 int rename(const char* from, const char* to)
 {
     FreeStep();
     return Next<int(const char*, const char*)>("rename")(from, to);
+}
+
+int renameat(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    FreeStep();
+    return Next<int(int, const char*, int, const char*)>("renameat")(fromFolder, from, toFolder, to);
 }
 
 int unlink(const char* path)
