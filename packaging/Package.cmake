@@ -8,7 +8,7 @@ set(package COMPONENT package EXCLUDE_FROM_ALL)
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 
 install(PROGRAMS ${packaging}/zelvia.sh DESTINATION bin RENAME zelvia ${package})
-install(TARGETS zelvia-copie DESTINATION bin ${package})
+install(TARGETS zelvia-copie zelvia-strumenti DESTINATION bin ${package})
 install(TARGETS zelvia zelvia-avviso DESTINATION libexec/zelvia ${package})
 install(FILES ${ZELVIA_GUIDE} ${ZELVIA_TRANSLATIONS} ${CMAKE_SOURCE_DIR}/share/mano.cur ${packaging}/folder-check.sh
   DESTINATION share/zelvia ${package})
