@@ -20,6 +20,10 @@ namespace fs = std::filesystem;
 constexpr std::string_view kProgram = "zelvia-strumenti";
 
 constexpr std::array kActions = {
+    Action{"anno", Tools::Mark("AAAA [--gare]"),
+           Tools::Mark("prepara il diario vuoto dell'anno AAAA, con le\nliste, i percorsi e le tabelle di quello "
+                       "di\nadesso; --gare: anche con il suo calendario"),
+           RunNewYear},
     Action{"anni", "", Tools::Mark("mostra i diari della cartella: anno, uscite,\nchilometri, gare"), RunYears},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "

@@ -24,6 +24,7 @@ struct Action {
 
 std::span<const Action> Actions();
 
+int RunNewYear(Context& context, Arguments& arguments);
 int RunYears(Context& context, Arguments& arguments);
 /// What `copie` does in the folder itself: days of a copy, or a whole diary, put back.
 int RunPutBack(Context& context, Arguments& arguments);
