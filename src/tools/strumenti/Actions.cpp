@@ -25,6 +25,10 @@ constexpr std::array kActions = {
                        "di\nadesso; --gare: anche con il suo calendario"),
            RunNewYear},
     Action{"anni", "", Tools::Mark("mostra i diari della cartella: anno, uscite,\nchilometri, gare"), RunYears},
+    Action{"controlla", Tools::Mark("[DIARIO ...]"),
+           Tools::Mark("legge tutto come il programma e dice che cosa\nnon va, una riga per difetto"), RunCheck},
+    Action{"ripara", Tools::Mark("[DIARIO ...]"),
+           Tools::Mark("ripara ciò che ha un solo rimedio; il resto con\n--sovrascrivi"), RunMend},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "
                        "--giorno DATA ...: quei giorni nel\ndiario; rimetti NUMERO --intero: tutto il diario"),

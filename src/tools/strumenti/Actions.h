@@ -24,6 +24,8 @@ struct Action {
 
 std::span<const Action> Actions();
 
+int RunCheck(Context& context, Arguments& arguments);
+int RunMend(Context& context, Arguments& arguments);
 int RunNewYear(Context& context, Arguments& arguments);
 int RunYears(Context& context, Arguments& arguments);
 /// What `copie` does in the folder itself: days of a copy, or a whole diary, put back.
