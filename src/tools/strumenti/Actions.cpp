@@ -29,6 +29,10 @@ constexpr std::array kActions = {
            Tools::Mark("legge tutto come il programma e dice che cosa\nnon va, una riga per difetto"), RunCheck},
     Action{"ripara", Tools::Mark("[DIARIO ...]"),
            Tools::Mark("ripara ciò che ha un solo rimedio; il resto con\n--sovrascrivi"), RunMend},
+    Action{"giornale", Tools::Mark("[riprendi [DATA ...] | dimentica]"),
+           Tools::Mark("mostra ciò che è stato scritto e non salvato;\nriprendi: lo riporta nel diario, tutto o i "
+                       "giorni\nindicati (anche: liste, percorsi, calendario);\ndimentica: lo cancella dal giornale"),
+           RunJournal},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "
                        "--giorno DATA ...: quei giorni nel\ndiario; rimetti NUMERO --intero: tutto il diario"),
