@@ -33,6 +33,9 @@ constexpr std::array kActions = {
            Tools::Mark("mostra ciò che è stato scritto e non salvato;\nriprendi: lo riporta nel diario, tutto o i "
                        "giorni\nindicati (anche: liste, percorsi, calendario);\ndimentica: lo cancella dal giornale"),
            RunJournal},
+    Action{"esporta", Tools::Mark("--formato F [-o FILE]"),
+           Tools::Mark("i giorni (csv o jsonl), i tempi al chilometro\n(splits), le gare e la tabella attiva (ics)"),
+           RunExport},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "
                        "--giorno DATA ...: quei giorni nel\ndiario; rimetti NUMERO --intero: tutto il diario"),
