@@ -33,6 +33,11 @@ constexpr std::array kActions = {
            Tools::Mark("mostra ciò che è stato scritto e non salvato;\nriprendi: lo riporta nel diario, tutto o i "
                        "giorni\nindicati (anche: liste, percorsi, calendario);\ndimentica: lo cancella dal giornale"),
            RunJournal},
+    Action{"importa", Tools::Mark("FILE ..."),
+           Tools::Mark("mette nel diario le corse di un orologio (FIT,\nTCX, GPX) o di una tabella (CSV), anche "
+                       "intere\ncartelle; --tutti: non solo le corse; --in-moto:\nil tempo senza le pause; --fuso +N: "
+                       "l'ora di là;\n--colonna TESTATA=NOME: una colonna della tabella"),
+           RunImport},
     Action{"esporta", Tools::Mark("--formato F [-o FILE]"),
            Tools::Mark("i giorni (csv o jsonl), i tempi al chilometro\n(splits), le gare e la tabella attiva (ics)"),
            RunExport},
