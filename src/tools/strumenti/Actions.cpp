@@ -41,6 +41,9 @@ constexpr std::array kActions = {
     Action{"esporta", Tools::Mark("--formato F [-o FILE]"),
            Tools::Mark("i giorni (csv o jsonl), i tempi al chilometro\n(splits), le gare e la tabella attiva (ics)"),
            RunExport},
+    Action{"libro", Tools::Mark("--formato F -o FILE"),
+           Tools::Mark("il libro dell'anno, da stampare e rilegare (a4 o\na5, in PDF) o per il telefono (html)"),
+           RunBook},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "
                        "--giorno DATA ...: quei giorni nel\ndiario; rimetti NUMERO --intero: tutto il diario"),

@@ -31,6 +31,7 @@ int RunYears(Context& context, Arguments& arguments);
 int RunJournal(Context& context, Arguments& arguments);
 int RunImport(Context& context, Arguments& arguments);
 int RunExport(Context& context, Arguments& arguments);
+int RunBook(Context& context, Arguments& arguments);
 /// What `copie` does in the folder itself: days of a copy, or a whole diary, put back.
 int RunPutBack(Context& context, Arguments& arguments);
 int RunCopiesAction(Context& context, Arguments& arguments);
