@@ -44,6 +44,10 @@ constexpr std::array kActions = {
     Action{"libro", Tools::Mark("--formato F -o FILE"),
            Tools::Mark("il libro dell'anno, da stampare e rilegare (a4 o\na5, in PDF) o per il telefono (html)"),
            RunBook},
+    Action{"unisci", Tools::Mark("[CARTELLA | FILE ...]"),
+           Tools::Mark("unisce giorno per giorno ciò che due computer\nhanno scritto: i file in conflitto che un "
+                       "servizio\nha messo accanto agli altri, o quelli indicati"),
+           RunMerge},
     Action{"copie", Tools::Mark("COMANDO ..."),
            Tools::Mark("le copie di sicurezza, come zelvia-copie:\nelenco, confronta, rimetti, crea;\nrimetti NUMERO "
                        "--giorno DATA ...: quei giorni nel\ndiario; rimetti NUMERO --intero: tutto il diario"),

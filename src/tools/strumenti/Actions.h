@@ -32,6 +32,7 @@ int RunJournal(Context& context, Arguments& arguments);
 int RunImport(Context& context, Arguments& arguments);
 int RunExport(Context& context, Arguments& arguments);
 int RunBook(Context& context, Arguments& arguments);
+int RunMerge(Context& context, Arguments& arguments);
 /// What `copie` does in the folder itself: days of a copy, or a whole diary, put back.
 int RunPutBack(Context& context, Arguments& arguments);
 int RunCopiesAction(Context& context, Arguments& arguments);
