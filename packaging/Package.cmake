@@ -12,9 +12,11 @@ install(TARGETS zelvia-copie zelvia-strumenti DESTINATION bin ${package})
 install(TARGETS zelvia zelvia-avviso zelvia-libro DESTINATION libexec/zelvia ${package})
 install(FILES ${ZELVIA_GUIDE} ${ZELVIA_TRANSLATIONS} ${CMAKE_SOURCE_DIR}/share/mano.cur ${packaging}/folder-check.sh
   DESTINATION share/zelvia ${package})
+install(FILES ${packaging}/zelvia-strumenti.bash DESTINATION share/bash-completion/completions RENAME zelvia-strumenti
+  ${package})
 install(FILES ${packaging}/desktop/zelvia.desktop DESTINATION share/applications ${package})
 install(FILES ${packaging}/desktop/org.zelvia.Zelvia.metainfo.xml DESTINATION share/metainfo ${package})
 install(FILES ${packaging}/desktop/zelvia.svg DESTINATION share/icons/hicolor/scalable/apps ${package})
 # Italian pages, for every locale: there are no others.
-install(FILES ${packaging}/man/zelvia.1 ${packaging}/man/zelvia-copie.1
+install(FILES ${packaging}/man/zelvia.1 ${packaging}/man/zelvia-copie.1 ${packaging}/man/zelvia-strumenti.1
   DESTINATION share/man/man1 ${package})
