@@ -8,6 +8,7 @@ set -euo pipefail
 source_folder=$(dirname "$(readlink -f "$0")")
 . "$source_folder/packaging/packages.sh"
 . "$source_folder/packaging/folder-check.sh"
+. "$source_folder/packaging/before-start.sh"
 . "$source_folder/packaging/sample-year.sh"
 
 usage() {
@@ -106,6 +107,8 @@ if [ -n "$demo" ]; then
   day=(--oggi "$demo_day")
 fi
 
+# A sample year is nobody's diary: no copy of it is kept, and nothing asked about it.
+[ -n "$demo" ] || before_start "$source_folder/build/release/src" "$folder"
 echo "Apertura del diario in $folder"
 if [ -n "$screen" ]; then
   exec "$folder/zelvia" "${day[@]}"

@@ -6,6 +6,13 @@
 # "." in it, and keeps paths as Windows-1252 between double quotes, with backslashes. A folder that upsets one of these
 # rules would lose the user's data on the first save, so it is refused before anything is laid there.
 
+# say TEXT [PART...]: the text, with the parts in the places %1 and %2 in that order. The launcher replaces this by one that
+# says it in the user's language.
+say() {
+  local format=${1//\\/\\\\}
+  printf "${format//%[12]/%s}\n" "${@:2}"
+}
+
 # folder_resolve FOLDER: sets `folder_path` to its absolute path without symbolic links. Links in a circle stay in it.
 folder_resolve() {
   IFS= read -r -d '' folder_path < <(realpath -mz -- "$1" 2>/dev/null)
@@ -18,36 +25,36 @@ folder_obstacle() {
   # Bytes, whatever the locale.
   local LC_ALL=C
   case $path in
-    /) echo "è la radice del disco. Indicare una cartella, per esempio /home/anna/Zelvia." && return ;;
+    /) say "è la radice del disco. Indicare una cartella, per esempio /home/anna/Zelvia." && return ;;
     *.*)
-      echo "nel percorso c'è un punto («.»), e nei nomi delle cartelle del programma i punti non sono ammessi:" \
-        "il nome del diario finisce al primo punto. Indicare una cartella senza punti."
+      say "nel percorso c'è un punto («.»), e nei nomi delle cartelle del programma i punti non sono ammessi: il nome del \
+diario finisce al primo punto. Indicare una cartella senza punti."
       return
       ;;
-    *ZelviaFile*) echo "nel percorso c'è la parola «ZelviaFile», riservata alla cartella dei diari." && return ;;
-    *\\*) echo "nel percorso c'è una barra rovesciata («\\»)." && return ;;
-    *\"*) echo "nel percorso ci sono delle virgolette («\"»)." && return ;;
-    *[$'\x01'-$'\x1f\x7f']*) echo "nel percorso c'è un carattere di controllo." && return ;;
+    *ZelviaFile*) say "nel percorso c'è la parola «ZelviaFile», riservata alla cartella dei diari." && return ;;
+    *\\*) say "nel percorso c'è una barra rovesciata («\\»)." && return ;;
+    *\"*) say "nel percorso ci sono delle virgolette («\"»)." && return ;;
+    *[$'\x01'-$'\x1f\x7f']*) say "nel percorso c'è un carattere di controllo." && return ;;
   esac
   if ! printf '%s' "$path" | iconv -f UTF-8 -t WINDOWS-1252 >/dev/null 2>&1; then
-    echo "nel percorso c'è un carattere che i file del diario non possono contenere (fuori da Windows-1252)."
+    say "nel percorso c'è un carattere che i file del diario non possono contenere (fuori da Windows-1252)."
     return
   fi
   while [ ! -e "$place" ]; do
     if [ -L "$place" ]; then
       # The path has been resolved: a link that is left leads back to itself.
-      echo "i collegamenti del percorso girano in tondo."
+      say "i collegamenti del percorso girano in tondo."
       return
     fi
     place=$(dirname -- "$place")
   done
   if [ ! -d "$place" ]; then
-    echo "«$place» non è una cartella."
+    say "«%1» non è una cartella." "$place"
   elif [ ! -w "$place" ] || [ ! -x "$place" ]; then
     if [ "$place" = "$path" ]; then
-      echo "nella cartella non si può scrivere."
+      say "nella cartella non si può scrivere."
     else
-      echo "la cartella non si può creare: in «$place» non si può scrivere."
+      say "la cartella non si può creare: in «%1» non si può scrivere." "$place"
     fi
   fi
 }
@@ -56,14 +63,14 @@ folder_obstacle() {
 folder_check() {
   local obstacle
   if [ -z "$1" ]; then
-    obstacle="il nome della cartella è vuoto."
+    obstacle=$(say "il nome della cartella è vuoto.")
     folder_path=
   else
     folder_resolve "$1"
     obstacle=$(folder_obstacle "$folder_path")
   fi
   [ -n "$obstacle" ] || return 0
-  echo "Zelvia non può stare in «$folder_path»: $obstacle" >&2
+  say "Zelvia non può stare in «%1»: %2" "$folder_path" "$obstacle" >&2
   return 2
 }
 
@@ -72,11 +79,11 @@ folder_make() {
   folder_check "$1" || return
   local probe
   if ! mkdir -p -- "$folder_path" 2>/dev/null; then
-    echo "Zelvia non può stare in «$folder_path»: la cartella non si può creare." >&2
+    say "Zelvia non può stare in «%1»: %2" "$folder_path" "$(say "la cartella non si può creare.")" >&2
     return 2
   fi
   if ! probe=$(mktemp -- "$folder_path/zelvia-prova-XXXXXX" 2>/dev/null); then
-    echo "Zelvia non può stare in «$folder_path»: nella cartella non si può scrivere." >&2
+    say "Zelvia non può stare in «%1»: %2" "$folder_path" "$(say "nella cartella non si può scrivere.")" >&2
     return 2
   fi
   rm -f -- "$probe"

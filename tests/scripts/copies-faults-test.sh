@@ -106,6 +106,51 @@ for kind in kill full; do
   expect "steps of putting back, $kind" "$((step > 10 && step < steps))" 1
 done
 
+# The second place, of which there are thirty copies too: whatever happens there, the first place keeps its own.
+second=$work/secondo/Zelvia-copie
+name_second() {
+  renew
+  rm -rf "$work/secondo"
+  mkdir -p "$second"
+  cp -a "$work/start/." "$second"
+  printf '%s\n' "$work/secondo" >"$HOME/.local/state/zelvia/secondo-posto"
+  "$copies" crea >/dev/null
+  rm -rf "$second"/000031_*
+  [ -e "$second"/000001_2026-11-01_12-00-00 ] || cp -a "$work/start/000001_2026-11-01_12-00-00" "$second"
+}
+for kind in kill full; do
+  for ((step = 1; step < steps; step++)); do
+    name_second
+    run faulty $kind $step "$copies" crea
+    [ "$status" -ne 0 ] || break
+    expect "second place, $kind at step $step: the first place" "$(numbers)" "${first_29}31 "
+    kept=$second expect_whole "second place, $kind at step $step"
+    run "$copies" crea
+    expect "second place, after $kind at step $step" "$status|$errors" "0|"
+    kept=$second expect_whole "second place, after $kind at step $step"
+    expect "second place, after $kind at step $step: the newest" "$(ls -d "$second"/000031_* | wc -l)" 1
+  done
+  expect "steps of the second place, $kind" "$((step > 10 && step < steps))" 1
+done
+rm -rf "$HOME/.local/state/zelvia/secondo-posto"
+
+# What comes before the start, killed at every step: nothing in the diary's folder changes, and the next start does all.
+for ((step = 1; step < steps; step++)); do
+  renew
+  rm -f "$HOME/.local/state/zelvia/avvio"
+  run env -u DISPLAY -u WAYLAND_DISPLAY LD_PRELOAD="$build/tests/tools/copies/libzelvia_fault.so" ZELVIA_FAULT=kill \
+    ZELVIA_FAULT_STEP=$step "$build/src/zelvia-avvio" -- "$diary"
+  [ "$status" -ne 0 ] || break
+  expect "start killed at step $step: exit status" "$status" 137
+  rm -f "$diary/.zelvia.lock"
+  expect "start killed at step $step: the diary" "$(cat "$diary/ZelviaFile/prova.zlv")" dopo
+  run env -u DISPLAY -u WAYLAND_DISPLAY "$build/src/zelvia-avvio" -- "$diary"
+  rm -f "$diary/.zelvia.lock"
+  expect "after a start killed at step $step" "$status|$(grep -c 'qualcosa che non va' <<<"$errors")" "0|1"
+  expect_whole "after a start killed at step $step"
+done
+expect "steps of a start" "$((step > 20 && step < steps))" 1
+
 # A real disk that is full: files that may not grow and, where this machine allows it, a file system that is too small.
 rm -rf "$kept" "$diary"
 mkdir -p "$diary/ZelviaFile"

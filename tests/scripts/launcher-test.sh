@@ -20,6 +20,9 @@ data_of() {
 # runs_installed PROCESS: it is the package's program.
 runs_installed() { [ "$(readlink "/proc/$1/exe")" = "$work/usr/libexec/zelvia/zelvia" ]; }
 
+# copies_are COUNT: that many copies are kept; the last one is made once the program has ended.
+copies_are() { [ "$(kept_names | tr -cd '|' | wc -c)" = "$1" ]; }
+
 # The command line, and folders that will not do. The text comes on the error stream and in a window.
 expect_refused() {
   local what=$1 wanted=$2
@@ -50,10 +53,13 @@ expect_refused "a folder that can't be made" "Zelvia non può stare in «/proc/s
   "$launcher" /proc/sys/zelvia
 expect "what refusals leave" "$(ls -d "$work"/a.b "$work"/anna.rossi "$work/senza" "$diary" 2>/dev/null)" ""
 run "$launcher" --help
-expect "help" "$status|${output%%$'\n'*}|$errors" "0|Uso: zelvia [--oggi AAAA-MM-GG] [CARTELLA]|"
+expect "help" "$status|${output%%$'\n'*}|$errors" "0|Uso: zelvia [--oggi AAAA-MM-GG] [--diario NOME] [CARTELLA]|"
 run "$launcher" "$work/senza" --help
 expect "help behind a folder" "$status|${output%%$'\n'*}|$(ls -d "$work/senza" 2>/dev/null)" \
-  "0|Uso: zelvia [--oggi AAAA-MM-GG] [CARTELLA]|"
+  "0|Uso: zelvia [--oggi AAAA-MM-GG] [--diario NOME] [CARTELLA]|"
+run "$launcher" --informazioni
+expect "information" "$status|${output%% *}|$(grep ^Cartella <<<"$output")|$errors" "0|Zelvia|Cartella del programma: ~/Zelvia|"
+expect "what information leaves" "$(ls -d "$diary" 2>/dev/null)" ""
 # On a terminal the text is enough.
 run script -qec "'$launcher' '$work/a.b'" /dev/null
 expect "on a terminal" "$status ${output%%:*}" "2 Zelvia non può stare in «$work/a.b»"
@@ -77,8 +83,9 @@ expect "the start folder" "$(find "$diary" -maxdepth 1 -printf '%P|' | tr '|' '\
   "|.zelvia.lock|ZelviaFile|nomeload|prova|"
 expect "nomeload" "$(od -An -c "$diary/nomeload" | tr -d ' \n')" '""\r\n'
 runs_installed "$program" || expect "the program that runs" "$(readlink "/proc/$program/exe")" "the package's"
-expect_page_and_close "the first start"
 expect "copies of nothing" "$(kept_names)" ""
+expect_page_and_close "the first start"
+await copies_are 1 || expect "a copy at the end" "$(kept_names)" one
 
 # A folder laid by a package that copied itself there keeps working, with the program that is installed; a copy of the
 # data is kept. The guide and the pointer that are there are taken.
@@ -98,8 +105,8 @@ await page_up || expect "a former package's folder: the page" "not up" up
 runs_installed "$program" || expect "a former package's folder: the program" "$(readlink "/proc/$program/exe")" "the package's"
 expect "the data in it" "$(data_of "$diary")" "$before"
 expect_page_and_close "a former package's folder"
-expect "a copy before the start" "$(kept_names | grep -c '^000001_[-0-9_]*|$')" 1
-run "$copies" confronta 1
+expect "a copy before the start" "$(kept_names | grep -c '^000001_[-0-9_]*|000002_[-0-9_]*|$')" 1
+run "$copies" confronta 2
 expect "the copy" "$(tail -n 1 <<<"$output")" "nessuna differenza."
 rm "$diary"/{zelvia,Guida.hlp,mano.cur}
 
@@ -116,9 +123,17 @@ await page_up
 echo >>"$diary/prova/nometab"
 run "$launcher"
 expect "a second start" "$status|$output" "0|"
-expect "no copy of an open diary" "$(kept_names)" "${before%%|*}|"
+copies_are 2 || expect "no copy of an open diary" "$(kept_names)" two
 program=$first
 expect_page_and_close "the first of two"
+await copies_are 3 || expect "a copy of what changed meanwhile" "$(kept_names)" three
+# A crash is an end, too.
+start
+await page_up
+echo >>"$diary/prova/nometab"
+kill -9 "$program"
+wait "$program" 2>/dev/null || true
+await copies_are 4 || expect "a copy after a crash" "$(kept_names)" four
 
 # Diaries that were brought without the pointer are opened; a pointer that leads nowhere stays.
 rm "$diary/nomeload"

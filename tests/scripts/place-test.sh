@@ -10,7 +10,7 @@ installed=$work/usr/libexec/zelvia/zelvia
 rm -rf "$diary"
 
 # A command line that can't be followed: the words, then the first line. Nothing is made, and no screen is needed.
-usage="Uso: zelvia [--oggi AAAA-MM-GG] [CARTELLA]"
+usage="Uso: zelvia [--oggi AAAA-MM-GG] [--diario NOME] [CARTELLA]"
 refused=(
   "--prova" "Opzione sconosciuta: --prova"
   "$work/a $work/b" "Si può indicare una sola CARTELLA."
@@ -27,6 +27,20 @@ run env -u DISPLAY -u QT_QPA_PLATFORM "$installed" -platform offscreen -x
 expect "Qt's own options are taken out" "$status|$output|$(grep ^Opzione <<<"$errors")" "2||Opzione sconosciuta: -x"
 run env -u DISPLAY -u QT_QPA_PLATFORM "$installed" --help
 expect "help" "$status|${output%%$'\n'*}|$errors" "0|$usage|"
+version=$(sed -n 's/^project(Zelvia VERSION \([0-9.]*\).*/\1/p' "$source_folder/CMakeLists.txt")
+run env -u DISPLAY -u QT_QPA_PLATFORM -u XDG_STATE_HOME HOME="$work" "$installed" --informazioni
+expect "information: the status" "$status|$errors" "0|"
+expect "information: the version" "${output%%$'\n'*}" "Zelvia $version"
+expect "information: the toolkit" "$(grep -cE '^Qt 6\.[0-9.]+ \(compilato con 6\.[0-9.]+\)$' <<<"$output")" 1
+expect "information: the folders" "$(grep -E '^(Cartella|File|Stato)' <<<"$output")" "Cartella del programma: ~/Zelvia
+File installati: ~/usr/share/zelvia/Guida.hlp
+Stato: ~/.local/state/zelvia"
+for home in /home/anna /home/anna/; do
+  for place in "/media/anna/chiave|/media/UTENTE/chiave" "/home/anna/Corse|~/Corse" "/home/annamaria/Zelvia|/home/annamaria/Zelvia"; do
+    run env HOME="$home" "$installed" --informazioni "${place%|*}"
+    expect "information: ${place%|*}" "$(grep ^Cartella <<<"$output")" "Cartella del programma: ${place#*|}"
+  done
+done
 run env -u HOME "$installed"
 expect "no home" "$status|$output|${errors%%$'\n'*}" \
   "2||La cartella personale non è nota (HOME): indicare una CARTELLA."

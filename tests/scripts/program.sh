@@ -3,6 +3,8 @@
 # Drives the real program on the present X display. To be sourced after check.sh, with the build folder in `build`.
 
 cmake --install "$build" --prefix "$work/diario" >"$work/install.log"
+# A test without a home of its own must not find, or change, what the program keeps in the tester's.
+[[ $HOME == "$work"* ]] || export XDG_STATE_HOME=$work/state
 # What is started: the program, or what leads to it.
 command=("$work/diario/zelvia")
 
