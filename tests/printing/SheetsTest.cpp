@@ -1,14 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The six sheets of the sample year, from the windows to the PDF.
+// The six sheets of the sample year and the chart over all years, from the windows to the PDF.
 #include "printing/PrintedPdf.h"
+#include "support/FixedClock.h"
 #include "support/PrinterTray.h"
 #include "support/TableDesk.h"
 #include "support/WindowTest.h"
+#include "tools/yearswindow/YearsWindow.h"
 #include "windows/races/FrmCalendario.h"
 #include "windows/statistics/FrmGrafici.h"
 #include "windows/statistics/FrmRicercheStatistiche.h"
 #include "windows/statistics/FrmStatistiche1.h"
+
+#include <QSignalSpy>
 
 namespace zelvia::test
 {
@@ -94,6 +98,22 @@ bool IsPortrait(const Printed& printed)
     return std::abs(size.width() - 595) < 1 && std::abs(size.height() - 842) < 1;
 }
 
+/// The dark dots of a chart's picture: it begins at (15, 3) and is as large as on the screen.
+int DotsOfPicture(const Printed& printed, const QSize& chart)
+{
+    constexpr int dotsPerInch = 72;
+    constexpr double pointsPerDot = 0.75;
+    const QImage sheet = printed.pdf.Picture(0, dotsPerInch);
+    const QRect picture(QPoint(12 + 15 * 6, 12 + 3 * 12), (QSizeF(chart) * pointsPerDot).toSize());
+    int inked = 0;
+    for (int y = picture.top(); y < picture.bottom(); ++y) {
+        for (int x = picture.left(); x < picture.right(); ++x) {
+            inked += qGray(sheet.pixel(x, y)) < 200 ? 1 : 0;
+        }
+    }
+    return inked;
+}
+
 } // namespace
 
 class SheetsTest : public QObject
@@ -108,6 +128,7 @@ private Q_SLOTS:
     void aStatistic();
     void aSearchOverSeveralPages();
     void aChart();
+    void aChartOfAllYears();
 };
 
 void SheetsTest::aDay()
@@ -220,21 +241,24 @@ void SheetsTest::aChart()
     QVERIFY(IsLandscape(printed));
     QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
     QCOMPARE(printed.pdf.Fonts(), (QByteArrayList{"LiberationSerif-Bold"}));
-    // Something is drawn where the picture is: from (15, 3) on, as wide as the chart on the screen.
-    constexpr int dotsPerInch = 72;
-    const QImage sheet = printed.pdf.Picture(0, dotsPerInch);
-    const double pointsPerDot = 0.75;
-    const QRect picture(12 + 15 * 6, 12 + 3 * 12, static_cast<int>(window.MSChart1->width() * pointsPerDot),
-                        static_cast<int>(window.MSChart1->height() * pointsPerDot));
-    int inked = 0;
-    for (int y = picture.top(); y < picture.bottom(); ++y) {
-        for (int x = picture.left(); x < picture.right(); ++x) {
-            inked += qGray(sheet.pixel(x, y)) < 200 ? 1 : 0;
-        }
-    }
-    QVERIFY(inked > picture.width());
+    QVERIFY(DotsOfPicture(printed, window.MSChart1->size()) > window.MSChart1->width());
     QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, grafico, 31/12/2026"));
     VERIFY_SCRIPT(page.script);
+}
+
+void SheetsTest::aChartOfAllYears()
+{
+    const FixedClock clock(CalendarDate(2026, 12, 31));
+    YearsWindow window(ZELVIA_SOURCE_DIR "/share/demo");
+    QSignalSpy ready(&window, &YearsWindow::Ready);
+    window.show();
+    QTRY_VERIFY(!ready.isEmpty());
+    const Printed printed = Print([&] { QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier); });
+    QVERIFY(IsLandscape(printed));
+    QCOMPARE(printed.pdf.Faults(printed.sheet), QString());
+    constexpr QSize chart(928, 590);
+    QVERIFY(DotsOfPicture(printed, chart) > chart.width());
+    QCOMPARE(JobOf(printed), QStringLiteral("Zelvia, grafico, 31/12/2026"));
 }
 
 } // namespace zelvia::test
