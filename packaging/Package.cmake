@@ -9,7 +9,7 @@ set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 
 install(PROGRAMS ${packaging}/zelvia.sh DESTINATION bin RENAME zelvia ${package})
 install(TARGETS zelvia-copie zelvia-strumenti DESTINATION bin ${package})
-install(TARGETS zelvia zelvia-avvio zelvia-avviso zelvia-libro DESTINATION libexec/zelvia ${package})
+install(TARGETS zelvia zelvia-avvio zelvia-avviso zelvia-finestra zelvia-libro DESTINATION libexec/zelvia ${package})
 install(FILES ${ZELVIA_GUIDE} ${ZELVIA_TRANSLATIONS} ${CMAKE_SOURCE_DIR}/share/mano.cur ${packaging}/folder-check.sh
   ${packaging}/before-start.sh DESTINATION share/zelvia ${package})
 install(FILES ${packaging}/zelvia-strumenti.bash DESTINATION share/bash-completion/completions RENAME zelvia-strumenti
