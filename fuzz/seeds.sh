@@ -7,7 +7,9 @@ set -euo pipefail
 demo=$(dirname "$(readlink -f "$0")")/../share/demo
 out=$1
 rm -rf "$out"
-mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,MediaKm,CategoryTexts,SearchTotals,TableCalculations,Trasforma,Text}
+mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,MediaKm,CategoryTexts,SearchTotals,TableCalculations,Trasforma,Text,Fit,DayTable,Merge}
+mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,MediaKm,CategoryTexts,SearchTotals,TableCalculations,Trasforma,Text,Fit,DayTable,Journal}
+mkdir -p "$out"/{ValueFile,Diary,List,Routes,Calendar,Table,Pointer,Val,DateValue,Format,Times,MediaKm,CategoryTexts,SearchTotals,TableCalculations,Trasforma,Text,Fit,DayTable,Check}
 
 # Two days of the diary and two routes, so that the inputs stay small; the others whole.
 diary=$demo/ZelviaFile/prova.zlv
@@ -55,3 +57,26 @@ printf '%s\n' 10 500 '' '' '' 4 37 250 >"$out/TableCalculations/time"
 printf '%s\n' '' '' 1 5 0 5 30 '' >"$out/TableCalculations/distance"
 printf '%s' 'C:\X\ZelviaFile\a.b.zlv' >"$out/Text/path"
 printf '%s' 'SALITA e pista di 12345 metri' >"$out/Text/words"
+# What watches wrote, the small files whole.
+files=$(dirname "$(readlink -f "$0")")/../tests/tools/watch/files
+cp "$files"/{run-short,run-cut,run-bad-second-part,ride,settings}.fit "$out/Fit"
+head -c 4096 "$files/run-compressed.fit" >"$out/Fit/run-compressed"
+printf '%s\n' 'date,route,km,type,start,end,weight,notes' '2024-02-29,Parco,10.045,Gara,9:00:00,9:50:07,70,"a
+b, c"' >"$out/DayTable/days"
+printf '%s\n' 'Data;Km;Tempo;Ripetizioni' '1/5/2024;10,5;50:00;5' >"$out/DayTable/spreadsheet"
+# A list, a version of it from here and one from there, and the name of a conflict copy.
+printf '\0"Lago"|"Bosco"\n"Lago"|"Colle"\n"Lago"|"Riva"\nprova (conflicted copy 2026-11-01).zlv' >"$out/Merge/list"
+# A few lines of each version of the routes and of the calendar.
+printf '\1\0\0"Lago"|\0\001500\n\0\0"Lago"|\0\001510\n\0\076"Bosco"\nprova-conflict-2026' >"$out/Merge/routes"
+printf '\2\0\0013|\0\0025\n\0\00110|\0\0045\n\0\00117\nTipo.sync-conflict-2026.lsx' >"$out/Merge/races"
+# Lines of a journal without their checksums: two sessions, one of them offered.
+session='S\t1\t\\Zelvia\t\\Zelvia\\ZelviaFile\\prova.zlv\t\\Zelvia\\prova\t0\n'
+day='G\t142\t2\t142\t2026-05-22\t3\t142\t2026-05-22\tParco\n'
+printf "$session$day"'V\tG\t142\nL\t5\t1\tGara\t2\tGara\tStaffetta\nO\n'"$session"'P\t3\t0\t2\tArgine\t7500\nC\t1\t1\t1\t5\t1\t6\t9\t2026\tGara\n' \
+  >"$out/Journal/two-sessions"
+# A kind of file, how many damages, and of each: what, the line, the place in it, how many lines.
+for kind in 0 1 2 3 4; do
+  printf "\\$kind\0\0\201\0\1\0" >"$out/Check/quote-$kind"
+  printf "\\$kind\1\2\12\0\0\2\4\100\1\3\0" >"$out/Check/lines-and-end-$kind"
+  printf "\\$kind\0\7\3\0\1\0#2028-01-01#" >"$out/Check/text-$kind"
+done
