@@ -6,6 +6,8 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <fstream>
+#include <string>
 #include <vector>
 
 namespace zelvia::bench
@@ -63,6 +65,18 @@ inline void PrintRow(const char* name, double measured, double baseline, const c
 inline void PrintMedians(const char* name, const Samples& samples, const char* unit, const char* figure)
 {
     PrintRow(name, Quantile(samples.measured, 0.5), Quantile(samples.baseline, 0.5), unit, figure);
+}
+
+/// The plain reading that readers are measured against.
+inline std::size_t BytesByLines(const std::string& path)
+{
+    std::size_t bytes = 0;
+    std::ifstream file(path, std::ios::binary);
+    std::string line;
+    while (std::getline(file, line)) {
+        bytes += line.size();
+    }
+    return bytes;
 }
 
 } // namespace zelvia::bench
