@@ -2,13 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The Zelvia authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian package in a fresh, minimal Debian of this machine's release, with a day of a runner's life: installed, a day written and saved,
-# upgraded, the day found again, removed: debian-test.sh BUILD-FOLDER
+# upgraded from the former package, the day found again, removed: debian-test.sh BUILD-FOLDER
 #
 # Needs root, debootstrap and the network; cmake -DZELVIA_DEBIAN_TEST=OFF leaves it out. The machine's own apt sources serve the
 # tree, too. ZELVIA_DEBIAN_TREE may name a compressed archive of such a tree, to be used or, if it is not there, made.
 . "$(dirname "$0")/check.sh"
 build=$(readlink -f "$1")
-package=$(ls "$build/package"/*.deb)
+package=$(ls "$build/package"/zelvia_*.deb)
 root=$work/debian
 
 # No system folder may be mounted below a tree that is removed.
@@ -61,6 +61,21 @@ apt() { inside root apt-get -q -y --no-install-recommends "$@" >>"$work/apt.log"
   return 1
 }; }
 
+# The package as it was when it copied itself into each home: with its lay-folder.sh, and without what came later.
+older() {
+  dpkg-deb -R "$package" "$work/older"
+  sed -i 's/^Version: .*/Version: 0.9/' "$work/older/DEBIAN/control"
+  rm "$work"/older/usr/bin/zelvia-strumenti "$work"/older/usr/libexec/zelvia/zelvia-{avvio,finestra,libro}
+  echo vecchio | tee "$work"/older/usr/share/zelvia/{lay-folder.sh,before-start.sh,Guida.hlp} >"$work/older/usr/bin/zelvia"
+  printf '#!/bin/sh\nexit 7\n' >"$work/older/usr/libexec/zelvia/zelvia"
+  (cd "$work/older" && find usr -type f -exec md5sum {} + >DEBIAN/md5sums)
+  dpkg-deb --root-owner-group -b "$work/older" "$root/tmp/older.deb" >/dev/null
+}
+# What it laid beside the diary.
+lay_folder() {
+  inside anna cp /usr/libexec/zelvia/zelvia /usr/share/zelvia/Guida.hlp /usr/share/zelvia/mano.cur /home/anna/Zelvia/
+}
+
 # A package of a higher version, with another guide and another program.
 newer() {
   dpkg-deb -R "$package" "$work/newer"
@@ -71,46 +86,8 @@ newer() {
   dpkg-deb --root-owner-group -b "$work/newer" "$root/tmp/newer.deb" >/dev/null
 }
 
-# What the runner does on the screen, with an ordinary user's rights: opens the diary, does the rest, closes it.
-cat >"$root/usr/local/bin/session" <<'SESSION'
-#!/usr/bin/env bash
-set -euo pipefail
-await() {
-  local tries=300
-  until "$@" >/dev/null 2>&1; do
-    tries=$((tries - 1))
-    [ "$tries" -gt 0 ] || { echo "never came true: $*" >&2; exit 1; }
-    sleep 0.2
-  done
-}
-page() { xdotool search --onlyvisible --classname '^zelvia$'; }
-ended() { ! kill -0 "$program" 2>/dev/null; }
-newer() { [ "$1" -nt "$2" ]; }
-picture() { import -silent -window "$(page)" png:- | sha256sum; }
-changed() { [ "$(picture)" != "$1" ]; }
-active() { [ "$(xdotool getactivewindow)" = "$(page)" ]; }
-
-zelvia &
-program=$!
-await page
-await active
-diary=$HOME/Zelvia/ZelviaFile/prova.zlv
-if [ "$1" = write ]; then
-  # Into the first line of the notes.
-  closed=$(picture)
-  xdotool mousemove --window "$(page)" 880 338 click 1
-  await changed "$closed"
-  xdotool type --delay 50 "Prima corsa"
-fi
-touch "$HOME/before"
-xdotool key alt+f && xdotool key s
-await newer "$diary" "$HOME/before"
-import -silent -window "$(page)" "$HOME/debian-$1.png"
-wmctrl -i -c "$(page)"
-await ended
-wait "$program"
-SESSION
-chmod 755 "$root/usr/local/bin/session"
+# What the runner does on the screen, with an ordinary user's rights.
+install "$source_folder/debian/tests/session" "$root/usr/local/bin/"
 install -m 755 "$source_folder/tests/support/with-x11.sh" "$root/usr/local/bin/"
 session() {
   if ! inside anna with-x11.sh session "$1" >"$work/session.log" 2>&1; then
@@ -125,7 +102,8 @@ apt install xvfb openbox xdotool wmctrl imagemagick
 inside root useradd -m anna
 cp "$package" "$root/tmp/zelvia.deb"
 apt install /tmp/zelvia.deb
-expect "the commands" "$(inside anna bash -c 'command -v zelvia zelvia-copie' | tr '\n' ' ')" "/usr/bin/zelvia /usr/bin/zelvia-copie "
+expect "the commands" "$(inside anna bash -c 'command -v zelvia zelvia-copie zelvia-strumenti' | tr '\n' ' ')" \
+  "/usr/bin/zelvia /usr/bin/zelvia-copie /usr/bin/zelvia-strumenti "
 
 session write || expect "the first session" failed good
 expect "lines of the diary" "$(saved | wc -l)" $((366 * 136))
@@ -133,12 +111,19 @@ expect "the day" "$(saved | grep -c '^"Prima corsa"$')" 1
 expect "whose it is" "$(inside root stat -c %U /home/anna/Zelvia/ZelviaFile/prova.zlv)" anna
 written=$(saved | sha256sum)
 
+older
+apt install --allow-downgrades /tmp/older.deb
+lay_folder
+expect "the diary under the former package" "$(saved | sha256sum)" "$written"
+
 newer
 apt install /tmp/newer.deb
 expect "the new version" "$(inside root dpkg-query -W -f '${Version}' zelvia)" 9.9.9
 session read || expect "the second session" failed good
 expect "the diary shown and saved again" "$(saved | sha256sum)" "$written"
-expect "what lies in the home" "$(ls "$root/home/anna/Zelvia" | tr '\n' ' ')" "ZelviaFile nomeload prova "
+expect "what lies in the home" "$(inside anna ls /home/anna/Zelvia | LC_ALL=C sort | tr '\n' ' ')" \
+  "Guida.hlp ZelviaFile mano.cur nomeload prova zelvia "
+expect "what the former package had" "$(inside root dpkg -V zelvia)$(ls "$root/usr/share/zelvia/lay-folder.sh" 2>/dev/null)" ""
 expect "the copy of the day" "$(inside anna zelvia-copie confronta 1 | tail -n 1)" "nessuna differenza."
 
 apt remove zelvia
