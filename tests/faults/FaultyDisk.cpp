@@ -13,7 +13,6 @@
 #include <filesystem>
 #include <map>
 #include <memory>
-#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -48,11 +47,16 @@ std::map<int, Syncable>& Syncables()
     return open;
 }
 
-/// The descriptors of streams of one's own making, of which the C library knows none.
-std::map<std::FILE*, int>& StreamDescriptors()
+/// What the C library does not know of a stream of one's own making.
+struct OwnStream {
+    int descriptor;
+    bool buffered; ///< The program's wish for no buffer would take that away.
+};
+
+std::map<std::FILE*, OwnStream>& OwnStreams()
 {
-    static thread_local std::map<std::FILE*, int> descriptors;
-    return descriptors;
+    static thread_local std::map<std::FILE*, OwnStream> streams;
+    return streams;
 }
 
 // As much as a reader asks for at a time. A stream of one's own making takes that in one call only from a buffer.
@@ -65,13 +69,6 @@ struct Stream {
     bool writes;
     std::vector<char> buffer;
 };
-
-/// The streams that have a buffer, which the program's wish for none would take away.
-std::set<std::FILE*>& BufferedStreams()
-{
-    static thread_local std::set<std::FILE*> streams;
-    return streams;
-}
 
 /// False, with errno set, when the disk lets this call fail.
 bool Allows(Call call, const std::string& path, bool writes = false)
@@ -114,7 +111,8 @@ int CloseStream(void* cookie)
 {
     const std::unique_ptr<Stream> stream(static_cast<Stream*>(cookie));
     Syncables().erase(stream->descriptor);
-    std::erase_if(StreamDescriptors(), [&](const auto& open) { return open.second == stream->descriptor; });
+    // The next stream may be at this one's address.
+    std::erase_if(OwnStreams(), [&](const auto& open) { return open.second.descriptor == stream->descriptor; });
     const int closed = close(stream->descriptor);
     return Allows(Call::Close, stream->path, stream->writes) ? closed : -1;
 }
@@ -132,11 +130,10 @@ std::FILE* OpenStream(const char* path, const char* mode)
     auto* stream = new Stream{descriptor, path, !reads, std::vector<char>(reads ? kPiece : 0)};
     std::FILE* file = fopencookie(stream, mode, {ReadStream, WriteStream, nullptr, CloseStream});
     Syncables()[descriptor] = {path, false};
-    StreamDescriptors()[file] = descriptor;
     if (reads) {
         std::setvbuf(file, stream->buffer.data(), _IOFBF, kPiece);
-        BufferedStreams().insert(file);
     }
+    OwnStreams()[file] = {descriptor, reads};
     return file;
 }
 
@@ -158,9 +155,8 @@ FaultyDisk::~FaultyDisk()
 {
     Current() = nullptr;
     ListedFolders().clear();
-    BufferedStreams().clear();
     Syncables().clear();
-    StreamDescriptors().clear();
+    OwnStreams().clear();
 }
 
 FaultyDisk* FaultyDisk::Watching(const char* path)
@@ -218,15 +214,17 @@ std::FILE* fopen(const char* path, const char* mode)
 int setvbuf(std::FILE* file, char* buffer, int mode, size_t size) noexcept
 {
     static const auto next = Next<int (*)(std::FILE*, char*, int, size_t)>("setvbuf");
-    return BufferedStreams().contains(file) ? 0 : next(file, buffer, mode, size);
+    const auto& streams = OwnStreams();
+    const auto found = streams.find(file);
+    return found != streams.end() && found->second.buffered ? 0 : next(file, buffer, mode, size);
 }
 
 int fileno(std::FILE* file) noexcept
 {
     static const auto next = Next<int (*)(std::FILE*)>("fileno");
-    const auto& streams = StreamDescriptors();
-    const auto found = streams.empty() ? streams.end() : streams.find(file);
-    return found == streams.end() ? next(file) : found->second;
+    const auto& streams = OwnStreams();
+    const auto found = streams.find(file);
+    return found == streams.end() ? next(file) : found->second.descriptor;
 }
 
 /// How a folder is opened to be synced.
