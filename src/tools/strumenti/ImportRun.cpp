@@ -5,6 +5,8 @@
 #include "core/StateFolder.h"
 #include "core/Tr.h"
 
+#include <set>
+
 namespace zelvia
 {
 namespace
@@ -34,14 +36,31 @@ std::vector<ImportedActivity> Earlier(ImportHistory& history, const std::string&
     return imported;
 }
 
+/// When the activities begin that were read whole. What is left of one of them in a damaged file comes after it.
+std::set<std::int64_t> StartsOfWhole(const std::vector<Candidate>& candidates)
+{
+    std::set<std::int64_t> starts;
+    for (const Candidate& candidate : candidates) {
+        if (candidate.activity && !candidate.damaged) {
+            starts.insert(candidate.activity->start);
+        }
+    }
+    return starts;
+}
+
 } // namespace
 
 ImportRun::ImportRun(Context& context, std::vector<Candidate>& candidates, bool all)
     : context_(context), candidates_(candidates), shelf_(context), history_(HistoryFile()),
       judge_(shelf_, Earlier(history_, context.Folder().string(), shelf_), all, context.Chosen().overwrite)
 {
-    for (Candidate& candidate : candidates) {
-        judge_.Look(candidate);
+    const std::set<std::int64_t> whole = StartsOfWhole(candidates);
+    for (const bool late : {false, true}) {
+        for (Candidate& candidate : candidates) {
+            if (late == (candidate.damaged && whole.contains(candidate.activity->start))) {
+                judge_.Look(candidate);
+            }
+        }
     }
 }
 

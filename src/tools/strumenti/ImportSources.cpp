@@ -90,6 +90,7 @@ std::vector<Candidate> FromWatch(const std::string& name, WatchFile&& file, cons
     for (Activity& activity : file.activities) {
         const int session = static_cast<int>(candidates.size()) + 1;
         candidates.push_back(FromActivity(name, session, std::move(activity), rules));
+        candidates.back().damaged = !file.faults.empty();
     }
     for (const std::string& fault : file.faults) {
         candidates.front().remarks.push_back(Tools::Tr("%1; vale ciò che si è potuto leggere", fault));

@@ -23,6 +23,7 @@ struct Candidate {
     int session = 0;  ///< Counted from 1 in its file; the row of a table. 0 for a file that gave nothing.
     Status status = Status::Bad;
     CalendarDate date;
+    bool damaged = false;             ///< Of its file something could not be read.
     std::vector<std::string> remarks; ///< What the runner should know of the file: Italian, UTF-8.
     std::vector<std::string> unknown; ///< Heads of a table of which no column is known, with its first row.
 

@@ -11,6 +11,8 @@
 
 #include <ctime>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 using namespace zelvia;
 using namespace zelvia::test;
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void ARaceDay();
     void TheRouteOfAnEarlierImport();
     void AWholeFolder();
+    void TheWholeFileBeforeOneThatIsCut();
     void WhichDiaryIsOpenedAtTheStart();
     void TheYearsDiary();
     void Bad_data();
@@ -420,8 +423,8 @@ void ImportTest::AWholeFolder()
 {
     const ToolsDesk desk;
     const Outcome outcome = desk.Run({"importa", "--tsv", "--si", WatchPath("")});
-    // In the order of the names; those that came twice are known.
-    QCOMPARE(StatusesOf(outcome), QByteArray("bad rest rest new new same new new new new new same bad "
+    // In the order of the names; those that came twice are known, by the file that is whole.
+    QCOMPARE(StatusesOf(outcome), QByteArray("bad rest rest same new same new new new new new new bad "
                                              "rest rest rest rest new"));
     QCOMPARE(outcome.status, 1);
     QVERIFY(outcome.err.contains("Diari nuovi: 1990, 2011, 2012, 2013, 2015, 2018, 2021."));
@@ -430,6 +433,21 @@ void ImportTest::AWholeFolder()
     }
     QCOMPARE(DiaryOf(desk, "2013").Line(249, DiaryBytes::Km), QByteArray("10")); // 6 September.
     QCOMPARE(desk.Copies(), 1);
+}
+
+void ImportTest::TheWholeFileBeforeOneThatIsCut()
+{
+    const ToolsDesk desk;
+    std::ifstream file(WatchPath("run-laps.tcx"));
+    const std::string whole(std::istreambuf_iterator<char>(file), {});
+    desk.home.Write("a.tcx", whole.substr(0, whole.size() / 2));
+    desk.home.Write("b.tcx", whole);
+    const Outcome outcome =
+        desk.Run({"importa", "--tsv", "--si", desk.home.Native("a.tcx"), desk.home.Native("b.tcx")});
+    QCOMPARE(StatusesOf(outcome), QByteArray("same new"));
+    const DiaryBytes diary = DiaryOf(desk, "2013");
+    QCOMPARE(diary.Line(249, DiaryBytes::Km), QByteArray("10"));
+    QCOMPARE(diary.Line(249, DiaryBytes::Metres), QByteArray("747"));
 }
 
 void ImportTest::WhichDiaryIsOpenedAtTheStart()
