@@ -3160,6 +3160,10 @@ The usual ones are all there; try again when it is possible.</translation>
         <source>Zelvia non si avvia («%1»): il diario non è stato aperto.</source>
         <translation>Zelvia does not start (“%1”): the diary has not been opened.</translation>
     </message>
+    <message>
+        <source>La pagina non va prima del %1: mostra il %2, che ha gli stessi giorni della settimana.</source>
+        <translation>The page does not go back beyond %1: it shows %2, which has the same weekdays.</translation>
+    </message>
 </context>
 <context>
     <name>zelvia::YearsWindow</name>

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Zelvia authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/FileCommands.h"
 #include "tools/desk/ActionPage.h"
 #include "tools/desk/DeskPages.h"
 
@@ -11,6 +12,17 @@ namespace zelvia
 {
 namespace
 {
+
+/// The year whose days the page shows for a diary of that year: the same, or one from the page's first year on that has
+/// the same weekdays and 29 February as a diary that is older. The calendar comes again after 28 years.
+int YearOnPage(int year)
+{
+    constexpr int cycle = 28;
+    while (year < kFirstDate.Year().value()) {
+        year += cycle;
+    }
+    return year;
+}
 
 class YearsPage : public ActionPage
 {
@@ -66,16 +78,23 @@ private:
     void Start(const QString& diary, int year)
     {
         const QString program = QString::fromStdString(OnDesk().Program.string());
+        const int shown = YearOnPage(year);
         QStringList words;
         if (year < QDate::currentDate().year()) {
-            words << QStringLiteral("--oggi") << QStringLiteral("%1-12-31").arg(year);
+            words << QStringLiteral("--oggi") << QStringLiteral("%1-12-31").arg(shown);
         }
         words << QStringLiteral("--diario") << diary << QStringLiteral("--")
               << QString::fromStdString(OnDesk().Folder().string());
         const bool started = QProcess::startDetached(program, words);
-        Say(started ? tr("Zelvia apre il diario «%1».").arg(diary)
-                    : tr("Zelvia non si avvia («%1»): il diario non è stato aperto.").arg(program),
-            !started);
+        QString opened = tr("Zelvia apre il diario «%1».").arg(diary);
+        if (shown != year) {
+            opened +=
+                QLatin1Char(' ') + tr("La pagina non va prima del %1: mostra il %2, che ha gli stessi giorni della "
+                                      "settimana.")
+                                       .arg(kFirstDate.Year().value())
+                                       .arg(shown);
+        }
+        Say(started ? opened : tr("Zelvia non si avvia («%1»): il diario non è stato aperto.").arg(program), !started);
     }
 
     OutcomeTable& table_;

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void theYears();
     void allYears();
     void anOlderYearOpensWithItsDates();
+    void aYearBeforeThePages();
     void nothingToMend();
     void readingIsStopped();
     void mending();
@@ -232,6 +233,29 @@ void PagesTest::anOlderYearOpensWithItsDates()
     QCOMPARE(desk.tools.home.Read("programma.detto"),
              Text("--oggi\n2024-12-31\n--diario\n2024\n--\n") + FromUtf8(desk.tools.Native()) + "\n");
     QCOMPARE(desk.tools.Copies(), copies + 1);
+}
+
+/// The page begins with 2001. 28 years later every day has the same weekday, and there is a 29 February again.
+void PagesTest::aYearBeforeThePages()
+{
+    WindowDesk desk;
+    desk.tools.Write("ZelviaFile/1996.zlv", TextOf(DiaryBytes::Blank(1996).Bytes()));
+    const std::string program = desk.tools.home.Native("programma");
+    desk.tools.home.Write("programma",
+                          "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$0.nuovo\"\nmv \"$0.nuovo\" \"$0.detto\"\n");
+    fs::permissions(program, fs::perms::owner_all);
+    desk.Open("anni");
+    desk.Shared().Program = program;
+    QTRY_COMPARE_WITH_TIMEOUT(desk.Table().topLevelItemCount(), 2, kDeskPatience);
+    desk.Table().setFocus();
+    hand::Key(Qt::Key_Home);
+    hand::Key(Qt::Key_A, Qt::AltModifier);
+    QTRY_VERIFY_WITH_TIMEOUT(desk.tools.home.Has("programma.detto"), kDeskPatience);
+    QVERIFY(desk.tools.home.Read("programma.detto").starts_with("--oggi\n2024-12-31\n--diario\n1996\n"));
+    QTRY_COMPARE_WITH_TIMEOUT(desk.Notes(),
+                              QStringLiteral("Zelvia apre il diario «1996». La pagina non va prima del 2001: mostra il "
+                                             "2024, che ha gli stessi giorni della settimana."),
+                              kDeskPatience);
 }
 
 void PagesTest::nothingToMend()
