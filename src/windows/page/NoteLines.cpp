@@ -35,6 +35,7 @@ NoteLines::NoteLines(frmMain& page) : page_(page)
                 page_.notes[line].lbl->SetCaption(page_.notes[line].txt->Content());
             });
         };
+        page_.notes[line].txt->Change = [] {}; // A routine, after which the journal looks at the page.
         page_.notes[line].txt->Click = [this, line] { txtNote_Click(line); };
         page_.notes[line].txt->KeyPress = [this, line](int& keyAscii) { txtNote_KeyPress(line, keyAscii); };
     }

@@ -12,7 +12,8 @@ namespace zelvia
 class Control;
 class frmMain;
 
-/// Has the journal look at the diary when a field has closed, a day was committed or a list has changed.
+/// Has the journal look at the diary when a field has closed, a day was committed or a list has changed, and while
+/// a note is written.
 class PageJournal
 {
 public:
@@ -27,6 +28,7 @@ private:
     i16 slot_;
     RecordGiorno day_;
     decltype(Session::lists) lists_;
+    Text note_;
 };
 
 } // namespace zelvia

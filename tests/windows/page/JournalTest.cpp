@@ -74,6 +74,7 @@ class JournalTest : public QObject
 private Q_SLOTS:
     void ADayEntered();
     void ADayOnlyLookedAt();
+    void ANoteBeingWritten();
     void ATextThatIsNew();
     void Saved();
     void SavedUnderAnotherName();
@@ -107,6 +108,23 @@ void JournalTest::ADayOnlyLookedAt()
     hand::Key(Qt::Key_PageUp);
     QTRY_VERIFY(Module1::GiornoCorrente == 141);
     QCOMPARE(NotedPage::Files(), 0);
+}
+
+/// The program may be killed before the line is closed.
+void JournalTest::ANoteBeingWritten()
+{
+    const NotedPage page;
+    hand::Click(*page->notes[3].lbl);
+    QTRY_VERIFY(page->notes[3].txt->hasFocus());
+    hand::Type(QStringLiteral("Bosco"));
+    QCOMPARE(NotedPage::Noted(), QStringList(QStringLiteral("2026-05-20 Note, riga 1 >Bosco")));
+    hand::Key(Qt::Key_Backspace);
+    QCOMPARE(NotedPage::Noted(), QStringList(QStringLiteral("2026-05-20 Note, riga 1 >Bosc")));
+    hand::Key(Qt::Key_Backspace);
+    hand::Key(Qt::Key_Backspace);
+    hand::Key(Qt::Key_Backspace);
+    hand::Key(Qt::Key_Backspace);
+    QCOMPARE(NotedPage::Noted(), QStringList());
 }
 
 /// A text that its list does not hold changes the list too.
