@@ -146,7 +146,9 @@ void FigurePlot::FitToSpan()
 {
     double lowest = std::numeric_limits<double>::max();
     double highest = std::numeric_limits<double>::lowest();
+    bool bars = false;
     for (const FigureSeries& series : figure_.series) {
+        bars = bars || series.look == FigureSeries::Look::Bars;
         for (const FigurePoint& point : series.points) {
             if (IsShown(point)) {
                 lowest = std::min(lowest, point.value);
@@ -159,7 +161,8 @@ void FigurePlot::FitToSpan()
         constexpr double above = 1.08;
         constexpr double share = 0.08;
         const double room = std::max(highest - lowest, 1.0) * share;
-        const bool fromZero = figure_.measure == Measure::Kilometres && lowest * 2 < highest;
+        // The length of a bar is what it says.
+        const bool fromZero = figure_.measure == Measure::Kilometres && (bars || lowest * 2 < highest);
         const bool nothing = figure_.measure == Measure::Kilometres && highest == 0;
         range = nothing    ? QCPRange(0, 1)
                 : fromZero ? QCPRange(0, highest * above)

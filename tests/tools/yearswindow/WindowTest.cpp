@@ -57,6 +57,7 @@ private Q_SLOTS:
     void eachKind_data();
     void eachKind();
     void anotherYearBeside();
+    void barsBeginAtNothing();
     void oneRoute();
     void oneYearOfAll();
     void thePointerTellsTheValue();
@@ -185,6 +186,19 @@ void WindowTest::anotherYearBeside()
     QTRY_COMPARE(other.currentText(), QStringLiteral("tutti gli altri"));
     QCOMPARE(desk.View().Shown().heads.mid(4), (QStringList{QStringLiteral("Km 2024"), QStringLiteral("Km 2025")}));
     QCOMPARE(desk.Row(0).join(QLatin1Char('|')), QStringLiteral("gennaio|20,000|1|0|10,000|12,000"));
+}
+
+/// 28, 22 and 30 km: so far apart are the ends of the bars from the line below them.
+void WindowTest::barsBeginAtNothing()
+{
+    YearsDesk desk;
+    desk.Open();
+    desk.Show(FigureKind::Years);
+    const double bottom = desk.View().Field().bottom() + 1;
+    const auto height = [&](int year) { return bottom - desk.View().PixelOf({0, year}).y(); };
+    QVERIFY(height(2) > 0);
+    QVERIFY2(std::abs(height(1) / height(2) - 22.0 / 30) < 0.02, qPrintable(QString::number(height(1) / height(2))));
+    QVERIFY2(std::abs(height(0) / height(2) - 28.0 / 30) < 0.02, qPrintable(QString::number(height(0) / height(2))));
 }
 
 void WindowTest::oneRoute()
