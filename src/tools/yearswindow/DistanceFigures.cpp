@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <optional>
 
 namespace zelvia
@@ -53,8 +54,9 @@ public:
         figure_.series << CurveOfYear(choices_.year, Look::Line);
         figure_.heads = {tr("Giorno"), tr("Km")};
         const QList<FigurePoint>& own = figure_.series.front().points;
-        for (int day = 1; day <= last.DayOfYear().value(); ++day) {
-            figure_.rows << QStringList{Texts::Day(last.PlusDays(day - last.DayOfYear().value())),
+        const int days = last.DayOfYear().value();
+        for (int day = 1; day <= days; ++day) {
+            figure_.rows << QStringList{Texts::Day(last.PlusDays(day - days)),
                                         day <= own.size() ? Texts::Km(std::lround(own[day - 1].value * kPerKm))
                                                           : QString()};
         }
@@ -62,7 +64,9 @@ public:
             AddBeside(tr("Linea costante"), SteadyLine(*choices_.goal));
         }
         for (const int other : Others()) {
-            AddBeside(tr("Km %1").arg(other), CurveOfYear(other, OthersLook()));
+            AddBeside(tr("Km %1").arg(other), CurveOfYear(other, OthersLook()), [&](qsizetype row) {
+                return PlaceInOther(last.PlusDays(static_cast<int>(row + 1) - days), other);
+            });
         }
         return std::move(figure_);
     }
@@ -147,19 +151,46 @@ private:
                                  << QString::number(period.races));
         }
         for (const int other : Others()) {
-            AddBeside(tr("Km %1").arg(other),
-                      SeriesOf(QString::number(other), OthersLook(), periodsOf(read_.days, other), text));
+            const std::vector<PeriodTotal> beside = periodsOf(read_.days, other);
+            AddRowsFor(beside);
+            AddBeside(tr("Km %1").arg(other), SeriesOf(QString::number(other), OthersLook(), beside, text));
         }
         return std::move(figure_);
     }
 
-    /// Another line, with a column of the table.
-    void AddBeside(const QString& head, FigureSeries series)
+    /// Rows and labels for the periods that the chosen year has not got: a week 53.
+    void AddRowsFor(const std::vector<PeriodTotal>& beside)
+    {
+        for (std::size_t i = static_cast<std::size_t>(figure_.rows.size()); i < beside.size(); ++i) {
+            const QString number = QString::number(beside[i].number);
+            figure_.ticks << FigureTick{static_cast<double>(beside[i].number), number};
+            QStringList row{number};
+            row.resize(figure_.heads.size());
+            figure_.rows << row;
+        }
+    }
+
+    /// The place of a day in the curve of another year. 29 February of a year without one is its 28 February.
+    static qsizetype PlaceInOther(CalendarDate date, int other)
+    {
+        constexpr unsigned february = 2;
+        const auto month = static_cast<unsigned>(date.Month().value());
+        const auto day = static_cast<unsigned>(date.Day().value());
+        const auto most = static_cast<unsigned>(CalendarDate(other, february + 1, 1).PlusDays(-1).Day().value());
+        return CalendarDate(other, month, month == february ? std::min(day, most) : day).DayOfYear().value() - 1;
+    }
+
+    static qsizetype SamePlace(qsizetype row) { return row; }
+
+    /// Another line, with a column of the table: `placeOf` tells which of its points a row shows.
+    void AddBeside(const QString& head, FigureSeries series,
+                   const std::function<qsizetype(qsizetype)>& placeOf = &SamePlace)
     {
         figure_.heads << head;
         for (qsizetype row = 0; row < figure_.rows.size(); ++row) {
-            const bool reached = row < series.points.size();
-            figure_.rows[row] << (reached ? Texts::Km(std::lround(series.points[row].value * kPerKm)) : QString());
+            const qsizetype place = placeOf(row);
+            const bool reached = place < series.points.size();
+            figure_.rows[row] << (reached ? Texts::Km(std::lround(series.points[place].value * kPerKm)) : QString());
         }
         figure_.series << std::move(series);
     }

@@ -57,6 +57,8 @@ private Q_SLOTS:
     void eachKind_data();
     void eachKind();
     void anotherYearBeside();
+    void theLeapDayBeside();
+    void aWeek53Beside();
     void barsBeginAtNothing();
     void oneRoute();
     void oneYearOfAll();
@@ -186,6 +188,48 @@ void WindowTest::anotherYearBeside()
     QTRY_COMPARE(other.currentText(), QStringLiteral("tutti gli altri"));
     QCOMPARE(desk.View().Shown().heads.mid(4), (QStringList{QStringLiteral("Km 2024"), QStringLiteral("Km 2025")}));
     QCOMPARE(desk.Row(0).join(QLatin1Char('|')), QStringLiteral("gennaio|20,000|1|0|10,000|12,000"));
+}
+
+/// The kilometres up to a day stand beside those up to the same day of the other year.
+void WindowTest::theLeapDayBeside()
+{
+    YearsDesk desk;
+    desk.Open();
+    desk.Show(FigureKind::Curve);
+    auto& year = desk.Get<QComboBox>("year");
+    auto& other = desk.Get<QComboBox>("other");
+    year.setFocus();
+    hand::Key(Qt::Key_Down);
+    other.setFocus();
+    hand::Key(Qt::Key_End);
+    QTRY_COMPARE(desk.Title() + other.currentText(), QStringLiteral("Chilometri dall'inizio dell'anno, 20252024"));
+    QCOMPARE(desk.Row(58).join(QLatin1Char('|')), QStringLiteral("28/02/2025|12,000|10,000"));
+    QCOMPARE(desk.Row(59).join(QLatin1Char('|')), QStringLiteral("01/03/2025|12,000|18,000"));
+    QCOMPARE(desk.Row(364).join(QLatin1Char('|')), QStringLiteral("31/12/2025|22,000|28,000"));
+    year.setFocus();
+    hand::Key(Qt::Key_End);
+    other.setFocus();
+    hand::Key(Qt::Key_End);
+    QTRY_COMPARE(desk.Title() + other.currentText(), QStringLiteral("Chilometri dall'inizio dell'anno, 20242025"));
+    QCOMPARE(desk.Row(59).join(QLatin1Char('|')), QStringLiteral("29/02/2024|18,000|12,000"));
+    QCOMPARE(desk.Row(365).join(QLatin1Char('|')), QStringLiteral("31/12/2024|28,000|22,000"));
+}
+
+/// 2026 has 53 weeks, 2025 has 52.
+void WindowTest::aWeek53Beside()
+{
+    YearsDesk desk;
+    desk.Open();
+    auto& year = desk.Get<QComboBox>("year");
+    auto& other = desk.Get<QComboBox>("other");
+    year.setFocus();
+    hand::Type(QStringLiteral("2025"));
+    other.setFocus();
+    hand::Type(QStringLiteral("2026"));
+    QTRY_COMPARE(desk.Title() + other.currentText(), QStringLiteral("Chilometri per settimana, 20252026"));
+    QCOMPARE(desk.View().Shown().series[1].points.size(), 53);
+    QCOMPARE(desk.View().Shown().rows.size(), 53);
+    QCOMPARE(desk.Row(52).join(QLatin1Char('|')), QStringLiteral("53||||||0,000"));
 }
 
 /// 28, 22 and 30 km: so far apart are the ends of the bars from the line below them.
