@@ -30,13 +30,15 @@ constexpr int kOpenFlags = DialogFlags::FileMustExist | DialogFlags::NoChangeDir
 constexpr int kSaveFlags = DialogFlags::OverwritePrompt | DialogFlags::NoChangeDir | DialogFlags::HideReadOnly;
 constexpr int kTickMilliseconds = 500;
 
-void BringToFront(QWidget* window)
+/// False when nothing of it is to be seen.
+bool Raise(QWidget* window)
 {
-    if (window != nullptr && window->isVisible()) {
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-        window->raise();
-        window->activateWindow();
+    if (window == nullptr || !window->isVisible()) {
+        return false;
     }
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    return true;
 }
 
 /// A list that is open when the page grows has to show whole entries again.
@@ -78,9 +80,14 @@ frmMain::frmMain()
         journal.Update();
     };
     Application::Instance().ShowAgain = [this] {
-        BringToFront(this);
-        // A box over the page, or over another window, stays in front.
-        BringToFront(QApplication::activeModalWidget());
+        QWidget* front = Raise(this) ? this : nullptr;
+        // A box over the page, or over another window, stays in front. Wayland's token is good for one window.
+        if (QWidget* box = QApplication::activeModalWidget(); Raise(box)) {
+            front = box;
+        }
+        if (front != nullptr) {
+            front->activateWindow();
+        }
     };
 }
 
