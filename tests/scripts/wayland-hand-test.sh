@@ -6,20 +6,10 @@
 build=$(readlink -f "$1")
 . "$source_folder/packaging/sample-year.sh"
 . "$source_folder/tests/scripts/program.sh"
+. "$source_folder/tests/scripts/wayland-screen.sh"
 lay_sample_year "$work/diario"
 export LANGUAGE=it
 
-hand() { DISPLAY=$ZELVIA_HAND_DISPLAY xdotool "$@"; }
-# Without the clock of the display, which changes by itself, and the pointer in its corner.
-picture() { DISPLAY=$ZELVIA_HAND_DISPLAY import -window root -crop 1580x940+0+40 +repage "$work/$1.png"; }
-# quiet NAME: nothing moves; NAME is the picture then.
-quiet() { picture "$1" && sleep 0.3 && picture now && cmp -s "$work/$1.png" "$work/now.png"; }
-# Where two pictures differ: LEFT TOP RIGHT BOTTOM.
-changed() {
-  convert "$work/$1.png" "$work/$2.png" -compose difference -composite -threshold 0 -format '%@' info: |
-    tr 'x+' '  ' | awk '{ print $3, $4, $3 + $1, $4 + $2 }'
-}
-differs() { quiet "$2" && ! cmp -s "$work/$1.png" "$work/$2.png"; }
 said() { grep -qE "$1" "$work/program.log"; }
 
 await quiet empty
@@ -29,9 +19,9 @@ await differs empty page || expect "the page" none shown
 read -r left top _ _ < <(changed empty page)
 
 hand key alt+f
-await said 'xdg_popup@[0-9]+\.configure' || expect "a menu by its key" none one
+await said 'xdg_popup[@#][0-9]+\.configure' || expect "a menu by its key" none one
 # What the display was asked for, and what it did, in the coordinates of the page's window.
-read -r x y width height < <(sed -nE 's/.*xdg_popup@[0-9]+\.configure\((-?[0-9]+), (-?[0-9]+), ([0-9]+), ([0-9]+)\).*/\1 \2 \3 \4/p' \
+read -r x y width height < <(sed -nE 's/.*xdg_popup[@#][0-9]+\.configure\((-?[0-9]+), (-?[0-9]+), ([0-9]+), ([0-9]+)\).*/\1 \2 \3 \4/p' \
   "$work/program.log" | tail -1)
 await differs page menu || expect "the menu" none shown
 # The menu's title, above it, changes too.
@@ -40,7 +30,7 @@ expect "the right lower corner of the menu" "$right $bottom" "$((left + x + widt
 
 hand key Escape
 hand key Escape
-gone() { quiet after && cmp -s "$work/page.png" "$work/after.png"; }
+gone() { quiet after && cmp -s "$work/page.ppm" "$work/after.ppm"; }
 await gone || expect "the menu after Escape" shown gone
 kill "$program"
 await ended "$program" || expect "the program" running ended
