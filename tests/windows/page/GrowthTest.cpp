@@ -97,6 +97,7 @@ private Q_SLOTS:
     void otherWindows_data();
     void otherWindows();
     void rowsComeIntoSight();
+    void aStatisticOpensAtItsTitle();
 };
 
 void GrowthTest::placesAndFaces_data()
@@ -417,6 +418,34 @@ void GrowthTest::rowsComeIntoSight()
         QVERIFY2(box != nullptr, name);
         box->SetFocus();
         QTRY_COMPARE(box->visibleRegion().boundingRect(), box->rect());
+    }
+}
+
+/// It opened scrolled down to its list. The row that the keys come to is in sight.
+void GrowthTest::aStatisticOpensAtItsTitle()
+{
+    WindowPlaces::Instance().SetScreen({910, 512});
+    EntryPage page;
+    page.Start();
+    EntryPage::AwaitFront(page.Page());
+    page.TakeEntry("mnuStatistiche", "mnuPeso");
+    QTRY_VERIFY(ShownWindow(QStringLiteral("frmStatistiche1")) != nullptr);
+    QWidget& window = *ShownWindow(QStringLiteral("frmStatistiche1"));
+    EntryPage::AwaitFront(window);
+    auto& list = *window.findChild<ListBox*>(QStringLiteral("lstStatistica"));
+    QTRY_VERIFY(list.hasFocus());
+    for (const char* name : {"lblTitolo", "cmdStatitolo", "cmdStatfre"}) {
+        const auto* above = window.findChild<QWidget*>(QLatin1String(name));
+        QCOMPARE(Seen(*above).size(), above->size());
+    }
+    for (int row = list.count(); row < 40; ++row) {
+        list.addItem(QString::number(row));
+    }
+    for (const auto& [key, row] : {std::pair(Qt::Key_End, 39), std::pair(Qt::Key_Home, 0)}) {
+        hand::Key(key);
+        QTRY_COMPARE(list.currentRow(), row);
+        const QRect place = list.visualItemRect(list.currentItem());
+        QTRY_COMPARE(list.viewport()->visibleRegion().boundingRect() & place, place);
     }
 }
 
