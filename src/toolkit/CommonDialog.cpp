@@ -9,6 +9,7 @@
 #include "toolkit/DrawnIcon.h"
 #include "toolkit/Events.h"
 #include "toolkit/QtText.h"
+#include "toolkit/WindowPlaces.h"
 
 #include <QAbstractFileIconProvider>
 #include <QDialogButtonBox>
@@ -18,7 +19,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScreen>
 #include <QSplitter>
 #include <QTreeView>
 
@@ -137,7 +137,7 @@ void FileChooser::MakeRoom()
 {
     constexpr QSize wide(800, 480);
     constexpr int places = 130;
-    resize(wide.boundedTo(screen()->availableSize()));
+    resize(wide.boundedTo(WindowPlaces::Instance().RoomFor(*this)));
     findChild<QSplitter*>(QStringLiteral("splitter"))->setSizes({places, wide.width() - places});
     auto* columns = findChild<QTreeView*>(QStringLiteral("treeView"))->header();
     columns->setStretchLastSection(false);

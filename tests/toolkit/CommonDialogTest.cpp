@@ -8,6 +8,7 @@
 #include "support/Hand.h"
 #include "support/WindowTest.h"
 #include "toolkit/SampleForm.h"
+#include "toolkit/WindowPlaces.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -62,6 +64,7 @@ private Q_SLOTS:
     void TheFolderInOtherLettersIsTheSame();
     void TheNameSurvivesFromOneToTheNext();
     void ADialogIsNoLostFocus();
+    void ItFitsASmallScreen();
     void AHandlerTakesItsPlace();
 
 private:
@@ -492,6 +495,20 @@ void CommonDialogTest::ADialogIsNoLostFocus()
     QTRY_COMPARE(opened_, 1);
     QTRY_COMPARE(form_->Focused(), QByteArray("txtUno"));
     QVERIFY(StaysFalse([this] { return !form_->told.isEmpty(); }));
+}
+
+/// Its buttons were below the screen.
+void CommonDialogTest::ItFitsASmallScreen()
+{
+    WindowPlaces::Instance().SetScreen({853, 480});
+    const auto whole = qScopeGuard([] { WindowPlaces::Instance().SetScreen({}); });
+    WhenOpen([](QFileDialog& dialog) {
+        const QSize room = WindowPlaces::Instance().RoomFor(dialog);
+        QVERIFY(room.height() < 480);
+        QCOMPARE(dialog.size().boundedTo(room), dialog.size());
+    });
+    settings_.ShowOpen();
+    QCOMPARE(opened_, 1);
 }
 
 void CommonDialogTest::AHandlerTakesItsPlace()
