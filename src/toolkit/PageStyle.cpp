@@ -7,6 +7,7 @@
 #include "toolkit/Pixels.h"
 
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -113,6 +114,65 @@ void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& option, const QS
     style.drawPrimitive(upright ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &arrow, &painter);
 }
 
+/// The arrow beside what can be opened, in the ink of its row.
+void DrawBranch(const QStyle& style, const QStyleOption& option, QPainter& painter)
+{
+    if (!option.state.testFlag(QStyle::State_Children)) {
+        return;
+    }
+    QStyleOption arrow(option);
+    constexpr int side = 9;
+    arrow.rect = QStyle::alignedRect(option.direction, Qt::AlignCenter, {side, side}, option.rect);
+    const bool chosen = option.state.testFlag(QStyle::State_Selected);
+    const QColor ink = option.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text);
+    for (const QPalette::ColorRole role : {QPalette::ButtonText, QPalette::WindowText}) {
+        arrow.palette.setColor(role, ink);
+    }
+    const bool open = option.state.testFlag(QStyle::State_Open);
+    style.drawPrimitive(open ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &arrow, &painter);
+}
+
+/// A number's box: its arrows are printed on a flat field of their own.
+void DrawSpinBox(QPainter& painter, const QStyleOptionSpinBox& option, const QStyle& style, const QWidget* widget)
+{
+    const auto part = [&](QStyle::SubControl control) {
+        return style.subControlRect(QStyle::CC_SpinBox, &option, control, widget);
+    };
+    const QRect up = part(QStyle::SC_SpinBoxUp);
+    const QRect down = part(QStyle::SC_SpinBoxDown);
+    const QRect buttons = up | down;
+    {
+        const Pixels pixels(painter);
+        painter.fillRect(pixels.Of(option.rect), option.palette.color(QPalette::Base));
+        painter.fillRect(pixels.Of(buttons), option.palette.color(QPalette::Button));
+    }
+    const struct {
+        QRect place;
+        QStyle::SubControl control;
+        QAbstractSpinBox::StepEnabledFlag step;
+        QStyle::PrimitiveElement drawing;
+    } arrows[] = {{up, QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, QStyle::PE_IndicatorArrowUp},
+                  {down, QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, QStyle::PE_IndicatorArrowDown}};
+    for (const auto& one : arrows) {
+        QStyleOption arrow(option);
+        const bool steps = option.state.testFlag(QStyle::State_Enabled) && option.stepEnabled.testFlag(one.step);
+        if (steps && option.activeSubControls == one.control) {
+            constexpr int pressed = 112;
+            constexpr int lit = 105;
+            const Pixels pixels(painter);
+            painter.fillRect(pixels.Of(one.place),
+                             option.palette.color(QPalette::Button)
+                                 .darker(option.state.testFlag(QStyle::State_Sunken) ? pressed : lit));
+        }
+        arrow.state.setFlag(QStyle::State_Enabled, steps);
+        if (!steps) {
+            arrow.palette.setCurrentColorGroup(QPalette::Disabled);
+        }
+        arrow.rect = one.place;
+        style.drawPrimitive(one.drawing, &arrow, &painter);
+    }
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const
 {
@@ -138,6 +198,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         DrawRing(*painter, option->rect, EdgeInk(base));
         break;
+    case PE_PanelScrollAreaCorner: {
+        const Pixels pixels(*painter);
+        painter->fillRect(pixels.Of(option->rect), option->palette.color(QPalette::Window));
+        break;
+    }
+    case PE_IndicatorBranch: DrawBranch(*this, *option, *painter); break;
     case PE_PanelTipLabel:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         DrawBorder(*painter, option->rect, EdgeInk(base));
@@ -163,7 +229,12 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         DrawScrollBar(*painter, *bar, *this, widget);
         return;
     }
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (const auto* box = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+        box != nullptr && control == CC_SpinBox) {
+        DrawSpinBox(*painter, *box, *this, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
     if (control == CC_ComboBox || control == CC_SpinBox) {
         const QColor fill = option->palette.color(control == CC_ComboBox ? QPalette::Button : QPalette::Base);
         option->state.testFlag(State_HasFocus) ? DrawFocusRing(*painter, option->rect, fill)

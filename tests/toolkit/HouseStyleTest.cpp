@@ -18,12 +18,15 @@
 #include <QPainter>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QToolTip>
 #include <QTreeView>
+#include <QTreeWidget>
 
 #include <cmath>
 #include <map>
@@ -136,6 +139,9 @@ private Q_SLOTS:
     void TheTextOfABoxStandsAtTheMiddleOfItsIcon();
     void ButtonsHaveRoomAroundTheirText();
     void TheSliderStandsOutFromItsGroove();
+    void NothingIsDrawnBetweenTwoScrollBars();
+    void TheArrowOfAChosenRowStandsOut();
+    void ABoxForNumbersHasOneBorder();
     void AFileDialogShowsItsColumns();
     void EveryWindowHasTheIcon();
     void TheSlipOfProgressWaits();
@@ -408,6 +414,62 @@ void HouseStyleTest::TheSliderStandsOutFromItsGroove()
             const double contrast = Contrast(shown.pixelColor(middle, edge), shown.pixelColor(middle, beside));
             QVERIFY2(contrast >= kBorder, qPrintable(QString::number(contrast)));
         }
+    }
+}
+
+void HouseStyleTest::NothingIsDrawnBetweenTwoScrollBars()
+{
+    QScrollArea area;
+    area.setWidget(new QLabel(QStringLiteral("PROVA")));
+    area.widget()->resize(600, 600);
+    area.resize(200, 200);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    const QRect upright = area.verticalScrollBar()->geometry();
+    const QImage drawn = area.grab().toImage();
+    const QRect frame = area.rect().adjusted(2, 2, -2, -2);
+    const QPoint corner(area.verticalScrollBar()->mapTo(&area, QPoint(0, upright.height())));
+    for (int y = corner.y(); y <= frame.bottom(); ++y) {
+        for (int x = corner.x(); x <= frame.right(); ++x) {
+            QCOMPARE(drawn.pixelColor(QPoint(x, y) * drawn.devicePixelRatio()), Ink::Paper);
+        }
+    }
+}
+
+void HouseStyleTest::TheArrowOfAChosenRowStandsOut()
+{
+    QTreeWidget tree;
+    auto* parent = new QTreeWidgetItem(&tree, {QStringLiteral("Guida")});
+    new QTreeWidgetItem(parent, {QStringLiteral("Il primo giorno")});
+    tree.setCurrentItem(parent);
+    tree.resize(300, 200);
+    for (const bool open : {false, true}) {
+        parent->setExpanded(open);
+        const QRect row = tree.visualItemRect(parent);
+        const QImage drawn = tree.viewport()->grab({0, row.top(), row.left(), row.height()}).toImage();
+        double most = 0;
+        for (int y = 0; y < drawn.height(); ++y) {
+            for (int x = 0; x < drawn.width(); ++x) {
+                most = std::max(most, Contrast(drawn.pixelColor(x, y), Ink::Pen));
+            }
+        }
+        QVERIFY2(most >= kText, qPrintable(QString::number(most)));
+    }
+}
+
+/// A second one, of another colour, was drawn inside it.
+void HouseStyleTest::ABoxForNumbersHasOneBorder()
+{
+    QSpinBox box;
+    box.resize(90, 32);
+    const QImage drawn = box.grab().toImage();
+    const double ratio = drawn.devicePixelRatio();
+    const auto at = [&](int x, int y) { return drawn.pixelColor(QPointF(x * ratio, y * ratio).toPoint()); };
+    QVERIFY(at(0, 16) != Ink::Slip);
+    for (int inside = 1; inside < 4; ++inside) {
+        QCOMPARE(at(inside, 16), Ink::Slip);
+        QCOMPARE(at(30, inside), Ink::Slip);
+        QCOMPARE(at(30, 31 - inside), Ink::Slip);
     }
 }
 
