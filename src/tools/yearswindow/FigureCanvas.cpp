@@ -6,7 +6,11 @@
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
 
+#include <QFontMetricsF>
 #include <QLocale>
+
+#include <algorithm>
+#include <cmath>
 
 namespace zelvia
 {
@@ -32,6 +36,23 @@ void SetAxis(QCPAxis& axis, const QColor& ink)
     axis.grid()->setZeroLinePen(Qt::NoPen);
 }
 
+/// As many decimals as the steps from tick to tick have, so that each number is the one of its line.
+int Decimals(QCPAxisTicker& ticker, const QCPRange& range, const QLocale& locale)
+{
+    QVector<double> ticks;
+    ticker.generate(range, locale, QLatin1Char('f'), 0, ticks, nullptr, nullptr);
+    constexpr int most = 3;
+    constexpr double close = 1e-6;
+    double step = ticks.size() > 1 ? ticks[1] - ticks[0] : 1;
+    int decimals = 0;
+    while (decimals < most && std::abs(step - std::round(step)) > close) {
+        constexpr int base = 10;
+        step *= base;
+        ++decimals;
+    }
+    return decimals;
+}
+
 } // namespace
 
 QFont FigureFont(int pixels)
@@ -46,7 +67,7 @@ FigureCanvas::FigureCanvas(QWidget& parent) : plot(new QCustomPlot(&parent))
     plot->setBackground(QBrush(Ink::Paper));
     plot->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
     plot->axisRect()->setBackground(QBrush(Ink::Slip));
-    plot->axisRect()->setMinimumMargins({10, 4, 18, 8});
+    SetLeast(0);
     plot->setAutoAddPlottableToLegend(false);
     AddHead();
     SetAxis(*plot->xAxis, Ink::PrintDark);
@@ -121,6 +142,24 @@ void FigureCanvas::Clear()
     AddMarks();
 }
 
+void FigureCanvas::FitTitle()
+{
+    constexpr int smallest = 11;
+    constexpr int margins = 32;
+    int pixels = kTitlePixels;
+    while (pixels > smallest &&
+           QFontMetricsF(PageFont("Book Antiqua", pixels)).horizontalAdvance(title->text()) > plot->width() - margins) {
+        --pixels;
+    }
+    title->setFont(PageFont("Book Antiqua", pixels));
+}
+
+void FigureCanvas::SetLeast(int left)
+{
+    constexpr QMargins least(10, 4, 18, 8);
+    plot->axisRect()->setMinimumMargins({std::max(left, least.left()), least.top(), least.right(), least.bottom()});
+}
+
 void FigureCanvas::SetValues(Measure measure, const QCPRange& range)
 {
     QSharedPointer<QCPAxisTicker> ticker;
@@ -135,7 +174,7 @@ void FigureCanvas::SetValues(Measure measure, const QCPRange& range)
     ticker->setTickCount(kTicks);
     plot->yAxis->setTicker(ticker);
     plot->yAxis->setNumberFormat(QStringLiteral("f"));
-    plot->yAxis->setNumberPrecision(range.size() < kTicks ? 1 : 0);
+    plot->yAxis->setNumberPrecision(Decimals(*ticker, range, plot->locale()));
     plot->yAxis->setRange(range);
 }
 

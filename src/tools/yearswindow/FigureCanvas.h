@@ -33,6 +33,11 @@ struct FigureCanvas {
     /// The axis of values: minutes and seconds, or numbers with as many decimals as they differ in.
     void SetValues(Measure measure, const QCPRange& range);
 
+    /// Writes the title as large as the figure has room for.
+    void FitTitle();
+    /// The margin at the left of the field, in which the numbers stand, is at least so wide.
+    void SetLeast(int left);
+
     QCustomPlot* plot;
     QCPTextElement* title = nullptr;
     QCPItemTracer* ring = nullptr; ///< Around the point that is pointed at.

@@ -21,6 +21,8 @@ namespace
 constexpr int kBetween = 10;        ///< Between two labels of an axis, at least.
 constexpr double kBarShare = 0.72;  ///< Of the way from one bar to the next.
 constexpr double kLabelShare = 0.4; ///< Of the height, for names under the points.
+constexpr int kSlantMargin = 72;    ///< At the left of the field, for slanted names, which are not drawn when cut off.
+constexpr double kUpright = -90;
 
 const QColor kWashTop(96, 124, 190);
 const QColor kWashBottom(148, 168, 214);
@@ -184,6 +186,7 @@ void FigurePlot::LayTicks()
             shown << tick;
         }
     }
+    drawn_->FitTitle();
     QCPAxis& axis = *drawn_->plot->xAxis;
     const QFontMetricsF metrics(FigureFont());
     QStringList labels;
@@ -198,8 +201,12 @@ void FigurePlot::LayTicks()
     qsizetype every = 1;
     axis.setTickLabelFont(FigureFont());
     axis.setTickLabelRotation(0);
+    drawn_->SetLeast(0);
     if (figure_.named && !labels.isEmpty()) {
-        const LabelStyle style = StyleOf(labels, {step, margins + step / 2, kLabelShare * drawn_->plot->height()});
+        const double first = width * (shown.front().place - span_.from) / span_.Width();
+        const LabelStyle style = StyleOf(labels, {step, kSlantMargin + first, kLabelShare * drawn_->plot->height()});
+        const bool slanted = style.rotation < 0 && style.rotation > kUpright;
+        drawn_->SetLeast(slanted ? kSlantMargin : 0);
         axis.setTickLabelFont(style.font);
         axis.setTickLabelRotation(style.rotation);
         labels = style.texts;

@@ -61,7 +61,7 @@ FigureView::FigureView(QWidget* parent) : QWidget(parent), plot_(*this)
     }();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    constexpr QSize smallest(380, 260);
+    constexpr QSize smallest(320, 200);
     setMinimumSize(smallest);
 }
 

@@ -53,14 +53,17 @@ YearsWindow::YearsWindow(const fs::path& folder)
     setObjectName(QStringLiteral("YearsWindow"));
     setWindowTitle(tr("Tutti gli anni"));
     setAttribute(Qt::WA_QuitOnClose, false);
-    auto* line = new QHBoxLayout(this);
+    auto* rows = new QVBoxLayout(this);
+    auto* line = new QHBoxLayout;
     auto* right = new QVBoxLayout;
+    rows->addLayout(line, 1);
     line->addWidget(kinds_);
     line->addLayout(right, 1);
     BuildChoices(*right);
     BuildFigure(*right);
-    BuildButtons(*right);
+    BuildButtons(*rows);
     BuildKeys();
+    ShowBoxes();
     constexpr QSize designed(1180, 720);
     new KeptSize(*this, designed);
     connect(&loader_, &YearsLoader::Progressed, this, [this](int read, int of) {
@@ -122,8 +125,8 @@ const FigureKindRow& YearsWindow::Kind() const
     return FigureKinds()[static_cast<std::size_t>(std::max(kinds_->currentRow(), 0))];
 }
 
-/// The boxes that the kind needs, with what can be chosen in them.
-void YearsWindow::ShowChoices()
+/// The boxes that the kind needs. All of them side by side would not fit a small screen.
+void YearsWindow::ShowBoxes()
 {
     const FigureKindRow& kind = Kind();
     const bool curve = kind.kind == FigureKind::Curve;
@@ -134,7 +137,12 @@ void YearsWindow::ShowChoices()
         boxes[i]->setVisible(needed[i]);
     }
     standing_->setVisible(curve);
-    FillYears(kind.allYears);
+}
+
+void YearsWindow::ShowChoices()
+{
+    ShowBoxes();
+    FillYears(Kind().allYears);
     FillOthers();
     FillRoutes();
     TakeChoices();

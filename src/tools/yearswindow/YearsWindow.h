@@ -48,6 +48,7 @@ private:
     void TakeRead(const AllDiaries& all);
     void ShowLeftOut();
     const FigureKindRow& Kind() const;
+    void ShowBoxes();
     void ShowChoices();
     void FillYears(bool withAll);
     void FillOthers();

@@ -94,8 +94,8 @@ void YearsWindow::BuildFigure(QBoxLayout& all)
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(view_);
     splitter->addWidget(table_);
-    constexpr int tableWidth = 340;
-    constexpr int figureWidth = 620;
+    constexpr int tableWidth = 376;
+    constexpr int figureWidth = 584;
     splitter->setSizes({figureWidth, tableWidth});
     splitter->setStretchFactor(0, 1);
     all.addWidget(splitter, 1);

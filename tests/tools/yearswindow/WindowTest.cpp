@@ -7,15 +7,20 @@
 #include "support/PrinterTray.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/QtText.h"
+#include "toolkit/WindowPlaces.h"
+#include "tools/yearswindow/FigureCanvas.h"
 #include "tools/yearswindow/YearsDesk.h"
 
 #include <QAccessible>
 #include <QClipboard>
 #include <QFile>
 #include <QImageReader>
+#include <QScopeGuard>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTimer>
+
+#include <numbers>
 
 Q_DECLARE_METATYPE(zelvia::FigureKind)
 
@@ -44,6 +49,11 @@ bool IsDrawn(const QImage& picture)
     }
     constexpr int least = 500;
     return qGray(picture.pixel(0, 0)) == 255 && dark > least;
+}
+
+QCustomPlot& Plot(YearsDesk& desk)
+{
+    return *desk.View().findChild<QCustomPlot*>();
 }
 
 } // namespace
@@ -80,6 +90,11 @@ private Q_SLOTS:
     void aGoalThatCantBeKept();
     void goalsThatCantBeRead();
     void manyDistances();
+    void aSmallScreen_data();
+    void aSmallScreen();
+    void barsStandOnZero();
+    void numbersAreThoseOfTheirLines();
+    void theFirstOfSlantedNamesIsDrawn();
     void byKeysAlone();
     void everythingHasAName();
     void noDiaries();
@@ -623,6 +638,98 @@ void WindowTest::manyDistances()
     QTRY_VERIFY(desk.Text("value").startsWith(QStringLiteral("80,000 km, Bosco: 5:00:00")));
     hand::Key(Qt::Key_Left);
     QTRY_VERIFY(desk.Text("value").startsWith(QStringLiteral("59,000 km, Bosco: 5:00:00")));
+}
+
+void WindowTest::aSmallScreen_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("1280x720 at 1.5") << QSize(853, 480);
+    QTest::newRow("1366x768 at 1.5") << QSize(910, 512);
+}
+
+/// It reached beyond the screen, with the button that closes it.
+void WindowTest::aSmallScreen()
+{
+    QFETCH(QSize, screen);
+    WindowPlaces::Instance().SetScreen(screen);
+    const auto whole = qScopeGuard([] { WindowPlaces::Instance().SetScreen({}); });
+    YearsDesk desk;
+    desk.Open();
+    const QSize room = WindowPlaces::Instance().RoomFor(desk.Window());
+    for (const FigureKindRow& kind : FigureKinds()) {
+        desk.Show(kind.kind);
+        QTRY_COMPARE(desk.Get<QListWidget>("kinds").currentItem()->text(), QString::fromUtf8(kind.title));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        QVERIFY2(desk.Window().size().boundedTo(room) == desk.Window().size(),
+                 qPrintable(QStringLiteral("%1: %2 x %3")
+                                .arg(QLatin1String(kind.title))
+                                .arg(desk.Window().width())
+                                .arg(desk.Window().height())));
+        const auto* title = qobject_cast<QCPTextElement*>(Plot(desk).plotLayout()->element(0, 0));
+        QVERIFY(title != nullptr);
+        QVERIFY(QFontMetricsF(title->font()).horizontalAdvance(title->text()) <= title->rect().width());
+        const auto& exit = desk.Get<QPushButton>("exit");
+        QCOMPARE(exit.visibleRegion().boundingRect(), exit.rect());
+    }
+}
+
+/// Years that are much alike have bars in proportion to their kilometres.
+void WindowTest::barsStandOnZero()
+{
+    YearsDesk desk;
+    desk.Open();
+    desk.Show(FigureKind::Years);
+    QTRY_COMPARE(desk.Title(), QStringLiteral("Chilometri per anno"));
+    QCOMPARE(Plot(desk).yAxis->range().lower, 0.0);
+}
+
+/// 73,25 was written as 73,3.
+void WindowTest::numbersAreThoseOfTheirLines()
+{
+    YearsDesk desk;
+    desk.Write("2024", YearsDesk::Year(2024));
+    desk.Write("2025", YearsDesk::Year(2025));
+    DiaryBytes diary = YearsDesk::Year(2026);
+    const struct {
+        int slot;
+        const char* weight;
+    } days[] = {{1, "73"}, {2, "74"}, {40, "73"}, {70, "72"}, {100, "71"}};
+    for (const auto& day : days) {
+        YearsDesk::Run(diary, day.slot, 10, "0:50:00", "Bosco");
+        diary.SetLine(day.slot, DiaryBytes::Weight, day.weight);
+    }
+    desk.Write("2026", diary);
+    desk.Open();
+    desk.Show(FigureKind::Weights);
+    QTRY_COMPARE(desk.Title(), QStringLiteral("Peso, media del mese, tutti gli anni"));
+    const QCPAxis& axis = *Plot(desk).yAxis;
+    const QVector<double> places = axis.tickVector();
+    const QVector<QString> labels = axis.tickVectorLabels();
+    QVERIFY(places.size() > 4);
+    QCOMPARE(labels.size(), places.size());
+    for (qsizetype i = 0; i < places.size(); ++i) {
+        QCOMPARE(QString(labels[i]).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(), places[i]);
+    }
+}
+
+/// A name that began beyond the border was left out.
+void WindowTest::theFirstOfSlantedNamesIsDrawn()
+{
+    YearsDesk desk;
+    DiaryBytes diary = YearsDesk::Year(2026);
+    for (int slot = 1; slot <= 12; ++slot) {
+        const QByteArray route = "Anello del parco " + QByteArray(1, char('A' + slot));
+        YearsDesk::Run(diary, slot, 10, "0:50:00", route.constData());
+    }
+    desk.Write("2026", diary);
+    desk.Open();
+    desk.Show(FigureKind::Routes);
+    QTRY_COMPARE(desk.Title(), QStringLiteral("Migliori tempi per percorso, tutti gli anni"));
+    const QCPAxis& axis = *Plot(desk).xAxis;
+    QCOMPARE(axis.tickLabelRotation(), -45.0);
+    const QFontMetricsF metrics(axis.tickLabelFont());
+    const double name = metrics.horizontalAdvance(axis.tickVectorLabels().first()) / std::numbers::sqrt2;
+    QVERIFY2(axis.coordToPixel(axis.tickVector().first()) >= name, qPrintable(QString::number(name)));
 }
 
 /// Kind, year, figure and table without the mouse.
