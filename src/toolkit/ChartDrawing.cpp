@@ -4,6 +4,7 @@
 #include "toolkit/ChartLabels.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
+#include "toolkit/Pixels.h"
 #include "toolkit/QtText.h"
 
 #include <QFontMetricsF>
@@ -145,13 +146,15 @@ public:
     /// Draws into a picture, since the library needs its own kind of painter; any painter can play a picture.
     void Draw(QPainter& painter, const QRectF& area)
     {
+        const double scale = area.width() / layout_.size.width();
+        const double pixels = painter.deviceTransform().m11() * scale;
+        plot_.yAxis->grid()->setPen(QPen(kGrid, WholePixels(1, pixels)));
         QPicture picture;
         QCPPainter recorder(&picture);
         plot_.toPainter(&recorder, layout_.size.width(), layout_.size.height());
         recorder.end();
         // Playing it scales it by the device's resolution; the painter is already scaled.
         const QPaintDevice& device = *painter.device();
-        const double scale = area.width() / layout_.size.width();
         painter.save();
         painter.translate(area.topLeft());
         painter.scale(scale * picture.logicalDpiX() / device.logicalDpiX(),
@@ -200,7 +203,6 @@ private:
         axis.setTickLabelPadding(kAxisGap);
         axis.setBasePen(Qt::NoPen);
         axis.setTickPen(Qt::NoPen);
-        axis.grid()->setPen(QPen(kGrid, 1));
         axis.grid()->setZeroLinePen(Qt::NoPen);
     }
 

@@ -9,6 +9,12 @@
 namespace zelvia
 {
 
+/// The length nearest to `length` that is a whole number of pixels, at least one, where `scale` of them make a unit.
+inline double WholePixels(double length, double scale)
+{
+    return std::max(qRound(length * scale), 1) / scale;
+}
+
 /// Has a painter count in pixels of the screen as long as it lives, without smoothing: upright edges are sharp at every
 /// scale, and lines of one width are all as wide.
 class Pixels

@@ -78,9 +78,9 @@ QStringList Paces(int count)
     return paces;
 }
 
-QImage Drawn(const ChartData& chart, int scale = 1)
+QImage Drawn(const ChartData& chart, double scale = 1)
 {
-    QImage image(kSize * scale, QImage::Format_RGB32);
+    QImage image((QSizeF(kSize) * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(scale, scale);
@@ -157,6 +157,29 @@ std::vector<int> BarHeights(const QImage& image)
     return heights;
 }
 
+/// How many pixels high each line of the grid is, from top to bottom, in the column that crosses most of
+/// them.
+std::vector<int> GridLines(const QImage& image)
+{
+    const QRgb ink = QColor(226, 215, 187).rgb();
+    std::vector<int> most;
+    for (int x = 0; x < image.width(); ++x) {
+        std::vector<int> lines;
+        for (int y = 1; y < image.height(); ++y) {
+            if (image.pixel(x, y) == ink) {
+                if (image.pixel(x, y - 1) != ink) {
+                    lines.push_back(0);
+                }
+                ++lines.back();
+            }
+        }
+        if (lines.size() > most.size()) {
+            most = lines;
+        }
+    }
+    return most;
+}
+
 } // namespace
 
 class ChartTest : public QObject
@@ -178,6 +201,8 @@ private Q_SLOTS:
     void LabelsAreAsFlatAsTheyCanBe();
     void ItDrawsIntoItsRectangleAlone();
     void TwiceTheScaleIsTheSameDrawing();
+    void LinesOfTheGridAreAllAsWide_data();
+    void LinesOfTheGridAreAllAsWide();
     void ItTellsItsValues();
     void TheCopyIsAPicture();
 };
@@ -400,6 +425,28 @@ void ChartTest::TwiceTheScaleIsTheSameDrawing()
     QCOMPARE(twice.size(), once.size());
     for (std::size_t i = 0; i < once.size(); ++i) {
         QVERIFY(std::abs(twice[i] - 2 * once[i]) <= 3);
+    }
+}
+
+void ChartTest::LinesOfTheGridAreAllAsWide_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("1") << 1.0 << 1;
+    QTest::newRow("1.25") << 1.25 << 1;
+    QTest::newRow("1.5") << 1.5 << 2;
+    QTest::newRow("1.75") << 1.75 << 2;
+    QTest::newRow("2") << 2.0 << 2;
+}
+
+void ChartTest::LinesOfTheGridAreAllAsWide()
+{
+    QFETCH(double, scale);
+    QFETCH(int, pixels);
+    const std::vector<int> lines = GridLines(Drawn(Line(Paces(40)), scale));
+    QVERIFY(lines.size() >= 5);
+    for (const int line : lines) {
+        QCOMPARE(line, pixels);
     }
 }
 

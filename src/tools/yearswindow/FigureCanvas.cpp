@@ -5,6 +5,7 @@
 #include "toolkit/ChartLabels.h"
 #include "toolkit/Fonts.h"
 #include "toolkit/PagePalette.h"
+#include "toolkit/Pixels.h"
 
 #include <QFontMetricsF>
 #include <QLocale>
@@ -32,7 +33,7 @@ void SetAxis(QCPAxis& axis, const QColor& ink)
     axis.setTickPen(QPen(Ink::Edge));
     axis.setSubTicks(false);
     axis.setTickLabelPadding(kLabelGap);
-    axis.grid()->setPen(QPen(kGrid, 1));
+    axis.grid()->setPen(QPen(kGrid, WholePixels(1, axis.parentPlot()->bufferDevicePixelRatio())));
     axis.grid()->setZeroLinePen(Qt::NoPen);
 }
 
