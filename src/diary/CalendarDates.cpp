@@ -11,7 +11,6 @@ namespace zelvia::Module1
 namespace
 {
 
-constexpr i16 kRaces = 100;
 constexpr int kFirstYear = 2007;
 
 using Field = DateCorrection::Field;

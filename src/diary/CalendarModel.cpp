@@ -15,8 +15,6 @@ namespace zelvia::Module1
 namespace
 {
 
-constexpr int kRaces = 100;
-
 Text CalendarFile()
 {
     return CartellaDiario + "\\CalendarioGare";

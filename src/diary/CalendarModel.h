@@ -9,8 +9,10 @@
 namespace zelvia::Module1
 {
 
+inline constexpr int kRaces = 100;
+
 template <typename T>
-using RaceValues = BoundedArray<T, 0, 100>;
+using RaceValues = BoundedArray<T, 0, kRaces>;
 
 // The race calendar: fifteen columns of rows 1..100; row 0 is never used. A row holds a race when GiornoGara is above
 // 0.

@@ -32,9 +32,9 @@ enum class Categoria {
 };
 
 inline constexpr auto kAllCategories = [] {
-    std::array<Categoria, kCountedFields> all{};
+    std::array<zelvia::Categoria, kCountedFields> all{};
     for (std::size_t i = 0; i < all.size(); ++i) {
-        all[i] = static_cast<Categoria>(i);
+        all[i] = static_cast<zelvia::Categoria>(i);
     }
     return all;
 }();
@@ -50,7 +50,7 @@ struct Statistic {
     i32 (*number)(const RecordGiorno& day) = nullptr; ///< Its value, null where that is a text.
 };
 
-const Statistic& StatisticOf(Categoria category);
+const Statistic& StatisticOf(zelvia::Categoria category);
 /// By its title, case-sensitive; null when there is none.
 const Statistic* StatisticOf(TextView title);
 

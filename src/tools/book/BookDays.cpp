@@ -16,32 +16,32 @@ using namespace Module1;
 namespace
 {
 
-using C = DayColumn;
+using Column = DayColumn;
 
 /// A cell of the day as the page writes it.
-std::string ValueOf(const RecordGiorno& day, C column)
+std::string ValueOf(const RecordGiorno& day, Column column)
 {
     const std::string cell = CellOf(day, column);
     switch (column) {
-    case C::Km: return HasDistance(day) ? KilometresText(day.Km.value() * 1000L + day.Metri.value()) : "";
-    case C::Average: return cell.empty() ? "" : PlainLine(day.MediaKm);
-    case C::Runners: return cell == "1" ? "" : cell;
-    case C::Repetitions: return cell.empty() ? "" : PlainLine(RepetitionsText(day));
+    case Column::Km: return HasDistance(day) ? KilometresText(day.Km.value() * 1000L + day.Metri.value()) : "";
+    case Column::Average: return cell.empty() ? "" : PlainLine(day.MediaKm);
+    case Column::Runners: return cell == "1" ? "" : cell;
+    case Column::Repetitions: return cell.empty() ? "" : PlainLine(RepetitionsText(day));
     // They are part of the repetitions.
-    case C::RepetitionDistance:
-    case C::RepetitionTime: return "";
+    case Column::RepetitionDistance:
+    case Column::RepetitionTime: return "";
     default: return PlainLine(FromUtf8(cell));
     }
 }
 
 void AddFact(const RecordGiorno& day, const DayColumnRow& row, BookDay& entry)
 {
-    if (row.column == C::Date || row.column == C::Notes) {
+    if (row.column == Column::Date || row.column == Column::Notes) {
         return;
     }
     const std::string value = ValueOf(day, row.column);
     if (!value.empty()) {
-        const bool inHead = row.column == C::Km || row.column == C::Time || row.column == C::Average;
+        const bool inHead = row.column == Column::Km || row.column == Column::Time || row.column == Column::Average;
         (inHead ? entry.head : entry.fields).push_back({std::string(row.label), value});
     }
 }

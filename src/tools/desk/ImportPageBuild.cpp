@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/desk/ImportColumns.h"
 #include "tools/desk/ImportPage.h"
+#include "tools/exchange/CellTexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,8 +19,6 @@ namespace zelvia
 {
 namespace
 {
-
-constexpr int kMinute = 60;
 
 /// What the zones of the world are ahead of UTC, in minutes.
 constexpr std::array kZones = {-720, -660, -600, -570, -540, -480, -420, -360, -300, -240, -210, -180, -120,

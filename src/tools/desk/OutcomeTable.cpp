@@ -60,51 +60,51 @@ QString CodeInWords(const QString& cell)
     return code == codes.end() ? cell : OutcomeTable::tr(code->back());
 }
 
-struct ColumnRow {
+struct OutcomeColumn {
     QLatin1String name;
     const char* heading;
     QString (*words)(const QString& cell) = AsItIs;
     bool right = false;
 };
-constexpr std::array kColumns = {
-    ColumnRow{QLatin1String("file"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "File")},
-    ColumnRow{QLatin1String("line"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Riga"), AsItIs, true},
-    ColumnRow{QLatin1String("day"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Giorno"), DayInWords},
-    ColumnRow{QLatin1String("date"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Giorno"), DayInWords},
-    ColumnRow{QLatin1String("field"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Campo")},
-    ColumnRow{QLatin1String("kind"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Difetto"), CodeInWords},
-    ColumnRow{QLatin1String("text"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Che cosa non va")},
-    ColumnRow{QLatin1String("diary"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Diario")},
-    ColumnRow{QLatin1String("year"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Anno"), AsItIs, true},
-    ColumnRow{QLatin1String("runs"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Uscite"), AsItIs, true},
-    ColumnRow{QLatin1String("km"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Km"), KilometresInWords, true},
-    ColumnRow{QLatin1String("races"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Gare"), AsItIs, true},
-    ColumnRow{QLatin1String("before"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Prima")},
-    ColumnRow{QLatin1String("after"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Dopo")},
-    ColumnRow{QLatin1String("copy"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Nella copia")},
-    ColumnRow{QLatin1String("now"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Adesso")},
-    ColumnRow{QLatin1String("base"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Prima")},
-    ColumnRow{QLatin1String("here"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Qui")},
-    ColumnRow{QLatin1String("there"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Di là")},
-    ColumnRow{QLatin1String("state"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Cambiato"), CodeInWords},
-    ColumnRow{QLatin1String("number"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Copia"), AsItIs, true},
-    ColumnRow{QLatin1String("time"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Quando"), MomentInWords},
-    ColumnRow{QLatin1String("diaries"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Diari"), AsItIs, true},
-    ColumnRow{QLatin1String("bytes"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Grandezza"), SizeInWords, true},
+constexpr std::array kOutcomeColumns = {
+    OutcomeColumn{QLatin1String("file"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "File")},
+    OutcomeColumn{QLatin1String("line"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Riga"), AsItIs, true},
+    OutcomeColumn{QLatin1String("day"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Giorno"), DayInWords},
+    OutcomeColumn{QLatin1String("date"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Giorno"), DayInWords},
+    OutcomeColumn{QLatin1String("field"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Campo")},
+    OutcomeColumn{QLatin1String("kind"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Difetto"), CodeInWords},
+    OutcomeColumn{QLatin1String("text"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Che cosa non va")},
+    OutcomeColumn{QLatin1String("diary"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Diario")},
+    OutcomeColumn{QLatin1String("year"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Anno"), AsItIs, true},
+    OutcomeColumn{QLatin1String("runs"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Uscite"), AsItIs, true},
+    OutcomeColumn{QLatin1String("km"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Km"), KilometresInWords, true},
+    OutcomeColumn{QLatin1String("races"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Gare"), AsItIs, true},
+    OutcomeColumn{QLatin1String("before"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Prima")},
+    OutcomeColumn{QLatin1String("after"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Dopo")},
+    OutcomeColumn{QLatin1String("copy"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Nella copia")},
+    OutcomeColumn{QLatin1String("now"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Adesso")},
+    OutcomeColumn{QLatin1String("base"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Prima")},
+    OutcomeColumn{QLatin1String("here"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Qui")},
+    OutcomeColumn{QLatin1String("there"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Di là")},
+    OutcomeColumn{QLatin1String("state"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Cambiato"), CodeInWords},
+    OutcomeColumn{QLatin1String("number"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Copia"), AsItIs, true},
+    OutcomeColumn{QLatin1String("time"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Quando"), MomentInWords},
+    OutcomeColumn{QLatin1String("diaries"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Diari"), AsItIs, true},
+    OutcomeColumn{QLatin1String("bytes"), QT_TRANSLATE_NOOP("zelvia::OutcomeTable", "Grandezza"), SizeInWords, true},
 };
 
 /// A column that nothing is known of is shown as it is.
-const ColumnRow& RowOf(const QString& name)
+const OutcomeColumn& RowOf(const QString& name)
 {
-    static constexpr ColumnRow unknown{QLatin1String(), ""};
-    const auto* const row =
-        std::find_if(kColumns.begin(), kColumns.end(), [&](const ColumnRow& one) { return name == one.name; });
-    return row == kColumns.end() ? unknown : *row;
+    static constexpr OutcomeColumn unknown{QLatin1String(), ""};
+    const auto* const row = std::find_if(kOutcomeColumns.begin(), kOutcomeColumns.end(),
+                                         [&](const OutcomeColumn& one) { return name == one.name; });
+    return row == kOutcomeColumns.end() ? unknown : *row;
 }
 
 QString HeadingOf(const QString& name)
 {
-    const ColumnRow& row = RowOf(name);
+    const OutcomeColumn& row = RowOf(name);
     return row.name.isEmpty() ? name : OutcomeTable::tr(row.heading);
 }
 
@@ -154,7 +154,7 @@ void OutcomeTable::Fill(QTreeWidgetItem& item, int row, int hidden)
         if (column == hidden) {
             continue;
         }
-        const ColumnRow& form = RowOf(columns_[column]);
+        const OutcomeColumn& form = RowOf(columns_[column]);
         const QString& cell = rows_[static_cast<std::size_t>(row)][column];
         const Qt::Alignment side = form.right ? Qt::AlignRight : Qt::AlignLeft;
         item.setText(place, cell.isEmpty() ? cell : form.words(cell));

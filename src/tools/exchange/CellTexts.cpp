@@ -10,8 +10,6 @@ namespace zelvia
 namespace
 {
 
-constexpr int kMinute = 60;
-
 std::string TwoDigits(int number)
 {
     return (number < 10 ? "0" : "") + std::to_string(number);

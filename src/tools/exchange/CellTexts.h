@@ -9,6 +9,8 @@
 namespace zelvia
 {
 
+inline constexpr int kMinute = 60; ///< In seconds.
+
 /// The text without blanks and tabs at its ends.
 std::string_view Stripped(std::string_view text);
 

@@ -14,9 +14,7 @@ namespace zelvia
 namespace
 {
 
-using C = DayColumn;
-
-constexpr int kMinute = 60;
+using Column = DayColumn;
 
 /// A time or pace as the page keeps it, with hours; anything else unchanged.
 std::string DurationCell(const Text& kept)
@@ -60,26 +58,26 @@ std::string NotesCell(const RecordGiorno& day)
 const std::vector<DayColumnRow>& DayColumns()
 {
     static const std::vector<DayColumnRow> columns = {
-        {C::Date, "date", "Data"},
-        {C::Route, "route", "Percorso"},
-        {C::LengthClass, "length_class", "Lunghezza"},
-        {C::Km, "km", "Km", true},
-        {C::PaceClass, "pace_class", "Andatura"},
-        {C::Terrain, "terrain", "Terreno"},
-        {C::Type, "type", "Tipo"},
-        {C::Start, "start", "Ora Inizio"},
-        {C::End, "end", "Ora Fine"},
-        {C::Time, "time", "Tempo"},
-        {C::Average, "average", "Media"},
-        {C::Season, "season", "Stagione"},
-        {C::Weather, "weather", "Meteo"},
-        {C::Temperature, "temperature", "Temperatura"},
-        {C::Runners, "runners", "Corridori", true},
-        {C::Weight, "weight", "Peso", true},
-        {C::Repetitions, "repetitions", "Ripetizioni", true},
-        {C::RepetitionDistance, "repetition_distance", "Ripetizioni, metri", true},
-        {C::RepetitionTime, "repetition_time", "Ripetizioni, tempo"},
-        {C::Notes, "notes", "Note"}};
+        {Column::Date, "date", "Data"},
+        {Column::Route, "route", "Percorso"},
+        {Column::LengthClass, "length_class", "Lunghezza"},
+        {Column::Km, "km", "Km", true},
+        {Column::PaceClass, "pace_class", "Andatura"},
+        {Column::Terrain, "terrain", "Terreno"},
+        {Column::Type, "type", "Tipo"},
+        {Column::Start, "start", "Ora Inizio"},
+        {Column::End, "end", "Ora Fine"},
+        {Column::Time, "time", "Tempo"},
+        {Column::Average, "average", "Media"},
+        {Column::Season, "season", "Stagione"},
+        {Column::Weather, "weather", "Meteo"},
+        {Column::Temperature, "temperature", "Temperatura"},
+        {Column::Runners, "runners", "Corridori", true},
+        {Column::Weight, "weight", "Peso", true},
+        {Column::Repetitions, "repetitions", "Ripetizioni", true},
+        {Column::RepetitionDistance, "repetition_distance", "Ripetizioni, metri", true},
+        {Column::RepetitionTime, "repetition_time", "Ripetizioni, tempo"},
+        {Column::Notes, "notes", "Note"}};
     return columns;
 }
 
@@ -110,21 +108,21 @@ std::string CellOf(const RecordGiorno& day, DayColumn column)
 {
     const bool timed = StartOf(day) != 0 || EndOf(day) != 0;
     switch (column) {
-    case C::Date: return Format(day.Data, "yyyy-mm-dd");
-    case C::Km: return KilometresCell(day);
-    case C::Start: return timed ? ClockText(StartOf(day)) : "";
-    case C::End: return EndOf(day) != 0 ? ClockText(EndOf(day)) : "";
-    case C::Time: return DurationCell(day.TempoImpiegato);
-    case C::Average: return DurationCell(day.MediaKm);
-    case C::Runners: return std::to_string(day.Corridori.value());
-    case C::Weight: return CountCell(day.Peso.value());
-    case C::Repetitions: return CountCell(day.Ripetizioni.value());
-    case C::RepetitionDistance: return CountCell(day.RipetizioniDistanza.value());
-    case C::RepetitionTime: {
+    case Column::Date: return Format(day.Data, "yyyy-mm-dd");
+    case Column::Km: return KilometresCell(day);
+    case Column::Start: return timed ? ClockText(StartOf(day)) : "";
+    case Column::End: return EndOf(day) != 0 ? ClockText(EndOf(day)) : "";
+    case Column::Time: return DurationCell(day.TempoImpiegato);
+    case Column::Average: return DurationCell(day.MediaKm);
+    case Column::Runners: return std::to_string(day.Corridori.value());
+    case Column::Weight: return CountCell(day.Peso.value());
+    case Column::Repetitions: return CountCell(day.Ripetizioni.value());
+    case Column::RepetitionDistance: return CountCell(day.RipetizioniDistanza.value());
+    case Column::RepetitionTime: {
         const int seconds = day.RipetizioniQuante.value() * kMinute + day.RipetizioniTempi.value();
         return seconds == 0 ? "" : ClockText(seconds);
     }
-    case C::Notes: return NotesCell(day);
+    case Column::Notes: return NotesCell(day);
     default: return ToUtf8(day.*ListMember(column));
     }
 }
@@ -152,14 +150,14 @@ std::vector<DaySplit> SplitsOf(const RecordGiorno& day, int& unreadable)
 Text RecordGiorno::*ListMember(DayColumn column)
 {
     switch (column) {
-    case C::Route: return &RecordGiorno::Percorso;
-    case C::LengthClass: return &RecordGiorno::Lunghezza;
-    case C::PaceClass: return &RecordGiorno::Modo;
-    case C::Terrain: return &RecordGiorno::Fondo;
-    case C::Type: return &RecordGiorno::Tipo;
-    case C::Season: return &RecordGiorno::Stagione;
-    case C::Weather: return &RecordGiorno::TempoAtm;
-    case C::Temperature: return &RecordGiorno::Temperatura;
+    case Column::Route: return &RecordGiorno::Percorso;
+    case Column::LengthClass: return &RecordGiorno::Lunghezza;
+    case Column::PaceClass: return &RecordGiorno::Modo;
+    case Column::Terrain: return &RecordGiorno::Fondo;
+    case Column::Type: return &RecordGiorno::Tipo;
+    case Column::Season: return &RecordGiorno::Stagione;
+    case Column::Weather: return &RecordGiorno::TempoAtm;
+    case Column::Temperature: return &RecordGiorno::Temperatura;
     default: return nullptr;
     }
 }

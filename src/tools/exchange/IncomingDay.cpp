@@ -19,9 +19,7 @@ namespace zelvia
 namespace
 {
 
-using C = DayColumn;
-
-constexpr int kMinute = 60;
+using Column = DayColumn;
 
 FileFailure NoValue(DayColumn column, const std::string& cell)
 {
@@ -49,7 +47,7 @@ void PutKilometres(RecordGiorno& day, const std::string& cell)
     const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), kilometres);
     const double most = RangeOf(&RecordGiorno::Km).maximum + 0.9995;
     if (failed != std::errc() || end != digits.data() + digits.size() || !(kilometres >= 0 && kilometres < most)) {
-        throw NoValue(C::Km, cell);
+        throw NoValue(Column::Km, cell);
     }
     constexpr int kilometre = 1000;
     const int metres = static_cast<int>(std::lround(kilometres * kilometre));
@@ -61,7 +59,7 @@ void PutRepetitionTime(RecordGiorno& day, const std::string& cell)
 {
     const auto seconds = SecondsOf(cell, false);
     if (!seconds || *seconds / kMinute > RangeOf(&RecordGiorno::RipetizioniQuante).maximum) {
-        throw NoValue(C::RepetitionTime, cell);
+        throw NoValue(Column::RepetitionTime, cell);
     }
     day.RipetizioniQuante = *seconds / kMinute;
     day.RipetizioniTempi = *seconds % kMinute;
@@ -105,11 +103,11 @@ class IncomingTimes
 public:
     void Take(DayColumn column, const std::string& cell)
     {
-        const auto seconds = SecondsOf(cell, column != C::Time);
+        const auto seconds = SecondsOf(cell, column != Column::Time);
         if (!seconds) {
             throw NoValue(column, cell);
         }
-        (column == C::Start ? start_ : column == C::End ? end_ : time_) = seconds;
+        (column == Column::Start ? start_ : column == Column::End ? end_ : time_) = seconds;
     }
 
     void PutInto(RecordGiorno& day) const
@@ -135,18 +133,18 @@ private:
 bool PutCell(RecordGiorno& day, IncomingTimes& times, DayColumn column, const std::string& cell)
 {
     switch (column) {
-    case C::Km: PutKilometres(day, cell); break;
-    case C::Start:
-    case C::End:
-    case C::Time: times.Take(column, cell); break;
-    case C::Runners: PutNumber(day, &RecordGiorno::Corridori, column, cell); break;
-    case C::Weight: PutNumber(day, &RecordGiorno::Peso, column, cell); break;
-    case C::Repetitions: PutNumber(day, &RecordGiorno::Ripetizioni, column, cell); break;
-    case C::RepetitionDistance: PutNumber(day, &RecordGiorno::RipetizioniDistanza, column, cell); break;
-    case C::RepetitionTime: PutRepetitionTime(day, cell); break;
-    case C::Notes: return PutNotes(day, cell);
-    case C::Date:
-    case C::Average: break; // Worked out.
+    case Column::Km: PutKilometres(day, cell); break;
+    case Column::Start:
+    case Column::End:
+    case Column::Time: times.Take(column, cell); break;
+    case Column::Runners: PutNumber(day, &RecordGiorno::Corridori, column, cell); break;
+    case Column::Weight: PutNumber(day, &RecordGiorno::Peso, column, cell); break;
+    case Column::Repetitions: PutNumber(day, &RecordGiorno::Ripetizioni, column, cell); break;
+    case Column::RepetitionDistance: PutNumber(day, &RecordGiorno::RipetizioniDistanza, column, cell); break;
+    case Column::RepetitionTime: PutRepetitionTime(day, cell); break;
+    case Column::Notes: return PutNotes(day, cell);
+    case Column::Date:
+    case Column::Average: break; // Worked out.
     default: day.*ListMember(column) = HeldText(cell); break;
     }
     return true;
@@ -186,7 +184,7 @@ IncomingDay IncomingOf(const std::vector<std::optional<DayColumn>>& columns, con
         if (!columns[i] || Stripped(cells[i]).empty()) {
             continue;
         }
-        if (*columns[i] == C::Date) {
+        if (*columns[i] == Column::Date) {
             day.date = DateOf(cells[i]);
             dated = true;
         } else {
@@ -212,7 +210,7 @@ bool HoldsSplits(const std::vector<std::vector<std::string>>& rows)
 IncomingDay IncomingSplit(const std::vector<std::string>& cells)
 {
     constexpr int farthest = 100; // What the page takes.
-    IncomingDay day = IncomingOf({C::Date, C::Km, C::Time}, cells);
+    IncomingDay day = IncomingOf({Column::Date, Column::Km, Column::Time}, cells);
     const auto km = cells.size() > 1 ? WholeNumber(Stripped(cells[1])) : std::nullopt;
     const int seconds = cells.size() > 2 ? SecondsOf(cells[2], false).value_or(0) : 0;
     if (!km || *km < 1 || *km > farthest || seconds == 0) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/merge/PartsFile.h"
 
+#include "diary/CalendarModel.h"
 #include "diary/DiaryDifference.h"
 #include "diary/FileForms.h"
 
@@ -13,7 +14,6 @@ namespace
 {
 
 constexpr std::size_t kRoutes = 200;
-constexpr std::size_t kRaces = 100;
 constexpr TextView kNoText = "\"\"";
 constexpr TextView kNoNumber = "0";
 
@@ -27,7 +27,7 @@ constexpr std::size_t kRaceYear = 3;
 std::size_t PartLines(FileKind kind, const FileLines& lines)
 {
     static const std::size_t routeLines = RoutesForm().size() / kRoutes;
-    static const std::size_t raceLines = CalendarForm().size() / kRaces;
+    static const std::size_t raceLines = CalendarForm().size() / Module1::kRaces;
     switch (kind) {
     case FileKind::Diary: return static_cast<std::size_t>(LinesOfDay());
     case FileKind::Routes: return routeLines;

@@ -10,7 +10,7 @@ namespace zelvia
 namespace
 {
 
-constexpr const char* kNote = "conflitti";
+constexpr const char* kConflictsNote = "conflitti";
 
 } // namespace
 
@@ -23,8 +23,8 @@ void TellConflicts(Start& start)
         all += conflict.file + '\n';
     }
     const std::string digest = files.empty() ? "" : std::to_string(ChecksumOf(all));
-    const bool said = start.memory.Of(kNote, start.folder) == digest;
-    start.memory.Note(kNote, start.folder, digest);
+    const bool said = start.memory.Of(kConflictsNote, start.folder) == digest;
+    start.memory.Note(kConflictsNote, start.folder, digest);
     if (said || files.empty()) {
         return;
     }

@@ -21,7 +21,7 @@ namespace zelvia
 namespace
 {
 
-constexpr const char* kNote = "secondo posto";
+constexpr const char* kSecondPlaceNote = "secondo posto";
 
 /// Set once the session ends.
 volatile std::sig_atomic_t sessionEnds = 0;
@@ -64,11 +64,11 @@ void CopyAtTheEnd(Start& start)
     }
     try {
         BringToSecondPlace(store, start.folder);
-        start.memory.Note(kNote, start.folder, "");
+        start.memory.Note(kSecondPlaceNote, start.folder, "");
     } catch (const std::exception& error) {
         const std::string reason = error.what();
-        if (sessionEnds == 0 && start.memory.Of(kNote, start.folder) != reason) {
-            start.memory.Note(kNote, start.folder, reason);
+        if (sessionEnds == 0 && start.memory.Of(kSecondPlaceNote, start.folder) != reason) {
+            start.memory.Note(kSecondPlaceNote, start.folder, reason);
             start.speaker.tell(
                 Tools::Tr("La copia nel secondo posto non è riuscita: %1.\nLe copie di sempre ci sono tutte. Quella si "
                           "farà da sé alla fine di Zelvia, quando sarà possibile; fino ad allora non verrà più detto.",

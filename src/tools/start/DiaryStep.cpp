@@ -20,7 +20,7 @@ namespace zelvia
 namespace
 {
 
-constexpr const char* kNote = "difetti";
+constexpr const char* kFaultsNote = "difetti";
 constexpr const char* kSilent = "guardato";
 
 /// What is wrong with the diary that the program is about to open.
@@ -174,7 +174,7 @@ bool Mend(Start& start, const std::string& diary)
         start.speaker.tell(Tools::Tr("La riparazione non è riuscita; il diario si apre lo stesso.") + "\n" +
                            said.str() + (failure ? *failure + "." : ""));
     } else {
-        start.memory.Note(kNote, start.folder, after.findings.empty() ? "" : DigestOf(after));
+        start.memory.Note(kFaultsNote, start.folder, after.findings.empty() ? "" : DigestOf(after));
     }
     return false;
 }
@@ -187,7 +187,7 @@ void CheckPresentDiary(Start& start)
         const Look look = LookAt(start);
         const bool sure = look.Count(Remedy::Sure) > 0;
         const std::string digest = look.findings.empty() ? "" : DigestOf(look);
-        if (look.findings.empty() || (!sure && start.memory.Of(kNote, start.folder) == digest)) {
+        if (look.findings.empty() || (!sure && start.memory.Of(kFaultsNote, start.folder) == digest)) {
             start.memory.Note(kSilent, start.folder, look.state);
             return;
         }
@@ -203,9 +203,9 @@ void CheckPresentDiary(Start& start)
             Tools::Tr("Il diario si apre lo stesso. Per ripararlo: zelvia-strumenti --cartella «%1» ripara",
                       start.folder));
         const std::string chosen = answer ? buttons[*answer] : open;
-        start.memory.Note(kNote, start.folder, digest);
+        start.memory.Note(kFaultsNote, start.folder, digest);
         if (chosen == tools) {
-            start.memory.Note(kNote, start.folder, "");
+            start.memory.Note(kFaultsNote, start.folder, "");
             start.speaker.openTools(start.folder);
         } else if (chosen != mend || !Mend(start, look.diary)) {
             return;

@@ -17,7 +17,7 @@ namespace zelvia
 namespace
 {
 
-constexpr const char* kNote = "anno";
+constexpr const char* kYearNote = "anno";
 
 /// The year of the folder's newest diary, 0 when there is none. Raises FileFailure when `year` can't be made there.
 int NewestYear(const std::filesystem::path& folder, int year)
@@ -59,7 +59,7 @@ void OfferNewYear(Start& start)
     const CalendarDate today = Date();
     const int year = today.Year().value();
     const std::string name = std::to_string(year);
-    if (today.Month().value() != 1 || today > kLastDate || start.memory.Of(kNote, start.folder) == name) {
+    if (today.Month().value() != 1 || today > kLastDate || start.memory.Of(kYearNote, start.folder) == name) {
         return;
     }
     const int newest = NewestYear(start.folder, year);
@@ -73,7 +73,7 @@ void OfferNewYear(Start& start)
                                     name, newest),
                           {Tools::Tr("Prepara"), Tools::Tr("Non ora")},
                           Tools::Tr("Per prepararlo: zelvia-strumenti --cartella «%1» anno %2", start.folder, name));
-    start.memory.Note(kNote, start.folder, name);
+    start.memory.Note(kYearNote, start.folder, name);
     if (answer == 0U) {
         MakeYear(start, name);
     }

@@ -15,7 +15,7 @@ namespace zelvia
 namespace
 {
 
-std::string FormatIn(Arguments& arguments)
+std::string BookFormatIn(Arguments& arguments)
 {
     const auto name = arguments.TakeValue("--formato");
     if (!name) {
@@ -64,7 +64,7 @@ std::string AsPdf(Context& context, const std::string& diary, const std::string&
 
 int RunBook(Context& context, Arguments& arguments)
 {
-    const std::string format = FormatIn(arguments);
+    const std::string format = BookFormatIn(arguments);
     const std::string file = FileIn(arguments);
     arguments.TakeWords(0, 0);
     const std::string diary = context.ChosenDiary();

@@ -167,7 +167,7 @@ struct ExportFormat {
 constexpr std::array<ExportFormat, 4> kFormats = {
     {{"csv", AsCsv}, {"splits", AsSplits}, {"jsonl", AsJsonLines}, {"ics", AsCalendar}}};
 
-const ExportFormat& FormatIn(Arguments& arguments)
+const ExportFormat& ExportFormatIn(Arguments& arguments)
 {
     const auto name = arguments.TakeValue("--formato");
     for (const ExportFormat& format : kFormats) {
@@ -183,7 +183,7 @@ const ExportFormat& FormatIn(Arguments& arguments)
 
 int RunExport(Context& context, Arguments& arguments)
 {
-    const ExportFormat& format = FormatIn(arguments);
+    const ExportFormat& format = ExportFormatIn(arguments);
     const auto file = arguments.TakeValue("-o");
     arguments.TakeWords(0, 0);
     context.Load(context.ChosenDiary());

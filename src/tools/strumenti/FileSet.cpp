@@ -28,7 +28,7 @@ constexpr const char* kPending = ".zelvia-strumenti";
 constexpr std::string_view kTemporary = ".zelvia-strumenti-";
 
 // What the folder of a change holds.
-constexpr const char* kLabel = "azione";
+constexpr const char* kActionFile = "azione";
 constexpr const char* kBefore = "prima";
 constexpr const char* kAfter = "dopo";
 constexpr const char* kGone = "via"; // Empty files under the names of those that go.
@@ -254,7 +254,7 @@ std::vector<std::string> FileSet::Apply()
             CopyPermissions(folder_ / file, temporary_ / kAfter / file);
         }
     }
-    WriteNewFile(temporary_ / kLabel, label_);
+    WriteNewFile(temporary_ / kActionFile, label_);
     SyncFolders(temporary_);
     Rename(temporary_, folder_ / kPending);
     SyncFolder(folder_);
@@ -273,7 +273,7 @@ std::optional<FileSet::Completion> FileSet::Complete(const fs::path& folder)
     if (!IsPending(folder)) {
         return std::nullopt;
     }
-    Completion completion{ReadFile(change / kLabel), {}};
+    Completion completion{ReadFile(change / kActionFile), {}};
     const auto changeEach = [&](const std::vector<std::string>& names, auto&& changeOne) {
         for (const std::string& name : names) {
             const fs::path file(name);

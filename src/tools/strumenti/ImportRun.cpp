@@ -14,7 +14,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr const char* kLabel = "importa";
+constexpr const char* kImportLabel = "importa";
 
 /// The file of what was imported; empty when the home is not known.
 fs::path HistoryFile()
@@ -66,7 +66,7 @@ ImportRun::ImportRun(Context& context, std::vector<Candidate>& candidates, bool 
 
 int ImportRun::Write()
 {
-    FileSet files(context_.Folder(), kLabel);
+    FileSet files(context_.Folder(), kImportLabel);
     shelf_.Prepare(files);
     const int applied = context_.Apply(files);
     Remember();

@@ -19,7 +19,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr const char* kLabel = "unisci";
+constexpr const char* kMergeLabel = "unisci";
 
 std::string_view NameOf(Side side)
 {
@@ -293,7 +293,7 @@ int RunMerge(Context& context, Arguments& arguments)
     if (const auto status = context.AskFirst(Tools::Tr("Unire?"))) {
         return *status;
     }
-    FileSet files(context.Folder(), kLabel);
+    FileSet files(context.Folder(), kMergeLabel);
     merger.Prepare(files);
     const int status = context.Apply(files);
     context.Told() << (merger.Settled() > 0

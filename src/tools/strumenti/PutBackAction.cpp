@@ -26,7 +26,7 @@ namespace
 namespace fs = std::filesystem;
 using namespace Module1;
 
-constexpr const char* kLabel = "copie rimetti";
+constexpr const char* kPutBackLabel = "copie rimetti";
 constexpr std::string_view kCommand = "zelvia-strumenti copie";
 
 using Days = std::vector<RecordGiorno>; ///< 0..366
@@ -189,7 +189,7 @@ int PutBackDays(Context& context, const Copy& copy, const std::vector<CalendarDa
     if (const auto status = context.AskFirst(Tools::Tr("Rimettere questi giorni?"))) {
         return *status;
     }
-    FileSet files(folder, kLabel);
+    FileSet files(folder, kPutBackLabel);
     for (const auto& [diary, back] : returns) {
         PutDays(context, diary, back);
         const BoxTexts boxes;
@@ -237,7 +237,7 @@ int PutBackDiary(Context& context, const Copy& copy)
     if (const auto status = context.AskFirst(Tools::Tr("Rimettere il diario?"))) {
         return *status;
     }
-    FileSet files(folder, kLabel);
+    FileSet files(folder, kPutBackLabel);
     for (const fs::path& file : changed) {
         files.Write(file, ReadFile(copy.place / file));
     }

@@ -16,7 +16,7 @@ namespace zelvia
 namespace
 {
 
-constexpr double kPerKm = 1000;
+constexpr double kMetresPerKm = 1000;
 
 using Look = FigureSeries::Look;
 using Texts = FigureTexts;
@@ -141,7 +141,7 @@ private:
         return {sorted.begin(), sorted.end()};
     }
 
-    static double PaceOf(const BestTime& best) { return best.best.seconds * kPerKm / best.metres; }
+    static double PaceOf(const BestTime& best) { return best.best.seconds * kMetresPerKm / best.metres; }
 
     /// Time, pace and day in the row that was begun last.
     void AddTime(const BestTime& best)

@@ -28,7 +28,7 @@ namespace zelvia
 namespace
 {
 
-constexpr int kListPixels = 16;
+constexpr int kContentsPixels = 16;
 
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& tip)
 {
@@ -67,7 +67,7 @@ void HelpWindow::BuildPanes()
     contents_->setObjectName(QStringLiteral("contents"));
     contents_->setAccessibleName(tr("Sommario"));
     contents_->setHeaderHidden(true);
-    contents_->setFont(PrintFont(kListPixels));
+    contents_->setFont(PrintFont(kContentsPixels));
     search_ = new SearchPane(*file_->Engine().searchEngine());
     tabs_ = new QTabWidget;
     tabs_->setObjectName(QStringLiteral("tabs"));

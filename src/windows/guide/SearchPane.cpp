@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int kAddressRole = Qt::UserRole;
-constexpr int kListPixels = 15;
+constexpr int kResultsPixels = 15;
 constexpr int kTypingPause = 200;
 constexpr int kMostResults = 50;
 
@@ -57,7 +57,7 @@ SearchPane::SearchPane(QHelpSearchEngine& engine, QWidget* parent)
     AddClearButton(*words);
     results->setObjectName(QStringLiteral("results"));
     results->setAccessibleName(tr("Argomenti trovati"));
-    results->setFont(PrintFont(kListPixels));
+    results->setFont(PrintFont(kResultsPixels));
     results->setWordWrap(true);
     results->setSpacing(2);
     state->setObjectName(QStringLiteral("state"));

@@ -101,7 +101,7 @@ void frmMain::BuildMenus(QMenuBar& bar)
     for (const auto& menu : kMenus) {
         std::vector<MenuEntry> entries = Entries(*this, menu.commands);
         if (menu.commands.data() == kStatistics) {
-            for (const Categoria category : kAllCategories) {
+            for (const zelvia::Categoria category : kAllCategories) {
                 const Statistic& statistic = StatisticOf(category);
                 entries.push_back(
                     {"mnu" + Text(statistic.name), statistic.entry, [this, category] { ShowStatistic(category); }});
@@ -120,7 +120,7 @@ void frmMain::DispatchCommand(TextView key)
             }
         }
     }
-    for (const Categoria category : kAllCategories) {
+    for (const zelvia::Categoria category : kAllCategories) {
         if (StatisticOf(category).title == key) {
             ShowStatistic(category);
         }
