@@ -3,9 +3,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Runs the tests, first on the flags that are installed, then with sanitizers: test.sh [--all] [CTEST-ARGUMENT...]
 #
-# --all adds what takes long: the monkey, the fuzzers, the package, windows under the sanitizers on X. What else stands on
-# the command line goes to ctest, both times: test.sh -R core. Who picks labels picks among all tests. The status is 0
-# if both runs passed.
+# --all adds what takes long: the monkey, the fuzzers, the package, windows under Wayland. What else stands on the command
+# line goes to ctest, both times: test.sh -R core. Who picks labels picks among all tests. The status is 0 if both runs
+# passed.
 set -euo pipefail
 
 cd "$(dirname "$(readlink -f "$0")")"
