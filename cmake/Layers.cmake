@@ -14,7 +14,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(ZELVIA_SANITIZE)
   target_compile_options(zelvia_options INTERFACE
-    -O1 -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    -O1 -g1 -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(zelvia_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(ZELVIA_FUZZ)
