@@ -46,8 +46,8 @@ Splits::Splits(frmMain& page, SpinGroup& group) : page_(page), group_(group)
                                                   {page_.upTempoMinuti, "upTempoMinuti - ERRORE : "},
                                                   {page_.upTempoSecondi, "upTempoSecondi - ERRORE : "}};
     for (const auto& [spin, title] : parts) {
-        spin->Change = [this, title = title] {
-            Trap(title, [this] {
+        spin->Change = [this, report = title] {
+            Trap(report, [this] {
                 page_.lblImmisTempoMinuti->SetCaption(TwoDigits(*page_.upTempoOre) + ":" +
                                                       TwoDigits(*page_.upTempoMinuti) + ":" +
                                                       TwoDigits(*page_.upTempoSecondi));
