@@ -31,6 +31,7 @@ enum class Categoria {
     Ripetizioni
 };
 
+// Qualified: the calendar of races has a Categoria, too, which a source may have opened.
 inline constexpr auto kAllCategories = [] {
     std::array<zelvia::Categoria, kCountedFields> all{};
     for (std::size_t i = 0; i < all.size(); ++i) {
