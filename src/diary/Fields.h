@@ -100,8 +100,8 @@ struct NotesField {
 };
 
 /// Notes that have no place on the page.
-using HiddenNotes = NotesField<1, 2>;
-using PageNotes = NotesField<3, 10>;
+using HiddenNotes = NotesField<1, kFirstNote - 1>;
+using PageNotes = NotesField<kFirstNote, kLastNote>;
 
 /// The fields of a day, in the order of the diary file. Of a field of several numbers the first one is counted for
 /// all of them.

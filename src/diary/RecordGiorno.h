@@ -11,6 +11,10 @@
 namespace zelvia
 {
 
+/// The lines of a day's notes that the page shows.
+inline constexpr int kFirstNote = 3;
+inline constexpr int kLastNote = 10;
+
 /// One day of the diary. Fields.h has what is known of each field.
 struct RecordGiorno {
     i16 NumGiorno;
@@ -37,10 +41,10 @@ struct RecordGiorno {
     i32 Corridori = 1; ///< A blank day was run alone.
     i16 Peso;          ///< 0 means not entered.
     i16 Ripetizioni;
-    i16 RipetizioniDistanza;        ///< Metres.
-    i16 RipetizioniQuante;          ///< Minutes of each repetition.
-    i16 RipetizioniTempi;           ///< Seconds of each repetition.
-    BoundedArray<Text, 0, 10> Note; ///< 3..10 are the lines of the page; 1 and 2 are only in the file; 0 is not.
+    i16 RipetizioniDistanza;               ///< Metres.
+    i16 RipetizioniQuante;                 ///< Minutes of each repetition.
+    i16 RipetizioniTempi;                  ///< Seconds of each repetition.
+    BoundedArray<Text, 0, kLastNote> Note; ///< 1 and 2 are in the file, but not on the page; 0 is in neither.
 
     friend bool operator==(const RecordGiorno&, const RecordGiorno&) = default;
 };

@@ -67,8 +67,4 @@ std::vector<DaySplit> SplitsOf(const RecordGiorno& day, int& unreadable);
 /// The text of a day that is entered with a list, null for any other column.
 Text RecordGiorno::*ListMember(DayColumn column);
 
-/// The lines of a day's notes that the page shows.
-inline constexpr int kFirstNote = 3;
-inline constexpr int kLastNote = 10;
-
 } // namespace zelvia

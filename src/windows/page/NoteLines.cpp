@@ -4,6 +4,7 @@
 
 #include "core/Conversions.h"
 #include "core/RunTimeError.h"
+#include "diary/RecordGiorno.h"
 #include "toolkit/Events.h"
 #include "toolkit/Keys.h"
 #include "windows/page/FrmMain.h"
@@ -14,9 +15,6 @@ namespace zelvia
 {
 namespace
 {
-
-constexpr int kFirstNote = 3;
-constexpr int kLastNote = 10;
 
 Text NoteName(TextView control, int line)
 {

@@ -212,7 +212,7 @@ void DrawRules(QPainter& painter, const Pixels& pixels)
     for (int row = 0; row < kRows; ++row) {
         rule(kCaptionLeft, kRowRight, RowTop(row) + kRowHeight + 1);
     }
-    for (int line = 3; line <= 10; ++line) {
+    for (int line = kFirstNote; line <= kLastNote; ++line) {
         rule(636, 1144, Note(line).bottom() + 2);
     }
     for (const DateRule& date : kDateRules) {

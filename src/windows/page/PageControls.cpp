@@ -270,7 +270,7 @@ void BuildPage(PageControls& controls, PaperSheet* page)
     controls.lblTimerTab = MakeLabel(page, QStringLiteral("lblTimerTab"), "0", {0, 0, 1, 1}, Style::SlipValue, {});
     controls.lblTimerTab->SetVisible(false);
     MakeOrderedList(controls, page);
-    for (int line = 3; line <= 10; ++line) {
+    for (int line = kFirstNote; line <= kLastNote; ++line) {
         MakeField(controls, page, [&] { MakeNote(controls, page, line); });
     }
     MakeCounters(controls, page);

@@ -90,7 +90,7 @@ struct PageControls {
     Button* cmdListaKM{};
     std::array<Button*, 4> cmdLO{};
 
-    BoundedArray<NoteControls, 3, 10> notes;
+    BoundedArray<NoteControls, kFirstNote, kLastNote> notes;
 
     // The slip of the active table, and that of the race of the day.
     Picture *pctTabAllenamenti{}, *pctTabKm{}, *pctTabTempo{}, *pctTabMedia{}, *pctTabAndatura{}, *pctTabTerreno{};

@@ -19,7 +19,7 @@ namespace
 /// The line of notes in which `focused` writes, 0 for none.
 int OpenNote(const frmMain& page, const Control* focused)
 {
-    for (int line = 3; line <= 10; ++line) {
+    for (int line = kFirstNote; line <= kLastNote; ++line) {
         if (focused != nullptr && focused == page.notes[line].txt) {
             return line;
         }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "diary/RecordGiorno.h"
+
 #include <QRect>
 
 /// Where everything on the page is as designed, in logical pixels from the corner of the desk. PaperSheet shows it
@@ -140,7 +142,7 @@ inline constexpr int kNotesTop = 306;
 inline constexpr int kNoteStep = 29;
 constexpr QRect Note(int line)
 {
-    return {648, kNotesTop + (line - 3) * kNoteStep, 480, kRowHeight};
+    return {648, kNotesTop + (line - kFirstNote) * kNoteStep, 480, kRowHeight};
 }
 inline constexpr QRect kNotesHead{636, 278, 200, 26};
 
