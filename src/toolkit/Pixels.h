@@ -9,10 +9,16 @@
 namespace zelvia
 {
 
-/// The length nearest to `length` that is a whole number of pixels, at least one, where `scale` of them make a unit.
+/// The whole number of pixels nearest to a length, at least one, where `scale` of them make a unit.
+inline int NearestPixels(double length, double scale)
+{
+    return std::max(qRound(length * scale), 1);
+}
+
+/// The length nearest to `length` that is a whole number of pixels, at least one.
 inline double WholePixels(double length, double scale)
 {
-    return std::max(qRound(length * scale), 1) / scale;
+    return NearestPixels(length, scale) / scale;
 }
 
 /// Has a painter count in pixels of the screen as long as it lives, without smoothing: upright edges are sharp at every
@@ -33,7 +39,7 @@ public:
     double Scale() const { return transform_.m11(); }
 
     /// The nearest whole number of pixels to a length, at least one.
-    int Of(double length) const { return std::max(qRound(length * Scale()), 1); }
+    int Of(double length) const { return NearestPixels(length, Scale()); }
 
     /// The pixels nearest to an area. Areas that touch each other still do.
     QRect Of(const QRectF& area) const
