@@ -18,6 +18,7 @@
 class QComboBox;
 class QDateEdit;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -51,7 +52,9 @@ private:
         QLabel* held;
     };
 
-    void Build();
+    QHBoxLayout* MakeValues();
+    void LayOut();
+    void OrderTabs();
     void AddLine(QGridLayout& grid, const QString& caption, QWidget& field, QWidget& named,
                  std::optional<DayColumn> column);
     QLineEdit* MakeTime(const char* name, const QString& caption, void (ImportForm::*take)());

@@ -46,7 +46,8 @@ ImportForm::ImportForm()
     remarks_->setSizePolicy(policy);
     back_->setObjectName(QStringLiteral("back"));
     back_->setToolTip(tr("Toglie ciò che è stato cambiato a mano in questa attività"));
-    Build();
+    LayOut();
+    OrderTabs();
     // The box in a field is what a screen reader may come to.
     for (QLineEdit* edit : findChildren<QLineEdit*>()) {
         if (edit->accessibleName().isEmpty()) {
@@ -68,7 +69,7 @@ ImportForm::ImportForm()
     Show(nullptr, -1, {});
 }
 
-void ImportForm::Build()
+QHBoxLayout* ImportForm::MakeValues()
 {
     constexpr int gap = 4;
     constexpr int between = 12;
@@ -94,15 +95,20 @@ void ImportForm::Build()
     AddLine(*right, tr("Stagione:"), *season_, *season_, DayColumn::Season);
     right->setColumnStretch(1, 3);
     right->setColumnStretch(2, 2);
-    auto* below = new QHBoxLayout;
-    below->addWidget(remarks_, 1);
-    below->addWidget(back_, 0, Qt::AlignTop);
     auto* values = new QHBoxLayout;
     values->addLayout(left);
     values->addSpacing(between);
     values->addLayout(right, 1);
+    return values;
+}
+
+void ImportForm::LayOut()
+{
+    auto* below = new QHBoxLayout;
+    below->addWidget(remarks_, 1);
+    below->addWidget(back_, 0, Qt::AlignTop);
     auto* day = new QVBoxLayout;
-    day->addLayout(values);
+    day->addLayout(MakeValues());
     day->addLayout(below);
     day->addStretch();
     auto* all = new QHBoxLayout(this);
@@ -111,6 +117,10 @@ void ImportForm::Build()
     all->addWidget(splits_);
     constexpr int splitsWidth = 212;
     splits_->setFixedWidth(splitsWidth);
+}
+
+void ImportForm::OrderTabs()
+{
     QWidget* const inOrder[] = {day_, start_, end_, clock_, km_, metres_, route_, type_, season_, back_, splits_};
     for (std::size_t i = 1; i < std::size(inOrder); ++i) {
         setTabOrder(inOrder[i - 1], inOrder[i]);

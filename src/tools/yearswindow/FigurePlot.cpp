@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/yearswindow/FigurePlot.h"
 
-#include "toolkit/ChartLabels.h"
 #include "toolkit/PagePalette.h"
 #include "tools/yearswindow/FigureCanvas.h"
 
@@ -12,6 +11,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace zelvia
 {
@@ -31,6 +31,17 @@ const QColor kWashBottom(148, 168, 214);
 const std::array<QColor, 6> kInks = {Ink::Pen,           Ink::Accent,          QColor(38, 108, 58),
                                      QColor(150, 92, 0), QColor(112, 56, 136), QColor(0, 110, 120)};
 
+/// The places of a series' points, and their values.
+std::pair<QVector<double>, QVector<double>> Coordinates(const FigureSeries& series)
+{
+    std::pair<QVector<double>, QVector<double>> coordinates;
+    for (const FigurePoint& point : series.points) {
+        coordinates.first << point.place;
+        coordinates.second << point.value;
+    }
+    return coordinates;
+}
+
 } // namespace
 
 FigurePlot::FigurePlot(QWidget& parent) : drawn_(std::make_unique<FigureCanvas>(parent))
@@ -47,12 +58,21 @@ void FigurePlot::Show(const Figure& figure)
     QCustomPlot& plot = *drawn_->plot;
     drawn_->Clear();
     drawn_->title->setText(figure.title);
-    int inks = 0;
+    std::size_t inks = 0;
+    const auto add = [&](const FigureSeries& series) {
+        switch (series.look) {
+        case FigureSeries::Look::Bars: ++inks; return AddBars(series);
+        case FigureSeries::Look::Faint: return AddLine(series, Ink::Pencil);
+        case FigureSeries::Look::Steady: return AddLine(series, Ink::PrintDark);
+        case FigureSeries::Look::Line:
+        case FigureSeries::Look::Points: return AddLine(series, kInks[inks++ % kInks.size()]);
+        }
+    };
     // What is faint lies below the rest.
     for (const bool faint : {true, false}) {
         for (const FigureSeries& series : figure.series) {
             if ((series.look == FigureSeries::Look::Faint) == faint) {
-                AddSeries(series, inks);
+                add(series);
             }
         }
     }
@@ -60,47 +80,38 @@ void FigurePlot::Show(const Figure& figure)
     SetSpan(Whole());
 }
 
-void FigurePlot::AddSeries(const FigureSeries& series, int& inks)
+void FigurePlot::AddBars(const FigureSeries& series)
+{
+    auto* bars = new QCPBars(drawn_->plot->xAxis, drawn_->plot->yAxis);
+    bars->setName(series.name);
+    bars->setWidth(kBarShare);
+    QLinearGradient wash(0, 0, 0, 1);
+    wash.setCoordinateMode(QGradient::ObjectMode);
+    wash.setColorAt(0, kWashTop);
+    wash.setColorAt(1, kWashBottom);
+    bars->setBrush(wash);
+    bars->setPen(QPen(Ink::Pen, 1));
+    const auto [places, values] = Coordinates(series);
+    bars->setData(places, values, true);
+    bars->addToLegend();
+}
+
+void FigurePlot::AddLine(const FigureSeries& series, const QColor& ink)
 {
     QCustomPlot& plot = *drawn_->plot;
-    QVector<double> places;
-    QVector<double> values;
-    for (const FigurePoint& point : series.points) {
-        places << point.place;
-        values << point.value;
-    }
-    if (series.look == FigureSeries::Look::Bars) {
-        auto* bars = new QCPBars(plot.xAxis, plot.yAxis);
-        bars->setName(series.name);
-        bars->setWidth(kBarShare);
-        QLinearGradient wash(0, 0, 0, 1);
-        wash.setCoordinateMode(QGradient::ObjectMode);
-        wash.setColorAt(0, kWashTop);
-        wash.setColorAt(1, kWashBottom);
-        bars->setBrush(wash);
-        bars->setPen(QPen(Ink::Pen, 1));
-        bars->setData(places, values, true);
-        bars->addToLegend();
-        ++inks;
-        return;
-    }
     const bool faint = series.look == FigureSeries::Look::Faint;
     const bool steady = series.look == FigureSeries::Look::Steady;
-    const QColor ink = faint    ? Ink::Pencil
-                       : steady ? Ink::PrintDark
-                                : kInks[static_cast<std::size_t>(inks++) % kInks.size()];
-    QPen pen(ink, faint ? 1 : 1.8, steady ? Qt::DashLine : Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     const bool alone = series.look == FigureSeries::Look::Points;
-    if (alone) {
-        pen.setStyle(Qt::NoPen);
-    }
+    const Qt::PenStyle stroke = alone ? Qt::NoPen : steady ? Qt::DashLine : Qt::SolidLine;
+    const QPen pen(ink, faint ? 1 : 1.8, stroke, Qt::RoundCap, Qt::RoundJoin);
     constexpr qsizetype few = 80; // Points that are each drawn as one.
     const bool discs = alone || (!faint && !steady && series.points.size() <= few);
     const QCPScatterStyle scatter(QCPScatterStyle::ssCircle, QPen(ink, 1.4), alone ? ink : Ink::Slip, alone ? 9 : 7);
-    // In stretches: the rasteriser takes many times as long over one stroke of hundreds of steep pieces. A dashed line
-    // is straight.
     constexpr double longest = 160; // In the legend.
     const QString name = QFontMetricsF(FigureFont()).elidedText(series.name, Qt::ElideRight, longest);
+    const auto [places, values] = Coordinates(series);
+    // In stretches: the rasteriser takes many times as long over one stroke of hundreds of steep pieces. A dashed line
+    // is straight.
     const qsizetype stretch = steady ? std::max<qsizetype>(values.size(), 1) : 4;
     for (qsizetype first = 0; first == 0 || first + 1 < values.size(); first += stretch) {
         auto* line = new QCPGraph(plot.xAxis, plot.yAxis);
@@ -177,7 +188,6 @@ void FigurePlot::FitToSpan()
     drawn_->plot->replot(QCustomPlot::rpQueuedRefresh);
 }
 
-/// Of names each that can be read, of others every so many.
 void FigurePlot::LayTicks()
 {
     QList<FigureTick> shown;
@@ -187,7 +197,29 @@ void FigurePlot::LayTicks()
         }
     }
     drawn_->FitTitle();
+    const LabelStyle style = StyleOfTicks(shown);
+    const bool slanted = style.rotation < 0 && style.rotation > kUpright;
+    drawn_->SetLeast(slanted ? kSlantMargin : 0);
     QCPAxis& axis = *drawn_->plot->xAxis;
+    axis.setTickLabelFont(style.font);
+    axis.setTickLabelRotation(style.rotation);
+    const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+    // Counted from the first of all, so that every twelfth month is a January wherever the stretch begins.
+    const auto first = std::find_if(figure_.ticks.begin(), figure_.ticks.end(),
+                                    [&](const FigureTick& tick) { return tick.place >= span_.from; }) -
+                       figure_.ticks.begin();
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        if ((first + i) % style.rows == 0) {
+            ticker->addTick(shown[i].place, style.texts[i]);
+        }
+    }
+    axis.setTicker(ticker);
+}
+
+/// How the labels of some ticks are written, and in `rows` how many ticks it is from one that is labelled to the next:
+/// of names each that can be read, of others every so many.
+LabelStyle FigurePlot::StyleOfTicks(const QList<FigureTick>& shown) const
+{
     const QFontMetricsF metrics(FigureFont());
     QStringList labels;
     double widest = 1;
@@ -198,35 +230,14 @@ void FigurePlot::LayTicks()
     constexpr double margins = 90;
     const double width = std::max(drawn_->plot->width() - margins, 1.0);
     const double step = width * (shown.size() > 1 ? shown[1].place - shown[0].place : 1) / span_.Width();
-    qsizetype every = 1;
-    axis.setTickLabelFont(FigureFont());
-    axis.setTickLabelRotation(0);
-    drawn_->SetLeast(0);
     if (figure_.named && !labels.isEmpty()) {
         const double first = width * (shown.front().place - span_.from) / span_.Width();
-        const LabelStyle style = StyleOf(labels, {step, kSlantMargin + first, kLabelShare * drawn_->plot->height()});
-        const bool slanted = style.rotation < 0 && style.rotation > kUpright;
-        drawn_->SetLeast(slanted ? kSlantMargin : 0);
-        axis.setTickLabelFont(style.font);
-        axis.setTickLabelRotation(style.rotation);
-        labels = style.texts;
-        every = style.rows;
-    } else {
-        constexpr qsizetype steps[] = {1, 2, 3, 6, 12, 24, 36, 60, 120};
-        every = *std::find_if(std::begin(steps), std::end(steps) - 1,
-                              [&](qsizetype count) { return static_cast<double>(count) * step >= widest + kBetween; });
+        return StyleOf(labels, {step, kSlantMargin + first, kLabelShare * drawn_->plot->height()});
     }
-    const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
-    // Counted from the first of all, so that every twelfth month is a January wherever the stretch begins.
-    const auto first = std::find_if(figure_.ticks.begin(), figure_.ticks.end(),
-                                    [&](const FigureTick& tick) { return tick.place >= span_.from; }) -
-                       figure_.ticks.begin();
-    for (qsizetype i = 0; i < shown.size(); ++i) {
-        if ((first + i) % every == 0) {
-            ticker->addTick(shown[i].place, labels[i]);
-        }
-    }
-    axis.setTicker(ticker);
+    constexpr int steps[] = {1, 2, 3, 6, 12, 24, 36, 60, 120};
+    const int every = *std::find_if(std::begin(steps), std::end(steps) - 1,
+                                    [&](int count) { return count * step >= widest + kBetween; });
+    return {labels, FigureFont(), 0, every, metrics.height()};
 }
 
 void FigurePlot::Mark(std::optional<FigurePlace> place, const QString& text)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "toolkit/ChartLabels.h"
 #include "tools/yearswindow/Figure.h"
 
 #include <QImage>
@@ -64,9 +65,11 @@ public:
     QImage Picture(const QSize& size);
 
 private:
-    void AddSeries(const FigureSeries& series, int& inks);
+    void AddBars(const FigureSeries& series);
+    void AddLine(const FigureSeries& series, const QColor& ink);
     void FitToSpan();
     void LayTicks();
+    LabelStyle StyleOfTicks(const QList<FigureTick>& shown) const;
     bool IsShown(const FigurePoint& point) const { return point.place >= span_.from && point.place <= span_.to; }
 
     std::unique_ptr<FigureCanvas> drawn_;
