@@ -34,13 +34,22 @@ void DrawMould(QPainter& painter, const Pixels& pixels, const QRect& page)
 class Scatter
 {
 public:
-    qreal Next(qreal limit)
+    /// A point from 0, 0 to the limits.
+    QPointF Next(qreal right, qreal bottom)
+    {
+        // One after the other: compilers differ in which argument they work out first.
+        const qreal y = Number(bottom);
+        const qreal x = Number(right);
+        return {x, y};
+    }
+
+private:
+    qreal Number(qreal limit)
     {
         state_ = state_ * 1664525U + 1013904223U;
         return limit * (state_ >> 8U) / (1U << 24U);
     }
 
-private:
     unsigned state_ = 1926;
 };
 
@@ -53,10 +62,10 @@ void DrawFibres(QPainter& painter, const Pixels& pixels, const QRect& page)
     Scatter scatter;
     const qreal unit = pixels.Scale();
     for (int i = 0; i < fibres; ++i) {
-        const QPointF from(page.left() + scatter.Next(page.width() - 16 * unit),
-                           page.top() + 6 * unit + scatter.Next(page.height() - 12 * unit));
-        const QPointF bend = QPointF(scatter.Next(8), scatter.Next(8) - 4) * unit;
-        const QPointF end = QPointF(6 + scatter.Next(8), scatter.Next(6) - 3) * unit;
+        const QPointF from = QPointF(page.left(), page.top() + 6 * unit) +
+                             scatter.Next(page.width() - 16 * unit, page.height() - 12 * unit);
+        const QPointF bend = (scatter.Next(8, 8) - QPointF(0, 4)) * unit;
+        const QPointF end = (scatter.Next(8, 6) + QPointF(6, -3)) * unit;
         QPainterPath fibre(from);
         fibre.quadTo(from + bend, from + end);
         painter.drawPath(fibre);
