@@ -89,6 +89,24 @@ bool MayBeOfQt(std::string_view word)
     return word.starts_with('-') && !word.starts_with("--");
 }
 
+int ShowPage(bool toBeLaid)
+{
+    if (toBeLaid && !LayProgramFolder(ProgramFolder())) {
+        return kMisused;
+    }
+    Journal::Instance().Begin();
+    auto* page = new frmMain;
+    if (!page->FormLoad()) {
+        return 0;
+    }
+    PageTurn::Allow(true);
+    page->show();
+    const SessionEnd end(*page);
+    const int status = QCoreApplication::exec();
+    Journal::Instance().End();
+    return status;
+}
+
 int Run(int argc, char* argv[])
 {
     std::unique_ptr<const Application> application;
@@ -114,20 +132,7 @@ int Run(int argc, char* argv[])
     if (application == nullptr) {
         application = std::make_unique<const Application>(argc, argv);
     }
-    if (toBeLaid && !LayProgramFolder(ProgramFolder())) {
-        return kMisused;
-    }
-    Journal::Instance().Begin();
-    auto* page = new frmMain;
-    if (!page->FormLoad()) {
-        return 0;
-    }
-    PageTurn::Allow(true);
-    page->show();
-    const SessionEnd end(*page);
-    const int status = QCoreApplication::exec();
-    Journal::Instance().End();
-    return status;
+    return Application::End(ShowPage(toBeLaid));
 }
 
 } // namespace

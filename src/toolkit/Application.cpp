@@ -31,6 +31,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <thread>
 #include <utility>
 
@@ -140,6 +141,15 @@ Application::~Application()
 {
     SetScreenMousePointerHandler({});
     SetMsgBoxHandler({});
+}
+
+int Application::End(int status)
+{
+    if (platformName().startsWith(QLatin1String("wayland"))) {
+        std::fflush(nullptr);
+        std::quick_exit(status);
+    }
+    return status;
 }
 
 bool Application::TakeInstanceLock()

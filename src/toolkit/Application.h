@@ -27,6 +27,11 @@ public:
 
     static Application& Instance() { return *static_cast<Application*>(QCoreApplication::instance()); }
 
+    /// Gives back the exit status for main to return, as the last thing of all. Under Wayland it ends the process there
+    /// and then: while Qt 6.4 takes down its display, it may wait for a thread of its own without end, some three times
+    /// in a thousand.
+    static int End(int status);
+
     /// Takes the lock of the program's folder for the life of the application, releasing an earlier one. False when
     /// another run holds it, which is then asked for its window; a folder that can't be written counts as free.
     bool TakeInstanceLock();

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <cerrno>
+#include <cstdlib>
 #include <iostream>
 #include <string>
 
@@ -23,7 +24,8 @@ int main(int argc, char* argv[])
         return 2;
     }
     // What a window keeps of its size is no other test's, nor the user's.
-    const QTemporaryDir state;
+    static QTemporaryDir state;
+    std::at_quick_exit([] { state.remove(); });
     qputenv("XDG_STATE_HOME", state.path().toUtf8());
     zelvia::test::ShownTexts::Begin(std::string(program_invocation_short_name) + '_' + argv[1]);
     argv[1] = argv[0];

@@ -10,8 +10,11 @@
     static const zelvia::test::TestRoutine thisTest(zelvia::test::TestName(#TestClass), [](int argc, char* argv[]) {   \
         zelvia::Application application(argc, argv);                                                                   \
         zelvia::Application::setQuitOnLastWindowClosed(false);                                                         \
-        TestClass test;                                                                                                \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+        const auto status = [&] {                                                                                      \
+            TestClass test;                                                                                            \
+            return QTest::qExec(&test, argc, argv);                                                                    \
+        }();                                                                                                           \
+        return zelvia::Application::End(status);                                                                       \
     });
 
 /// For what must not happen: watches for some turns of the event loop and a while longer that `condition` does not come

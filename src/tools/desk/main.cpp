@@ -19,12 +19,8 @@ namespace
 
 using namespace zelvia;
 
-int Run(int argc, char* argv[])
+int ShowWindow(const CommandWords& words)
 {
-    const Application application(argc, argv);
-    InstallTranslation();
-    Application::setDesktopFileName(QStringLiteral("zelvia"));
-    const CommandWords words = SortWords({argv + 1, argv + argc});
     Desk desk(words.options.folder.empty() ? HomesFolder() : ResolvedFolder(words.options.folder),
               words.options.diary.value_or(""));
     desk.OpenAllYears = OpenAllYears;
@@ -35,6 +31,14 @@ int Run(int argc, char* argv[])
     window.show();
     const SessionEnd end(window);
     return Application::exec();
+}
+
+int Run(int argc, char* argv[])
+{
+    const Application application(argc, argv);
+    InstallTranslation();
+    Application::setDesktopFileName(QStringLiteral("zelvia"));
+    return Application::End(ShowWindow(SortWords({argv + 1, argv + argc})));
 }
 
 } // namespace

@@ -39,11 +39,11 @@ int main(int argc, char* argv[])
     const zelvia::SessionEnd end;
     if (argc > 2) {
         const QStringList words = QCoreApplication::arguments();
-        return Ask(words[1], words.mid(2));
+        return zelvia::Application::End(Ask(words[1], words.mid(2)));
     }
     if (argc != 2) {
         return 2;
     }
     zelvia::ShowBox({zelvia::FromUtf8(argv[1]), zelvia::MsgIcon::Exclamation});
-    return 0;
+    return zelvia::Application::End(0);
 }
