@@ -10,6 +10,8 @@ command=("$work/diario/zelvia")
 
 # start [COMMAND...]: starts the program, under a command if one is given; sets `program`, the process to wait for.
 start() {
+  # At once, not when the program comes to it: what another one wrote is not this one's.
+  : >"$work/program.log"
   "$@" "${command[@]}" >"$work/program.log" 2>&1 &
   program=$!
   started+=("$program")
