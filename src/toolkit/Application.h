@@ -29,7 +29,8 @@ public:
 
     /// Gives back the exit status for main to return, as the last thing of all. Under Wayland it ends the process there
     /// and then: while Qt 6.4 takes down its display, it may wait for a thread of its own without end, some three times
-    /// in a thousand.
+    /// in a thousand. What the caller still holds is not destroyed then, so what has to be tidied up must be gone
+    /// before.
     static int End(int status);
 
     /// Takes the lock of the program's folder for the life of the application, releasing an earlier one. False when
